@@ -1,0 +1,30 @@
+# What every target of this project is compiled with; all of them link wavorin_options.
+add_library(wavorin_options INTERFACE)
+target_compile_features(wavorin_options INTERFACE cxx_std_17)
+target_compile_definitions(wavorin_options INTERFACE
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_FOREACH
+    QT_NO_URL_CAST_FROM_STRING)
+target_compile_options(wavorin_options INTERFACE
+    $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual>)
+if(WAVORIN_WERROR)
+    target_compile_options(wavorin_options INTERFACE
+        $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-Werror>)
+endif()
+if(WAVORIN_SANITIZE)
+    set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_compile_options(wavorin_options INTERFACE ${sanitizers})
+    target_link_options(wavorin_options INTERFACE ${sanitizers})
+endif()
+set(CMAKE_CXX_EXTENSIONS OFF)
+
+# A library of one folder: wavorin_library(<name> SOURCES ... [PUBLIC ...] [PRIVATE ...])
+# Only its own folder is exported as include directory, so that an include that points to a higher
+# layer does not compile.
+function(wavorin_library name)
+    cmake_parse_arguments(arg "" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
+    add_library(${name} STATIC ${arg_SOURCES})
+    target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
+    target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE wavorin_options ${arg_PRIVATE})
+endfunction()

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QtPlugin>
+
+class CFGProperties;
+class QScrollBar;
+
+// What a plot needs of the window that holds it. The window implements it; a plot finds it with
+// qobject_cast, which gives null for any other object. Every plot survives a null host.
+class PlotHost {
+public:
+    virtual ~PlotHost() = default;
+
+    // The recording that the plots show, null while none is loaded.
+    virtual CFGProperties *recording() const = 0;
+
+    // The horizontal scroll bar shared by all plots, null while no plots exist. One unit is one
+    // interval of the time grid.
+    virtual QScrollBar *horizontalScrollBar() const = 0;
+
+    // 0 primary, 1 secondary, 2 per unit.
+    virtual int valueMode() const = 0;
+
+    // The choice in the reference combo box: 0 none, otherwise the 1-based analog channel number.
+    virtual int referenceIndex() const = 0;
+
+    // Whether a spectrum trace also draws its angle.
+    virtual bool showsAngles() const = 0;
+
+    // Asks the phasor dialog to draw again; cheap while the dialog is hidden.
+    virtual void refreshVectors() = 0;
+};
+
+Q_DECLARE_INTERFACE(PlotHost, "wavorin.PlotHost/1.0")

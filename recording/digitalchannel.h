@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+#include <QVector>
+
+// One digital (status) channel of a recording. times and values are parallel.
+class DigitalChannel {
+public:
+    int index = 0; // channel number Dn of the file
+    QString id;
+    QVector<double> times; // ms; shared with the recording's sampleTimes
+    QVector<int> values; // states as read, 0 or 1 in a sound file
+    bool allZero = true; // cleared for good by the first state that is not 0
+
+    void appendValue(int state);
+    void appendTime(double time);
+};
