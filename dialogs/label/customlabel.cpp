@@ -1,0 +1,24 @@
+#include "customlabel.h"
+
+#include "mousemovereceiver.h"
+
+#include <QMouseEvent>
+
+CustomLabel::CustomLabel(QWidget* parent) : QLabel(parent)
+{
+    setMouseTracking(true);
+}
+
+void CustomLabel::setPlotter(QObject* object)
+{
+    plotter = qobject_cast<MouseMoveReceiver*>(object);
+}
+
+void CustomLabel::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!plotter)
+        return;
+    QMouseEvent move(QEvent::MouseMove, event->localPos().toPoint() + pos(), Qt::NoButton,
+        Qt::NoButton, Qt::NoModifier);
+    plotter->receiveMouseMove(&move);
+}
