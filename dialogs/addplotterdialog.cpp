@@ -1,0 +1,62 @@
+#include "addplotterdialog.h"
+
+#include "ui_addplotterdialog.h"
+
+#include <QEvent>
+
+namespace {
+
+void moveSelectedItems(QListWidget &source, QListWidget &target)
+{
+    for (QListWidgetItem *item : source.selectedItems())
+        target.addItem(source.takeItem(source.row(item)));
+}
+
+} // namespace
+
+AddPlotterDialog::AddPlotterDialog(QWidget *parent)
+    : QDialog(parent), ui(std::make_unique<Ui::AddPlotterDialog>())
+{
+    ui->setupUi(this);
+}
+
+AddPlotterDialog::~AddPlotterDialog() = default;
+
+void AddPlotterDialog::setChannelNames(const QStringList &names)
+{
+    ui->listWidget_unSelected->clear();
+    ui->listWidget_Selected->clear();
+    channelNames = names;
+    ui->listWidget_unSelected->addItems(channelNames);
+}
+
+QString AddPlotterDialog::graphName() const
+{
+    return ui->lineEdit_graphName->text();
+}
+
+QStringList AddPlotterDialog::selectedChannels() const
+{
+    // Row by row: the wildcard search of the list leaves out names with a slash.
+    QStringList names;
+    for (int row = 0; row < ui->listWidget_Selected->count(); ++row)
+        names.append(ui->listWidget_Selected->item(row)->text());
+    return names;
+}
+
+void AddPlotterDialog::on_pushButton_add_clicked()
+{
+    moveSelectedItems(*ui->listWidget_unSelected, *ui->listWidget_Selected);
+}
+
+void AddPlotterDialog::on_pushButton_remove_clicked()
+{
+    moveSelectedItems(*ui->listWidget_Selected, *ui->listWidget_unSelected);
+}
+
+void AddPlotterDialog::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        ui->retranslateUi(this);
+    QDialog::changeEvent(event);
+}

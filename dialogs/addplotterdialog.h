@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QDialog>
+#include <QStringList>
+#include <memory>
+
+namespace Ui {
+class AddPlotterDialog;
+}
+
+// Composes a new graph: its name and an ordered choice of channels.
+class AddPlotterDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit AddPlotterDialog(QWidget *parent = nullptr);
+    ~AddPlotterDialog() override;
+
+    // The names to choose from; forgets the earlier choice.
+    void setChannelNames(const QStringList &names);
+
+    QString graphName() const; // may be empty
+    QStringList selectedChannels() const; // in the graph's order; may be empty
+
+public slots:
+    void on_pushButton_add_clicked();
+    void on_pushButton_remove_clicked();
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    std::unique_ptr<Ui::AddPlotterDialog> ui;
+    QStringList channelNames;
+};
