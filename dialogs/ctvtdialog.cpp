@@ -1,0 +1,97 @@
+#include "ctvtdialog.h"
+
+#include "cfgproperties.h"
+#include "dialoghost.h"
+#include "ui_ctvtdialog.h"
+
+#include <QLabel>
+#include <QLineEdit>
+
+namespace {
+
+void setRatio(AnalogChannel &channel, double primary, double secondary)
+{
+    // The factor of the side the samples are on is the rating itself, not 1.
+    if (channel.ps == QLatin1String("S")) {
+        channel.toPrimary = (1 / secondary) * primary;
+        channel.toSecondary = secondary;
+    } else if (channel.ps == QLatin1String("P")) {
+        channel.toPrimary = primary;
+        channel.toSecondary = (1 / primary) * secondary;
+    }
+}
+
+} // namespace
+
+CTVTDialog::CTVTDialog(QWidget *parent)
+    : QDialog(parent),
+      ui(std::make_unique<Ui::CTVTDialog>()),
+      mainWindow(qobject_cast<DialogHost *>(parent))
+{
+    ui->setupUi(this);
+    ui->rows->setAutoFillBackground(false);
+}
+
+CTVTDialog::~CTVTDialog() = default;
+
+void CTVTDialog::setChannels(
+    const QStringList &names, const QStringList &primaries, const QStringList &secondaries)
+{
+    channelNames = names;
+    appliedPrimaries = primaries;
+    appliedSecondaries = secondaries;
+    for (int i = 0; i < names.size(); ++i) {
+        nameLabels.append(new QLabel(names.at(i), this));
+        nameLabels.last()->setTextFormat(Qt::PlainText);
+        primaryEdits.append(new QLineEdit(primaries.value(i), this));
+        secondaryEdits.append(new QLineEdit(secondaries.value(i), this));
+        ui->gridLayout->addWidget(nameLabels.last(), i + 1, 0);
+        ui->gridLayout->addWidget(primaryEdits.last(), i + 1, 1);
+        ui->gridLayout->addWidget(secondaryEdits.last(), i + 1, 2);
+    }
+}
+
+void CTVTDialog::clearChannels()
+{
+    qDeleteAll(primaryEdits);
+    qDeleteAll(secondaryEdits);
+    qDeleteAll(nameLabels);
+    primaryEdits.clear();
+    secondaryEdits.clear();
+    nameLabels.clear();
+    channelNames.clear();
+    appliedPrimaries.clear();
+    appliedSecondaries.clear();
+}
+
+void CTVTDialog::on_pushButton_Set_clicked()
+{
+    const CFGProperties *recording = mainWindow ? mainWindow->recording() : nullptr;
+    appliedPrimaries.clear();
+    appliedSecondaries.clear();
+    for (int i = 0; i < nameLabels.size(); ++i) {
+        appliedPrimaries.append(primaryEdits.at(i)->text());
+        appliedSecondaries.append(secondaryEdits.at(i)->text());
+        if (AnalogChannel *channel = recording ? recording->analogChannel(i + 1) : nullptr)
+            setRatio(
+                *channel, appliedPrimaries.at(i).toDouble(), appliedSecondaries.at(i).toDouble());
+    }
+    emit scaleChanged();
+    if (mainWindow)
+        mainWindow->refreshPlots();
+}
+
+void CTVTDialog::on_pushButton_Close_clicked()
+{
+    close();
+}
+
+void CTVTDialog::showEvent(QShowEvent *event)
+{
+    ui->retranslateUi(this); // the language may have changed since
+    for (int i = 0; i < nameLabels.size(); ++i) {
+        primaryEdits.at(i)->setText(appliedPrimaries.value(i));
+        secondaryEdits.at(i)->setText(appliedSecondaries.value(i));
+    }
+    QDialog::showEvent(event);
+}

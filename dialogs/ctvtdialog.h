@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QDialog>
+#include <QList>
+#include <QStringList>
+#include <memory>
+
+class DialogHost;
+class QLabel;
+class QLineEdit;
+namespace Ui {
+class CTVTDialog;
+}
+
+// Edits the transformer ratios, one row per analog channel in channel order.
+class CTVTDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    // The factors changed are those of the parent's recording, when the parent is a DialogHost.
+    explicit CTVTDialog(QWidget *parent = nullptr);
+    ~CTVTDialog() override;
+
+    // Adds the rows; parallel lists, one entry per analog channel. To be called on an empty dialog.
+    void setChannels(
+        const QStringList &names, const QStringList &primaries, const QStringList &secondaries);
+    void clearChannels();
+
+    // The ratings last applied, as typed, parallel to the analog channels.
+    const QStringList &primaryTexts() const { return appliedPrimaries; }
+    const QStringList &secondaryTexts() const { return appliedSecondaries; }
+
+public slots:
+    void on_pushButton_Set_clicked();
+    void on_pushButton_Close_clicked();
+
+signals:
+    void scaleChanged();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    QList<QLineEdit *> primaryEdits;
+    QList<QLineEdit *> secondaryEdits;
+    QList<QLabel *> nameLabels;
+    QStringList channelNames;
+    QStringList appliedPrimaries;
+    QStringList appliedSecondaries;
+    std::unique_ptr<Ui::CTVTDialog> ui;
+    DialogHost *mainWindow;
+};
