@@ -1,0 +1,148 @@
+#include "savedialog.h"
+
+#include "dialoghost.h"
+#include "ui_savedialog.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace {
+
+QString wholeMilliseconds(double time)
+{
+    return QString::number(time, 'f', 0);
+}
+
+bool fileExists(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() && !info.isDir();
+}
+
+} // namespace
+
+SaveDialog::SaveDialog(QWidget *parent)
+    : QDialog(parent),
+      mainWindow(qobject_cast<DialogHost *>(parent)),
+      ui(std::make_unique<Ui::SaveDialog>())
+{
+    ui->setupUi(this);
+    ui->label_FileExists->hide();
+    followKeyboardAndWheel(
+        ui->horizontalSlider_StartPoint, &SaveDialog::on_horizontalSlider_StartPoint_sliderMoved);
+    followKeyboardAndWheel(
+        ui->horizontalSlider_EndPoint, &SaveDialog::on_horizontalSlider_EndPoint_sliderMoved);
+}
+
+SaveDialog::~SaveDialog() = default;
+
+void SaveDialog::setSampleTimes(const QVector<double> &times)
+{
+    ownedTimes = times;
+    sampleTimes.clear();
+    sampleTimes.reserve(times.size());
+    for (const double &time : qAsConst(ownedTimes))
+        sampleTimes.append(&time);
+}
+
+void SaveDialog::on_toolButton_Browse_clicked()
+{
+    filePath = QFileDialog::getSaveFileName(
+        this, tr("Save recording"), mainWindow ? mainWindow->recordingsFolder() : QString());
+    ui->lineEdit_FilePath->setText(filePath);
+    updateExistenceLabel();
+}
+
+void SaveDialog::on_pushButton_Save_clicked()
+{
+    if (!mayWrite())
+        return;
+    const double start = ui->lineEdit_Start->text().toDouble();
+    const double end = ui->lineEdit_End->text().toDouble();
+    if (mainWindow)
+        mainWindow->saveRecording(filePath, start, end);
+    emit clearPoints();
+    close();
+}
+
+void SaveDialog::on_pushButton_Cancel_clicked()
+{
+    emit clearPoints();
+    close();
+}
+
+void SaveDialog::on_horizontalSlider_StartPoint_sliderMoved(int position)
+{
+    if (position >= sampleTimes.size())
+        return;
+    ui->lineEdit_Start->setText(wholeMilliseconds(*sampleTimes.at(position)));
+    emit setStartPoint(*sampleTimes.at(position));
+}
+
+void SaveDialog::on_horizontalSlider_EndPoint_sliderMoved(int position)
+{
+    if (position >= sampleTimes.size())
+        return;
+    ui->lineEdit_End->setText(wholeMilliseconds(*sampleTimes.at(position)));
+    emit setEndPoint(*sampleTimes.at(position));
+}
+
+void SaveDialog::on_lineEdit_FilePath_textChanged()
+{
+    filePath = ui->lineEdit_FilePath->text();
+    updateExistenceLabel();
+}
+
+void SaveDialog::showEvent(QShowEvent *event)
+{
+    ui->retranslateUi(this); // the language may have changed since
+    const int last = sampleTimes.size() - 1;
+    filePath.clear();
+    ui->lineEdit_FilePath->clear();
+    ui->horizontalSlider_StartPoint->setRange(0, last);
+    ui->horizontalSlider_EndPoint->setRange(0, last);
+    ui->horizontalSlider_StartPoint->setValue(0);
+    ui->horizontalSlider_EndPoint->setValue(last);
+    ui->lineEdit_Start->clear();
+    ui->lineEdit_End->clear();
+    if (!sampleTimes.isEmpty()) {
+        ui->lineEdit_Start->setText(wholeMilliseconds(*sampleTimes.first()));
+        ui->lineEdit_End->setText(wholeMilliseconds(*sampleTimes.last()));
+        emit setStartPoint(*sampleTimes.first());
+        emit setEndPoint(*sampleTimes.last());
+    }
+    QDialog::showEvent(event);
+}
+
+// sliderMoved is the mouse's alone; the other ways to move a slider show up as actions.
+void SaveDialog::followKeyboardAndWheel(QSlider *slider, void (SaveDialog::*moved)(int))
+{
+    connect(slider, &QSlider::actionTriggered, this, [this, slider, moved] {
+        if (!slider->isSliderDown())
+            (this->*moved)(slider->sliderPosition());
+    });
+}
+
+void SaveDialog::updateExistenceLabel()
+{
+    ui->label_FileExists->setVisible(!QFileInfo(filePath).isDir()
+        && (fileExists(filePath) || fileExists(filePath + QStringLiteral(".cfg"))));
+}
+
+// Asks before a file is overwritten; only the path as typed counts.
+bool SaveDialog::mayWrite()
+{
+    if (!fileExists(filePath))
+        return true;
+    QMessageBox box(this);
+    if (parentWidget())
+        box.setStyleSheet(parentWidget()->styleSheet());
+    box.setWindowTitle(tr("Save file"));
+    box.setText(tr("File already exists. Are you sure you want to overwrite it?"));
+    const QAbstractButton *proceed = box.addButton(tr("Continue"), QMessageBox::AcceptRole);
+    box.addButton(tr("Cancel"), QMessageBox::RejectRole);
+    box.exec();
+    return box.clickedButton() == proceed;
+}

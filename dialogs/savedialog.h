@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QDialog>
+#include <QList>
+#include <QString>
+#include <QVector>
+#include <memory>
+
+class DialogHost;
+class QSlider;
+namespace Ui {
+class SaveDialog;
+}
+
+// Chooses a path and the first and last sample of the part of a recording that is to be saved.
+// Times are ms of recording time.
+class SaveDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    // Saves through the parent, when it is a DialogHost.
+    explicit SaveDialog(QWidget *parent = nullptr);
+    ~SaveDialog() override;
+
+    // The times to choose from, in sample order; to be set before the dialog is shown.
+    void setSampleTimes(const QVector<double> &times);
+
+signals:
+    void setStartPoint(double time);
+    void setEndPoint(double time);
+    void clearPoints();
+
+public slots:
+    void on_toolButton_Browse_clicked();
+    void on_pushButton_Save_clicked();
+    void on_pushButton_Cancel_clicked();
+    void on_horizontalSlider_StartPoint_sliderMoved(int position);
+    void on_horizontalSlider_EndPoint_sliderMoved(int position);
+    void on_lineEdit_FilePath_textChanged();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void followKeyboardAndWheel(QSlider *slider, void (SaveDialog::*moved)(int));
+    void updateExistenceLabel();
+    bool mayWrite();
+
+    QString filePath;
+    DialogHost *mainWindow;
+    QVector<double> ownedTimes;
+    QList<const double *> sampleTimes; // into ownedTimes
+    std::unique_ptr<Ui::SaveDialog> ui;
+};
