@@ -1,0 +1,286 @@
+#include "vectorwidget.h"
+
+#include "cfgproperties.h"
+#include "dialoghost.h"
+#include "phasordiagram.h"
+#include "plotter.h"
+#include "ui_vectorwidget.h"
+#include "vectordialog.h"
+
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTimer>
+
+namespace {
+
+constexpr int refreshDelay = 10; // ms
+constexpr int firstDrawDelay = 100; // ms, from being shown
+constexpr int checkBoxesPerRow = 3;
+
+QString colorSheet(const QColor &color)
+{
+    return QStringLiteral("QCheckBox{color: rgb(%1,%2,%3);}")
+        .arg(color.red())
+        .arg(color.green())
+        .arg(color.blue());
+}
+
+void drawGrid(QPainter &painter, const PhasorDiagram &diagram)
+{
+    for (int k = 0; k < PhasorDiagram::lineCount; ++k) {
+        const int position = diagram.gridLine(k);
+        painter.drawLine(0, position, diagram.width(), position);
+        painter.drawLine(position, 0, position, diagram.height());
+    }
+}
+
+void drawAxisLabels(QPainter &painter, const PhasorDiagram &diagram)
+{
+    for (int k = 0; k < PhasorDiagram::lineCount; ++k) {
+        painter.drawText(diagram.verticalTextRect(k), Qt::AlignRight | Qt::TextDontClip,
+            diagram.verticalText(k));
+        painter.drawText(diagram.horizontalTextRect(k), Qt::AlignCenter | Qt::TextDontClip,
+            diagram.horizontalText(k));
+    }
+}
+
+void setPenColor(QPainter &painter, const QColor &color)
+{
+    QPen pen = painter.pen();
+    pen.setColor(color);
+    painter.setPen(pen);
+}
+
+} // namespace
+
+VectorWidget::VectorWidget(QWidget *parent)
+    : QWidget(parent),
+      channelColors{{250, 140, 20}, {0, 255, 0}, {100, 150, 255}, {223, 105, 209}, {60, 150, 0},
+          {80, 150, 180}, {193, 137, 62}, {0, 255, 255}, {245, 30, 18}, {112, 146, 190}, {0, 0, 0},
+          {200, 191, 231}, {177, 177, 177}},
+      refreshTimer(new QTimer(this)),
+      owner(qobject_cast<VectorDialog *>(parent)),
+      ui(std::make_unique<Ui::VectorWidget>())
+{
+    ui->setupUi(this);
+    connect(refreshTimer, &QTimer::timeout, this, &VectorWidget::drawAll);
+    setFixedWidth(width());
+}
+
+VectorWidget::~VectorWidget() = default;
+
+void VectorWidget::setMainWindow(QObject *object)
+{
+    mainWindow = qobject_cast<DialogHost *>(object);
+}
+
+void VectorWidget::setPlotter(Plotter *source)
+{
+    plotter = source;
+}
+
+void VectorWidget::setChannelNames(const QStringList &names)
+{
+    channelNames = names;
+    qDeleteAll(checkBoxes);
+    checkBoxes.clear();
+    for (int i = 0; i < names.size(); ++i) {
+        auto *checkBox = new QCheckBox(this);
+        connect(checkBox, &QCheckBox::toggled, this, &VectorWidget::drawAll);
+        ui->gridLayout->addWidget(checkBox, i / checkBoxesPerRow, i % checkBoxesPerRow);
+        checkBox->setStyleSheet(colorSheet(channelColors.at(i % channelColors.size())));
+        // An ampersand of the name is no keyboard shortcut.
+        checkBox->setText(QString(names.at(i)).replace(QLatin1Char('&'), QLatin1String("&&")));
+        checkBox->setToolTip(names.at(i));
+        // The panel's width is fixed, however long the names are.
+        checkBox->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        checkBoxes.append(checkBox);
+    }
+}
+
+void VectorWidget::disableRemoval()
+{
+    ui->toolButton->setEnabled(false);
+    ui->toolButton->setDisabled(true);
+}
+
+void VectorWidget::requestRedraw()
+{
+    refreshTimer->start(refreshDelay);
+}
+
+void VectorWidget::drawAll()
+{
+    if (drawing) { // asked for by an event that the running call handles while it waits
+        requestRedraw();
+        return;
+    }
+    refreshTimer->stop();
+    diagramPixmap = pixmapFor(*ui->labelVector);
+    magnitudesPixmap = pixmapFor(*ui->labelMagnitudes);
+    renderPending = true;
+    update();
+
+    drawing = true;
+    const QPointer<VectorWidget> self(this);
+    QElapsedTimer elapsed;
+    elapsed.start();
+    do {
+        // The user's clicks wait: one could remove the panel under the check box that is being
+        // toggled.
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        if (!self)
+            return;
+    } while (elapsed.elapsed() < refreshDelay);
+    drawing = false;
+
+    if (renderPending && isVisible())
+        renderPixmaps(); // scrolled out of view, where no paint event comes
+    ui->labelVector->setPixmap(diagramPixmap);
+    ui->labelMagnitudes->setPixmap(magnitudesPixmap);
+}
+
+void VectorWidget::on_toolButton_clicked()
+{
+    emit deleteSignal(this);
+}
+
+void VectorWidget::mousePressEvent(QMouseEvent *event)
+{
+    const QPointer<QCheckBox> checkBox = qobject_cast<QCheckBox *>(childAt(event->pos()));
+    if (event->button() != Qt::RightButton || !checkBox) {
+        event->ignore();
+        return;
+    }
+    const int entry = checkBoxes.indexOf(checkBox) % channelColors.size();
+    const QPointer<VectorWidget> self(this);
+    const QColor color = QColorDialog::getColor(Qt::white, this);
+    if (!self)
+        return;
+    if (color.isValid())
+        channelColors[entry] = color;
+    if (checkBox)
+        checkBox->setStyleSheet(colorSheet(channelColors.at(entry)));
+    drawAll();
+}
+
+void VectorWidget::paintEvent(QPaintEvent *)
+{
+    if (renderPending)
+        renderPixmaps();
+}
+
+void VectorWidget::showEvent(QShowEvent *)
+{
+    QTimer::singleShot(firstDrawDelay, this, &VectorWidget::drawAll);
+}
+
+void VectorWidget::resizeEvent(QResizeEvent *) { }
+
+void VectorWidget::renderPixmaps()
+{
+    renderPending = false;
+    diagramPixmap.fill(Qt::transparent);
+    magnitudesPixmap.fill(Qt::transparent);
+    if (!plotter)
+        return;
+
+    const QList<int> channels = checkedChannels();
+    const PhasorDiagram diagram(extremeOf(channels), ui->labelVector->size());
+    QPainter diagramPainter(&diagramPixmap);
+    QPainter magnitudesPainter(&magnitudesPixmap);
+    diagramPainter.setPen(QPen(QColor(200, 200, 200, 50), 1, Qt::DashLine));
+    diagramPainter.translate(30, 20);
+    drawGrid(diagramPainter, diagram);
+    drawPhasors(diagramPainter, magnitudesPainter, diagram, channels);
+}
+
+void VectorWidget::drawPhasors(QPainter &diagramPainter, QPainter &magnitudesPainter,
+    const PhasorDiagram &diagram, const QList<int> &channels)
+{
+    QFont font;
+    font.setPixelSize(9);
+    diagramPainter.setFont(font);
+    magnitudesPainter.setFont(font);
+    const QStringList names = recordingNames();
+    const int reference = owner ? names.indexOf(owner->referenceName()) + 1 : 0;
+    int texts = 0;
+    for (const double time : plotter->cursors()) {
+        diagramPainter.resetTransform();
+        diagramPainter.translate(0, 20);
+        setPenColor(diagramPainter, Qt::white);
+        drawAxisLabels(diagramPainter, diagram);
+
+        diagramPainter.resetTransform();
+        diagramPainter.translate(diagram.origin());
+        diagramPainter.scale(1, -1);
+        const float referenceAngle = phasorOf(reference, time).angle;
+        for (const int channel : channels) {
+            // Unsigned, so that channel 0, a name unknown to the recording, has a colour as well.
+            const QColor color
+                = channelColors.at(static_cast<int>((static_cast<unsigned>(channel) - 1)
+                    % static_cast<unsigned>(channelColors.size())));
+            setPenColor(diagramPainter, color);
+            setPenColor(magnitudesPainter, color);
+            const Phasor phasor = phasorOf(channel, time);
+            diagramPainter.drawLine(QPoint(0, 0), diagram.lineEnd(phasor, referenceAngle));
+            magnitudesPainter.drawText(magnitudeTextPosition(texts++, ui->labelMagnitudes->width()),
+                names.value(channel - 1) + QStringLiteral(": ")
+                    + QString::number(static_cast<double>(phasor.magnitude), 'g', 6));
+        }
+    }
+}
+
+// Numbers of the checked channels in the recording, 1-based; 0 for a name that it does not have.
+QList<int> VectorWidget::checkedChannels() const
+{
+    const QStringList names = recordingNames();
+    QList<int> channels;
+    for (int i = 0; i < checkBoxes.size(); ++i)
+        if (checkBoxes.at(i)->isChecked())
+            channels.append(names.indexOf(channelNames.at(i)) + 1);
+    return channels;
+}
+
+double VectorWidget::extremeOf(const QList<int> &channels) const
+{
+    double extreme = 0;
+    const CFGProperties *source = recording();
+    for (const int number : channels) {
+        if (const AnalogChannel *channel = source ? source->analogChannel(number) : nullptr) {
+            extreme = qMax(extreme, static_cast<double>(channel->maxReal));
+            extreme = qMax(extreme, static_cast<double>(channel->maxImaginary));
+        }
+    }
+    return extreme;
+}
+
+Phasor VectorWidget::phasorOf(int channel, double time) const
+{
+    const CFGProperties *source = recording();
+    const AnalogChannel *record = source ? source->analogChannel(channel) : nullptr;
+    return record ? phasorAt(*record, time) : Phasor();
+}
+
+CFGProperties *VectorWidget::recording() const
+{
+    return mainWindow ? mainWindow->recording() : nullptr;
+}
+
+QStringList VectorWidget::recordingNames() const
+{
+    const CFGProperties *source = recording();
+    return source ? source->analogIds : QStringList();
+}
+
+QPixmap VectorWidget::pixmapFor(const QWidget &label) const
+{
+    QPixmap pixmap(label.size() * devicePixelRatioF());
+    pixmap.setDevicePixelRatio(devicePixelRatioF());
+    pixmap.fill(Qt::transparent);
+    return pixmap;
+}

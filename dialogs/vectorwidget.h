@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QColor>
+#include <QList>
+#include <QPixmap>
+#include <QPointer>
+#include <QStringList>
+#include <QWidget>
+#include <memory>
+
+class CFGProperties;
+class DialogHost;
+class PhasorDiagram;
+class Plotter;
+class QCheckBox;
+class QPainter;
+class QTimer;
+class VectorDialog;
+struct Phasor;
+namespace Ui {
+class VectorWidget;
+}
+
+// One phasor diagram: for every checked channel a line at each cursor time of the plotter, turned
+// so that the dialog's reference channel lies on the positive horizontal axis, and its magnitude as
+// text.
+class VectorWidget : public QWidget {
+    Q_OBJECT
+
+public:
+    // The reference channel is that of the parent, when it is a VectorDialog.
+    explicit VectorWidget(QWidget *parent = nullptr);
+    ~VectorWidget() override;
+
+    // The object is used through DialogHost; one that is no host counts as none.
+    void setMainWindow(QObject *object);
+    // Null: nothing is drawn.
+    void setPlotter(Plotter *source);
+    // Replaces the check boxes, one per name; the new ones are unchecked.
+    void setChannelNames(const QStringList &names);
+    void disableRemoval();
+
+    // Draws again in 10 ms; further requests until then start the wait anew.
+    void requestRedraw();
+
+public slots:
+    // Returns when the drawing is on screen; events other than the user's are handled meanwhile.
+    void drawAll();
+    void on_toolButton_clicked();
+
+signals:
+    // The receiver may delete the widget.
+    void deleteSignal(VectorWidget *widget);
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void renderPixmaps();
+    void drawPhasors(QPainter &diagramPainter, QPainter &magnitudesPainter,
+        const PhasorDiagram &diagram, const QList<int> &channels);
+    QList<int> checkedChannels() const;
+    double extremeOf(const QList<int> &channels) const;
+    Phasor phasorOf(int channel, double time) const;
+    CFGProperties *recording() const;
+    QStringList recordingNames() const;
+    QPixmap pixmapFor(const QWidget &label) const;
+
+    QList<QColor> channelColors;
+    QTimer *refreshTimer;
+    DialogHost *mainWindow = nullptr;
+    QPointer<Plotter> plotter;
+    QPixmap diagramPixmap;
+    QPixmap magnitudesPixmap;
+    QStringList channelNames;
+    QList<QCheckBox *> checkBoxes; // parallel to channelNames
+    VectorDialog *owner;
+    bool renderPending = false;
+    bool drawing = false;
+    std::unique_ptr<Ui::VectorWidget> ui;
+};
