@@ -22,7 +22,11 @@ struct PlotSettings {
     // Moves the view by whole grid intervals.
     void scroll(int dx, int dy);
 
-    // Widens a range to tidy steps of 1, 3 or 5 times a power of ten. A range that no step of a double
-    // can divide (not finite, too fine) is widened to one that it can.
+    // Whether a range can be shown: finite, of positive span, and not finer than doubles tell
+    // apart.
+    static bool isUsable(double min, double max);
+
+    // Widens a range to whole steps of 1, 3 or 5 times a power of ten and counts them. A range that
+    // is not usable is made so first.
     static void adjustAxis(double &min, double &max, double &ticks);
 };

@@ -1,0 +1,168 @@
+#include "baselayer.h"
+
+#include "digitalruns.h"
+#include "labeltext.h"
+#include "timeaxis.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace {
+
+const QColor gridColor(150, 150, 150);
+const QColor rowColor(20, 150, 20);
+const QColor bandColor(240, 255, 240);
+
+constexpr int labelGap = 6; // between the plot area and a label beside it
+constexpr int bandReach = 5; // of a band above and below its base line
+
+// The room of texts in the left margin, inside the widget's border.
+constexpr int marginStart = 4;
+constexpr int marginWidth = PlotGeometry::left - labelGap - marginStart;
+
+double gridTime(const PlotSettings &view, int line)
+{
+    return view.minX + line * view.spanX() / view.numXTicks;
+}
+
+} // namespace
+
+QFont smallFont(const QFont &font)
+{
+    QFont small(font);
+    small.setPixelSize(10);
+    return small;
+}
+
+void drawTimeGrid(QPainter &painter, const PlotGeometry &geometry)
+{
+    const QRect area = geometry.area();
+    painter.setPen(gridColor);
+    for (int i = 0; i <= geometry.view().numXTicks; ++i) {
+        const int x = PlotGeometry::pixel(geometry.traceX(gridTime(geometry.view(), i)));
+        painter.drawLine(x, area.top(), x, area.bottom());
+    }
+}
+
+void drawTimeLabels(QPainter &painter, const PlotGeometry &geometry, const QFont &font)
+{
+    const QFontMetrics metrics(font);
+    const int rightmost = geometry.widgetSize().width() - geometry.readoutWidth() - marginStart;
+    int free = 0; // x from which on no label stands yet
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    for (int i = 0; i <= geometry.view().numXTicks; ++i) {
+        const double time = gridTime(geometry.view(), i);
+        const int x = PlotGeometry::pixel(geometry.traceX(time));
+        const QString text = generalText(time);
+        QRect box(0, geometry.plotHeight() + labelGap, metrics.horizontalAdvance(text) + 2,
+            metrics.height());
+        box.moveLeft(std::min(x - box.width() / 2, rightmost - box.width()));
+        if (box.left() < free)
+            continue;
+        painter.drawText(box, Qt::AlignHCenter | Qt::AlignTop, text);
+        free = box.right() + labelGap;
+    }
+}
+
+void drawValueGrid(QPainter &painter, const PlotGeometry &geometry, const QFont &font)
+{
+    const PlotSettings &view = geometry.view();
+    const QRect area = geometry.area();
+    const QFont small = smallFont(font);
+    const QFontMetrics metrics(small);
+    int free = geometry.widgetSize().height(); // y down to which no label stands yet
+    painter.setFont(small);
+    for (int i = 0; i <= view.numYTicks; ++i) {
+        const double value = view.minY + i * view.spanY() / view.numYTicks;
+        const int y = PlotGeometry::pixel(geometry.traceY(value));
+        painter.setPen(gridColor);
+        painter.drawLine(area.left(), y, area.right(), y);
+
+        QRect box(marginStart, 0, marginWidth, metrics.height());
+        box.moveTop(y - box.height() / 2);
+        if (box.bottom() >= free)
+            continue;
+        painter.setPen(Qt::white);
+        painter.drawText(
+            box, Qt::AlignRight | Qt::AlignVCenter, fittingValueText(value, metrics, marginWidth));
+        free = box.top();
+    }
+}
+
+void drawFrame(QPainter &painter, const PlotGeometry &geometry)
+{
+    painter.setPen(Qt::white);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(geometry.area().adjusted(0, 0, -1, -1));
+}
+
+void drawTriggerMark(QPainter &painter, const PlotGeometry &geometry, const QFont &font, int time)
+{
+    const QRect area = geometry.area();
+    const int x = PlotGeometry::pixel(geometry.traceX(time));
+    if (x < area.left() || x > area.right())
+        return;
+    QPen pen(Qt::white);
+    pen.setStyle(Qt::DashLine);
+    painter.setPen(pen);
+    painter.drawLine(x, area.top(), x, area.bottom());
+
+    const QString text = QStringLiteral("Trigger: %1 ms").arg(time);
+    const QFontMetrics metrics(font);
+    QRect box(x + labelGap, 0, metrics.horizontalAdvance(text) + 2, metrics.height());
+    box.moveBottom(area.bottom() - 2);
+    if (box.right() > area.right())
+        box.moveRight(x - labelGap);
+    painter.setFont(font);
+    painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter, text);
+}
+
+void drawDigitalRow(QPainter &painter, const PlotGeometry &geometry, const TimeAxis &axis,
+    const DigitalRuns &runs, int y)
+{
+    const QVector<double> &times = axis.times();
+    const QRect area = geometry.area();
+    const auto xOf
+        = [&](int sample) { return PlotGeometry::pixel(geometry.traceX(times[sample])); };
+    const int first = axis.isAscending()
+        ? runs.runOf(std::max(0, axis.firstAtOrAfter(geometry.view().minX) - 1))
+        : 0;
+    painter.setPen(rowColor);
+    painter.setBrush(bandColor);
+    for (int run = first; run < runs.count(); ++run) {
+        const int from = xOf(runs.start(run));
+        const int to = xOf(runs.end(run));
+        bool isOn = runs.isOn(run);
+        if (axis.isAscending() && from > area.right())
+            break;
+        if (axis.isAscending() && from == to) {
+            // Stretches within one pixel column are drawn as one, on if any of them is.
+            const auto next = std::upper_bound(times.cbegin() + runs.end(run), times.cend(), to,
+                [&](int x, double time) { return x < PlotGeometry::pixel(geometry.traceX(time)); });
+            const int last = runs.runOf(static_cast<int>(next - times.cbegin()) - 1);
+            isOn = isOn || last > run + 1;
+            run = std::max(run, last - 1);
+        }
+        if (!isOn)
+            painter.drawLine(from, y, to, y);
+        else if (from == to)
+            painter.drawLine(from, y - bandReach, from, y + bandReach);
+        else
+            painter.drawRect(from, y - bandReach, to - from, 2 * bandReach);
+    }
+}
+
+void drawRowLabel(QPainter &painter, const QFont &font, const QString &text, int y)
+{
+    const QFont small = smallFont(font);
+    const QFontMetrics metrics(small);
+    QRect box(marginStart, 0, marginWidth, metrics.height());
+    box.moveTop(y - box.height() / 2);
+    painter.setFont(small);
+    painter.setPen(Qt::white);
+    painter.drawText(box, Qt::AlignRight | Qt::AlignVCenter,
+        metrics.elidedText(text, Qt::ElideRight, marginWidth));
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "plotgeometry.h"
+
+class DigitalRuns;
+class QFont;
+class QPainter;
+class TimeAxis;
+
+// The passes that paint the base layer of a plot. Colours and pens are their own; the painter's
+// clip must be off, but for drawDigitalRow(), which leaves it to the caller.
+
+// The lines of the time grid, and the times below them. Labels that would overlap one drawn before
+// are left out.
+void drawTimeGrid(QPainter &painter, const PlotGeometry &geometry);
+void drawTimeLabels(QPainter &painter, const PlotGeometry &geometry, const QFont &font);
+
+// The lines of the value grid with the values left of them, of which likewise none overlap.
+void drawValueGrid(QPainter &painter, const PlotGeometry &geometry, const QFont &font);
+
+void drawFrame(QPainter &painter, const PlotGeometry &geometry);
+
+// The trigger mark at a time (ms), when that lies in view.
+void drawTriggerMark(QPainter &painter, const PlotGeometry &geometry, const QFont &font, int time);
+
+// One digital channel around the base line y.
+void drawDigitalRow(QPainter &painter, const PlotGeometry &geometry, const TimeAxis &axis,
+    const DigitalRuns &runs, int y);
+
+// A row's name in the left margin, elided where it is too long.
+void drawRowLabel(QPainter &painter, const QFont &font, const QString &text, int y);
+
+// The font of the value labels and row names.
+QFont smallFont(const QFont &font);

@@ -1,0 +1,24 @@
+#include "labeltext.h"
+
+#include <QFontMetrics>
+
+QString generalText(double value)
+{
+    return QString::number(value, 'g', 6);
+}
+
+QString valueAxisText(double value)
+{
+    QString text = QString::number(value, 'f', 6);
+    while (text.endsWith(QLatin1Char('0')))
+        text.chop(1);
+    if (text.endsWith(QLatin1Char('.')))
+        text.chop(1);
+    return text == QLatin1String("-0") ? QStringLiteral("0") : text;
+}
+
+QString fittingValueText(double value, const QFontMetrics &metrics, int width)
+{
+    const QString text = valueAxisText(value);
+    return metrics.horizontalAdvance(text) <= width ? text : generalText(value);
+}

@@ -1,0 +1,360 @@
+#include "plotter.h"
+
+#include "analogchannel.h"
+#include "baselayer.h"
+#include "cfgproperties.h"
+#include "channelvalues.h"
+#include "plothost.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QStyleOption>
+#include <QStyleOptionFocusRect>
+
+#include <algorithm>
+#include <cmath>
+
+double Plotter::sharedHorizontalZoom = 1.0;
+double Plotter::sharedVerticalZoom = 1.0;
+PlotSettings Plotter::sharedAnalogSettings;
+
+namespace {
+
+constexpr int titleX = 70;
+constexpr int titleWidth = 100;
+constexpr int titleHeight = 20;
+constexpr int smallestTitleFont = 9; // pixels
+
+QFrame *verticalLine(QWidget *parent, const QString &name, const QString &style)
+{
+    auto *line = new QFrame(parent);
+    line->setObjectName(name);
+    line->setFrameStyle(QFrame::VLine | QFrame::Plain);
+    line->setLineWidth(1);
+    line->setStyleSheet(style);
+    line->setAttribute(Qt::WA_TransparentForMouseEvents);
+    line->hide();
+    return line;
+}
+
+} // namespace
+
+Plotter::Plotter(QWidget *parent)
+    : QWidget(parent),
+      plotType(QStringLiteral("Analog")),
+      plotterLabel(new QLabel(this)),
+      timeLabel(new QLabel(this)),
+      timeLine(verticalLine(this, QStringLiteral("timeline"),
+          QStringLiteral("QFrame{color: white; border-color: white;}"))),
+      labelEditor(new QLineEdit(this)),
+      startMarker(verticalLine(this, QStringLiteral("startMarker"),
+          QStringLiteral("QFrame{color: red; border-color: red;}"))),
+      endMarker(verticalLine(this, QStringLiteral("endMarker"),
+          QStringLiteral("QFrame{color: red; border-color: red;}"))),
+      hostWidget(parent),
+      colorDialog(new QColorDialog(Qt::white, this)),
+      channelColors({QColor(245, 30, 18), QColor(220, 220, 0), QColor(66, 66, 255),
+          QColor(0, 255, 0), QColor(223, 105, 209), QColor(250, 140, 20), QColor(80, 150, 180),
+          QColor(193, 137, 62), QColor(60, 150, 0), QColor(0, 255, 255), QColor(112, 146, 190),
+          QColor(200, 191, 231), QColor(177, 177, 177)})
+{
+    setObjectName(QStringLiteral("Plotter"));
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+
+    plotterLabel->setObjectName(QStringLiteral("Plotter Label"));
+    plotterLabel->setStyleSheet(QStringLiteral("QLabel{border: 1px solid #00b9f2; color:white;}"));
+    plotterLabel->setAlignment(Qt::AlignCenter);
+
+    timeLabel->setObjectName(QStringLiteral("timelabel"));
+    timeLabel->setStyleSheet(QStringLiteral("QLabel{color: white;}"));
+    timeLabel->setFont(smallFont(font()));
+    timeLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
+    timeLabel->hide();
+    timeLabel->lower();
+    timeLine->lower();
+
+    labelEditor->setWindowFlags(labelEditor->windowFlags() | Qt::FramelessWindowHint);
+    labelEditor->setStyleSheet(QStringLiteral("QLineEdit{background-color: black; color: white;}"));
+    labelEditor->hide();
+    connect(labelEditor, &QLineEdit::editingFinished, this, &Plotter::labelEditFinished);
+    connect(labelEditor, &QLineEdit::returnPressed, this, &Plotter::labelEditConfirm);
+
+    setStyleSheet(QStringLiteral(
+        "Plotter{background-color: #313034; border: 2px outset qlineargradient(x1: 0, y1: 0, x2: "
+        "0, y2: 1, stop: 0 #616064, stop: 1 #313034);}"));
+}
+
+Plotter::~Plotter()
+{
+    releaseGrab();
+}
+
+void Plotter::setMainWindow(QObject *window)
+{
+    mainWindow = qobject_cast<PlotHost *>(window);
+}
+
+CFGProperties *Plotter::recording() const
+{
+    return mainWindow ? mainWindow->recording() : nullptr;
+}
+
+void Plotter::setName(const QString &name)
+{
+    plotName = name;
+}
+
+void Plotter::placeTitle(int y)
+{
+    plotterLabel->setGeometry(titleX, y, titleWidth, titleHeight);
+    setTitle(plotName + QStringLiteral(" Plotter"));
+    plotterLabel->show();
+}
+
+// The title's place is fixed, so a long text gets a smaller font, and then is elided.
+void Plotter::setTitle(const QString &title)
+{
+    constexpr int room = titleWidth - 6;
+    QFont titleFont(font());
+    titleFont.setPixelSize(QFontInfo(titleFont).pixelSize());
+    while (titleFont.pixelSize() > smallestTitleFont
+        && QFontMetrics(titleFont).horizontalAdvance(title) > room)
+        titleFont.setPixelSize(titleFont.pixelSize() - 1);
+    plotterLabel->setFont(titleFont);
+    plotterLabel->setText(QFontMetrics(titleFont).elidedText(title, Qt::ElideRight, room));
+    plotterLabel->setToolTip(plotterLabel->text() == title ? QString() : title);
+    plotterLabel->setProperty("title", title);
+}
+
+void Plotter::setLinkedPlotters(const QList<Plotter *> &plotters)
+{
+    linkedPlotters = plotters;
+}
+
+void Plotter::removeLinkedPlotter(const QString &name)
+{
+    if (linkedPlotters.isEmpty())
+        return;
+    int found = 0;
+    for (int i = 0; i < linkedPlotters.size(); ++i) {
+        if (linkedPlotters.at(i)->name() == name)
+            found = i;
+    }
+    linkedPlotters.removeAt(found);
+}
+
+bool Plotter::isSpectrum(int number) const
+{
+    return recording() && number >= recording()->analogChannels.size();
+}
+
+const AnalogChannel *Plotter::channelOf(int number) const
+{
+    const CFGProperties *source = recording();
+    if (!source)
+        return nullptr;
+    const int count = source->analogChannels.size();
+    return source->analogChannels.value(number < count ? number : number - count, nullptr);
+}
+
+double Plotter::factorOf(int number) const
+{
+    const AnalogChannel *channel = channelOf(number);
+    return channel ? valueFactor(*channel, mainWindow->valueMode()) : 1.0;
+}
+
+QColor Plotter::colorOf(int number) const
+{
+    if (chosenColors.contains(number))
+        return chosenColors.value(number);
+    int index = number;
+    if (isSpectrum(number)) {
+        const auto position = std::distance(channelMap.cbegin(), channelMap.constFind(number));
+        index = recording()->analogChannels.size() + static_cast<int>(position);
+    }
+    return channelColors.at(index % channelColors.size());
+}
+
+Plotter::ShownChannel Plotter::shownChannel(int number) const
+{
+    ShownChannel shown;
+    const AnalogChannel *channel = channelOf(number);
+    if (!channel)
+        return shown;
+    const CFGProperties *source = recording();
+    const int row = number % source->analogChannels.size();
+    shown.id = channel->id;
+    shown.unit = source->analogUnits.value(row);
+    shown.phase = source->analogPhases.value(row);
+    shown.circuit = source->analogCircuits.value(row);
+    shown.trace = TraceSummary(isSpectrum(number) ? channel->fftMagnitudes : channel->values);
+    return shown;
+}
+
+void Plotter::addChannel(int number)
+{
+    if (number >= 0 && !channelMap.contains(number))
+        channelMap.insert(number, shownChannel(number));
+}
+
+void Plotter::removeChannel(int number)
+{
+    channelMap.remove(number);
+}
+
+void Plotter::readTimes()
+{
+    const CFGProperties *source = recording();
+    const QVector<double> times = source ? source->sampleTimes : QVector<double>();
+    if (times.constData() != timeAxis.times().constData()
+        || times.size() != timeAxis.times().size())
+        timeAxis = TimeAxis(times);
+}
+
+void Plotter::setHome(double minY, double maxY)
+{
+    homeSettings.minX = timeAxis.smallest();
+    homeSettings.maxX = timeAxis.largest();
+    homeSettings.minY = minY;
+    homeSettings.maxY = maxY;
+    homeSettings.adjust();
+    if (zoomStack.isEmpty()) {
+        zoomStack.append(homeSettings);
+        return;
+    }
+    verticalZoom = defaultVerticalZoom;
+    zoomStack[0].minY = homeSettings.minY;
+    zoomStack[0].maxY = homeSettings.maxY;
+    zoomStack[0].numYTicks = homeSettings.numYTicks;
+}
+
+void Plotter::setupPlot()
+{
+    readTimes();
+    const bool showsAngles = mainWindow && mainWindow->showsAngles();
+    const AnalogChannel *reference = mainWindow && mainWindow->referenceIndex() > 0
+        ? channelOf(mainWindow->referenceIndex() - 1)
+        : nullptr;
+    double minY = 0;
+    double maxY = 0;
+    const auto widen = [&](double value) {
+        if (std::isfinite(value)) {
+            minY = std::min(minY, value);
+            maxY = std::max(maxY, value);
+        }
+    };
+    for (auto it = channelMap.begin(); it != channelMap.end(); ++it) {
+        const AnalogChannel *channel = channelOf(it.key());
+        if (!channel)
+            continue;
+        const double factor = factorOf(it.key());
+        if (!isSpectrum(it.key())) {
+            widen(static_cast<double>(channel->minValue) * factor);
+            widen(static_cast<double>(channel->maxValue) * factor);
+            continue;
+        }
+        widen(static_cast<double>(channel->maxMagnitude) * factor);
+        it->angle = TraceSummary();
+        if (showsAngles) {
+            it->angle = TraceSummary(
+                angleTrace(channel->fftAngles, reference ? &reference->fftAngles : nullptr));
+            widen(reference ? fullTurnRadians : fullTurnDegrees);
+        }
+    }
+    valueExtent = std::max(-minY, maxY);
+    setHome(minY, maxY);
+    placeTitle(20);
+}
+
+PlotSettings Plotter::view() const
+{
+    return zoomStack.isEmpty() ? PlotSettings() : zoomStack.constFirst();
+}
+
+PlotGeometry Plotter::geometryOfView() const
+{
+    return {size(), readoutWidth, view()};
+}
+
+void Plotter::adoptTimeRange(const Plotter &other)
+{
+    if (zoomStack.isEmpty() || other.zoomStack.isEmpty())
+        return;
+    const PlotSettings source = other.view();
+    zoomStack[0].minX = source.minX;
+    zoomStack[0].maxX = source.maxX;
+    zoomStack[0].numXTicks = source.numXTicks;
+    horizontalZoom = sharedHorizontalZoom;
+}
+
+void Plotter::rescaleValues()
+{
+    if (zoomStack.isEmpty())
+        return;
+    const PlotSettings before = view();
+    const double extentBefore = valueExtent;
+    const double zoomBefore = verticalZoom;
+    setupPlot();
+    const double ratio = valueExtent / extentBefore;
+    if (!PlotSettings::isUsable(before.minY * ratio, before.maxY * ratio))
+        return;
+    zoomStack[0].minY = before.minY * ratio;
+    zoomStack[0].maxY = before.maxY * ratio;
+    zoomStack[0].numYTicks = before.numYTicks;
+    verticalZoom = zoomBefore;
+}
+
+void Plotter::resetPlot()
+{
+    customResetZoom();
+    channelMap.clear();
+    zoomStack.clear();
+    homeSettings = PlotSettings();
+    zoomLevel = 0;
+    lastScrollValue = 0;
+    scrollDelta = 0;
+    restX = 0;
+    restY = 0;
+    clearCursors();
+}
+
+void Plotter::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter painter(this);
+    QStyleOption background;
+    background.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_Widget, &background, &painter, this);
+    painter.drawPixmap(0, 0, basePixmap);
+    painter.drawPixmap(0, 0, overlayPixmap);
+    if (rubberBandShown) {
+        painter.setPen(palette().light().color());
+        painter.drawRect(rubberBandRect.normalized().adjusted(0, 0, -1, -1));
+    }
+    if (hasFocus()) {
+        QStyleOptionFocusRect frame;
+        frame.initFrom(this);
+        frame.backgroundColor = palette().dark().color();
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
+    }
+}
+
+void Plotter::resizeEvent(QResizeEvent * /*event*/)
+{
+    refreshPixmap();
+}
+
+void Plotter::showEvent(QShowEvent * /*event*/)
+{
+    refreshPixmap();
+}
+
+void Plotter::hideEvent(QHideEvent * /*event*/)
+{
+    releaseGrab();
+}

@@ -1,0 +1,235 @@
+#pragma once
+
+#include "customlabel.h"
+#include "digitalruns.h"
+#include "mousemovereceiver.h"
+#include "plotgeometry.h"
+#include "timeaxis.h"
+#include "tracesummary.h"
+
+#include <QColor>
+#include <QList>
+#include <QMap>
+#include <QPixmap>
+#include <QVector>
+#include <QWidget>
+
+#include <array>
+
+class AnalogChannel;
+class CFGProperties;
+class PlotHost;
+class QColorDialog;
+class QFrame;
+class QLabel;
+class QLineEdit;
+struct Readout;
+
+// Shows analog channels of a recording as waveforms or spectra against time. A plot paints into two
+// pixmaps, the base layer (grid, traces, readout) and the overlay (cursors); a repaint only copies
+// them. All plots of a window are linked: zooms, cursors and the time line of one are repeated by
+// the others. Channel numbers count from 0; numbers from the count of analog channels on stand for
+// the spectrum of channel (number - count).
+class Plotter : public QWidget, public MouseMoveReceiver {
+    Q_OBJECT
+    Q_INTERFACES(MouseMoveReceiver)
+
+public:
+    static constexpr int maxCursors = 20;
+
+    explicit Plotter(QWidget *parent);
+    ~Plotter() override;
+
+    // The object is used through PlotHost; one that is no host counts as none.
+    void setMainWindow(QObject *window);
+    void setName(const QString &name); // "Analog" shows as "Analog Plotter"
+    QString name() const { return plotName; }
+    // Replaces the text of the title; the name stays.
+    void setTitle(const QString &title);
+
+    // The other plots of the window.
+    void setLinkedPlotters(const QList<Plotter *> &plotters);
+    const QList<Plotter *> &linked() const { return linkedPlotters; }
+    // Removes the last linked plot of that name, and where there is none the first linked plot.
+    void removeLinkedPlotter(const QString &name);
+
+    // Channels are drawn from the next setupPlot() and refreshPixmap() on.
+    void addChannel(int number);
+    void removeChannel(int number);
+    QList<int> channels() const { return channelMap.keys(); }
+
+    // The live view, all zero before setupPlot(), and the full view.
+    PlotSettings view() const;
+    const PlotSettings &home() const { return homeSettings; }
+    PlotGeometry geometryOfView() const;
+    // Takes over the time range of another plot.
+    void adoptTimeRange(const Plotter &other);
+    // Fits the value axis to changed factors so that a trace keeps its place.
+    void rescaleValues();
+    void resetPlot();
+
+    // Cursor times in ms, in the order in which they were set.
+    const QList<double> &cursors() const { return cursorTimes; }
+    void clearCursors();
+
+    virtual void setupPlot();
+    virtual void refreshPixmap();
+    virtual void drawGrid(QPainter *painter);
+    virtual void drawCurves(QPainter *painter);
+    virtual void drawTrigger(QPainter *painter);
+    // Adds a cursor at a pixel of this plot.
+    virtual void addCursor(int x, int y);
+    virtual void applyRubberBand();
+    virtual void drawValueTable(QPainter *painter);
+    void drawTimeLabels(QPainter *painter);
+
+    void receiveMouseMove(QMouseEvent *event) override { mouseMoveEvent(event); }
+
+    QSize sizeHint() const override { return {600, 400}; }
+    QSize minimumSizeHint() const override { return {300, 200}; }
+
+public slots:
+    void zoomIn();
+    void zoomIn2();
+    void zoomOut();
+    void zoomOut2();
+    void scrolling(int r);
+    void customZoomIn();
+    void customZoomOut();
+    void customResetZoom();
+    void customZoomIn2();
+    void customZoomOut2();
+    void labelEditFinished();
+    void labelEditConfirm();
+    virtual void customVZoomIn();
+    virtual void customVZoomOut();
+    virtual void customVZoomIn2();
+    virtual void customVZoomOut2();
+    void refreshSlot();
+    void setStartPoint(double time);
+    void setEndPoint(double time);
+    void clearSaveMarkers();
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+
+    // A shown channel. Analog plots use the traces, digital plots the runs.
+    struct ShownChannel {
+        QString id;
+        QString unit;
+        QString phase;
+        QString circuit;
+        TraceSummary trace; // scaled values, or the magnitudes of a spectrum
+        TraceSummary angle; // of a spectrum whose angle is drawn, else empty
+        DigitalRuns runs;
+    };
+    virtual ShownChannel shownChannel(int number) const;
+
+    CFGProperties *recording() const; // null without a host or a recording
+    void readTimes();
+    void setHome(double minY, double maxY);
+    void placeTitle(int y);
+
+    PlotSettings homeSettings;
+    QString plotType; // "Analog" or "Digital"; the zooms ask whether it contains one of them
+    int digitalFlag = 0;
+    QVector<PlotSettings> zoomStack; // element 0 is the live view; empty before setupPlot()
+    QLabel *plotterLabel;
+    QMap<int, ShownChannel> channelMap;
+    TimeAxis timeAxis;
+    int pressedKey = -1; // the key held down, as far as this plot has seen
+    int readoutWidth = 0; // kept free at the right of the plot area
+
+private:
+    bool isSpectrum(int number) const;
+    const AnalogChannel *channelOf(int number) const;
+    double factorOf(int number) const;
+    QColor colorOf(int number) const;
+    Readout readout() const;
+    void placeChannelLabels();
+    void paintOverlay();
+    void placeMarks();
+
+    // Each gives false and keeps the view where the zoomed range could not be shown.
+    enum class Sharing { Always, UnlessDigital, IfAnalog };
+    bool zoomTime(double factor, Sharing sharing);
+    bool zoomValues(double factor, bool keepsCentre);
+    bool zoomToBand(bool withValues);
+    PlotSettings bandView(const QRect &band, bool withValues) const;
+    void shareView(Sharing sharing);
+    void rangeScrollBar();
+    void scrollView(int dx, int dy);
+    void updateBand();
+    void hideBand();
+
+    void showTimeLine(int x);
+    void insertCursor(double time);
+    void moveCursor(int cursor, double time);
+    void removeCursor(int cursor);
+    void dragCursor(int x);
+    void numberCursors();
+    void releaseGrab();
+    void closeTitleEditor();
+    void takePress(const QPoint &position);
+    void editTitle();
+    void chooseColor(const QLabel *label);
+
+    QString plotName;
+    QLabel *timeLabel;
+    QFrame *timeLine;
+    QLineEdit *labelEditor;
+    QFrame *startMarker;
+    QFrame *endMarker;
+    bool startMarkerSet = false;
+    bool endMarkerSet = false;
+    int startMarkerTime = 0; // ms
+    int endMarkerTime = 0; // ms
+    double timeLineTime = 0; // ms
+    QList<double> cursorTimes;
+    QList<int> cursorPixels; // parallel to cursorTimes
+    QList<QFrame *> cursorLines; // parallel to cursorTimes
+    QList<CustomLabel *> cursorLabels; // parallel to cursorTimes
+    std::array<double, 3> lastCursorPairTimes{}; // both times and their difference, ms
+    double defaultVerticalZoom = 1.0;
+    int cursorCount = 0;
+    QPixmap basePixmap;
+    QPixmap overlayPixmap;
+    PlotHost *mainWindow = nullptr;
+    QWidget *hostWidget; // the pixmaps have its size
+    QList<QLabel *> channelLabels;
+    bool draggingTimeLine = false;
+    CustomLabel *draggedLabel = nullptr;
+    bool skipBaseLayer = false;
+    double horizontalZoom = 1.0; // fraction of the full time span shown
+    double verticalZoom = 1.0; // fraction of the full value range shown
+    double valueExtent = 0; // largest absolute value shown, under the factors of the last set-up
+    QColorDialog *colorDialog;
+    QList<QColor> channelColors;
+    QMap<int, QColor> chosenColors; // by channel number
+    int zoomLevel = 0;
+    bool rubberBandShown = false;
+    QRect rubberBandRect;
+    QPoint linkedPress; // where another plot was pressed last
+    QList<Plotter *> linkedPlotters;
+    int lastScrollValue = 0;
+    int scrollDelta = 0;
+    int restX = 710; // kept with restY for their values; nothing reads them
+    int restY = 138;
+
+    static double sharedHorizontalZoom;
+    static double sharedVerticalZoom;
+    static PlotSettings sharedAnalogSettings;
+};

@@ -1,0 +1,180 @@
+// The two layers of a plot and the labels that stand on it.
+
+#include "plotter.h"
+
+#include "analogchannel.h"
+#include "baselayer.h"
+#include "cfgproperties.h"
+#include "channelvalues.h"
+#include "labeltext.h"
+#include "phasorlookup.h"
+#include "plothost.h"
+#include "readout.h"
+#include "tracepainter.h"
+
+#include <QLabel>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int firstLabelX = 180;
+constexpr int labelGap = 10;
+constexpr int labelY = 20;
+constexpr int labelHeight = 20;
+
+QPixmap clearPixmap(const QWidget &host)
+{
+    const qreal ratio = host.devicePixelRatioF();
+    QPixmap pixmap(host.size() * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    return pixmap;
+}
+
+} // namespace
+
+void Plotter::refreshPixmap()
+{
+    if (!skipBaseLayer) {
+        basePixmap = clearPixmap(*hostWidget);
+        if (!zoomStack.isEmpty() && !basePixmap.isNull()) {
+            placeChannelLabels();
+            QPainter painter(&basePixmap);
+            drawGrid(&painter);
+            drawCurves(&painter);
+            drawTrigger(&painter);
+            drawTimeLabels(&painter);
+            drawValueTable(&painter);
+        }
+    }
+    overlayPixmap = clearPixmap(*hostWidget);
+    if (!overlayPixmap.isNull())
+        paintOverlay();
+    placeMarks();
+    update();
+    if (mainWindow)
+        mainWindow->refreshVectors();
+}
+
+void Plotter::drawGrid(QPainter *painter)
+{
+    const PlotGeometry geometry = geometryOfView();
+    if (!geometry.isDrawable())
+        return;
+    drawTimeGrid(*painter, geometry);
+    drawValueGrid(*painter, geometry, font());
+    drawFrame(*painter, geometry);
+}
+
+void Plotter::drawCurves(QPainter *painter)
+{
+    const PlotGeometry geometry = geometryOfView();
+    if (!geometry.isDrawable())
+        return;
+    painter->setClipRect(geometry.area());
+    TracePainter traces(*painter, geometry, timeAxis);
+    for (auto it = channelMap.cbegin(); it != channelMap.cend(); ++it) {
+        painter->setPen(QPen(colorOf(it.key()), 0));
+        traces.draw(it->trace, factorOf(it.key()));
+        traces.draw(it->angle, 1.0);
+    }
+}
+
+void Plotter::drawTrigger(QPainter *painter)
+{
+    painter->setClipping(false);
+    const PlotGeometry geometry = geometryOfView();
+    if (recording() && geometry.isDrawable())
+        drawTriggerMark(*painter, geometry, font(), recording()->triggerOffsetMs);
+}
+
+void Plotter::drawTimeLabels(QPainter *painter)
+{
+    const PlotGeometry geometry = geometryOfView();
+    if (geometry.isDrawable())
+        ::drawTimeLabels(*painter, geometry, font());
+}
+
+Readout Plotter::readout() const
+{
+    Readout table;
+    if (cursorTimes.isEmpty())
+        return table;
+    Readout::Row header{tr("Parameter")};
+    for (int i = 0; i < cursorTimes.size(); ++i)
+        header.append(QStringLiteral("P%1 (%2)").arg(i + 1).arg(generalText(cursorTimes.at(i))));
+    table.rows.append(header);
+    for (auto it = channelMap.cbegin(); it != channelMap.cend(); ++it) {
+        Readout::Row row{isSpectrum(it.key()) ? it->id + QStringLiteral(" FFT") : it->id};
+        for (const double time : cursorTimes) {
+            const int sample = nearestSample(timeAxis.times(), time);
+            const QVector<float> &values = it->trace.values();
+            row.append(sample < 0 || sample >= values.size()
+                    ? QString()
+                    : generalText(static_cast<double>(values.at(sample)) * factorOf(it.key())));
+        }
+        table.rows.append(row);
+    }
+    return table;
+}
+
+void Plotter::drawValueTable(QPainter *painter)
+{
+    const PlotGeometry geometry = geometryOfView();
+    if (geometry.isDrawable())
+        readout().draw(*painter, geometry, smallFont(font()));
+}
+
+// The labels are reused from one refresh to the next. Where they need more room than there is, each
+// is elided to an equal share.
+void Plotter::placeChannelLabels()
+{
+    if (digitalFlag)
+        return;
+    while (channelLabels.size() > channelMap.size())
+        delete channelLabels.takeLast();
+    while (channelLabels.size() < channelMap.size()) {
+        auto *label = new QLabel(this);
+        label->setObjectName(QStringLiteral("channelLabel"));
+        label->setTextFormat(Qt::PlainText);
+        channelLabels.append(label);
+    }
+    QFont bold(font());
+    bold.setWeight(QFont::Bold);
+    const QFontMetrics metrics(bold);
+    const int count = channelMap.size();
+    QStringList texts;
+    int needed = 0;
+    for (auto it = channelMap.cbegin(); it != channelMap.cend(); ++it) {
+        QString text = it->id + QLatin1Char('(') + it->unit + QLatin1Char(')');
+        if (isSpectrum(it.key()))
+            text += QStringLiteral("_FFT");
+        texts.append(text);
+        needed += metrics.horizontalAdvance(text) + 2 + labelGap;
+    }
+    const int room = width() - firstLabelX;
+    const int share
+        = count == 0 || needed <= room ? room : std::max(labelGap, room / count) - labelGap;
+    int x = firstLabelX;
+    int i = 0;
+    for (auto it = channelMap.cbegin(); it != channelMap.cend(); ++it, ++i) {
+        QLabel *label = channelLabels.at(i);
+        const QString shown = metrics.elidedText(texts.at(i), Qt::ElideRight, share);
+        QPalette colors = label->palette();
+        colors.setColor(label->foregroundRole(), colorOf(it.key()));
+        label->setPalette(colors);
+        label->setFont(bold);
+        label->setText(shown);
+        label->setProperty("channel", it.key());
+        QStringList tip{texts.at(i)};
+        tip << it->phase << it->circuit;
+        tip.removeAll(QString());
+        label->setToolTip(tip.join(QLatin1Char('\n')));
+        const int width = metrics.horizontalAdvance(shown) + 2;
+        label->setGeometry(x, labelY, width, labelHeight);
+        label->show();
+        x += (needed <= room ? width : share) + labelGap;
+    }
+}

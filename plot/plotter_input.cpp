@@ -1,0 +1,266 @@
+// The mouse and the keyboard in a plot.
+
+#include "plotter.h"
+
+#include "plothost.h"
+
+#include <QColorDialog>
+#include <QContextMenuEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+namespace {
+
+constexpr int notch = 120; // of a wheel
+constexpr int catchDistance = 19; // a band begins on an edge up to this far outside it
+
+// Pulls a coordinate that lies a little outside onto the nearer end.
+int caught(int position, int from, int to)
+{
+    if (position < from && position >= from - catchDistance)
+        return from;
+    if (position > to && position <= to + catchDistance)
+        return to;
+    return position;
+}
+
+} // namespace
+
+bool Plotter::event(QEvent *event)
+{
+    if (event->type() == QEvent::WindowDeactivate)
+        releaseGrab();
+    return QWidget::event(event);
+}
+
+void Plotter::releaseGrab()
+{
+    if (QWidget::keyboardGrabber() == this)
+        releaseKeyboard();
+    pressedKey = -1;
+}
+
+void Plotter::mousePressEvent(QMouseEvent *event)
+{
+    auto *label = qobject_cast<CustomLabel *>(childAt(event->pos()));
+    if (label && label->objectName().contains(QLatin1String("lineLabel"))) {
+        draggingTimeLine = true;
+        draggedLabel = label;
+        return;
+    }
+    const QRect area = geometryOfView().area();
+    const QPoint point(caught(event->pos().x(), area.left(), area.right()),
+        caught(event->pos().y(), area.top(), area.bottom()));
+    if (event->button() == Qt::LeftButton && area.contains(point)) {
+        rubberBandRect = QRect(point, point);
+        rubberBandShown = true;
+        updateBand();
+        setCursor(Qt::CrossCursor);
+        return;
+    }
+    for (Plotter *plotter : qAsConst(linkedPlotters))
+        plotter->takePress(event->pos());
+}
+
+void Plotter::takePress(const QPoint &position)
+{
+    linkedPress = position;
+    if (rubberBandShown)
+        hideBand();
+    closeTitleEditor();
+}
+
+void Plotter::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!labelEditor->isVisible() && isActiveWindow())
+        grabKeyboard();
+    const QPoint point = event->pos();
+    if (draggingTimeLine)
+        dragCursor(point.x());
+    if (rubberBandShown) {
+        updateBand();
+        rubberBandRect.setBottomRight(point);
+        updateBand();
+    }
+    showTimeLine(point.x());
+    for (Plotter *plotter : qAsConst(linkedPlotters))
+        plotter->showTimeLine(point.x());
+}
+
+void Plotter::mouseReleaseEvent(QMouseEvent * /*event*/)
+{
+    if (draggingTimeLine) {
+        draggingTimeLine = false;
+        draggedLabel = nullptr;
+        zoomIn();
+        if (mainWindow)
+            mainWindow->refreshVectors();
+        return;
+    }
+    if (!rubberBandShown || !zoomToBand(true))
+        return;
+    for (Plotter *plotter : qAsConst(linkedPlotters)) {
+        plotter->rubberBandRect = rubberBandRect;
+        plotter->applyRubberBand();
+    }
+    rangeScrollBar();
+    refreshPixmap();
+}
+
+void Plotter::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    auto *label = qobject_cast<QLabel *>(childAt(event->pos()));
+    if (label == plotterLabel) {
+        editTitle();
+        return;
+    }
+    if (label && label->objectName() == QLatin1String("channelLabel")) {
+        chooseColor(label);
+        return;
+    }
+    if (qobject_cast<CustomLabel *>(label))
+        return;
+    hideBand();
+    addCursor(event->pos().x(), event->pos().y());
+    if (mainWindow)
+        mainWindow->refreshVectors();
+}
+
+void Plotter::editTitle()
+{
+    releaseGrab();
+    labelEditor->setGeometry(plotterLabel->geometry());
+    labelEditor->setText(plotterLabel->property("title").toString());
+    labelEditor->selectAll();
+    labelEditor->show();
+    labelEditor->raise();
+    labelEditor->setFocus();
+    labelEditor->grabKeyboard();
+}
+
+void Plotter::closeTitleEditor()
+{
+    if (QWidget::keyboardGrabber() == labelEditor)
+        labelEditor->releaseKeyboard();
+    labelEditor->hide();
+}
+
+void Plotter::labelEditFinished()
+{
+    closeTitleEditor();
+}
+
+void Plotter::labelEditConfirm()
+{
+    setTitle(labelEditor->text());
+    closeTitleEditor();
+}
+
+void Plotter::chooseColor(const QLabel *label)
+{
+    const int channel = label->property("channel").toInt();
+    releaseGrab();
+    colorDialog->setCurrentColor(Qt::white);
+    if (colorDialog->exec() != QDialog::Accepted || !colorDialog->selectedColor().isValid())
+        return;
+    chosenColors.insert(channel, colorDialog->selectedColor());
+    refreshPixmap();
+}
+
+void Plotter::wheelEvent(QWheelEvent *event)
+{
+    const QPoint delta = event->angleDelta();
+    const bool isForward = delta.y() > notch - 1;
+    if (pressedKey == Qt::Key_Control) {
+        isForward ? customZoomIn() : customZoomOut();
+    } else if (pressedKey == Qt::Key_Shift) {
+        isForward ? customVZoomIn() : customVZoomOut();
+    } else {
+        const int steps = delta.y() / notch;
+        if (delta.x() == 0)
+            scrollView(PlotSettings::noScroll, steps);
+        else
+            scrollView(steps, PlotSettings::noScroll);
+    }
+    event->accept();
+}
+
+void Plotter::keyPressEvent(QKeyEvent *event)
+{
+    pressedKey = event->key();
+    QScrollBar *bar = mainWindow ? mainWindow->horizontalScrollBar() : nullptr;
+    const auto turnBar = [&](int steps) {
+        if (bar)
+            bar->setValue(bar->value() + steps);
+        refreshPixmap();
+    };
+    const auto scrollAll = [&](int steps) {
+        scrollView(PlotSettings::noScroll, steps);
+        for (Plotter *plotter : qAsConst(linkedPlotters))
+            plotter->scrollView(PlotSettings::noScroll, steps);
+    };
+    switch (event->key()) {
+    case Qt::Key_Plus:
+        customZoomIn();
+        break;
+    case Qt::Key_Minus:
+        customZoomOut();
+        break;
+    case Qt::Key_Left:
+        turnBar(-1);
+        break;
+    case Qt::Key_Right:
+        turnBar(1);
+        break;
+    case Qt::Key_Up:
+        scrollAll(-1);
+        break;
+    case Qt::Key_Down:
+        scrollAll(1);
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void Plotter::keyReleaseEvent(QKeyEvent * /*event*/)
+{
+    pressedKey = -1;
+}
+
+void Plotter::leaveEvent(QEvent * /*event*/)
+{
+    releaseGrab();
+}
+
+void Plotter::contextMenuEvent(QContextMenuEvent *event)
+{
+    auto *label = qobject_cast<CustomLabel *>(childAt(event->pos()));
+    const int cursor = label ? cursorLabels.indexOf(label) : -1;
+    if (cursor < 0) {
+        event->ignore();
+        return;
+    }
+    draggingTimeLine = false;
+    draggedLabel = nullptr;
+    releaseGrab();
+    QMenu menu(this);
+    const QAction *remove = menu.addAction(tr("Remove Cursor"));
+    const QAction *removeAll = menu.addAction(tr("Remove All Cursors"));
+    const QAction *chosen = menu.exec(event->globalPos());
+    if (!chosen)
+        return;
+    QList<Plotter *> plotters = linkedPlotters;
+    plotters.prepend(this);
+    for (Plotter *plotter : qAsConst(plotters)) {
+        if (chosen == removeAll)
+            plotter->clearCursors();
+        else if (chosen == remove)
+            plotter->removeCursor(cursor);
+        plotter->refreshPixmap();
+    }
+}

@@ -1,0 +1,95 @@
+#include "plotterdg.h"
+
+#include "baselayer.h"
+#include "cfgproperties.h"
+
+#include <QLabel>
+#include <QPainter>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int smallestHeight = 200;
+constexpr int smallestRowHeight = 16;
+
+} // namespace
+
+plotterDg::plotterDg(QWidget *parent) : Plotter(parent)
+{
+    plotType = QStringLiteral("Digital");
+    digitalFlag = 1;
+}
+
+void plotterDg::setupPlot()
+{
+    readTimes();
+    setHome(0, 1);
+    placeTitle(30);
+    plotterLabel->setLineWidth(2);
+    plotterLabel->setFrameStyle(QFrame::Box);
+}
+
+Plotter::ShownChannel plotterDg::shownChannel(int number) const
+{
+    ShownChannel shown;
+    const DigitalChannel *channel
+        = recording() ? recording()->digitalChannels.value(number) : nullptr;
+    if (channel) {
+        shown.id = channel->id;
+        shown.runs = DigitalRuns(channel->values);
+    }
+    return shown;
+}
+
+int plotterDg::neededHeight() const
+{
+    return std::max(smallestHeight,
+        PlotGeometry::top + PlotGeometry::bottomMargin
+            + smallestRowHeight * (channelMap.size() + 1));
+}
+
+void plotterDg::drawGrid(QPainter *painter)
+{
+    const PlotGeometry geometry = geometryOfView();
+    if (!geometry.isDrawable())
+        return;
+    drawTimeGrid(*painter, geometry);
+    drawFrame(*painter, geometry);
+    int row = 0;
+    for (const ShownChannel &shown : qAsConst(channelMap))
+        drawRowLabel(*painter, font(), shown.id, geometry.rowY(row++, channelMap.size()));
+}
+
+void plotterDg::drawCurves(QPainter *painter)
+{
+    const PlotGeometry geometry = geometryOfView();
+    if (!geometry.isDrawable())
+        return;
+    painter->setClipRect(geometry.area());
+    int row = 0;
+    for (const ShownChannel &shown : qAsConst(channelMap))
+        drawDigitalRow(
+            *painter, geometry, timeAxis, shown.runs, geometry.rowY(row++, channelMap.size()));
+}
+
+void plotterDg::drawValueTable(QPainter * /*painter*/) { }
+
+void plotterDg::customVZoomIn2() { }
+
+void plotterDg::customVZoomOut2() { }
+
+void plotterDg::mouseReleaseEvent(QMouseEvent *event)
+{
+    Plotter::mouseReleaseEvent(event);
+}
+
+void plotterDg::wheelEvent(QWheelEvent *event)
+{
+    if (pressedKey == Qt::Key_Control) {
+        Plotter::wheelEvent(event);
+        return;
+    }
+    event->accept();
+}

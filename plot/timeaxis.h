@@ -1,0 +1,42 @@
+#pragma once
+
+#include "plotgeometry.h"
+
+#include <QVector>
+
+// The sample times of a recording (ms), prepared for drawing: whether they ascend, their extremes,
+// and which samples fall on which pixel column of a view.
+class TimeAxis {
+public:
+    // The samples first to last - 1 stand on pixel column x.
+    struct Column {
+        int x;
+        int first;
+        int last;
+    };
+
+    TimeAxis() = default;
+    explicit TimeAxis(const QVector<double> &times);
+
+    const QVector<double> &times() const { return m_times; }
+    // True when no time is smaller than the one before it. Only then may the searches be used.
+    bool isAscending() const { return m_ascending; }
+    // The smallest and largest finite time, 0 and 0 where there is none.
+    double smallest() const { return m_smallest; }
+    double largest() const { return m_largest; }
+
+    // The first sample at or after a time; the sample count where there is none.
+    int firstAtOrAfter(double time) const;
+
+    // The columns of the samples from the left edge of the view on, and as the last one the first
+    // sample right of the plot area, where the line leaves it.
+    QVector<Column> columns(const PlotGeometry &geometry) const;
+
+private:
+    int columnEnd(const PlotGeometry &geometry, int x, int first, int expected) const;
+
+    QVector<double> m_times;
+    bool m_ascending = true;
+    double m_smallest = 0;
+    double m_largest = 0;
+};

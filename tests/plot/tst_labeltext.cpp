@@ -1,0 +1,65 @@
+#include "labeltext.h"
+
+#include <QFont>
+#include <QFontMetrics>
+#include <QtTest>
+
+class tst_LabelText : public QObject {
+    Q_OBJECT
+
+private slots:
+    void generalText_data();
+    void generalText();
+    void valueAxisText_data();
+    void valueAxisText();
+    void valuesThatDoNotFitAreWrittenShort();
+};
+
+void tst_LabelText::generalText_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("whole") << 100.0 << "100";
+    QTest::newRow("six digits") << 1234.5678 << "1234.57";
+    QTest::newRow("a million") << 1000000.0 << "1e+06";
+    QTest::newRow("negative") << -77.5 << "-77.5";
+}
+
+void tst_LabelText::generalText()
+{
+    QFETCH(double, value);
+    QTEST(::generalText(value), "text");
+}
+
+void tst_LabelText::valueAxisText_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("one") << 1.0 << "1";
+    QTest::newRow("zero") << 0.0 << "0";
+    QTest::newRow("negative zero") << -0.0 << "0";
+    QTest::newRow("rounds to zero from below") << -0.0000001 << "0";
+    QTest::newRow("two and a half") << 2.5 << "2.5";
+    QTest::newRow("three") << 3.0 << "3";
+    QTest::newRow("ten keeps its zero") << 10.0 << "10";
+    QTest::newRow("a hundred thousand") << 100000.0 << "100000";
+    QTest::newRow("six decimals") << 0.1234567 << "0.123457";
+    QTest::newRow("inner zeros stay") << 1.0203 << "1.0203";
+    QTest::newRow("negative") << -0.05 << "-0.05";
+}
+
+void tst_LabelText::valueAxisText()
+{
+    QFETCH(double, value);
+    QTEST(::valueAxisText(value), "text");
+}
+
+void tst_LabelText::valuesThatDoNotFitAreWrittenShort()
+{
+    const QFontMetrics metrics{QFont()};
+    QCOMPARE(fittingValueText(1e15, metrics, 10000), QStringLiteral("1000000000000000"));
+    QCOMPARE(fittingValueText(1e15, metrics, 60), QStringLiteral("1e+15"));
+}
+
+QTEST_MAIN(tst_LabelText)
+#include "tst_labeltext.moc"

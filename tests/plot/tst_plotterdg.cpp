@@ -1,0 +1,200 @@
+#include "fakeplothost.h"
+#include "plotterdg.h"
+
+#include <QLabel>
+#include <QtTest>
+
+#include <memory>
+
+// A plot of 800 x 261 with three rows over 1000 ms: base lines at y = 100, 140 and 180.
+class tst_plotterDg : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void construction();
+    void setupPlot();
+    void rowsShowTheStates();
+    void aChannelThatNeverChangesIsOneStretch();
+    void denseChangesAreDrawnAsOne();
+    void triggerAndGrid();
+    void verticalZoomWithoutPropagationDoesNothing();
+    void neverKeepsRoomForAReadout();
+    void wheel_data();
+    void wheel();
+    void neededHeightGrowsWithTheRows();
+
+private:
+    QRgb pixel(double time, int y) const
+    {
+        return plot->grab().toImage().pixel(100 + qRound(time * 700 / 1000), y);
+    }
+
+    std::unique_ptr<FakePlotHost> host;
+    std::unique_ptr<QWidget> area;
+    plotterDg *plot = nullptr;
+};
+
+namespace {
+
+const QRgb line = qRgb(20, 150, 20);
+const QRgb band = qRgb(240, 255, 240);
+const QRgb background = qRgb(0x31, 0x30, 0x34);
+
+} // namespace
+
+void tst_plotterDg::init()
+{
+    host = std::make_unique<FakePlotHost>();
+    QVector<double> times(1001);
+    QVector<int> pickUp(1001, 0);
+    QVector<int> dense(1001, 0);
+    for (int i = 0; i < times.size(); ++i) {
+        times[i] = i;
+        pickUp[i] = i >= 200 && i < 400 ? 1 : 0;
+        dense[i] = i >= 600 && i < 700 ? i % 2 : 0;
+    }
+    host->setTimes(times);
+    host->source->durationMs = 1000;
+    host->source->triggerOffsetMs = 500;
+    host->addDigital(QStringLiteral("Pick-up"), pickUp);
+    host->addDigital(QStringLiteral("Closed"), QVector<int>(1001, 1));
+    host->addDigital(QStringLiteral("Dense"), dense);
+
+    area = std::make_unique<QWidget>();
+    area->resize(800, 261);
+    plot = new plotterDg(area.get());
+    plot->setMainWindow(host.get());
+    plot->setName(QStringLiteral("Digital"));
+    plot->resize(800, 261);
+    for (int i = 0; i < 3; ++i)
+        plot->addChannel(i);
+    plot->setupPlot();
+    area->show();
+    QVERIFY(QTest::qWaitForWindowExposed(area.get()));
+}
+
+void tst_plotterDg::cleanup()
+{
+    area.reset();
+    host.reset();
+}
+
+void tst_plotterDg::construction()
+{
+    QCOMPARE(plot->objectName(), QStringLiteral("Plotter"));
+    QVERIFY(plot->styleSheet().startsWith(QStringLiteral("Plotter{background-color: #313034;")));
+}
+
+void tst_plotterDg::setupPlot()
+{
+    const auto *title = plot->findChild<QLabel *>(QStringLiteral("Plotter Label"));
+    QCOMPARE(title->text(), QStringLiteral("Digital Plotter"));
+    QCOMPARE(title->geometry(), QRect(70, 30, 100, 20));
+    QCOMPARE(title->lineWidth(), 2);
+    QCOMPARE(title->frameStyle(), int(QFrame::Box));
+    QVERIFY(title->isVisible());
+    QCOMPARE(plot->view().minX, 0.0);
+    QCOMPARE(plot->view().maxX, 1000.0);
+    QCOMPARE(plot->view().numXTicks, 10.0);
+}
+
+void tst_plotterDg::rowsShowTheStates()
+{
+    QCOMPARE(pixel(150, 100), line);
+    QCOMPARE(pixel(150, 97), background);
+    QCOMPARE(pixel(350, 100), band);
+    QCOMPARE(pixel(350, 96), band);
+    QCOMPARE(pixel(350, 104), band);
+    QCOMPARE(pixel(350, 95), line); // the edge of the band
+    QCOMPARE(pixel(350, 105), line);
+    QCOMPARE(pixel(350, 94), background);
+    QCOMPARE(pixel(350, 106), background);
+    QCOMPARE(pixel(200, 98), line); // its left edge
+    QCOMPARE(pixel(450, 100), line);
+    QCOMPARE(pixel(450, 98), background);
+}
+
+void tst_plotterDg::aChannelThatNeverChangesIsOneStretch()
+{
+    for (const int time : {50, 350, 650, 980})
+        QCOMPARE(pixel(time, 140), band);
+}
+
+void tst_plotterDg::denseChangesAreDrawnAsOne()
+{
+    QCOMPARE(pixel(550, 180), line);
+    QCOMPARE(pixel(550, 177), background);
+    for (int time = 602; time < 698; time += 3)
+        QVERIFY(pixel(time, 177) != background);
+    QCOMPARE(pixel(750, 177), background);
+    QCOMPARE(pixel(750, 180), line);
+}
+
+void tst_plotterDg::triggerAndGrid()
+{
+    const QImage image = plot->grab().toImage();
+    QCOMPARE(image.pixel(170, 70), qRgb(150, 150, 150)); // 100 ms
+    QCOMPARE(image.pixel(135, 60), qRgb(255, 255, 255)); // frame
+    int white = 0;
+    for (int y = 61; y < 220; ++y)
+        white += image.pixel(450, y) == qRgb(255, 255, 255);
+    QVERIFY(white > 40 && white < 159); // dashed, at 500 ms
+}
+
+void tst_plotterDg::verticalZoomWithoutPropagationDoesNothing()
+{
+    const double maxY = plot->view().maxY;
+    plot->customVZoomIn2();
+    QCOMPARE(plot->view().maxY, maxY);
+    plot->customVZoomOut2();
+    QCOMPARE(plot->view().maxY, maxY);
+}
+
+void tst_plotterDg::neverKeepsRoomForAReadout()
+{
+    for (int i = 0; i < 5; ++i)
+        plot->addCursor(200 + 50 * i, 100);
+    QCOMPARE(plot->cursors().size(), 5);
+    QCOMPARE(plot->geometryOfView().readoutWidth(), 0);
+}
+
+void tst_plotterDg::wheel_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("delta");
+    QTest::addColumn<double>("maxX");
+    QTest::newRow("forward with Ctrl zooms in") << int(Qt::Key_Control) << 120 << 500.0;
+    QTest::newRow("119 with Ctrl zooms out") << int(Qt::Key_Control) << 119 << 2100.0;
+    QTest::newRow("with Shift does nothing") << int(Qt::Key_Shift) << 120 << 1000.0;
+    QTest::newRow("without a key does nothing") << 0 << 120 << 1000.0;
+}
+
+void tst_plotterDg::wheel()
+{
+    QFETCH(int, key);
+    QFETCH(int, delta);
+    const double maxY = plot->view().maxY;
+    if (key)
+        QTest::keyPress(plot, Qt::Key(key));
+    QWheelEvent event({300, 150}, plot->mapToGlobal(QPoint(300, 150)), {}, {0, delta}, Qt::NoButton,
+        Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(plot, &event);
+    QTEST(plot->view().maxX, "maxX");
+    QCOMPARE(plot->view().maxY, maxY);
+}
+
+void tst_plotterDg::neededHeightGrowsWithTheRows()
+{
+    QCOMPARE(plot->neededHeight(), 200);
+    for (int i = 3; i < 40; ++i) {
+        host->addDigital(QStringLiteral("D%1").arg(i), QVector<int>(1001, 1));
+        plot->addChannel(i);
+    }
+    QCOMPARE(plot->neededHeight(), 60 + 41 + 41 * 16);
+}
+
+QTEST_MAIN(tst_plotterDg)
+#include "tst_plotterdg.moc"

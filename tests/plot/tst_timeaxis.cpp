@@ -1,0 +1,168 @@
+#include "timeaxis.h"
+#include "tracesummary.h"
+
+#include <QtTest>
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+namespace {
+
+constexpr double infinite = std::numeric_limits<double>::infinity();
+constexpr double noNumber = std::numeric_limits<double>::quiet_NaN();
+
+} // namespace
+
+class tst_TimeAxis : public QObject {
+    Q_OBJECT
+
+private slots:
+    void facts_data();
+    void facts();
+    void firstAtOrAfter();
+    void columnsHoldEverySampleOnce_data();
+    void columnsHoldEverySampleOnce();
+    void columnsEndRightOfTheArea();
+    void extentOfAnyRun_data();
+    void extentOfAnyRun();
+    void extentTellsOfGaps();
+};
+
+void tst_TimeAxis::facts_data()
+{
+    QTest::addColumn<QVector<double>>("times");
+    QTest::addColumn<bool>("ascending");
+    QTest::addColumn<double>("smallest");
+    QTest::addColumn<double>("largest");
+    using Times = QVector<double>;
+    QTest::newRow("none") << Times{} << true << 0.0 << 0.0;
+    QTest::newRow("one") << Times{5} << true << 5.0 << 5.0;
+    QTest::newRow("ascending") << Times{-1, 0, 3} << true << -1.0 << 3.0;
+    QTest::newRow("equal neighbours") << Times{0, 1, 1, 2} << true << 0.0 << 2.0;
+    QTest::newRow("runs back") << Times{0, 5, 2, 7} << false << 0.0 << 7.0;
+    QTest::newRow("a gap") << Times{0, noNumber, 2} << false << 0.0 << 2.0;
+    QTest::newRow("infinite at the end") << Times{0, 1, infinite} << true << 0.0 << 1.0;
+    QTest::newRow("nothing finite") << Times{infinite} << true << 0.0 << 0.0;
+}
+
+void tst_TimeAxis::facts()
+{
+    QFETCH(QVector<double>, times);
+    const TimeAxis axis(times);
+    QTEST(axis.isAscending(), "ascending");
+    QTEST(axis.smallest(), "smallest");
+    QTEST(axis.largest(), "largest");
+    QCOMPARE(axis.times().constData(), times.constData());
+}
+
+void tst_TimeAxis::firstAtOrAfter()
+{
+    const TimeAxis axis({0, 1, 1, 2});
+    QCOMPARE(axis.firstAtOrAfter(-1), 0);
+    QCOMPARE(axis.firstAtOrAfter(1), 1);
+    QCOMPARE(axis.firstAtOrAfter(1.5), 3);
+    QCOMPARE(axis.firstAtOrAfter(3), 4);
+}
+
+void tst_TimeAxis::columnsHoldEverySampleOnce_data()
+{
+    QTest::addColumn<QVector<double>>("times");
+    const auto steady = [](int count) {
+        QVector<double> times;
+        for (int i = 0; i < count; ++i)
+            times.append(1000.0 * i / count);
+        return times;
+    };
+    QTest::newRow("fewer samples than columns") << steady(50);
+    QTest::newRow("many samples") << steady(100000);
+    QTest::newRow("all at one time") << QVector<double>(1000, 500.0);
+
+    std::mt19937 random(1);
+    QVector<double> bursts;
+    double time = 0;
+    for (int i = 0; i < 20000; ++i) {
+        time += random() % 100 == 0 ? 20 : 0.001 * double(random() % 10);
+        bursts.append(time);
+    }
+    QTest::newRow("bursts with gaps") << bursts;
+}
+
+void tst_TimeAxis::columnsHoldEverySampleOnce()
+{
+    QFETCH(QVector<double>, times);
+    const TimeAxis axis(times);
+    const PlotGeometry geometry(QSize(900, 300), 0, {0, times.constLast() + 1, 4, 0, 1, 4});
+    int next = 0;
+    int lastX = -1;
+    for (const TimeAxis::Column &column : axis.columns(geometry)) {
+        QCOMPARE(column.first, next);
+        QVERIFY(column.last > column.first);
+        QVERIFY(column.x > lastX);
+        for (int i = column.first; i < column.last; ++i) {
+            const double x = 100 + times[i] * 800 / (times.constLast() + 1);
+            QCOMPARE(int(std::lround(x)), column.x);
+        }
+        lastX = column.x;
+        next = column.last;
+        if (column.x > geometry.area().right())
+            return;
+    }
+    QCOMPARE(next, times.size());
+}
+
+void tst_TimeAxis::columnsEndRightOfTheArea()
+{
+    const TimeAxis axis({0, 10, 20, 30, 40});
+    const PlotGeometry geometry(QSize(900, 300), 0, {10, 20, 4, 0, 1, 4});
+    const QVector<TimeAxis::Column> columns = axis.columns(geometry);
+    QCOMPARE(columns.size(), 2);
+    QCOMPARE(columns[0].x, 100);
+    QCOMPARE(columns[0].first, 1);
+    QCOMPARE(columns[1].x, 900);
+    QCOMPARE(columns[1].first, 2);
+    QCOMPARE(columns[1].last, 3);
+}
+
+void tst_TimeAxis::extentOfAnyRun_data()
+{
+    QTest::addColumn<int>("count");
+    for (const int count : {1, 15, 16, 17, 255, 256, 257, 5000})
+        QTest::addRow("%d samples", count) << count;
+}
+
+void tst_TimeAxis::extentOfAnyRun()
+{
+    QFETCH(int, count);
+    std::mt19937 random(7);
+    QVector<float> values;
+    for (int i = 0; i < count; ++i)
+        values.append(float(int(random() % 2001) - 1000));
+    const TraceSummary summary(values);
+    for (int round = 0; round < 2000; ++round) {
+        const int first = int(random() % unsigned(count));
+        const int last = first + 1 + int(random() % unsigned(count - first));
+        const TraceExtent extent = summary.extent(first, last);
+        QCOMPARE(extent.min, *std::min_element(values.cbegin() + first, values.cbegin() + last));
+        QCOMPARE(extent.max, *std::max_element(values.cbegin() + first, values.cbegin() + last));
+        QVERIFY(!extent.broken);
+    }
+}
+
+void tst_TimeAxis::extentTellsOfGaps()
+{
+    QVector<float> values(1000, 2.0F);
+    values[500] = std::numeric_limits<float>::quiet_NaN();
+    values[700] = std::numeric_limits<float>::infinity();
+    const TraceSummary summary(values);
+    QVERIFY(!summary.extent(0, 500).broken);
+    QVERIFY(summary.extent(0, 501).broken);
+    QVERIFY(!summary.extent(501, 700).broken);
+    QVERIFY(summary.extent(501, 1000).broken);
+    QCOMPARE(summary.extent(0, 1000).max, 2.0F);
+    QVERIFY(summary.extent(500, 501).isEmpty());
+    QVERIFY(summary.extent(3, 3).isEmpty());
+}
+
+QTEST_APPLESS_MAIN(tst_TimeAxis)
+#include "tst_timeaxis.moc"

@@ -1,0 +1,239 @@
+#include "tracepainter.h"
+
+#include <QDir>
+#include <QImage>
+#include <QPainter>
+#include <QtTest>
+
+#include <cmath>
+#include <functional>
+#include <limits>
+#include <random>
+
+using Generator = std::function<float(int)>;
+Q_DECLARE_METATYPE(Generator)
+
+namespace {
+
+constexpr float noNumber = std::numeric_limits<float>::quiet_NaN();
+constexpr float infinite = std::numeric_limits<float>::infinity();
+const QSize size(900, 300);
+
+QVector<double> steadyTimes(int count)
+{
+    QVector<double> times(count);
+    for (int i = 0; i < count; ++i)
+        times[i] = 1000.0 * i / count;
+    return times;
+}
+
+QImage paint(const std::function<void(QPainter &)> &draw)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setPen(QPen(Qt::green, 0));
+    draw(painter);
+    return image;
+}
+
+QImage traceImage(const PlotGeometry &geometry, const QVector<double> &times,
+    const QVector<float> &values, double factor, bool thinned)
+{
+    return paint([&](QPainter &painter) {
+        painter.setClipRect(geometry.area());
+        const TimeAxis axis(times);
+        TracePainter traces(painter, geometry, axis);
+        if (thinned)
+            traces.draw(TraceSummary(values), factor);
+        else
+            traces.drawAll(values, factor);
+    });
+}
+
+int differentPixels(const QImage &a, const QImage &b)
+{
+    int different = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x)
+            different += a.pixel(x, y) != b.pixel(x, y);
+    }
+    return different;
+}
+
+int litPixels(const QImage &image)
+{
+    QImage empty(image.size(), image.format());
+    empty.fill(Qt::transparent);
+    return differentPixels(image, empty);
+}
+
+void compare(const QImage &thinned, const QImage &full)
+{
+    const int different = differentPixels(thinned, full);
+    if (different > 5) {
+        const QString stem = QStringLiteral(TEST_OUTPUT_DIR "/trace-")
+            + QString::fromLatin1(QTest::currentDataTag())
+                  .replace(QLatin1Char(' '), QLatin1Char('-'));
+        thinned.save(stem + QStringLiteral("-thinned.png"));
+        full.save(stem + QStringLiteral("-full.png"));
+    }
+    QVERIFY2(different <= 0, qPrintable(QStringLiteral("%1 pixels differ").arg(different)));
+}
+
+} // namespace
+
+class tst_TracePainter : public QObject {
+    Q_OBJECT
+
+private slots:
+    void thinnedPictureEqualsFull_data();
+    void thinnedPictureEqualsFull();
+    void descendingTimesAreNotThinned();
+    void samplesLeftOfTheViewAreSkipped();
+    void theLineLeavesTheAreaOnTheRight();
+    void valuesAreMultipliedByTheFactor();
+    void anInfiniteFactorDrawsNothing();
+    void gapsBreakTheLine();
+    void aSampleBetweenGapsIsAPoint();
+    void noSamplesDrawNothing();
+};
+
+void tst_TracePainter::thinnedPictureEqualsFull_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<Generator>("value");
+    QTest::addColumn<QVector<double>>("view"); // times and values of the edges
+    QTest::addColumn<double>("factor");
+
+    const QVector<double> whole{0, 1000, -1.2, 1.2};
+    const auto random = std::make_shared<std::mt19937>(3);
+    const Generator noise = [random](int) { return float((*random)() % 20001) / 10000 - 1; };
+    const Generator sine = [](int i) { return float(std::sin(i * 0.01)); };
+    const Generator flat = [](int) { return 0.25F; };
+    const Generator spiky
+        = [random](int) { return (*random)() % 5000 == 0 ? float((*random)() % 3) - 1 : 0.0F; };
+    const Generator walk = [random, level = std::make_shared<float>(0.0F)](int) {
+        *level += float(int((*random)() % 2001) - 1000) / 500000;
+        return *level;
+    };
+    const Generator gaps = [random](int i) {
+        if ((*random)() % 300 == 0)
+            return (*random)() % 2 ? noNumber : infinite;
+        return float(std::sin(i * 0.003));
+    };
+    const Generator onlyGaps = [](int) { return noNumber; };
+    const Generator halfGaps = [random](int) { return (*random)() % 2 ? noNumber : 0.5F; };
+
+    QTest::newRow("noise") << 100000 << noise << whole << 1.0;
+    QTest::newRow("noise, just many enough to be thinned") << 1700 << noise << whole << 1.0;
+    QTest::newRow("noise, a part of the time")
+        << 200000 << noise << QVector<double>{300, 333, -1.2, 1.2} << 1.0;
+    QTest::newRow("noise, a part of the values")
+        << 100000 << noise << QVector<double>{0, 1000, 0.2, 0.4} << 1.0;
+    QTest::newRow("noise, far beyond the values")
+        << 50000 << noise << QVector<double>{0, 1000, 0, 1e-9} << 1.0;
+    QTest::newRow("noise, negative factor") << 100000 << noise << whole << -0.7;
+    QTest::newRow("sine") << 100000 << sine << whole << 1.0;
+    QTest::newRow("slow sine") << 5000 << sine << whole << 1.0;
+    QTest::newRow("spikes") << 100000 << spiky << whole << 1.0;
+    QTest::newRow("flat") << 100000 << flat << whole << 1.0;
+    QTest::newRow("random walk") << 100000 << walk << whole << 1.0;
+    QTest::newRow("gaps") << 50000 << gaps << whole << 1.0;
+    QTest::newRow("nothing but gaps") << 50000 << onlyGaps << whole << 1.0;
+    QTest::newRow("every other sample a gap") << 20000 << halfGaps << whole << 1.0;
+    QTest::newRow("two samples") << 2 << sine << whole << 1.0;
+    QTest::newRow("one sample") << 1 << flat << whole << 1.0;
+}
+
+void tst_TracePainter::thinnedPictureEqualsFull()
+{
+    QFETCH(int, count);
+    QFETCH(Generator, value);
+    QFETCH(QVector<double>, view);
+    QFETCH(double, factor);
+    QVector<float> values(count);
+    for (int i = 0; i < count; ++i)
+        values[i] = value(i);
+    const PlotGeometry geometry(size, 0, {view[0], view[1], 4, view[2], view[3], 4});
+    const QVector<double> times = steadyTimes(count);
+    compare(traceImage(geometry, times, values, factor, true),
+        traceImage(geometry, times, values, factor, false));
+}
+
+void tst_TracePainter::descendingTimesAreNotThinned()
+{
+    QVector<double> times = steadyTimes(5000);
+    std::reverse(times.begin(), times.end());
+    QVector<float> values(5000);
+    for (int i = 0; i < values.size(); ++i)
+        values[i] = float(std::sin(i * 0.02));
+    const PlotGeometry geometry(size, 0, {0, 1000, 4, -1.2, 1.2, 4});
+    const QImage thinned = traceImage(geometry, times, values, 1, true);
+    QCOMPARE(differentPixels(thinned, traceImage(geometry, times, values, 1, false)), 0);
+    QVERIFY(litPixels(thinned) > 800);
+}
+
+// Value 0 stands at y = 159.5, drawn on row 160. With samples at x = 100, 500 and 900 and the view
+// begun after the first, the line begins at the second.
+void tst_TracePainter::samplesLeftOfTheViewAreSkipped()
+{
+    const PlotGeometry geometry(size, 0, {1, 1001, 4, -1, 1, 4});
+    const QImage image = traceImage(geometry, {0, 501, 900}, {0, 0, 0}, 1, true);
+    QCOMPARE(qAlpha(image.pixel(499, 160)), 0);
+    QCOMPARE(image.pixel(500, 160), QColor(Qt::green).rgba());
+    QCOMPARE(image.pixel(700, 160), QColor(Qt::green).rgba());
+}
+
+void tst_TracePainter::theLineLeavesTheAreaOnTheRight()
+{
+    const PlotGeometry geometry(size, 0, {0, 100, 4, -1, 1, 4});
+    QVector<double> times = steadyTimes(5000); // 0.2 ms apart
+    const QImage thinned = traceImage(geometry, times, QVector<float>(5000, 0.0F), 1, true);
+    QCOMPARE(thinned.pixel(897, 160), QColor(Qt::green).rgba());
+    QCOMPARE(qAlpha(thinned.pixel(898, 160)), 0); // clipped at the frame
+}
+
+void tst_TracePainter::valuesAreMultipliedByTheFactor()
+{
+    const PlotGeometry geometry(QSize(900, 301), 0, {0, 1000, 4, -100, 100, 4});
+    const QImage image = traceImage(geometry, {0, 1000}, {1, 1}, 50, true);
+    QCOMPARE(image.pixel(400, 110), QColor(Qt::green).rgba()); // value 50, a quarter down
+}
+
+void tst_TracePainter::anInfiniteFactorDrawsNothing()
+{
+    const PlotGeometry geometry(size, 0, {0, 1000, 4, -1, 1, 4});
+    QCOMPARE(litPixels(traceImage(
+                 geometry, {0, 1000}, {0, 1}, std::numeric_limits<double>::infinity(), true)),
+        0);
+}
+
+void tst_TracePainter::gapsBreakTheLine()
+{
+    const PlotGeometry geometry(size, 0, {0, 800, 4, -1, 1, 4});
+    const QImage image
+        = traceImage(geometry, {0, 100, 200, 300, 400}, {0, 0, noNumber, 0, 0}, 1, true);
+    QCOMPARE(image.pixel(150, 160), QColor(Qt::green).rgba());
+    QCOMPARE(qAlpha(image.pixel(250, 160)), 0);
+    QCOMPARE(qAlpha(image.pixel(350, 160)), 0);
+    QCOMPARE(image.pixel(450, 160), QColor(Qt::green).rgba());
+}
+
+void tst_TracePainter::aSampleBetweenGapsIsAPoint()
+{
+    const PlotGeometry geometry(size, 0, {0, 800, 4, -1, 1, 4});
+    const QImage image = traceImage(geometry, {0, 100, 200}, {noNumber, 0, noNumber}, 1, true);
+    QCOMPARE(litPixels(image), 1);
+    QCOMPARE(image.pixel(200, 160), QColor(Qt::green).rgba());
+}
+
+void tst_TracePainter::noSamplesDrawNothing()
+{
+    const PlotGeometry geometry(size, 0, {0, 800, 4, -1, 1, 4});
+    QCOMPARE(litPixels(traceImage(geometry, {}, {}, 1, true)), 0);
+    QCOMPARE(litPixels(traceImage(geometry, {0, 1}, {}, 1, true)), 0);
+}
+
+QTEST_MAIN(tst_TracePainter)
+#include "tst_tracepainter.moc"
