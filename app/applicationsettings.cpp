@@ -1,0 +1,58 @@
+#include "applicationsettings.h"
+
+#include "applicationidentity.h"
+#include "brand.h"
+
+#include <QCoreApplication>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTranslator>
+
+WindowPlace readWindowPlace()
+{
+    const QSettings settings(
+        ApplicationIdentity::organisationName(), ApplicationIdentity::applicationName());
+    WindowPlace place;
+    place.position = settings.value(QStringLiteral("pos"), place.position).toPoint();
+    place.size = settings.value(QStringLiteral("size"), place.size).toSize();
+    place.maximized = settings.value(QStringLiteral("maximized"), place.maximized).toBool();
+    return place;
+}
+
+void writeSettings(const WindowPlace &place, const QString &language)
+{
+    QSettings settings(
+        ApplicationIdentity::organisationName(), ApplicationIdentity::applicationName());
+    settings.setValue(QStringLiteral("pos"), place.position);
+    settings.setValue(QStringLiteral("size"), place.size);
+    settings.setValue(QStringLiteral("maximized"), place.maximized);
+    settings.setValue(QStringLiteral("language"), language);
+}
+
+QString companionRecordingsFolder()
+{
+    QSettings settings(ApplicationIdentity::organisationName(),
+        brandDetails(ApplicationIdentity::brand()).companionTool);
+    settings.beginGroup(QStringLiteral("SettingsDialog"));
+    return settings.value(QStringLiteral("DRFilesPath")).toString();
+}
+
+QStringList translationFolders()
+{
+    QStringList folders{
+        QString(), QCoreApplication::applicationDirPath() + QLatin1String("/translations")};
+    const QStringList dataFolders = QStandardPaths::locateAll(QStandardPaths::AppDataLocation,
+        QStringLiteral("translations"), QStandardPaths::LocateDirectory);
+    folders += dataFolders;
+    folders += QStringLiteral(":/translations");
+    return folders;
+}
+
+void loadTranslation(QTranslator &translator, const QString &name)
+{
+    // A failed load empties the translator, so the last one leaves it empty where all fail.
+    for (const QString &folder : translationFolders()) {
+        if (translator.load(name, folder))
+            return;
+    }
+}

@@ -1,0 +1,157 @@
+#include "applicationidentity.h"
+#include "applicationsettings.h"
+#include "windowtest.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTranslator>
+
+namespace {
+
+// A translation file that translates nothing: the bytes that every one begins with.
+const QByteArray emptyTranslation = QByteArray::fromHex("3cb86418caef9c95cd211cbf60a1bddd");
+
+void writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    QVERIFY2(file.open(QIODevice::WriteOnly), qPrintable(path));
+    file.write(bytes);
+}
+
+} // namespace
+
+class TestApplicationSettings : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { startAsMaker(); }
+
+    void placeWithoutSettings()
+    {
+        const WindowPlace place = readWindowPlace();
+        QCOMPARE(place.position, QPoint(300, 300));
+        QCOMPARE(place.size, QSize(400, 400));
+        QCOMPARE(place.maximized, false);
+    }
+
+    void placeIsKept()
+    {
+        writeSettings({{12, 34}, {1200, 800}, true}, QStringLiteral("drv_fi"));
+        const WindowPlace place = readWindowPlace();
+        QCOMPARE(place.position, QPoint(12, 34));
+        QCOMPARE(place.size, QSize(1200, 800));
+        QCOMPARE(place.maximized, true);
+    }
+
+    void keysInTheOwnSettings()
+    {
+        writeSettings({{12, 34}, {1200, 800}, true}, QStringLiteral("drv_fi"));
+        QSettings settings(QStringLiteral("Norvale"), QStringLiteral("Wavorin"));
+        QCOMPARE(settings.allKeys(),
+            QStringList({QStringLiteral("language"), QStringLiteral("maximized"),
+                QStringLiteral("pos"), QStringLiteral("size")}));
+        QCOMPARE(settings.value(QStringLiteral("pos")), QVariant(QPoint(12, 34)));
+        QCOMPARE(settings.value(QStringLiteral("size")), QVariant(QSize(1200, 800)));
+        QCOMPARE(settings.value(QStringLiteral("maximized")).toBool(), true);
+        QCOMPARE(settings.value(QStringLiteral("language")).toString(), QStringLiteral("drv_fi"));
+    }
+
+    void valuesOfAnotherTypeConvert()
+    {
+        QSettings settings(QStringLiteral("Norvale"), QStringLiteral("Wavorin"));
+        settings.setValue(QStringLiteral("pos"), QStringLiteral("left"));
+        settings.setValue(QStringLiteral("maximized"), QStringLiteral("true"));
+        settings.sync();
+        const WindowPlace place = readWindowPlace();
+        QCOMPARE(place.position, QPoint(0, 0));
+        QCOMPARE(place.maximized, true);
+    }
+
+    void companionFolder_data()
+    {
+        QTest::addColumn<int>("brand");
+        QTest::addColumn<QString>("application");
+        QTest::newRow("the maker's tool") << 0 << QStringLiteral("Setterra");
+        QTest::newRow("Vanta's tool") << 1 << QStringLiteral("Tolvik");
+        QTest::newRow("Orlo's tool") << 2 << QStringLiteral("Kesto Utility Software");
+        QTest::newRow("Quill's tool") << 3 << QStringLiteral("Quill Lab");
+        QTest::newRow("Mervic's tool") << 4 << QStringLiteral("Ostrel");
+    }
+
+    void companionFolder()
+    {
+        QFETCH(int, brand);
+        QFETCH(QString, application);
+        ApplicationIdentity::setBrand(brand);
+        QSettings settings(QStringLiteral("Norvale"), application);
+        settings.clear();
+        QCOMPARE(companionRecordingsFolder(), QString());
+        settings.setValue(QStringLiteral("DRFilesPath"), QStringLiteral("/outside/the/group"));
+        settings.sync();
+        QCOMPARE(companionRecordingsFolder(), QString());
+        settings.setValue(
+            QStringLiteral("SettingsDialog/DRFilesPath"), QStringLiteral("/home/me/records"));
+        settings.sync();
+        QCOMPARE(companionRecordingsFolder(), QStringLiteral("/home/me/records"));
+        settings.clear();
+    }
+
+    void translationIsFoundInTheWorkingDirectoryFirst()
+    {
+        const QTemporaryDir folder;
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(folder.path()));
+        writeFile(folder.filePath(QStringLiteral("drv_test.qm")), emptyTranslation);
+        QTranslator translator;
+        loadTranslation(translator, QStringLiteral("drv_test"));
+        QDir::setCurrent(before);
+        QCOMPARE(translator.filePath(), QStringLiteral("drv_test.qm"));
+    }
+
+    void translationIsFoundBesideTheExecutable()
+    {
+        const QString folder
+            = QCoreApplication::applicationDirPath() + QLatin1String("/translations");
+        QVERIFY(QDir().mkpath(folder));
+        const QString path = folder + QLatin1String("/drv_beside.qm");
+        writeFile(path, emptyTranslation);
+        QTranslator translator;
+        loadTranslation(translator, QStringLiteral("drv_beside"));
+        QFile::remove(path);
+        QCOMPARE(translator.filePath(), path);
+    }
+
+    void translationIsFoundInTheDataFolder()
+    {
+        const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
+            + QLatin1String("/translations");
+        QVERIFY(QDir().mkpath(folder));
+        const QString path = folder + QLatin1String("/drv_data.qm");
+        writeFile(path, emptyTranslation);
+        QTranslator translator;
+        loadTranslation(translator, QStringLiteral("drv_data"));
+        QFile::remove(path);
+        QCOMPARE(translator.filePath(), path);
+    }
+
+    void translationsLieInTheResourcesLast()
+    {
+        QCOMPARE(translationFolders().first(), QString());
+        QCOMPARE(translationFolders().last(), QStringLiteral(":/translations"));
+    }
+
+    void missingTranslationEmptiesTheTranslator()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("drv_some.qm"));
+        writeFile(path, emptyTranslation);
+        QTranslator translator;
+        QVERIFY(translator.load(path));
+        loadTranslation(translator, QStringLiteral("drv_of_nobody"));
+        QVERIFY(translator.isEmpty());
+        QCOMPARE(translator.filePath(), QString());
+    }
+};
+
+QTEST_MAIN(TestApplicationSettings)
+#include "tst_applicationsettings.moc"
