@@ -1,0 +1,193 @@
+#pragma once
+
+#include "dialoghost.h"
+#include "packageunpacker.h"
+#include "plothost.h"
+
+#include <QList>
+#include <QMainWindow>
+#include <QModelIndex>
+
+#include <memory>
+#include <optional>
+
+class AddPlotterDialog;
+class CTVTDialog;
+class Plotter;
+class QCheckBox;
+class QComboBox;
+class QDateTime;
+class QMenu;
+class QProcess;
+class QTranslator;
+class QVBoxLayout;
+class SaveDialog;
+class VectorDialog;
+class plotterDg;
+enum class CaptureTarget;
+
+namespace Ui {
+class MainWindow;
+}
+
+// The program's one top-level window. It owns the recording on screen, the thread that loads
+// recordings, the plots and the dialogs. The identity must be set before it is made.
+class MainWindow : public QMainWindow, public PlotHost, public DialogHost {
+    Q_OBJECT
+    Q_INTERFACES(PlotHost DialogHost)
+
+public:
+    explicit MainWindow(QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    // Loads a recording or a package and returns when it is on screen, events being processed
+    // meanwhile. While another one loads, it returns at once and the last path asked for is opened
+    // afterwards. Failures are shown to the user.
+    void open(const QString &path);
+
+    // The recording, from the end of a successful load to the beginning of the next load.
+    CFGProperties *recording() const override;
+    QScrollBar *horizontalScrollBar() const override;
+    int valueMode() const override;
+    int referenceIndex() const override;
+    bool showsAngles() const override;
+    void refreshVectors() override;
+    void refreshPlots() override;
+    void saveRecording(const QString &path, double start, double end) override;
+    QString recordingsFolder() const override;
+
+signals:
+    void initProperties(); // asks the recording, on the loader thread, to load its filePath
+
+public slots:
+    void on_listWidget2_clicked(const QModelIndex &index);
+    void on_listWidget_clicked(const QModelIndex &index);
+    void setAnalogChannels();
+    void setRequiredAnChannels();
+    void saveScreenShot();
+    void copyToClipboard();
+    void showAnglesSlot(bool on);
+    void referenceChanged(int index);
+    void primSecChanged(int index);
+    void slotLanguageChanged(QAction *action);
+    void processZip();
+    void endZip(int exitcode);
+    void saveAsPrimary();
+    void showSaveDialog();
+    void showCTVTDialog();
+    void showLocalTimes(bool on);
+    void open();
+    void about();
+    void addPlotter(const QList<QString> &AnCheckedChannels);
+    void removePlotter();
+    void removeCursors();
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    // One action of the window: all that creation and retranslation need.
+    struct ActionEntry;
+    static const QList<ActionEntry> &actionEntries();
+
+    void createActions();
+    void createToolBarWidgets();
+    void createLanguageMenu();
+    void createMenus();
+    void createToolBars();
+    void retranslateTexts(); // of actions, menus and the check box in the tool bar
+    // Enables or disables what works on a recording; the spectrum controls only where it has
+    // phasors.
+    void enableRecordingActions(bool enabled);
+
+    void readSettings();
+    void createLoader();
+    void stopUnpacking();
+    void stopLoader(); // waits without limit; the recording is gone afterwards
+
+    // The steps of open(). Those that process events return false when the window was closed or
+    // deleted meanwhile: then nothing of it may be touched any more.
+    bool load(QString path);
+    bool unpack(QString &path); // path becomes that of the configuration file found
+    bool parse(const QString &path); // on the loader thread
+    bool showWarning(const QString &text);
+    void startUnpacking(const QString &package);
+    void clearView();
+    void showRecording();
+    void showTimes();
+    void showTimesAsLocal(const QString &dateFormat);
+    void setCurrentFile(const QString &path);
+
+    QPixmap capture(CaptureTarget target);
+    void stylePlots(const QString &styleSheet);
+    QList<Plotter *> plots() const; // all that exist
+    void writeRecording(const QString &path, double start, double end, bool asPrimary);
+
+    void createPlots(); // for the recording just loaded
+    void disposePlots();
+
+    std::unique_ptr<Ui::MainWindow> ui;
+    AddPlotterDialog *addPlotterDialog = nullptr;
+    VectorDialog *vectorDialog = nullptr;
+    SaveDialog *saveDialog = nullptr;
+    CTVTDialog *ctvtDialog = nullptr;
+    QTranslator *translator = nullptr;
+
+    QProcess *zipProcess = nullptr;
+    std::optional<ArchiverOutput> archiverOutput; // of the latest unpacking
+    bool zipBusy = false; // from the start of an unpacking until endZip()
+    bool tempFolderUsed = false;
+    QString temporaryFolder; // this instance's own, absolute; exists only while it is used
+    QThread *loaderThread = nullptr;
+    CFGProperties *cfgProperties = nullptr; // lives on loaderThread; null once that has stopped
+    bool opening = false;
+    std::optional<QString> queuedPath; // to be opened next
+    bool isComtrade = false;
+    bool hasRecording = false;
+    bool localTimes = false;
+    QString currentFile;
+    QString drFilesPath; // recordings folder
+    QString languageFileName;
+    QList<QAction *> languageActions; // English, Suomi, 中文
+
+    QAction *openAct = nullptr;
+    QAction *saveAsAct = nullptr;
+    QAction *saveAsPrimaryAct = nullptr;
+    QAction *addPlotterAct = nullptr;
+    QAction *removePlotterAct = nullptr;
+    QAction *removeCursorsAct = nullptr;
+    QAction *showVectorsAct = nullptr;
+    QAction *rescaleAct = nullptr;
+    QAction *screenshotAct = nullptr;
+    QAction *clipboardAct = nullptr;
+    QAction *zoomInAct = nullptr;
+    QAction *zoomOutAct = nullptr;
+    QAction *zoomResetAct = nullptr;
+    QAction *vZoomInAct = nullptr;
+    QAction *vZoomOutAct = nullptr;
+    QAction *exitAct = nullptr;
+    QAction *aboutAct = nullptr;
+    QMenu *fileMenu = nullptr;
+    QMenu *editMenu = nullptr;
+    QMenu *toolsMenu = nullptr;
+    QMenu *helpMenu = nullptr;
+    QMenu *languageMenu = nullptr;
+    QCheckBox *showAnglesCheckBox = nullptr;
+    QComboBox *referenceCombo = nullptr;
+    QComboBox *primSecCombo = nullptr;
+
+    QScrollBar *horizontalScroll = nullptr;
+    Plotter *analogPlotter = nullptr;
+    plotterDg *digitalPlotter = nullptr;
+    Plotter *spectrumPlotter = nullptr; // there is none
+    QList<Plotter *> addedPlotters; // in the order of adding
+    QVBoxLayout *plotLayout = nullptr; // of scrollWidget
+    int firstPlotChannels = 6; // at most so many in the first analog plot
+    int mode = 0; // value mode: 0 primary, 1 secondary, 2 per unit
+    int graphCount = 0; // plots named by number so far
+    bool spectrumOffered = false;
+    bool anglesShown = false;
+};

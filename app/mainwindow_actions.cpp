@@ -1,0 +1,201 @@
+#include "mainwindow.h"
+
+#include "applicationidentity.h"
+#include "brand.h"
+#include "cfgproperties.h"
+#include "ui_mainwindow.h"
+#include "vectordialog.h"
+
+#include <QActionGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QToolBar>
+
+#include <algorithm>
+
+struct MainWindow::ActionEntry {
+    QAction *MainWindow::*action;
+    const char *text;
+    const char *statusTip;
+    const char *icon; // name in ":/images/", empty for none
+    void (MainWindow::*slot)() = nullptr; // null: connected elsewhere
+    bool enabled = true; // at start
+    QKeySequence::StandardKey shortcut = QKeySequence::UnknownKey;
+};
+
+const QList<MainWindow::ActionEntry> &MainWindow::actionEntries()
+{
+    using W = MainWindow;
+    static const QList<ActionEntry> entries{
+        {&W::openAct, QT_TR_NOOP("&Open..."), QT_TR_NOOP("Open an existing file."), "open.png",
+            &W::open, true, QKeySequence::Open},
+        {&W::saveAsAct, QT_TR_NOOP("&Save As.."), QT_TR_NOOP("Save recording to file."), "save.png",
+            &W::showSaveDialog, false},
+        {&W::saveAsPrimaryAct, QT_TR_NOOP("Save As &Primary"),
+            QT_TR_NOOP("Save as a primary type."), "save.png", &W::saveAsPrimary, false},
+        {&W::addPlotterAct, QT_TR_NOOP("&Add Plotter"), QT_TR_NOOP("Add analog plotter."),
+            "Plus.png", &W::setAnalogChannels, false},
+        {&W::removePlotterAct, QT_TR_NOOP("&Remove Plotter"), QT_TR_NOOP("Remoe analog plotter."),
+            "minus.png", &W::removePlotter, false},
+        {&W::removeCursorsAct, QT_TR_NOOP("&Remove All Cursors"), QT_TR_NOOP("Remove all cursors."),
+            "RemoveCursors.png", &W::removeCursors, false},
+        {&W::showVectorsAct, QT_TR_NOOP("&Show Vectors"), QT_TR_NOOP("Show vectors dialog."),
+            "vector.png"},
+        {&W::rescaleAct, QT_TR_NOOP("Rescale CTVT"), QT_TR_NOOP("Set CTVT ratios."), "",
+            &W::showCTVTDialog, false},
+        {&W::screenshotAct, QT_TR_NOOP("&Save screenshot"), QT_TR_NOOP("Save screenshot."),
+            "screenshot.png", &W::saveScreenShot},
+        {&W::clipboardAct, QT_TR_NOOP("&Copy to clipboard"), QT_TR_NOOP("Copy to clipboard."),
+            "clipboard.png", &W::copyToClipboard},
+        {&W::zoomInAct, QT_TR_NOOP("Zoom In"), QT_TR_NOOP("Zoom in."), "zoomin.png"},
+        {&W::zoomOutAct, QT_TR_NOOP("Zoom Out"), QT_TR_NOOP("Zoom out."), "zoomout.png"},
+        {&W::zoomResetAct, QT_TR_NOOP("Zoom Reset"), QT_TR_NOOP("Zoom reset."), "zoomreset.png"},
+        {&W::vZoomInAct, QT_TR_NOOP("Vertical Zoom In"), QT_TR_NOOP("Vertical zoom in."),
+            "zoominh.png"},
+        {&W::vZoomOutAct, QT_TR_NOOP("Vertical Zoom Out"), QT_TR_NOOP("Vertical zoom out."),
+            "zoomouth.png"},
+        {&W::exitAct, QT_TR_NOOP("E&xit"), QT_TR_NOOP("Exit the application."), "", nullptr, true,
+            QKeySequence::Quit},
+        {&W::aboutAct, QT_TR_NOOP("&About Wavorin"), QT_TR_NOOP("About Wavorin"), "", &W::about},
+    };
+    return entries;
+}
+
+void MainWindow::createActions()
+{
+    for (const ActionEntry &entry : actionEntries()) {
+        auto *action = new QAction(this);
+        if (*entry.icon)
+            action->setIcon(QIcon(QLatin1String(":/images/") + QLatin1String(entry.icon)));
+        if (entry.shortcut != QKeySequence::UnknownKey)
+            action->setShortcuts(entry.shortcut);
+        action->setEnabled(entry.enabled);
+        if (entry.slot)
+            connect(action, &QAction::triggered, this, entry.slot);
+        this->*entry.action = action;
+    }
+    connect(showVectorsAct, &QAction::triggered, vectorDialog, &QWidget::show);
+    connect(exitAct, &QAction::triggered, this, &QWidget::close);
+    createToolBarWidgets();
+    createLanguageMenu();
+}
+
+void MainWindow::createToolBarWidgets()
+{
+    showAnglesCheckBox = new QCheckBox(this);
+    showAnglesCheckBox->setObjectName(QStringLiteral("checkBox_showAngles"));
+    showAnglesCheckBox->setEnabled(false);
+    connect(showAnglesCheckBox, &QCheckBox::toggled, this, &MainWindow::showAnglesSlot);
+
+    referenceCombo = new QComboBox(this);
+    referenceCombo->setObjectName(QStringLiteral("comboBox_mainReference"));
+    referenceCombo->setEnabled(false);
+    connect(referenceCombo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+        &MainWindow::referenceChanged);
+
+    primSecCombo = new QComboBox(this);
+    primSecCombo->setObjectName(QStringLiteral("comboBox_primSec"));
+    connect(primSecCombo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+        &MainWindow::primSecChanged);
+}
+
+void MainWindow::createLanguageMenu()
+{
+    languageMenu = new QMenu(this);
+    auto *group = new QActionGroup(this);
+    group->setExclusive(true);
+    connect(group, &QActionGroup::triggered, this, &MainWindow::slotLanguageChanged);
+    for (const LanguageEntry &entry : brandDetails(ApplicationIdentity::brand()).languages) {
+        QAction *action = group->addAction(entry.text);
+        action->setCheckable(true);
+        action->setData(entry.fileName);
+        action->setVisible(entry.visible);
+        languageMenu->addAction(action);
+        languageActions.append(action);
+    }
+}
+
+void MainWindow::createMenus()
+{
+    fileMenu = menuBar()->addMenu(QString());
+    fileMenu->addActions({openAct, saveAsAct, saveAsPrimaryAct});
+    fileMenu->addSeparator();
+    fileMenu->addAction(exitAct);
+
+    editMenu = menuBar()->addMenu(QString());
+    editMenu->addActions({clipboardAct, screenshotAct});
+
+    toolsMenu = menuBar()->addMenu(QString());
+    toolsMenu->addActions(
+        {addPlotterAct, removePlotterAct, removeCursorsAct, showVectorsAct, rescaleAct});
+    toolsMenu->addMenu(languageMenu);
+
+    menuBar()->addSeparator();
+    helpMenu = menuBar()->addMenu(QString());
+    helpMenu->addAction(aboutAct);
+    retranslateTexts();
+}
+
+void MainWindow::createToolBars()
+{
+    addToolBar(tr("File"))->addAction(openAct);
+    addToolBar(tr("Edit"))->addActions({clipboardAct, screenshotAct});
+    addToolBar(tr("Tools"))
+        ->addActions({addPlotterAct, removePlotterAct, removeCursorsAct, showVectorsAct, zoomInAct,
+            zoomOutAct, zoomResetAct, vZoomInAct, vZoomOutAct});
+
+    QToolBar *spectrumBar = addToolBar(tr("FFT"));
+    spectrumBar->addWidget(showAnglesCheckBox);
+    spectrumBar->addWidget(referenceCombo);
+
+    QToolBar *sideBar = addToolBar(tr("Prim/Sec"));
+    auto *sideLabel = new QLabel(tr("Primary/Secondary:"), this);
+    sideLabel->setStyleSheet(QStringLiteral("QLabel{color:white;}"));
+    sideBar->addWidget(sideLabel);
+    sideBar->addWidget(primSecCombo);
+}
+
+void MainWindow::enableRecordingActions(bool enabled)
+{
+    for (QAction *action :
+        {saveAsAct, saveAsPrimaryAct, addPlotterAct, removeCursorsAct, rescaleAct})
+        action->setEnabled(enabled);
+    if (!enabled)
+        removePlotterAct->setEnabled(false); // adding a plot enables it
+
+    const CFGProperties *loaded = recording();
+    const bool phasors = enabled && loaded
+        && std::any_of(loaded->analogChannels.begin(), loaded->analogChannels.end(),
+            [](const AnalogChannel *channel) { return !channel->fftMagnitudes.isEmpty(); });
+    showAnglesCheckBox->setEnabled(phasors);
+    referenceCombo->setEnabled(phasors);
+}
+
+void MainWindow::retranslateTexts()
+{
+    fileMenu->setTitle(tr("&File"));
+    editMenu->setTitle(tr("&Edit"));
+    toolsMenu->setTitle(tr("&Tools"));
+    helpMenu->setTitle(tr("&Help"));
+    for (const ActionEntry &entry : actionEntries()) {
+        QAction *action = this->*entry.action;
+        action->setText(tr(entry.text));
+        action->setStatusTip(tr(entry.statusTip));
+    }
+    showAnglesCheckBox->setText(tr("Show FFT Angles"));
+    languageMenu->setTitle(tr("Language"));
+}
+
+// Tool-bar titles, the label and the entries of the combo boxes, the languages and the message in
+// the status bar keep the language they were made in.
+void MainWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        ui->retranslateUi(this);
+        retranslateTexts();
+    }
+    QMainWindow::changeEvent(event);
+}

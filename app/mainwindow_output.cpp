@@ -1,0 +1,89 @@
+#include "mainwindow.h"
+
+#include "applicationidentity.h"
+#include "brand.h"
+#include "cfgproperties.h"
+#include "ctvtdialog.h"
+#include "plotcapture.h"
+#include "plotterdg.h"
+#include "recordingwriter.h"
+#include "savedialog.h"
+#include "ui_mainwindow.h"
+
+#include <QClipboard>
+#include <QDir>
+#include <QFileDialog>
+#include <QMessageBox>
+
+namespace {
+
+constexpr char captureStyle[] = "Plotter{background-color: transparent;}";
+constexpr char screenStyle[] = "Plotter{background-color: #313034; border: 2px outset "
+                               "qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 #616064, "
+                               "stop: 1 #313034);}";
+
+} // namespace
+
+QList<Plotter *> MainWindow::plots() const
+{
+    QList<Plotter *> all{digitalPlotter, spectrumPlotter, analogPlotter};
+    all += addedPlotters;
+    all.removeAll(nullptr);
+    return all;
+}
+
+void MainWindow::stylePlots(const QString &styleSheet)
+{
+    for (Plotter *plot : plots())
+        plot->setStyleSheet(styleSheet);
+}
+
+QPixmap MainWindow::capture(CaptureTarget target)
+{
+    stylePlots(QLatin1String(captureStyle));
+    if (digitalPlotter)
+        digitalPlotter->repaint();
+    const CFGProperties *loaded = recording();
+    return printableCapture(ui->scrollWidget->grab(ui->scrollWidget->rect()), target,
+        loaded ? captureCaption(loaded->startDate, loaded->startTime)
+               : captureCaption(QString(), QString()));
+}
+
+// A cancelled dialog leaves the plots in the style of the capture, on purpose.
+void MainWindow::saveScreenShot()
+{
+    const QPixmap picture = capture(CaptureTarget::File);
+    const QString format = QStringLiteral("png");
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save As"),
+        QDir::currentPath() + QLatin1String("/untitled.") + format,
+        tr("%1 Files (*.%2);;All Files (*)").arg(format.toUpper(), format));
+    if (path.isEmpty())
+        return;
+    picture.save(path, format.toLatin1().constData());
+    stylePlots(QLatin1String(screenStyle));
+}
+
+void MainWindow::copyToClipboard()
+{
+    QGuiApplication::clipboard()->setPixmap(capture(CaptureTarget::Clipboard));
+    stylePlots(QLatin1String(screenStyle));
+}
+
+void MainWindow::about()
+{
+    QMessageBox::about(this, tr("About Wavorin"),
+        aboutText(ApplicationIdentity::applicationName(), ApplicationIdentity::brand()));
+}
+
+void MainWindow::showSaveDialog()
+{
+    if (!hasRecording)
+        return;
+    saveDialog->setSampleTimes(cfgProperties->sampleTimes);
+    saveDialog->show();
+}
+
+void MainWindow::showCTVTDialog()
+{
+    ctvtDialog->show();
+}

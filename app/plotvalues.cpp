@@ -1,0 +1,7 @@
+#include "plotvalues.h"
+
+PlotValues &PlotValues::shared()
+{
+    static PlotValues values;
+    return values;
+}

@@ -1,0 +1,568 @@
+#include "cfgproperties.h"
+#include "mainwindow.h"
+#include "plotvalues.h"
+#include "smallrecording.h"
+#include "windowtest.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QMovie>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+
+#include <ctime>
+#include <memory>
+#include <unistd.h>
+
+class TestOpening : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> folder;
+    std::unique_ptr<MainWindow> window;
+    std::unique_ptr<BoxReader> boxes;
+
+    template <class T> T *child(const char *name) const
+    {
+        return window->findChild<T *>(QLatin1String(name));
+    }
+
+    QString shown(const char *label) const { return child<QLabel>(label)->text(); }
+
+    QString shownTimes() const
+    {
+        return QStringList({shown("label9"), shown("label10"), shown("label11"), shown("label12")})
+            .join(QLatin1Char('|'));
+    }
+
+    QStringList listed(const char *list) const
+    {
+        QStringList texts;
+        for (int row = 0; row < child<QListWidget>(list)->count(); ++row)
+            texts.append(child<QListWidget>(list)->item(row)->text());
+        return texts;
+    }
+
+    bool enabled(const char *text) const
+    {
+        for (const QAction *action : window->findChildren<QAction *>()) {
+            if (action->text() == QLatin1String(text))
+                return action->isEnabled();
+        }
+        return false;
+    }
+
+    bool recordingActionsEnabled() const
+    {
+        return enabled("&Save As..") && enabled("Save As &Primary") && enabled("&Add Plotter")
+            && enabled("&Remove All Cursors") && enabled("Rescale CTVT");
+    }
+
+    bool recordingActionsDisabled() const
+    {
+        return !enabled("&Save As..") && !enabled("Save As &Primary") && !enabled("&Add Plotter")
+            && !enabled("&Remove Plotter") && !enabled("&Remove All Cursors")
+            && !enabled("Rescale CTVT") && !child<QCheckBox>("checkBox_showAngles")->isEnabled()
+            && !child<QComboBox>("comboBox_mainReference")->isEnabled();
+    }
+
+    bool viewIsEmpty() const
+    {
+        return shown("label4").isEmpty() && shown("label5").isEmpty()
+            && shownTimes() == QLatin1String("|||") && listed("listWidget").isEmpty()
+            && listed("listWidget2").isEmpty()
+            && child<QComboBox>("comboBox_mainReference")->count() == 0
+            && child<QComboBox>("comboBox_primSec")->count() == 0;
+    }
+
+    QString path(const char *name) const { return folder->filePath(QLatin1String(name)); }
+
+    QString goodRecording(const char *name = "good")
+    {
+        return writeSmallRecording(folder->path(), QLatin1String(name));
+    }
+
+private slots:
+    void initTestCase()
+    {
+        qputenv("TZ", "Europe/Helsinki");
+        tzset();
+    }
+
+    void init()
+    {
+        startAsMaker();
+        folder = std::make_unique<QTemporaryDir>();
+        boxes = std::make_unique<BoxReader>();
+        window = std::make_unique<MainWindow>();
+        window->statusBar()->clearMessage();
+    }
+
+    void cleanup()
+    {
+        window.reset();
+        boxes.reset();
+    }
+
+    void goodRecordingIsShown()
+    {
+        window->open(goodRecording());
+        QVERIFY(window->recording());
+        QCOMPARE(window->recording()->sampleCount, 40);
+        QCOMPARE(shown("label4"), QStringLiteral("Harju 110/20 kV"));
+        QCOMPARE(shown("label5"), QStringLiteral("Feeder J07"));
+        QCOMPARE(shownTimes(), QStringLiteral("15/03/2024|10:00:00.000|15/03/2024|10:00:00.020"));
+        QCOMPARE(listed("listWidget"), QStringList({QStringLiteral("IL1"), QStringLiteral("UL1")}));
+        QCOMPARE(listed("listWidget2"), QStringList({QStringLiteral("TRIP")}));
+        for (const char *list : {"listWidget", "listWidget2"})
+            QCOMPARE(child<QListWidget>(list)->selectionMode(), QAbstractItemView::MultiSelection);
+        QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - good.cfg"));
+        QCOMPARE(window->windowFilePath(), path("good.cfg"));
+        QVERIFY(!window->isWindowModified());
+        QCOMPARE(window->statusBar()->currentMessage(), QStringLiteral("File loaded"));
+        QVERIFY(recordingActionsEnabled());
+        QVERIFY(!enabled("&Remove Plotter"));
+        QVERIFY(child<QCheckBox>("checkBox_showAngles")->isEnabled());
+        QVERIFY(child<QComboBox>("comboBox_mainReference")->isEnabled());
+        QVERIFY(boxes->take().isEmpty());
+    }
+
+    void messageGoesAfterTwoSeconds()
+    {
+        window->open(goodRecording());
+        QTest::qWait(1500);
+        QCOMPARE(window->statusBar()->currentMessage(), QStringLiteral("File loaded"));
+        QTRY_COMPARE_WITH_TIMEOUT(window->statusBar()->currentMessage(), QString(), 1500);
+    }
+
+    void ratingsReachTheRescaleDialog()
+    {
+        window->open(goodRecording());
+        window->showCTVTDialog();
+        QStringList texts;
+        for (const QLineEdit *edit : child<QDialog>("CTVTDialog")->findChildren<QLineEdit *>())
+            texts.append(edit->text());
+        texts.sort();
+        QCOMPARE(texts.join(QLatin1Char(' ')), QStringLiteral("1 100 20000 400"));
+    }
+
+    void withoutPhasorsTheSpectrumControlsStayDisabled()
+    {
+        // A rate of 0 gives no samples per cycle.
+        QByteArray configuration = smallConfiguration();
+        configuration.replace("1000,40\n", "0,40\n");
+        window->open(writeSmallRecording(folder->path(), QStringLiteral("norate"), configuration));
+        QVERIFY(recordingActionsEnabled());
+        QVERIFY(!child<QCheckBox>("checkBox_showAngles")->isEnabled());
+        QVERIFY(!child<QComboBox>("comboBox_mainReference")->isEnabled());
+    }
+
+    void names_data()
+    {
+        QTest::addColumn<QString>("configuration");
+        QTest::addColumn<QString>("data");
+        QTest::newRow("upper-case ending") << "rec.CFG"
+                                           << "rec.dat";
+        QTest::newRow(".cfg anywhere in the name") << "a.cfg.bak"
+                                                   << "a.dat.bak";
+        QTest::newRow("letters beyond ASCII")
+            << QStringLiteral("häiriö.cfg") << QStringLiteral("häiriö.dat");
+        QTest::newRow("place markers in the name") << "50%1%2.cfg"
+                                                   << "50%1%2.dat";
+    }
+
+    void names()
+    {
+        QFETCH(QString, configuration);
+        QFETCH(QString, data);
+        QVERIFY(writeTextFile(folder->filePath(configuration), smallConfiguration()));
+        QVERIFY(writeTextFile(folder->filePath(data), smallData()));
+        window->open(folder->filePath(configuration));
+        QVERIFY(window->recording());
+        QCOMPARE(window->windowTitle(), QLatin1String("Wavorin - ") + configuration);
+    }
+
+    void upperCaseTextExportCountsAsConfiguration()
+    {
+        QVERIFY(writeTextFile(path("data.TXT"), smallConfiguration()));
+        window->open(path("data.TXT"));
+        // Data file and configuration are then the same file, whose first line reads as a sample.
+        QVERIFY(window->recording());
+        QCOMPARE(window->recording()->stationName, QStringLiteral("Harju 110/20 kV"));
+    }
+
+    void anotherEndingLoadsNothingButIsReportedLoaded()
+    {
+        window->open(goodRecording());
+        QVERIFY(writeTextFile(path("notes.pdf"), "x"));
+        window->open(path("notes.pdf"));
+        QVERIFY(window->recording());
+        QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - good.cfg"));
+        QCOMPARE(window->windowFilePath(), path("notes.pdf"));
+        QCOMPARE(window->statusBar()->currentMessage(), QStringLiteral("File loaded"));
+        QVERIFY(recordingActionsEnabled());
+    }
+
+    // Bad files
+
+    void unreadableFile_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("no such file") << "none.cfg"
+                                      << "No such file or directory";
+        QTest::newRow("no such package") << "none.zip"
+                                         << "No such file or directory";
+        QTest::newRow("a folder") << "folder.cfg"
+                                  << "file to open is a directory";
+        QTest::newRow("no permission") << "secret.cfg"
+                                       << "Permission denied";
+        QTest::newRow("place markers in the name") << "%2.cfg"
+                                                   << "No such file or directory";
+    }
+
+    void unreadableFile()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, reason);
+        QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("folder.cfg")));
+        QVERIFY(writeTextFile(path("secret.cfg"), "x"));
+        QFile::setPermissions(path("secret.cfg"), {});
+        if (name == QLatin1String("secret.cfg") && geteuid() == 0)
+            QSKIP("everything is readable for root");
+        window->open(goodRecording());
+        window->statusBar()->clearMessage();
+        window->open(folder->filePath(name));
+        const QList<BoxReader::Box> seen = boxes->take();
+        QCOMPARE(seen.size(), 1);
+        QCOMPARE(seen[0].icon, QMessageBox::Warning);
+        QCOMPARE(seen[0].title, QStringLiteral("Application"));
+        QCOMPARE(seen[0].text,
+            QLatin1String("Cannot read file ") + folder->filePath(name) + QLatin1String(":\n")
+                + reason + QLatin1Char('.'));
+        QCOMPARE(seen[0].buttons, QMessageBox::Ok);
+        // Nothing changes.
+        QVERIFY(window->recording());
+        QCOMPARE(shown("label5"), QStringLiteral("Feeder J07"));
+        QCOMPARE(window->windowFilePath(), path("good.cfg"));
+        QCOMPARE(window->statusBar()->currentMessage(), QString());
+    }
+
+    void unsupportedFile_data()
+    {
+        QTest::addColumn<QByteArray>("configuration");
+        QTest::addColumn<QByteArray>("data");
+        QTest::newRow("no data file") << smallConfiguration() << QByteArray();
+        QTest::newRow("empty configuration, empty data") << QByteArray("") << QByteArray("");
+        QTest::newRow("empty data file") << smallConfiguration() << QByteArray("");
+        QTest::newRow("data without separators") << smallConfiguration() << QByteArray("1\n2\n");
+        QTest::newRow("binary rubbish") << QByteArray(5000, '\0') << QByteArray(5000, '\xff');
+    }
+
+    void unsupportedFile()
+    {
+        QFETCH(QByteArray, configuration);
+        QFETCH(QByteArray, data);
+        window->open(goodRecording("before"));
+        window->statusBar()->clearMessage();
+        QVERIFY(writeTextFile(path("bad.cfg"), configuration));
+        if (!data.isNull())
+            QVERIFY(writeTextFile(path("bad.dat"), data));
+        window->open(path("bad.cfg"));
+        const QList<BoxReader::Box> seen = boxes->take();
+        QCOMPARE(seen.size(), 1);
+        QCOMPARE(seen[0].icon, QMessageBox::Warning);
+        QCOMPARE(seen[0].title, QStringLiteral("Application"));
+        QCOMPARE(seen[0].text, QStringLiteral("File not supported."));
+        QCOMPARE(seen[0].buttons, QMessageBox::Ok);
+        QVERIFY(viewIsEmpty());
+        QVERIFY(recordingActionsDisabled());
+        QVERIFY(!window->recording());
+        QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - before.cfg"));
+        QCOMPARE(window->windowFilePath(), path("before.cfg"));
+        QCOMPARE(window->statusBar()->currentMessage(), QString());
+
+        window->open(goodRecording("after"));
+        QVERIFY(window->recording());
+        QCOMPARE(listed("listWidget").size(), 2);
+        QVERIFY(recordingActionsEnabled());
+        QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - after.cfg"));
+    }
+
+    void failedLoadTwiceInARow()
+    {
+        window->open(goodRecording());
+        QVERIFY(writeTextFile(path("bad.cfg"), "x"));
+        window->open(path("bad.cfg"));
+        window->open(path("bad.cfg"));
+        QCOMPARE(boxes->take().size(), 2);
+        window->open(goodRecording());
+        QVERIFY(window->recording());
+    }
+
+    // While it loads
+
+    void nothingOfTheOldRecordingIsReadDuringTheLoad()
+    {
+        window->open(goodRecording());
+        window->show();
+        window->showSaveDialog();
+        window->showCTVTDialog();
+        PlotValues::shared().timesAndPositions.fill(7.0);
+        PlotValues::shared().primaryFactor = 3.0;
+        bool seen = false;
+        connect(window.get(), &MainWindow::initProperties, this, [&] {
+            seen = true;
+            QVERIFY(!window->recording());
+            QVERIFY(recordingActionsDisabled());
+            QVERIFY(viewIsEmpty());
+            QVERIFY(!child<QDialog>("SaveDialog")->isVisible());
+            QVERIFY(!child<QDialog>("CTVTDialog")->isVisible());
+            QVERIFY(child<QDialog>("CTVTDialog")->findChildren<QLineEdit *>().isEmpty());
+            for (const double value : PlotValues::shared().timesAndPositions)
+                QCOMPARE(value, 0.0);
+            QCOMPARE(PlotValues::shared().primaryFactor, 3.0);
+            child<QCheckBox>("checkBox_convertToLocal")->toggle();
+        });
+        window->open(goodRecording("next"));
+        QVERIFY(seen);
+        QVERIFY(window->recording());
+    }
+
+    void animationRunsInTheMiddle()
+    {
+        window->resize(1201, 801);
+        QMovie *movie = nullptr;
+        connect(window.get(), &MainWindow::initProperties, this, [&] {
+            for (QLabel *label : window->findChildren<QLabel *>()) {
+                if (!label->movie())
+                    continue;
+                movie = label->movie();
+                QCOMPARE(label->geometry(), QRect(550, 350, 100, 100));
+                QVERIFY(label->testAttribute(Qt::WA_DeleteOnClose));
+                QCOMPARE(movie->fileName(), QStringLiteral(":/images/loading.gif"));
+                QVERIFY(movie->isValid());
+                QCOMPARE(movie->scaledSize(), QSize(100, 100));
+                QCOMPARE(movie->state(), QMovie::Running);
+            }
+        });
+        window->open(goodRecording());
+        QVERIFY(movie);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        for (const QLabel *label : window->findChildren<QLabel *>())
+            QVERIFY(!label->movie());
+    }
+
+    void lastOfSeveralFilesOpensWhenTheRunningLoadHasEnded()
+    {
+        const QString second = goodRecording("second");
+        const QString third = goodRecording("third");
+        QStringList titles;
+        connect(window.get(), &QWidget::windowTitleChanged, this,
+            [&](const QString &title) { titles.append(title); });
+        bool asked = false;
+        connect(window.get(), &MainWindow::initProperties, this, [&] {
+            if (std::exchange(asked, true))
+                return;
+            window->open(second);
+            window->open(third);
+            QVERIFY(titles.isEmpty());
+        });
+        window->open(goodRecording("first"));
+        QCOMPARE(titles.join(QLatin1Char('|')),
+            QStringLiteral("Wavorin - first.cfg|Wavorin - third.cfg"));
+        QVERIFY(window->recording());
+    }
+
+    void closingBeforeTheLoadHasBegun()
+    {
+        connect(window.get(), &MainWindow::initProperties, window.get(), &QWidget::close);
+        window->open(goodRecording());
+        QVERIFY(!window->recording());
+        QVERIFY(boxes->take().isEmpty());
+        window->open(goodRecording("later")); // is no longer possible, and harmless
+        QVERIFY(!window->recording());
+    }
+
+    void closingDuringTheLoad()
+    {
+        window->open(goodRecording());
+        delayLoader();
+        QTimer::singleShot(0, window.get(), &QWidget::close);
+        window->open(goodRecording("slow"));
+        QVERIFY(!window->recording());
+        QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - good.cfg"));
+    }
+
+    void deletionDuringTheLoad()
+    {
+        window->open(goodRecording());
+        delayLoader();
+        QTimer::singleShot(0, this, [this] { window.reset(); });
+        window->open(goodRecording("slow"));
+        QVERIFY(!window);
+    }
+
+    void deletionDuringAMessage()
+    {
+        boxes.reset();
+        QTimer::singleShot(50, this, [this] { window.reset(); });
+        window->open(path("none.cfg"));
+        QVERIFY(!window);
+    }
+
+    void closingWithARecordingOnScreen()
+    {
+        window->show();
+        window->open(goodRecording());
+        window->close();
+        QVERIFY(!window->recording());
+    }
+
+    // Times
+
+    void localTimesAtLoadAndByCheckBox_data()
+    {
+        QTest::addColumn<QByteArray>("date");
+        QTest::addColumn<QByteArray>("time");
+        QTest::addColumn<QString>("atLoad");
+        QTest::addColumn<QString>("toggled");
+        QTest::newRow("4 March at load, 3 April by the check box")
+            << QByteArray("03/04/2024") << QByteArray("10:00:00.000000")
+            << "03/04/2024|12:00:00.000|03/04/2024|12:00:00.020"
+            << "03/04/2024|13:00:00.000|03/04/2024|13:00:00.020";
+        QTest::newRow("no month 15")
+            << QByteArray("15/03/2024") << QByteArray("10:00:00.000000") << "|||"
+            << "15/03/2024|12:00:00.000|15/03/2024|12:00:00.020";
+        QTest::newRow("an hour that local time skips")
+            << QByteArray("31/03/2024") << QByteArray("03:30:00.000000") << "|||"
+            << "31/03/2024|06:30:00.000|31/03/2024|13:00:00.020";
+        QTest::newRow("into the next day")
+            << QByteArray("15/03/2024") << QByteArray("23:30:00.000000") << "|||"
+            << "16/03/2024|01:30:00.000|15/03/2024|12:00:00.020";
+        QTest::newRow("a time that does not read")
+            << QByteArray("15/03/2024") << QByteArray("9:00:00.000000") << "|||"
+            << "||15/03/2024|12:00:00.020";
+    }
+
+    void localTimesAtLoadAndByCheckBox()
+    {
+        QFETCH(QByteArray, date);
+        QFETCH(QByteArray, time);
+        QFETCH(QString, atLoad);
+        QFETCH(QString, toggled);
+        auto *box = child<QCheckBox>("checkBox_convertToLocal");
+        box->setChecked(true);
+        QCOMPARE(shownTimes(), QStringLiteral("|||"));
+        window->open(writeSmallRecording(
+            folder->path(), QStringLiteral("rec"), smallConfiguration("Harju", date, time)));
+        QCOMPARE(shownTimes(), atLoad);
+        box->setChecked(false);
+        const QString writtenDate = QString::fromLatin1(date);
+        QCOMPARE(shownTimes(),
+            writtenDate + QLatin1Char('|') + QString::fromLatin1(time.left(12)) + QLatin1Char('|')
+                + writtenDate + QLatin1String("|10:00:00.020"));
+        box->setChecked(true);
+        QCOMPARE(shownTimes(), toggled);
+    }
+
+    void stationIsShownAsPlainText()
+    {
+        window->open(writeSmallRecording(
+            folder->path(), QStringLiteral("rec"), smallConfiguration("  <b>Harju</b>  ")));
+        QCOMPARE(shown("label4"), QStringLiteral("<b>Harju</b>"));
+        QCOMPARE(child<QLabel>("label4")->textFormat(), Qt::PlainText);
+    }
+
+    void longTextsDoNotWidenTheWindow()
+    {
+        window->show();
+        const int width = window->minimumSizeHint().width();
+        window->open(writeSmallRecording(folder->path(), QStringLiteral("rec"),
+            smallConfiguration(
+                QByteArray(5000, 'W'), QByteArray(5000, '1'), QByteArray(5000, '2'))));
+        QVERIFY(window->recording());
+        QCOMPARE(window->minimumSizeHint().width(), width);
+        QVERIFY(child<QLabel>("label12")->width() >= 96);
+    }
+
+    // Ways to open
+
+    void openDialog_data()
+    {
+        QTest::addColumn<bool>("accepted");
+        QTest::newRow("a chosen file opens") << true;
+        QTest::newRow("a cancelled dialog does nothing") << false;
+    }
+
+    void openDialog()
+    {
+        QFETCH(bool, accepted);
+        QSettings companion(QStringLiteral("Norvale"), QStringLiteral("Setterra"));
+        companion.setValue(QStringLiteral("SettingsDialog/DRFilesPath"), folder->path());
+        companion.sync();
+        window = std::make_unique<MainWindow>();
+        const QString good = goodRecording();
+        QTimer::singleShot(100, this, [&] {
+            auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            QCOMPARE(dialog->windowTitle(), QStringLiteral("Open File"));
+            QCOMPARE(
+                dialog->nameFilters(), QStringList(QStringLiteral("DR-files (*.zip *.cfg *.txt)")));
+            QCOMPARE(dialog->directory().absolutePath(), folder->path());
+            dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(good);
+            QTest::keyClick(dialog, accepted ? Qt::Key_Return : Qt::Key_Escape);
+            if (dialog->isVisible())
+                dialog->reject();
+        });
+        window->open();
+        QCOMPARE(window->recording() != nullptr, accepted);
+        QCOMPARE(window->windowFilePath(), accepted ? good : QStringLiteral("untitled.txt"));
+    }
+
+    void droppedFileOpens()
+    {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(goodRecording())});
+        QDragEnterEvent enter(
+            QPoint(10, 10), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(window.get(), &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(QPointF(10, 10), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton,
+            Qt::NoModifier);
+        QCoreApplication::sendEvent(window.get(), &drop);
+        QVERIFY(drop.isAccepted());
+        QCOMPARE(drop.dropAction(), Qt::CopyAction);
+        QTRY_COMPARE(window->windowTitle(), QStringLiteral("Wavorin - good.cfg"));
+    }
+
+    void otherDropsAreRefused()
+    {
+        QMimeData data;
+        data.setUrls({QUrl(QStringLiteral("https://www.norvale.example/rec.cfg"))});
+        QDragEnterEvent enter(
+            QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        enter.ignore();
+        QCoreApplication::sendEvent(window.get(), &enter);
+        QVERIFY(!enter.isAccepted());
+    }
+
+private:
+    // Keeps the loader thread busy for a while before its next load.
+    void delayLoader()
+    {
+        QMetaObject::invokeMethod(
+            window->recording(), [] { QThread::msleep(300); }, Qt::QueuedConnection);
+    }
+};
+
+QTEST_MAIN(TestOpening)
+#include "tst_opening.moc"

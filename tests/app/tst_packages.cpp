@@ -1,0 +1,396 @@
+#include "cfgproperties.h"
+#include "mainwindow.h"
+#include "smallrecording.h"
+#include "startup.h"
+#include "windowtest.h"
+
+#include <QDirIterator>
+#include <QListWidget>
+#include <QProcess>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+#include <memory>
+
+// Packages, unpacked by the real archiver where one is installed and by scripts in its place where
+// its behaviour must be arranged.
+class TestPackages : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> folder;
+    std::unique_ptr<MainWindow> window;
+    std::unique_ptr<BoxReader> boxes;
+    QByteArray searchPath;
+
+    QString path(const char *name) const { return folder->filePath(QLatin1String(name)); }
+
+    static QString unpackingFolder(int number)
+    {
+        return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation)
+            + QLatin1String("/tmp/files") + QString::number(number);
+    }
+
+    // Packs files of the folder "in" with the real archiver; empty where there is none.
+    QString package(const char *name, const QStringList &arguments = {})
+    {
+        QProcess archiver;
+        archiver.setWorkingDirectory(path("in"));
+        archiver.start(QStringLiteral("7z"),
+            QStringList({QStringLiteral("a"), QStringLiteral("-tzip"), path(name)}) + arguments);
+        return archiver.waitForFinished() && archiver.exitCode() == 0 ? path(name) : QString();
+    }
+
+    // Puts a shell script in the place of the archiver; its arguments are those of the archiver.
+    void useScript(const QByteArray &script)
+    {
+        QVERIFY(writeTextFile(path("7z.exe"), "#!/bin/sh\n" + script));
+        QFile::setPermissions(
+            path("7z.exe"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        qputenv("PATH", QFile::encodeName(folder->path()) + ':' + searchPath);
+    }
+
+    // Any file will do as a package for a script.
+    QString anyPackage()
+    {
+        return writeTextFile(path("some.zip"), "PK") ? path("some.zip") : QString();
+    }
+
+    void expectNotValidBox()
+    {
+        QTRY_VERIFY(boxes->count() > 0);
+        QTest::qWait(50);
+        const QList<BoxReader::Box> seen = boxes->take();
+        QCOMPARE(seen.size(), 1);
+        QCOMPARE(seen[0].icon, QMessageBox::Critical);
+        QCOMPARE(seen[0].title, QStringLiteral("Error"));
+        QCOMPARE(seen[0].text,
+            QStringLiteral("The zip file is not valid.\nPlease select another file."));
+        QCOMPARE(seen[0].buttons, QMessageBox::Close);
+        QVERIFY(seen[0].modal);
+    }
+
+    void expectNothingLoaded(const QString &zip)
+    {
+        QVERIFY(!window->recording());
+        QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin"));
+        QCOMPARE(window->windowFilePath(), zip);
+        QCOMPARE(window->statusBar()->currentMessage(), QStringLiteral("File loaded"));
+    }
+
+    void expectNextGoodFileOpens()
+    {
+        window->open(writeSmallRecording(folder->path(), QStringLiteral("next")));
+        QVERIFY(window->recording());
+        QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - next.cfg"));
+    }
+
+private slots:
+    void initTestCase()
+    {
+        if (QStandardPaths::findExecutable(QStringLiteral("7z")).isEmpty())
+            QSKIP("no archiver is installed");
+        preferApplicationFolder();
+        searchPath = qgetenv("PATH");
+        QVERIFY(
+            searchPath.startsWith(QFile::encodeName(QCoreApplication::applicationDirPath()) + ':'));
+    }
+
+    void init()
+    {
+        startAsMaker();
+        qputenv("PATH", searchPath);
+        folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("in")));
+        boxes = std::make_unique<BoxReader>();
+        window = std::make_unique<MainWindow>();
+    }
+
+    void cleanup()
+    {
+        window.reset();
+        boxes.reset();
+    }
+
+    void goodPackage()
+    {
+        writeSmallRecording(path("in"), QStringLiteral("deep"));
+        QVERIFY(writeTextFile(path("in/settings.xml"), "<settings/>"));
+        const QString zip = package("device.zip", {QStringLiteral(".")});
+        QVERIFY(!QDir(unpackingFolder(1)).exists());
+        window->open(zip);
+        QVERIFY(window->recording());
+        QCOMPARE(window->recording()->sampleCount, 40);
+        QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - deep.cfg"));
+        QCOMPARE(window->windowFilePath(), unpackingFolder(1) + QLatin1String("/deep.cfg"));
+        QVERIFY(boxes->take().isEmpty());
+        window->close();
+        QVERIFY(!QDir(unpackingFolder(1)).exists());
+    }
+
+    void endingInAnyCase()
+    {
+        writeSmallRecording(path("in"), QStringLiteral("rec"));
+        window->open(package("DEVICE.ZIP", {QStringLiteral(".")}));
+        QVERIFY(window->recording());
+    }
+
+    void foldersInsideAreFlattened()
+    {
+        QVERIFY(QDir(path("in")).mkpath(QStringLiteral("records/today")));
+        writeSmallRecording(path("in/records/today"), QStringLiteral("rec"));
+        window->open(package("device.zip", {QStringLiteral(".")}));
+        QVERIFY(window->recording());
+        QVERIFY(QFile::exists(unpackingFolder(1) + QLatin1String("/rec.cfg")));
+    }
+
+    void packageWithoutConfiguration()
+    {
+        QVERIFY(writeTextFile(path("in/readme.txt"), "nothing here"));
+        const QString zip = package("device.zip", {QStringLiteral(".")});
+        window->open(zip);
+        expectNothingLoaded(zip);
+        expectNextGoodFileOpens();
+    }
+
+    void emptyPackageLeavesTheOldRecording()
+    {
+        QVERIFY(writeTextFile(path("in/readme.txt"), "nothing here"));
+        window->open(writeSmallRecording(folder->path(), QStringLiteral("before")));
+        window->open(package("device.zip", {QStringLiteral(".")}));
+        QVERIFY(window->recording());
+        QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - before.cfg"));
+    }
+
+    void firstOfTwoConfigurations()
+    {
+        writeSmallRecording(path("in"), QStringLiteral("one"));
+        writeSmallRecording(path("in"), QStringLiteral("two"));
+        window->open(package("device.zip", {QStringLiteral(".")}));
+        QDirIterator listing(unpackingFolder(1), {QStringLiteral("*.cfg")}, QDir::Files);
+        QCOMPARE(window->windowFilePath(), listing.next());
+    }
+
+    void filesOfTwoPackagesNeverMix()
+    {
+        writeSmallRecording(path("in"), QStringLiteral("one"));
+        window->open(package("one.zip", {QStringLiteral(".")}));
+        QVERIFY(QFile::remove(path("in/one.cfg")) && QFile::remove(path("in/one.dat")));
+        writeSmallRecording(path("in"), QStringLiteral("two"));
+        window->open(package("two.zip", {QStringLiteral(".")}));
+        QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - two.cfg"));
+        QCOMPARE(QDir(unpackingFolder(1)).entryList(QDir::Files).join(QLatin1Char(' ')),
+            QStringLiteral("two.cfg two.dat"));
+        QVERIFY(!QDir(unpackingFolder(2)).exists());
+    }
+
+    void everyInstanceHasAFolderOfItsOwn()
+    {
+        writeSmallRecording(path("in"), QStringLiteral("rec"));
+        const QString zip = package("device.zip", {QStringLiteral(".")});
+        MainWindow madeBefore;
+        window->open(zip);
+        MainWindow madeAfter;
+        madeBefore.open(zip);
+        madeAfter.open(zip);
+        QCOMPARE(window->windowFilePath(), unpackingFolder(1) + QLatin1String("/rec.cfg"));
+        QCOMPARE(madeBefore.windowFilePath(), unpackingFolder(2) + QLatin1String("/rec.cfg"));
+        QCOMPARE(madeAfter.windowFilePath(), unpackingFolder(3) + QLatin1String("/rec.cfg"));
+        QVERIFY(madeAfter.recording());
+        madeAfter.close();
+        madeBefore.close();
+        QVERIFY(QDir(unpackingFolder(1)).exists());
+        QVERIFY(!QDir(unpackingFolder(2)).exists());
+        QVERIFY(!QDir(unpackingFolder(3)).exists());
+    }
+
+    void anUnusedInstanceRemovesNothing()
+    {
+        MainWindow other;
+        QVERIFY(QDir().mkpath(unpackingFolder(1)));
+        other.close();
+        QVERIFY(QDir(unpackingFolder(1)).exists());
+    }
+
+    void damagedPackage_data()
+    {
+        QTest::addColumn<bool>("truncated");
+        QTest::newRow("no archive at all") << false;
+        QTest::newRow("cut off in the middle") << true;
+    }
+
+    void damagedPackage()
+    {
+        QFETCH(bool, truncated);
+        QString zip = path("bad.zip");
+        if (truncated) {
+            QVERIFY(writeTextFile(path("in/readme.txt"), QByteArray(100000, 'x')));
+            zip = package("bad.zip", {QStringLiteral(".")});
+            QVERIFY(QFile::resize(zip, QFileInfo(zip).size() / 2));
+        } else {
+            QVERIFY(writeTextFile(zip, QByteArray(1000, 'x')));
+        }
+        window->open(zip);
+        expectNothingLoaded(zip);
+        expectNotValidBox();
+        expectNextGoodFileOpens();
+    }
+
+    void passwordDoesNotBlock()
+    {
+        writeSmallRecording(path("in"), QStringLiteral("rec"));
+        const QString zip
+            = package("locked.zip", {QStringLiteral("."), QStringLiteral("-psecret")});
+        window->open(zip);
+        // The archiver complains and leaves empty files behind.
+        QTRY_COMPARE(boxes->count(), 2);
+        QStringList texts;
+        for (const BoxReader::Box &box : boxes->take())
+            texts.append(box.text);
+        QVERIFY(texts.contains(
+            QStringLiteral("The zip file is not valid.\nPlease select another file.")));
+        QVERIFY(texts.contains(QStringLiteral("File not supported.")));
+        expectNextGoodFileOpens();
+    }
+
+    void errorInThePathIsNoError()
+    {
+        writeSmallRecording(path("in"), QStringLiteral("rec"));
+        window->open(package("Error Overwrite password.zip", {QStringLiteral(".")}));
+        QVERIFY(window->recording());
+        QTest::qWait(50);
+        QVERIFY(boxes->take().isEmpty());
+    }
+
+    // A link to a folder outside must not lead the removal there.
+    void linkOutOfThePackage()
+    {
+        QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("outside")));
+        QVERIFY(writeTextFile(path("outside/precious"), "x"));
+        QVERIFY(QFile::link(path("outside"), path("in/link")));
+        writeSmallRecording(path("in"), QStringLiteral("rec"));
+        const QString zip = package("links.zip", {QStringLiteral("-snl"), QStringLiteral(".")});
+        window->open(zip);
+        window->open(zip);
+        window->close();
+        QVERIFY(QFile::exists(path("outside/precious")));
+    }
+
+    void noArchiverInstalled()
+    {
+        qputenv("PATH", QFile::encodeName(QCoreApplication::applicationDirPath()));
+        const QString zip = anyPackage();
+        window->open(zip);
+        expectNothingLoaded(zip);
+        expectNotValidBox();
+    }
+
+    void archiverThatCannotStartLeavesTheWindowAlive()
+    {
+        qputenv("PATH", "");
+        bool alive = false;
+        QTimer::singleShot(200, this, [&] {
+            alive = true;
+            window->close();
+        });
+        window->open(anyPackage());
+        QVERIFY(alive);
+        QVERIFY(!window->recording());
+        QCOMPARE(window->windowFilePath(), QStringLiteral("untitled.txt"));
+    }
+
+    void archiverArguments()
+    {
+        useScript("printf '%s\\n' \"$#\" \"$@\" > \"" + QFile::encodeName(path("seen")) + "\"\n");
+        const QString zip = anyPackage();
+        window->open(zip);
+        QFile seen(path("seen"));
+        QVERIFY(seen.open(QIODevice::ReadOnly));
+        QCOMPARE(QFile::decodeName(seen.readAll()),
+            QLatin1String("4\ne\n") + zip + QLatin1String("\n-aoa\n-o") + unpackingFolder(1)
+                + QLatin1Char('\n'));
+        QVERIFY(QDir(unpackingFolder(1)).exists());
+    }
+
+    void overwriteQuestionIsAnswered()
+    {
+        useScript("echo 'Overwrite (Y)es / (A)lways?'\nread answer\nprintf '%s' \"$answer\" > \""
+            + QFile::encodeName(path("seen")) + "\"\n");
+        window->open(anyPackage());
+        QFile seen(path("seen"));
+        QVERIFY(seen.open(QIODevice::ReadOnly));
+        QCOMPARE(seen.readAll(), QByteArray("A\r"));
+    }
+
+    void errorsOnBothChannelsShowOneBox()
+    {
+        useScript(
+            "echo 'Error: one'\necho 'error: two' >&2\nsleep 0.2\necho 'ERROR: three'\nexit 2\n");
+        const QString zip = anyPackage();
+        window->open(zip);
+        expectNothingLoaded(zip);
+        expectNotValidBox();
+    }
+
+    void eachUnpackingMayShowItsBox()
+    {
+        useScript("echo Error\n");
+        const QString zip = anyPackage();
+        window->open(zip);
+        expectNotValidBox();
+        window->open(zip);
+        expectNotValidBox();
+    }
+
+    void lastOfSeveralFilesOpensWhenTheUnpackingHasEnded()
+    {
+        useScript("sleep 0.5\n");
+        const QString second = writeSmallRecording(folder->path(), QStringLiteral("second"));
+        const QString third = writeSmallRecording(folder->path(), QStringLiteral("third"));
+        const QString zip = anyPackage();
+        QTimer::singleShot(50, this, [&] {
+            window->open(second);
+            window->open(third);
+            QVERIFY(!window->recording());
+        });
+        window->open(zip);
+        QVERIFY(window->recording());
+        QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - third.cfg"));
+    }
+
+    void endDuringUnpackingStopsTheArchiver_data()
+    {
+        QTest::addColumn<bool>("deleted");
+        QTest::newRow("the window is closed") << false;
+        QTest::newRow("the window is deleted") << true;
+    }
+
+    void endDuringUnpackingStopsTheArchiver()
+    {
+        QFETCH(bool, deleted);
+        useScript("echo $$ > \"" + QFile::encodeName(path("pid")) + "\"\nexec sleep 60\n");
+        QTimer watch;
+        connect(&watch, &QTimer::timeout, this, [&] {
+            if (QFileInfo(path("pid")).size() == 0)
+                return;
+            watch.stop();
+            if (deleted)
+                window.reset();
+            else
+                window->close();
+        });
+        watch.start(20);
+        window->open(anyPackage());
+        QFile pid(path("pid"));
+        QVERIFY(pid.open(QIODevice::ReadOnly));
+        const int number = pid.readAll().trimmed().toInt();
+        QVERIFY(number > 0);
+        QVERIFY(kill(number, 0) != 0);
+        if (!deleted)
+            QVERIFY(!QDir(unpackingFolder(1)).exists());
+    }
+};
+
+QTEST_MAIN(TestPackages)
+#include "tst_packages.moc"
