@@ -1,0 +1,43 @@
+#include "applicationidentity.h"
+#include "commandline.h"
+#include "mainwindow.h"
+#include "startup.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QPixmap>
+#include <QSplashScreen>
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication application(argc, argv);
+    QIcon icon;
+    QPixmap splashPixmap;
+
+    ApplicationIdentity::setBrand(WAVORIN_BRAND);
+    ApplicationIdentity::setOrganisationName(QStringLiteral("Norvale"));
+    ApplicationIdentity::setApplicationName(QStringLiteral("Wavorin"));
+    // Unlike an icon, a pixmap does not find its sharper version by itself.
+    splashPixmap.load(application.devicePixelRatio() > 1
+            ? QStringLiteral(":/images/waveform@2x.png")
+            : QStringLiteral(":/images/waveform.png"));
+    icon = QIcon(QStringLiteral(":/images/logo.png"));
+    QCoreApplication::setOrganizationName(ApplicationIdentity::organisationName());
+    QCoreApplication::setApplicationName(ApplicationIdentity::applicationName());
+    preferApplicationFolder();
+
+    auto *splash = new QSplashScreen(QPixmap(), Qt::WindowFlags());
+    splash->setPixmap(splashPixmap);
+    splash->show();
+
+    MainWindow window;
+    openOrWait(window, pathArgument(argc, argv));
+    window.setWindowTitle(ApplicationIdentity::applicationName());
+    window.setWindowIcon(icon);
+    window.show();
+    splash->finish(&window);
+    delete splash;
+    return QApplication::exec();
+}

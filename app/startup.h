@@ -1,0 +1,12 @@
+#pragma once
+
+class MainWindow;
+class QString;
+
+// Puts the application folder first in the search path of the child processes, where the archiver
+// lies beside the program.
+void preferApplicationFolder();
+
+// Opens the recording named on the command line. Without one that is opened at start-up, processes
+// events for two seconds, so that the splash can be seen.
+void openOrWait(MainWindow &window, const QString &path);
