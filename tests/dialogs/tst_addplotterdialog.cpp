@@ -1,0 +1,197 @@
+#include "addplotterdialog.h"
+#include "pseudotranslator.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QtTest>
+
+class TestAddPlotterDialog : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void showsItsTexts();
+    void offersTheNamesInOrder();
+    void movesNothingWithoutASelection();
+    void movesASelectedItem();
+    void movesSeveralItemsAtOnce();
+    void putsAReturnedNameLast();
+    void givesTheRightListInItsOrder();
+    void givesNamesOfEveryKind();
+    void acceptsAnEmptyChoice();
+    void rejectsOnCancel();
+    void keepsItsListsUntilNamesAreGivenAgain();
+    void retranslatesOnALanguageChange();
+
+private:
+    void select(QListWidget *list, const QStringList &names);
+    void add(const QStringList &names);
+    void remove(const QStringList &names);
+    QStringList left() const;
+    template <typename T> T *child(const char *name) const
+    {
+        return dialog->findChild<T *>(QLatin1String(name));
+    }
+
+    std::unique_ptr<AddPlotterDialog> dialog;
+};
+
+void TestAddPlotterDialog::init()
+{
+    dialog = std::make_unique<AddPlotterDialog>();
+    dialog->setChannelNames({QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")});
+    dialog->show();
+    QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
+}
+
+// Clicks the items as a person would: the first one alone, the others with Ctrl.
+void TestAddPlotterDialog::select(QListWidget *list, const QStringList &names)
+{
+    Qt::KeyboardModifiers modifiers = Qt::NoModifier;
+    for (const QString &name : names) {
+        const QListWidgetItem *item = list->findItems(name, Qt::MatchExactly).value(0);
+        QVERIFY2(item, qPrintable(name));
+        QTest::mouseClick(
+            list->viewport(), Qt::LeftButton, modifiers, list->visualItemRect(item).center());
+        modifiers = Qt::ControlModifier;
+    }
+}
+
+void TestAddPlotterDialog::add(const QStringList &names)
+{
+    select(child<QListWidget>("listWidget_unSelected"), names);
+    QTest::mouseClick(child<QPushButton>("pushButton_add"), Qt::LeftButton);
+}
+
+void TestAddPlotterDialog::remove(const QStringList &names)
+{
+    select(child<QListWidget>("listWidget_Selected"), names);
+    QTest::mouseClick(child<QPushButton>("pushButton_remove"), Qt::LeftButton);
+}
+
+QStringList TestAddPlotterDialog::left() const
+{
+    QStringList names;
+    const auto *list = child<QListWidget>("listWidget_unSelected");
+    for (int row = 0; row < list->count(); ++row)
+        names.append(list->item(row)->text());
+    return names;
+}
+
+void TestAddPlotterDialog::showsItsTexts()
+{
+    QCOMPARE(dialog->windowTitle(), QStringLiteral("Add Graph"));
+    QCOMPARE(child<QLabel>("GraphNameLabel")->text(), QStringLiteral("Graph name: "));
+    QCOMPARE(child<QPushButton>("pushButton_add")->text(), QStringLiteral(">>"));
+    QCOMPARE(child<QPushButton>("pushButton_remove")->text(), QStringLiteral("<<"));
+}
+
+void TestAddPlotterDialog::offersTheNamesInOrder()
+{
+    QCOMPARE(left(), QStringList({QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")}));
+    QCOMPARE(dialog->selectedChannels(), QStringList());
+}
+
+void TestAddPlotterDialog::movesNothingWithoutASelection()
+{
+    add({});
+    remove({});
+    QCOMPARE(left(), QStringList({QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")}));
+    QCOMPARE(dialog->selectedChannels(), QStringList());
+}
+
+void TestAddPlotterDialog::movesASelectedItem()
+{
+    add({QStringLiteral("B")});
+    QCOMPARE(left(), QStringList({QStringLiteral("A"), QStringLiteral("C")}));
+    QCOMPARE(dialog->selectedChannels(), QStringList({QStringLiteral("B")}));
+}
+
+void TestAddPlotterDialog::movesSeveralItemsAtOnce()
+{
+    add({QStringLiteral("A"), QStringLiteral("C")});
+    QCOMPARE(left(), QStringList({QStringLiteral("B")}));
+    QCOMPARE(dialog->selectedChannels(), QStringList({QStringLiteral("A"), QStringLiteral("C")}));
+}
+
+void TestAddPlotterDialog::putsAReturnedNameLast()
+{
+    add({QStringLiteral("A")});
+    add({QStringLiteral("B")});
+    add({QStringLiteral("C")});
+    remove({QStringLiteral("B")});
+    QCOMPARE(dialog->selectedChannels(), QStringList({QStringLiteral("A"), QStringLiteral("C")}));
+    remove({QStringLiteral("A")});
+    QCOMPARE(left(), QStringList({QStringLiteral("B"), QStringLiteral("A")}));
+}
+
+void TestAddPlotterDialog::givesTheRightListInItsOrder()
+{
+    add({QStringLiteral("C")});
+    add({QStringLiteral("A")});
+    QCOMPARE(dialog->selectedChannels(), QStringList({QStringLiteral("C"), QStringLiteral("A")}));
+}
+
+void TestAddPlotterDialog::givesNamesOfEveryKind()
+{
+    const QStringList names{QStringLiteral("U0/3I0"), QStringLiteral("U0/3I0"), QStringLiteral("*"),
+        QStringLiteral("I[1]"), QStringLiteral("&U"), QString()};
+    dialog->setChannelNames(names);
+    child<QListWidget>("listWidget_unSelected")->selectAll();
+    QTest::mouseClick(child<QPushButton>("pushButton_add"), Qt::LeftButton);
+    QCOMPARE(dialog->selectedChannels(), names);
+}
+
+void TestAddPlotterDialog::acceptsAnEmptyChoice()
+{
+    QTest::mouseClick(
+        child<QDialogButtonBox>("buttonBox")->button(QDialogButtonBox::Ok), Qt::LeftButton);
+    QCOMPARE(dialog->result(), int(QDialog::Accepted));
+    QVERIFY(!dialog->isVisible());
+    QCOMPARE(dialog->graphName(), QString());
+    QCOMPARE(dialog->selectedChannels(), QStringList());
+}
+
+void TestAddPlotterDialog::rejectsOnCancel()
+{
+    QSignalSpy rejected(dialog.get(), &QDialog::rejected);
+    QTest::mouseClick(
+        child<QDialogButtonBox>("buttonBox")->button(QDialogButtonBox::Cancel), Qt::LeftButton);
+    QCOMPARE(rejected.count(), 1);
+    QVERIFY(!dialog->isVisible());
+}
+
+void TestAddPlotterDialog::keepsItsListsUntilNamesAreGivenAgain()
+{
+    QTest::keyClicks(child<QLineEdit>("lineEdit_graphName"), QStringLiteral("Feeder 2"));
+    add({QStringLiteral("B")});
+    dialog->close();
+    dialog->show();
+    QCOMPARE(dialog->graphName(), QStringLiteral("Feeder 2"));
+    QCOMPARE(left(), QStringList({QStringLiteral("A"), QStringLiteral("C")}));
+    QCOMPARE(dialog->selectedChannels(), QStringList({QStringLiteral("B")}));
+
+    dialog->setChannelNames({QStringLiteral("X")});
+    QCOMPARE(left(), QStringList({QStringLiteral("X")}));
+    QCOMPARE(dialog->selectedChannels(), QStringList());
+}
+
+void TestAddPlotterDialog::retranslatesOnALanguageChange()
+{
+    PseudoTranslator translator;
+    QCoreApplication::installTranslator(&translator);
+    QCoreApplication::processEvents();
+    QCOMPARE(dialog->windowTitle(), QStringLiteral("<AddPlotterDialog>Add Graph"));
+    QCOMPARE(
+        child<QLabel>("GraphNameLabel")->text(), QStringLiteral("<AddPlotterDialog>Graph name: "));
+    QCOMPARE(child<QPushButton>("pushButton_add")->text(), QStringLiteral("<AddPlotterDialog>>>"));
+    QCOMPARE(
+        child<QPushButton>("pushButton_remove")->text(), QStringLiteral("<AddPlotterDialog><<"));
+    QCOMPARE(left(), QStringList({QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")}));
+}
+
+QTEST_MAIN(TestAddPlotterDialog)
+#include "tst_addplotterdialog.moc"

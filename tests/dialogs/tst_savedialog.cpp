@@ -1,0 +1,500 @@
+#include "fakedialoghost.h"
+#include "pseudotranslator.h"
+#include "savedialog.h"
+
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSlider>
+#include <QTemporaryDir>
+#include <QToolButton>
+#include <QtTest>
+#include <functional>
+
+namespace {
+
+const QVector<double> threeTimes{0.4, 1.6, 12.75};
+
+// Calls what is to be done with the modal window of that class, once it has opened.
+template <typename T> void whenOpened(QObject *context, const std::function<void(T *)> &act)
+{
+    auto *timer = new QTimer(context);
+    QObject::connect(timer, &QTimer::timeout, context, [timer, act] {
+        auto *window = qobject_cast<T *>(QApplication::activeModalWidget());
+        if (!window || !window->isVisible())
+            return;
+        timer->deleteLater();
+        timer->stop();
+        act(window);
+    });
+    timer->start(10);
+}
+
+} // namespace
+
+class TestSaveDialog : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void showsItsTexts();
+    void startsWithTheWholeSpan();
+    void acceptsASingleSample();
+    void survivesNoSamples();
+    void keepsItsOwnTimes();
+    void followsADraggedSlider_data();
+    void followsADraggedSlider();
+    void followsKeyboardAndWheel();
+    void keepsNoOrderBetweenStartAndEnd();
+    void tellsOfAnExistingFile_data();
+    void tellsOfAnExistingFile();
+    void takesThePathFromTheFileDialog();
+    void emptiesThePathWhenBrowsingIsCancelled();
+    void savesTheShownMilliseconds();
+    void asksBeforeOverwriting_data();
+    void asksBeforeOverwriting();
+    void doesNotAskForTheCfgVariant();
+    void passesOnWhatIsTyped_data();
+    void passesOnWhatIsTyped();
+    void clearsTheMarkersOnCancel();
+    void keepsTheMarkersWhenTheWindowIsClosed();
+    void resetsAtEachShowing();
+    void survivesAStrangerAsParent();
+    void showsTheLanguageChosenMeanwhile();
+
+private:
+    void open(const QVector<double> &times);
+    void type(const QString &path);
+    QString makeFile(const QString &name) const;
+    template <typename T> T *child(const char *name) const
+    {
+        return dialog->findChild<T *>(QLatin1String(name));
+    }
+    QString text(const char *edit) const { return child<QLineEdit>(edit)->text(); }
+    void click(const char *button)
+    {
+        QTest::mouseClick(child<QAbstractButton>(button), Qt::LeftButton);
+    }
+
+    std::unique_ptr<QTemporaryDir> folder;
+    std::unique_ptr<FakeDialogHost> host;
+    SaveDialog *dialog = nullptr; // the host's
+};
+
+void TestSaveDialog::init()
+{
+    folder = std::make_unique<QTemporaryDir>();
+    host = std::make_unique<FakeDialogHost>();
+    host->setStyleSheet(QStringLiteral("QLabel{color: #79D7FF;}"));
+    host->folder = folder->path();
+    dialog = new SaveDialog(host.get());
+}
+
+void TestSaveDialog::open(const QVector<double> &times)
+{
+    dialog->setSampleTimes(times);
+    dialog->show();
+    QVERIFY(QTest::qWaitForWindowExposed(dialog));
+}
+
+void TestSaveDialog::type(const QString &path)
+{
+    child<QLineEdit>("lineEdit_FilePath")->clear();
+    QTest::keyClicks(child<QLineEdit>("lineEdit_FilePath"), path);
+}
+
+QString TestSaveDialog::makeFile(const QString &name) const
+{
+    QFile file(folder->filePath(name));
+    return file.open(QIODevice::WriteOnly) ? file.fileName() : QString();
+}
+
+void TestSaveDialog::showsItsTexts()
+{
+    QCOMPARE(dialog->windowTitle(), QStringLiteral("Save File"));
+    QCOMPARE(child<QLabel>("label")->text(), QStringLiteral("File path:"));
+    QCOMPARE(child<QLabel>("label_FileExists")->text(), QStringLiteral("*File aready exists"));
+    QCOMPARE(child<QLabel>("label_2")->text(), QStringLiteral("Recording start point (ms):"));
+    QCOMPARE(child<QLabel>("label_3")->text(), QStringLiteral("Recording end point (ms):"));
+    QCOMPARE(child<QPushButton>("pushButton_Save")->text(), QStringLiteral("Save"));
+    QCOMPARE(child<QPushButton>("pushButton_Cancel")->text(), QStringLiteral("Cancel"));
+    QVERIFY(child<QLabel>("label_FileExists")->isHidden());
+    QVERIFY(!child<QLineEdit>("lineEdit_Start")->isEnabled());
+    QVERIFY(!child<QLineEdit>("lineEdit_End")->isEnabled());
+    QCOMPARE(child<QSlider>("horizontalSlider_StartPoint")->orientation(), Qt::Horizontal);
+    QCOMPARE(child<QSlider>("horizontalSlider_EndPoint")->orientation(), Qt::Horizontal);
+}
+
+void TestSaveDialog::startsWithTheWholeSpan()
+{
+    QSignalSpy start(dialog, &SaveDialog::setStartPoint);
+    QSignalSpy end(dialog, &SaveDialog::setEndPoint);
+    open(threeTimes);
+    for (const char *name : {"horizontalSlider_StartPoint", "horizontalSlider_EndPoint"}) {
+        QCOMPARE(child<QSlider>(name)->minimum(), 0);
+        QCOMPARE(child<QSlider>(name)->maximum(), 2);
+    }
+    QCOMPARE(child<QSlider>("horizontalSlider_StartPoint")->value(), 0);
+    QCOMPARE(child<QSlider>("horizontalSlider_EndPoint")->value(), 2);
+    QCOMPARE(text("lineEdit_Start"), QStringLiteral("0"));
+    QCOMPARE(text("lineEdit_End"), QStringLiteral("13"));
+    QCOMPARE(start.count(), 1);
+    QCOMPARE(start.at(0).at(0).toDouble(), 0.4);
+    QCOMPARE(end.count(), 1);
+    QCOMPARE(end.at(0).at(0).toDouble(), 12.75);
+}
+
+void TestSaveDialog::acceptsASingleSample()
+{
+    open({3.0});
+    QCOMPARE(child<QSlider>("horizontalSlider_StartPoint")->maximum(), 0);
+    QCOMPARE(child<QSlider>("horizontalSlider_EndPoint")->maximum(), 0);
+    QCOMPARE(text("lineEdit_Start"), QStringLiteral("3"));
+    QCOMPARE(text("lineEdit_End"), QStringLiteral("3"));
+}
+
+void TestSaveDialog::survivesNoSamples()
+{
+    QSignalSpy start(dialog, &SaveDialog::setStartPoint);
+    QSignalSpy end(dialog, &SaveDialog::setEndPoint);
+    open(threeTimes);
+    dialog->close();
+    start.clear();
+    end.clear();
+
+    open({});
+    QTest::keyClick(child<QSlider>("horizontalSlider_EndPoint"), Qt::Key_Right);
+    dialog->on_horizontalSlider_StartPoint_sliderMoved(0);
+    dialog->on_horizontalSlider_EndPoint_sliderMoved(0);
+
+    QCOMPARE(text("lineEdit_Start"), QString());
+    QCOMPARE(text("lineEdit_End"), QString());
+    QCOMPARE(start.count(), 0);
+    QCOMPARE(end.count(), 0);
+}
+
+void TestSaveDialog::keepsItsOwnTimes()
+{
+    QVector<double> times = threeTimes;
+    dialog->setSampleTimes(times);
+    times.fill(99);
+    times.clear();
+    dialog->show();
+    QCOMPARE(text("lineEdit_End"), QStringLiteral("13"));
+}
+
+void TestSaveDialog::followsADraggedSlider_data()
+{
+    QTest::addColumn<QString>("slider");
+    QTest::addColumn<QString>("edit");
+    QTest::addColumn<int>("starts");
+    QTest::addColumn<int>("ends");
+
+    QTest::newRow("start slider") << QStringLiteral("horizontalSlider_StartPoint")
+                                  << QStringLiteral("lineEdit_Start") << 1 << 0;
+    QTest::newRow("end slider") << QStringLiteral("horizontalSlider_EndPoint")
+                                << QStringLiteral("lineEdit_End") << 0 << 1;
+}
+
+void TestSaveDialog::followsADraggedSlider()
+{
+    QFETCH(QString, slider);
+    QFETCH(QString, edit);
+    QFETCH(int, starts);
+    QFETCH(int, ends);
+    open(threeTimes);
+    QSignalSpy start(dialog, &SaveDialog::setStartPoint);
+    QSignalSpy end(dialog, &SaveDialog::setEndPoint);
+
+    auto *moved = dialog->findChild<QSlider *>(slider);
+    moved->setSliderDown(true);
+    moved->setSliderPosition(1);
+    moved->setSliderDown(false);
+
+    QCOMPARE(dialog->findChild<QLineEdit *>(edit)->text(), QStringLiteral("2"));
+    QCOMPARE(start.count(), starts);
+    QCOMPARE(end.count(), ends);
+    const QSignalSpy &spy = starts ? start : end;
+    QCOMPARE(spy.at(0).at(0).toDouble(), 1.6);
+}
+
+void TestSaveDialog::followsKeyboardAndWheel()
+{
+    open(threeTimes);
+    QSignalSpy start(dialog, &SaveDialog::setStartPoint);
+    QSignalSpy end(dialog, &SaveDialog::setEndPoint);
+
+    QTest::keyClick(child<QSlider>("horizontalSlider_StartPoint"), Qt::Key_Right);
+    QCOMPARE(text("lineEdit_Start"), QStringLiteral("2"));
+    QCOMPARE(start.count(), 1);
+    QCOMPARE(start.at(0).at(0).toDouble(), 1.6);
+
+    auto *slider = child<QSlider>("horizontalSlider_EndPoint");
+    QWheelEvent wheel(slider->rect().center(), slider->mapToGlobal(slider->rect().center()),
+        QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(slider, &wheel);
+    QVERIFY(slider->value() < 2);
+    QCOMPARE(
+        text("lineEdit_End"), slider->value() == 1 ? QStringLiteral("2") : QStringLiteral("0"));
+    QCOMPARE(end.count(), 1);
+}
+
+void TestSaveDialog::keepsNoOrderBetweenStartAndEnd()
+{
+    open(threeTimes);
+    QTest::keyClick(child<QSlider>("horizontalSlider_StartPoint"), Qt::Key_End);
+    QTest::keyClick(child<QSlider>("horizontalSlider_EndPoint"), Qt::Key_Home);
+    QCOMPARE(text("lineEdit_Start"), QStringLiteral("13"));
+    QCOMPARE(text("lineEdit_End"), QStringLiteral("0"));
+    click("pushButton_Save");
+    QCOMPARE(host->savings.size(), 1);
+    QCOMPARE(host->savings.at(0).start, 13.0);
+    QCOMPARE(host->savings.at(0).end, 0.0);
+}
+
+void TestSaveDialog::tellsOfAnExistingFile_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<bool>("told");
+
+    QTest::newRow("as typed") << QStringLiteral("a.cfg") << true;
+    QTest::newRow("with .cfg appended") << QStringLiteral("a") << true;
+    QTest::newRow("another file") << QStringLiteral("b.cfg") << false;
+    QTest::newRow("another extension") << QStringLiteral("a.txt") << false;
+    QTest::newRow("a folder") << QStringLiteral("sub") << false;
+    QTest::newRow("a folder beside a .cfg of its name") << QStringLiteral("both") << false;
+}
+
+void TestSaveDialog::tellsOfAnExistingFile()
+{
+    QFETCH(QString, typed);
+    makeFile(QStringLiteral("a.cfg"));
+    makeFile(QStringLiteral("both.cfg"));
+    QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("sub")));
+    QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("both")));
+    open(threeTimes);
+
+    type(folder->filePath(typed));
+
+    QTEST(child<QLabel>("label_FileExists")->isVisible(), "told");
+    type(folder->filePath(QStringLiteral("none")));
+    QVERIFY(!child<QLabel>("label_FileExists")->isVisible());
+}
+
+void TestSaveDialog::takesThePathFromTheFileDialog()
+{
+    makeFile(QStringLiteral("old.cfg"));
+    open(threeTimes);
+    QString caption;
+    QString start;
+    whenOpened<QFileDialog>(dialog, [&](QFileDialog *files) {
+        caption = files->windowTitle();
+        start = files->directory().path();
+        QCOMPARE(files->parentWidget(), dialog);
+        files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))
+            ->setText(QStringLiteral("old"));
+        files->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save)->click();
+    });
+
+    click("toolButton_Browse");
+
+    QCOMPARE(caption, QStringLiteral("Save recording"));
+    QCOMPARE(start, folder->path());
+    QCOMPARE(text("lineEdit_FilePath"), folder->filePath(QStringLiteral("old")));
+    QVERIFY(child<QLabel>("label_FileExists")->isVisible());
+    click("pushButton_Save");
+    QCOMPARE(host->savings.at(0).path, folder->filePath(QStringLiteral("old")));
+}
+
+void TestSaveDialog::emptiesThePathWhenBrowsingIsCancelled()
+{
+    open(threeTimes);
+    type(makeFile(QStringLiteral("a.cfg")));
+    QVERIFY(child<QLabel>("label_FileExists")->isVisible());
+    whenOpened<QFileDialog>(dialog, [](QFileDialog *files) { files->reject(); });
+
+    click("toolButton_Browse");
+
+    QCOMPARE(text("lineEdit_FilePath"), QString());
+    QVERIFY(!child<QLabel>("label_FileExists")->isVisible());
+    click("pushButton_Save");
+    QCOMPARE(host->savings.at(0).path, QString());
+}
+
+void TestSaveDialog::savesTheShownMilliseconds()
+{
+    QStringList order;
+    open(threeTimes);
+    connect(dialog, &SaveDialog::clearPoints, this, [&] {
+        QCOMPARE(host->savings.size(), 1);
+        QVERIFY(dialog->isVisible());
+        order.append(QStringLiteral("cleared"));
+    });
+    type(folder->filePath(QStringLiteral("new")));
+
+    click("pushButton_Save");
+
+    QCOMPARE(host->savings.size(), 1);
+    QCOMPARE(host->savings.at(0).path, folder->filePath(QStringLiteral("new")));
+    QCOMPARE(host->savings.at(0).start, 0.0);
+    QCOMPARE(host->savings.at(0).end, 13.0);
+    QCOMPARE(order.size(), 1);
+    QVERIFY(!dialog->isVisible());
+}
+
+void TestSaveDialog::asksBeforeOverwriting_data()
+{
+    QTest::addColumn<int>("button"); // -1: closes the box
+    QTest::addColumn<int>("savings");
+
+    QTest::newRow("Continue saves") << 0 << 1;
+    QTest::newRow("Cancel leaves the dialog open") << 1 << 0;
+    QTest::newRow("so does Escape") << -1 << 0;
+}
+
+void TestSaveDialog::asksBeforeOverwriting()
+{
+    QFETCH(int, button);
+    QFETCH(int, savings);
+    open(threeTimes);
+    QSignalSpy cleared(dialog, &SaveDialog::clearPoints);
+    type(makeFile(QStringLiteral("a.cfg")));
+    bool asked = false;
+    whenOpened<QMessageBox>(dialog, [&](QMessageBox *box) {
+        asked = true;
+        QCOMPARE(box->parentWidget(), dialog);
+        QCOMPARE(box->styleSheet(), QStringLiteral("QLabel{color: #79D7FF;}"));
+        QCOMPARE(box->windowTitle(), QStringLiteral("Save file"));
+        QCOMPARE(box->text(),
+            QStringLiteral("File already exists. Are you sure you want to overwrite it?"));
+        const QList<QAbstractButton *> buttons = box->buttons();
+        QStringList texts;
+        for (const QAbstractButton *each : buttons)
+            texts.append(each->text());
+        QCOMPARE(texts, QStringList({QStringLiteral("Continue"), QStringLiteral("Cancel")}));
+        QCOMPARE(box->buttonRole(buttons.at(0)), QMessageBox::AcceptRole);
+        QCOMPARE(box->buttonRole(buttons.at(1)), QMessageBox::RejectRole);
+        if (button < 0)
+            QTest::keyClick(box, Qt::Key_Escape);
+        else
+            QTest::mouseClick(buttons.at(button), Qt::LeftButton);
+    });
+
+    click("pushButton_Save");
+
+    QVERIFY(asked);
+    QCOMPARE(host->savings.size(), savings);
+    QCOMPARE(cleared.count(), savings);
+    QCOMPARE(dialog->isVisible(), savings == 0);
+}
+
+void TestSaveDialog::doesNotAskForTheCfgVariant()
+{
+    makeFile(QStringLiteral("a.cfg"));
+    open(threeTimes);
+    type(folder->filePath(QStringLiteral("a")));
+    QVERIFY(child<QLabel>("label_FileExists")->isVisible());
+
+    click("pushButton_Save");
+
+    QCOMPARE(host->savings.size(), 1);
+    QCOMPARE(host->savings.at(0).path, folder->filePath(QStringLiteral("a")));
+}
+
+void TestSaveDialog::passesOnWhatIsTyped_data()
+{
+    QTest::addColumn<QString>("path");
+
+    QTest::newRow("an empty path") << QString();
+    QTest::newRow("a path to a folder") << QDir::tempPath();
+    QTest::newRow("a folder that does not exist") << QStringLiteral("/nowhere/at/all/a.cfg");
+}
+
+void TestSaveDialog::passesOnWhatIsTyped()
+{
+    QFETCH(QString, path);
+    open(threeTimes);
+    type(path);
+    click("pushButton_Save");
+    QCOMPARE(host->savings.size(), 1);
+    QCOMPARE(host->savings.at(0).path, path);
+}
+
+void TestSaveDialog::clearsTheMarkersOnCancel()
+{
+    open(threeTimes);
+    QSignalSpy cleared(dialog, &SaveDialog::clearPoints);
+    click("pushButton_Cancel");
+    QCOMPARE(cleared.count(), 1);
+    QVERIFY(host->savings.isEmpty());
+    QVERIFY(!dialog->isVisible());
+}
+
+void TestSaveDialog::keepsTheMarkersWhenTheWindowIsClosed()
+{
+    open(threeTimes);
+    QSignalSpy cleared(dialog, &SaveDialog::clearPoints);
+    QVERIFY(dialog->close());
+    QCOMPARE(cleared.count(), 0);
+}
+
+void TestSaveDialog::resetsAtEachShowing()
+{
+    open(threeTimes);
+    type(makeFile(QStringLiteral("a.cfg")));
+    QTest::keyClick(child<QSlider>("horizontalSlider_StartPoint"), Qt::Key_End);
+    QTest::keyClick(child<QSlider>("horizontalSlider_EndPoint"), Qt::Key_Home);
+    dialog->close();
+
+    QSignalSpy start(dialog, &SaveDialog::setStartPoint);
+    dialog->show();
+    QCOMPARE(text("lineEdit_FilePath"), QString());
+    QVERIFY(!child<QLabel>("label_FileExists")->isVisible());
+    QCOMPARE(child<QSlider>("horizontalSlider_StartPoint")->value(), 0);
+    QCOMPARE(child<QSlider>("horizontalSlider_EndPoint")->value(), 2);
+    QCOMPARE(text("lineEdit_Start"), QStringLiteral("0"));
+    QCOMPARE(text("lineEdit_End"), QStringLiteral("13"));
+    QCOMPARE(start.count(), 1);
+    click("pushButton_Save");
+    QCOMPARE(host->savings.at(0).path, QString());
+}
+
+void TestSaveDialog::survivesAStrangerAsParent()
+{
+    QWidget stranger;
+    dialog = new SaveDialog(&stranger);
+    open(threeTimes);
+    whenOpened<QFileDialog>(dialog, [](QFileDialog *files) { files->reject(); });
+    click("toolButton_Browse");
+    QSignalSpy cleared(dialog, &SaveDialog::clearPoints);
+    click("pushButton_Save");
+    QCOMPARE(cleared.count(), 1);
+}
+
+void TestSaveDialog::showsTheLanguageChosenMeanwhile()
+{
+    PseudoTranslator translator;
+    QCoreApplication::installTranslator(&translator);
+    open(threeTimes);
+    QCOMPARE(dialog->windowTitle(), QStringLiteral("<SaveDialog>Save File"));
+    QCOMPARE(child<QLabel>("label")->text(), QStringLiteral("<SaveDialog>File path:"));
+
+    type(makeFile(QStringLiteral("a.cfg")));
+    QStringList texts;
+    whenOpened<QMessageBox>(dialog, [&](QMessageBox *box) {
+        texts = QStringList{box->windowTitle(), box->text(), box->buttons().at(0)->text()};
+        box->reject();
+    });
+    click("pushButton_Save");
+    QCOMPARE(texts,
+        QStringList({QStringLiteral("<SaveDialog>Save file"),
+            QStringLiteral(
+                "<SaveDialog>File already exists. Are you sure you want to overwrite it?"),
+            QStringLiteral("<SaveDialog>Continue")}));
+}
+
+QTEST_MAIN(TestSaveDialog)
+#include "tst_savedialog.moc"

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QTranslator>
+
+// Translates "text" of any context to "<context>text", so that a test sees what is translated, and
+// in which context.
+class PseudoTranslator : public QTranslator {
+    Q_OBJECT
+
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *text, const char *, int) const override
+    {
+        return QStringLiteral("<%1>%2").arg(QLatin1String(context), QString::fromUtf8(text));
+    }
+};
