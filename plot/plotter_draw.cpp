@@ -102,6 +102,7 @@ Readout Plotter::readout() const
     Readout table;
     if (cursorTimes.isEmpty())
         return table;
+    const double rate = recording() ? recording()->sampleRate : 0;
     Readout::Row header{tr("Parameter")};
     for (int i = 0; i < cursorTimes.size(); ++i)
         header.append(QStringLiteral("P%1 (%2)").arg(i + 1).arg(generalText(cursorTimes.at(i))));
@@ -109,7 +110,7 @@ Readout Plotter::readout() const
     for (auto it = channelMap.cbegin(); it != channelMap.cend(); ++it) {
         Readout::Row row{isSpectrum(it.key()) ? it->id + QStringLiteral(" FFT") : it->id};
         for (const double time : cursorTimes) {
-            const int sample = nearestSample(timeAxis.times(), time);
+            const int sample = sampleAt(timeAxis.times(), rate, time);
             const QVector<float> &values = it->trace.values();
             row.append(sample < 0 || sample >= values.size()
                     ? QString()

@@ -3,9 +3,9 @@
 #include <QString>
 #include <QVector>
 
-// One analog channel of a recording with all its samples. The series are parallel: element i of each
-// belongs to sample i. Scaled values are a * x + b in the unit of the file; a primary value is a scaled
-// value times toPrimary, a secondary value one times toSecondary.
+// One analog channel of a recording with all its samples. The series are parallel: element i of
+// each belongs to sample i. Scaled values are a * x + b in the unit of the file; a primary value is
+// a scaled value times toPrimary, a secondary value one times toSecondary.
 class AnalogChannel {
 public:
     int index = 0; // channel number An of the file
@@ -29,8 +29,8 @@ public:
     QVector<double> times; // ms; shared with the recording's sampleTimes
     QVector<float> values; // scaled values
 
-    // Appends multiplier * x + offset, computed in double and stored as float, to values, and widens
-    // minValue and maxValue by the double result.
+    // Appends multiplier * x + offset, computed in double and stored as float, to values, and
+    // widens minValue and maxValue by the double result.
     void appendValue(float x, float multiplier, float offset);
     void appendTime(double time);
 

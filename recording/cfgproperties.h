@@ -10,9 +10,9 @@
 #include <QVector>
 
 // One disturbance recording in memory: the header of the configuration file (IEEE C37.111-1999,
-// clause 5), one entry per channel line in the definition lists, the sample times, and one record per
-// channel. The lists of definitions are parallel within each of the two groups, except that toPrimary
-// and toSecondary get no entry for a channel whose P/S flag is neither "P" nor "S".
+// clause 5), one entry per channel line in the definition lists, the sample times, and one record
+// per channel. The lists of definitions are parallel within each of the two groups, except that
+// toPrimary and toSecondary get no entry for a channel whose P/S flag is neither "P" nor "S".
 class CFGProperties : public QObject {
     Q_OBJECT
 

@@ -1,0 +1,199 @@
+#include "cfgproperties.h"
+
+#include "configurationreader.h"
+#include "datareader.h"
+#include "phasors.h"
+#include "textreader.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <numeric>
+
+namespace {
+
+// Where a path does not exist, the file of the same folder whose name differs in case only, as
+// Windows finds it by itself.
+QString existingPath(const QString &path)
+{
+    const QFileInfo wanted(path);
+    if (wanted.exists())
+        return path;
+    const QDir folder = wanted.dir();
+    const QStringList names = folder.entryList(QDir::Files);
+    for (const QString &name : names) {
+        if (name.compare(wanted.fileName(), Qt::CaseInsensitive) == 0)
+            return folder.filePath(name);
+    }
+    return path;
+}
+
+} // namespace
+
+void AnalogChannel::appendValue(float x, float multiplier, float offset)
+{
+    const double value
+        = static_cast<double>(multiplier) * static_cast<double>(x) + static_cast<double>(offset);
+    const auto scaled = static_cast<float>(value);
+    if (value > static_cast<double>(maxValue))
+        maxValue = scaled;
+    if (value < static_cast<double>(minValue))
+        minValue = scaled;
+    values.append(scaled);
+}
+
+void AnalogChannel::appendTime(double time)
+{
+    times.append(time);
+}
+
+float AnalogChannel::peakValue() const
+{
+    return std::accumulate(values.cbegin(), values.cend(), 0.0F,
+        [](float peak, float value) { return std::max(peak, value); });
+}
+
+void DigitalChannel::appendValue(int state)
+{
+    allZero = allZero && state == 0;
+    values.append(state);
+}
+
+void DigitalChannel::appendTime(double time)
+{
+    times.append(time);
+}
+
+CFGProperties::CFGProperties(QObject *parent) : QObject(parent) { }
+
+CFGProperties::~CFGProperties() = default;
+
+void CFGProperties::init()
+{
+    clearConfig();
+    if (filePath.endsWith(QLatin1String(".txt"))) {
+        readTxtFile();
+        loaded = 1;
+    } else {
+        readConfgFile();
+        loaded = readDatFile() ? 1 : 0;
+        fftTransform();
+    }
+    emit initFinished();
+}
+
+void CFGProperties::readConfgFile()
+{
+    QFile file(filePath);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        qDebug("CANNOT OPEN CFG FILE");
+        return;
+    }
+    readConfiguration(file, *this);
+}
+
+bool CFGProperties::readDatFile()
+{
+    filePath.replace(QLatin1String(".cfg"), QLatin1String(".dat"), Qt::CaseInsensitive);
+    QFile file(existingPath(filePath));
+    if (file.open(QIODevice::ReadOnly)) {
+        readData(file, *this);
+        if (sampleCount > 0)
+            return true;
+    }
+    clearConfig();
+    return false;
+}
+
+void CFGProperties::readTxtFile()
+{
+    QFile file(filePath);
+    if (file.open(QIODevice::ReadOnly))
+        readTextExport(file, *this);
+}
+
+void CFGProperties::fftTransform()
+{
+    for (AnalogChannel *channel : qAsConst(analogChannels))
+        computePhasors(*channel, samplesPerCycle);
+}
+
+void CFGProperties::clearConfig()
+{
+    cfgLineNumber = 0;
+    sampleCount = 0;
+    stationName.clear();
+    recordingDeviceId.clear();
+    revisionYear.clear();
+    totalChannelCount = 0;
+    analogChannelCount = 0;
+    digitalChannelCount = 0;
+    analogIndexes.clear();
+    analogIds.clear();
+    analogPhases.clear();
+    analogCircuits.clear();
+    analogUnits.clear();
+    analogA.clear();
+    analogB.clear();
+    analogSkews.clear();
+    analogMins.clear();
+    analogMaxs.clear();
+    toPrimary.clear();
+    primaryValues.clear();
+    toSecondary.clear();
+    secondaryValues.clear();
+    psFlags.clear();
+    sampleTimes.clear();
+    digitalIndexes.clear();
+    digitalIds.clear();
+    digitalPhases.clear();
+    digitalCircuits.clear();
+    digitalNormalStates.clear();
+    lineFrequency = 0;
+    rateCount = 0;
+    sampleRate = 0;
+    lastSampleNumber = 0;
+    durationMs = 0;
+    samplesPerCycle = 0;
+    startDate.clear();
+    startTime.clear();
+    triggerDate.clear();
+    triggerTime.clear();
+    triggerOffsetMs = 0;
+    fileType.clear();
+    analogChannels.clear();
+    digitalChannels.clear();
+    maxValue = 0;
+    minValue = 0;
+}
+
+AnalogChannel *CFGProperties::analogChannel(int number) const
+{
+    if (number > analogChannels.size())
+        number -= analogChannels.size();
+    return analogChannels.value(number - 1, nullptr);
+}
+
+DigitalChannel *CFGProperties::digitalChannel(int number) const
+{
+    return digitalChannels.value(number - 1, nullptr);
+}
+
+float CFGProperties::updateMaxValue()
+{
+    maxValue = 0;
+    for (const AnalogChannel *channel : qAsConst(analogChannels))
+        maxValue = std::max(maxValue, channel->maxValue);
+    return maxValue;
+}
+
+float CFGProperties::updateMinValue()
+{
+    minValue = 0;
+    for (const AnalogChannel *channel : qAsConst(analogChannels))
+        minValue = std::min(minValue, channel->minValue);
+    return minValue;
+}

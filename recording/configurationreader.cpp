@@ -1,0 +1,148 @@
+#include "configurationreader.h"
+
+#include "cfgproperties.h"
+#include "numbers.h"
+
+#include <QIODevice>
+#include <QTime>
+
+namespace {
+
+QString withoutLast(const QString &text, int count = 1)
+{
+    return text.chopped(qMin(count, text.size()));
+}
+
+// The first fields of a line, no more than a line has any use for.
+QStringList firstFields(const QString &line)
+{
+    constexpr int most = 13;
+    QStringList fields;
+    for (int from = 0; fields.size() < most;) {
+        const int comma = line.indexOf(QLatin1Char(','), from);
+        fields.append(line.mid(from, comma < 0 ? -1 : comma - from));
+        if (comma < 0)
+            break;
+        from = comma + 1;
+    }
+    return fields;
+}
+
+// The factors are written as a reciprocal and a product, which rounds twice.
+void appendFactors(CFGProperties &recording, const QString &flag, double primary, double secondary)
+{
+    if (flag == QLatin1String("S")) {
+        recording.toPrimary.append((1 / secondary) * primary);
+        recording.toSecondary.append(1);
+    } else if (flag == QLatin1String("P")) {
+        recording.toPrimary.append(1);
+        recording.toSecondary.append((1 / primary) * secondary);
+    }
+}
+
+void readAnalogLine(CFGProperties &recording, const QStringList &fields)
+{
+    recording.analogIndexes.append(fields.value(0).toInt());
+    recording.analogIds.append(fields.value(1));
+    recording.analogPhases.append(fields.value(2));
+    recording.analogCircuits.append(fields.value(3));
+    recording.analogUnits.append(fields.value(4));
+    recording.analogA.append(narrowed(fields.value(5).toDouble()));
+    recording.analogB.append(narrowed(fields.value(6).toDouble()));
+    recording.analogSkews.append(fields.value(7).toDouble());
+    recording.analogMins.append(fields.value(8).toInt());
+    recording.analogMaxs.append(fields.value(9).toInt());
+    recording.primaryValues.append(fields.value(10).toDouble());
+    recording.secondaryValues.append(fields.value(11).toDouble());
+    recording.psFlags.append(fields.value(12).left(1));
+    appendFactors(recording, recording.psFlags.constLast(), recording.primaryValues.constLast(),
+        recording.secondaryValues.constLast());
+}
+
+void readDigitalLine(CFGProperties &recording, const QStringList &fields)
+{
+    recording.digitalIndexes.append(fields.value(0).toInt());
+    if (fields.size() >= 2)
+        recording.digitalIds.append(fields.at(1));
+    if (fields.size() >= 3)
+        recording.digitalPhases.append(fields.at(2));
+    if (fields.size() >= 4)
+        recording.digitalCircuits.append(fields.at(3));
+    if (fields.size() >= 5) {
+        QString state = fields.at(4);
+        state.remove(QLatin1Char('\n'));
+        state.remove(QLatin1String("\r\n"));
+        recording.digitalNormalStates.append(state);
+    }
+}
+
+void readLine(CFGProperties &recording, const QString &line)
+{
+    const qint64 number = recording.cfgLineNumber;
+    const qint64 analog = recording.analogChannelCount;
+    const qint64 channels = analog + recording.digitalChannelCount;
+    // From the rate lines on, the places follow the total count, which may differ.
+    const qint64 total = recording.totalChannelCount;
+    const qint64 rates = recording.rateCount;
+    const QStringList fields = firstFields(line);
+
+    if (number == 1) {
+        recording.stationName = fields.value(0);
+        recording.recordingDeviceId = fields.value(1);
+        recording.revisionYear = withoutLast(fields.value(2));
+    } else if (number == 2) {
+        recording.totalChannelCount = fields.value(0).toInt();
+        recording.analogChannelCount = withoutLast(fields.value(1)).toInt();
+        recording.digitalChannelCount = withoutLast(fields.value(2), 2).toInt();
+    } else if (number >= 3 && number <= analog + 2) {
+        readAnalogLine(recording, fields);
+    } else if (number >= analog + 3 && number <= channels + 2) {
+        readDigitalLine(recording, fields);
+    } else if (number == channels + 3) {
+        recording.lineFrequency = withoutLast(line).toDouble();
+    } else if (number == channels + 4) {
+        recording.rateCount = withoutLast(line).toInt();
+    } else if (number >= total + 5 && number <= total + 4 + rates) {
+        recording.sampleRate = fields.value(0).toDouble();
+        recording.lastSampleNumber = withoutLast(fields.value(1)).toInt();
+        recording.durationMs
+            = truncatedToInt64(recording.lastSampleNumber / recording.sampleRate * 1000);
+    } else if (number == total + rates + 5) {
+        recording.startDate = fields.value(0);
+        recording.startTime = withoutLast(fields.value(1));
+    } else if (number == total + rates + 6) {
+        recording.triggerDate = fields.value(0);
+        recording.triggerTime = withoutLast(fields.value(1));
+        readTimeStamps(recording);
+    } else if (number == total + rates + 7) {
+        recording.fileType = withoutLast(line);
+    } else if (number == total + rates + 8) {
+        recording.timeMultiplier = line.toDouble();
+    }
+}
+
+} // namespace
+
+void readTimeStamps(CFGProperties &recording)
+{
+    constexpr int length = 12; // hh:mm:ss.zzz
+    recording.triggerTime.truncate(length);
+    recording.startTime.truncate(length);
+    const QString format = QStringLiteral("hh:mm:ss.zzz");
+    const QTime start = QTime::fromString(recording.startTime, format);
+    const QTime trigger = QTime::fromString(recording.triggerTime, format);
+    recording.triggerOffsetMs = start.isValid() && trigger.isValid() ? start.msecsTo(trigger) : 0;
+}
+
+void readConfiguration(QIODevice &device, CFGProperties &recording)
+{
+    while (!device.atEnd()) {
+        const QByteArray line = device.readLine();
+        if (line.isEmpty())
+            return; // the device failed
+        ++recording.cfgLineNumber;
+        // The text of a line ends at its first NUL.
+        readLine(recording, QString::fromLatin1(line.constData()));
+        recording.samplesPerCycle = roundedToInt(recording.sampleRate / recording.lineFrequency);
+    }
+}

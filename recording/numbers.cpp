@@ -1,0 +1,110 @@
+#include "numbers.h"
+
+#include <QString>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr std::array<double, 19> powersOfTen{1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10,
+    1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18};
+// A whole number up to here is an exact double, and so is its quotient by an exact power of ten
+// correctly rounded, as the toolkit's conversion is.
+constexpr int mostDigits = 15;
+
+bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+// Digits with at most one point between them, with an optional sign; false for anything else.
+bool plainDecimal(const char *at, const char *end, double &value)
+{
+    const bool isNegative = at != end && *at == '-';
+    if (isNegative || (at != end && *at == '+'))
+        ++at;
+    const char *const first = at;
+    qint64 digits = 0;
+    for (; at != end && isDigit(*at); ++at)
+        digits = digits * 10 + (*at - '0');
+    std::ptrdiff_t count = at - first;
+    std::ptrdiff_t decimals = 0;
+    if (count == 0 || count > mostDigits)
+        return false;
+    if (at != end && *at == '.') {
+        const char *const point = ++at;
+        if (end - point > mostDigits)
+            return false;
+        for (; at != end && isDigit(*at); ++at)
+            digits = digits * 10 + (*at - '0');
+        decimals = at - point;
+        count += decimals;
+        if (decimals == 0 || count > mostDigits)
+            return false;
+    }
+    if (at != end)
+        return false;
+    value = static_cast<double>(digits);
+    if (decimals != 0)
+        value /= powersOfTen[static_cast<size_t>(decimals)];
+    if (isNegative)
+        value = -value;
+    return true;
+}
+
+QString text(const char *begin, const char *end)
+{
+    return QString::fromLatin1(begin, static_cast<int>(end - begin));
+}
+
+} // namespace
+
+double fieldToDouble(const char *begin, const char *end)
+{
+    double value = 0;
+    return plainDecimal(begin, end, value) ? value : text(begin, end).toDouble();
+}
+
+float fieldToFloat(const char *begin, const char *end)
+{
+    double value = 0;
+    return plainDecimal(begin, end, value) ? static_cast<float>(value) : text(begin, end).toFloat();
+}
+
+int fieldToInt(const char *begin, const char *end)
+{
+    if (end - begin == 1 && isDigit(*begin))
+        return *begin - '0';
+    return text(begin, end).toInt();
+}
+
+float narrowed(double value)
+{
+    using Limits = std::numeric_limits<float>;
+    if (std::abs(value) > static_cast<double>(Limits::max()))
+        return value > 0 ? Limits::infinity() : -Limits::infinity();
+    return static_cast<float>(value);
+}
+
+int roundedToInt(double value)
+{
+    using Limits = std::numeric_limits<int>;
+    if (std::isnan(value))
+        return 0;
+    return static_cast<int>(std::round(std::clamp<double>(value, Limits::min(), Limits::max())));
+}
+
+qint64 truncatedToInt64(double value)
+{
+    using Limits = std::numeric_limits<qint64>;
+    if (std::isnan(value))
+        return 0;
+    if (value >= static_cast<double>(Limits::max()))
+        return Limits::max();
+    if (value <= static_cast<double>(Limits::min()))
+        return Limits::min();
+    return static_cast<qint64>(value);
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QByteArray>
+
+// Conversions of a field of a text file, [begin, end) in Latin-1. The results are those of the
+// toolkit's string class in the C locale, 0 where a field does not convert; plain decimals, which
+// nearly all fields are, take a way that makes no string.
+double fieldToDouble(const char *begin, const char *end);
+float fieldToFloat(const char *begin, const char *end);
+int fieldToInt(const char *begin, const char *end);
+
+// A double as a float; beyond its range an infinity.
+float narrowed(double value);
+
+// The nearest whole number, halves away from zero, kept within the range of an int; 0 for NaN.
+int roundedToInt(double value);
+
+// The part before the decimal point, kept within the range of 64 bits; 0 for NaN.
+qint64 truncatedToInt64(double value);

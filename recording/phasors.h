@@ -1,0 +1,9 @@
+#pragma once
+
+class AnalogChannel;
+
+// Gives every sample of a channel the phasor of the fundamental over the cycle of samplesPerCycle
+// samples that is centred on it (one more sample after it than before), zeros standing in beyond
+// both ends. Magnitudes are RMS in the scaled unit without the offset, angles are radians against a
+// cosine. Where no transform of that size is meaningful, both are 0.
+void computePhasors(AnalogChannel &channel, int samplesPerCycle);

@@ -1,0 +1,136 @@
+#include "textreader.h"
+
+#include "cfgproperties.h"
+#include "configurationreader.h"
+#include "numbers.h"
+#include "recordregistry.h"
+
+#include <QDateTime>
+#include <QIODevice>
+#include <QTextCodec>
+
+namespace {
+
+// The bytes as UTF-8 where they are that, else as Latin-1.
+QString decoded(const QByteArray &bytes)
+{
+    QTextCodec::ConverterState state;
+    const QString text
+        = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
+    return state.invalidChars > 0 || state.remainingChars > 0 ? QString::fromLatin1(bytes) : text;
+}
+
+void readHeader(CFGProperties &recording, QString line)
+{
+    if (line.startsWith(QLatin1Char('#')))
+        line.remove(0, 1);
+    const QStringList fields = line.split(QLatin1Char(','));
+    for (int k = 0; k < fields.size(); ++k) {
+        const QString &field = fields.at(k);
+        const QString unit = field.mid(field.lastIndexOf(QLatin1Char('[')) + 1);
+        recording.analogIndexes.append(k);
+        recording.analogIds.append(field.section(QLatin1Char('['), 0, 0));
+        recording.analogPhases.append(QString());
+        recording.analogCircuits.append(QString());
+        recording.analogUnits.append(unit.section(QLatin1Char(']'), 0, 0));
+        recording.analogA.append(1);
+        recording.analogB.append(0);
+        recording.analogSkews.append(0);
+        recording.analogMins.append(-99999);
+        recording.analogMaxs.append(99999);
+        recording.primaryValues.append(1);
+        recording.secondaryValues.append(1);
+        recording.toPrimary.append(1);
+        recording.toSecondary.append(1);
+        recording.psFlags.append(QStringLiteral("P"));
+    }
+    recording.totalChannelCount = fields.size();
+    recording.analogChannelCount = fields.size();
+    recording.rateCount = 1;
+    recording.lineFrequency = 1;
+    recording.sampleRate = 1;
+    recording.samplesPerCycle = 1;
+    recording.timeMultiplier = 1;
+}
+
+// Whether a line is empty: those at the very end of the file are no samples.
+bool isBlank(const QByteArray &line)
+{
+    return line.isEmpty() || line == "\n" || line == "\r\n";
+}
+
+class TextReader {
+public:
+    explicit TextReader(CFGProperties &recording) : m_recording(recording) { }
+
+    void readLine(const QString &line)
+    {
+        const QVector<QStringRef> fields = line.splitRef(QLatin1Char(','));
+        const QDateTime stamp = QDateTime::fromString(
+            fields.constFirst().toString(), QStringLiteral("dd/MM/yyyy-hh:mm:ss:zzz"));
+        if (m_recording.startDate.isEmpty())
+            m_recording.startDate = stamp.toString(QStringLiteral("dd/MM/yyyy"));
+        if (m_recording.startTime.isEmpty())
+            m_recording.startTime = stamp.toString(QStringLiteral("hh:mm:ss:zzz"));
+        QDateTime utc(stamp);
+        utc.setTimeSpec(Qt::UTC); // no hour is missing or doubled
+        const qint64 moment = stamp.isValid() ? utc.toMSecsSinceEpoch() : 0;
+        if (m_reference == 0)
+            m_reference = moment;
+        const qint64 elapsed = stamp.isValid() ? moment - m_reference : 0;
+        m_recording.durationMs = elapsed;
+        m_recording.lastSampleNumber = ++m_recording.sampleCount;
+        const auto time = static_cast<double>(elapsed);
+        m_recording.sampleTimes.append(time);
+        for (int k = 0; k < m_recording.analogChannelCount; ++k) {
+            if (k == m_recording.analogChannels.size())
+                m_recording.analogChannels.append(newAnalogChannel(m_recording, k));
+            AnalogChannel *channel = m_recording.analogChannels.at(k);
+            const float x = k + 1 < fields.size() ? fields.at(k + 1).toFloat() : 0;
+            channel->appendValue(x, 1, 0);
+            channel->rawValues.append(x);
+        }
+    }
+
+    void finish()
+    {
+        m_recording.sampleTimes.squeeze();
+        for (AnalogChannel *channel : qAsConst(m_recording.analogChannels)) {
+            channel->times = m_recording.sampleTimes;
+            channel->values.squeeze();
+            channel->rawValues.squeeze();
+        }
+    }
+
+private:
+    CFGProperties &m_recording;
+    qint64 m_reference = 0; // ms since the epoch
+};
+
+} // namespace
+
+void readTextExport(QIODevice &device, CFGProperties &recording)
+{
+    const auto text = [](QByteArray line) {
+        while (line.endsWith('\n') || line.endsWith('\r'))
+            line.chop(1);
+        return decoded(line);
+    };
+    if (device.atEnd())
+        return;
+    readHeader(recording, text(device.readLine()));
+    readTimeStamps(recording);
+    TextReader reader(recording);
+    int blankLines = 0;
+    while (!device.atEnd()) {
+        const QByteArray line = device.readLine();
+        if (isBlank(line)) {
+            ++blankLines;
+            continue;
+        }
+        for (; blankLines > 0; --blankLines)
+            reader.readLine(QString());
+        reader.readLine(text(line));
+    }
+    reader.finish();
+}

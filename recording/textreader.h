@@ -1,0 +1,10 @@
+#pragma once
+
+class CFGProperties;
+class QIODevice;
+
+// Reads a text export: a header line that names the channels as name[unit], then one line per
+// sample of a time stamp "dd/MM/yyyy-hh:mm:ss:zzz" and one value per channel. Times are
+// milliseconds from the first stamp; a stamp that does not read is at time 0, a value that is
+// missing is 0.
+void readTextExport(QIODevice &device, CFGProperties &recording);
