@@ -125,23 +125,30 @@ void VectorWidget::drawAll()
     renderPending = true;
     update();
 
+    // A check box that reports its toggling must not be deleted meanwhile, so no event is handled
+    // then.
+    if (!qobject_cast<QCheckBox *>(sender()) && !waitForPaintEvent())
+        return;
+    if (renderPending)
+        renderPixmaps();
+    ui->labelVector->setPixmap(diagramPixmap);
+    ui->labelMagnitudes->setPixmap(magnitudesPixmap);
+}
+
+// Handles events other than the user's for 10 ms; false when one of them has deleted the widget.
+bool VectorWidget::waitForPaintEvent()
+{
     drawing = true;
     const QPointer<VectorWidget> self(this);
     QElapsedTimer elapsed;
     elapsed.start();
     do {
-        // The user's clicks wait: one could remove the panel under the check box that is being
-        // toggled.
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
         if (!self)
-            return;
+            return false;
     } while (elapsed.elapsed() < refreshDelay);
     drawing = false;
-
-    if (renderPending && isVisible())
-        renderPixmaps(); // scrolled out of view, where no paint event comes
-    ui->labelVector->setPixmap(diagramPixmap);
-    ui->labelMagnitudes->setPixmap(magnitudesPixmap);
+    return true;
 }
 
 void VectorWidget::on_toolButton_clicked()

@@ -44,7 +44,7 @@ public:
     void requestRedraw();
 
 public slots:
-    // Returns when the drawing is on screen; events other than the user's are handled meanwhile.
+    // Handles events other than the user's for 10 ms; called by the signal of a check box, none.
     void drawAll();
     void on_toolButton_clicked();
 
@@ -59,6 +59,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    bool waitForPaintEvent();
     void renderPixmaps();
     void drawPhasors(QPainter &diagramPainter, QPainter &magnitudesPainter,
         const PhasorDiagram &diagram, const QList<int> &channels);
