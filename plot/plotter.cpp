@@ -154,6 +154,11 @@ bool Plotter::isSpectrum(int number) const
     return recording() && number >= recording()->analogChannels.size();
 }
 
+bool Plotter::showsSpectrum() const
+{
+    return !digitalFlag && !channelMap.isEmpty() && isSpectrum(channelMap.lastKey());
+}
+
 const AnalogChannel *Plotter::channelOf(int number) const
 {
     const CFGProperties *source = recording();

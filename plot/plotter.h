@@ -57,6 +57,7 @@ public:
     void addChannel(int number);
     void removeChannel(int number);
     QList<int> channels() const { return channelMap.keys(); }
+    bool showsSpectrum() const;
 
     // The live view, all zero before setupPlot(), and the full view.
     PlotSettings view() const;
