@@ -113,7 +113,8 @@ void Plotter::setName(const QString &name)
 void Plotter::placeTitle(int y)
 {
     plotterLabel->setGeometry(titleX, y, titleWidth, titleHeight);
-    setTitle(plotName + QStringLiteral(" Plotter"));
+    if (plotTitle.isEmpty())
+        setTitle(plotName + QStringLiteral(" Plotter"));
     plotterLabel->show();
 }
 
@@ -129,7 +130,7 @@ void Plotter::setTitle(const QString &title)
     plotterLabel->setFont(titleFont);
     plotterLabel->setText(QFontMetrics(titleFont).elidedText(title, Qt::ElideRight, room));
     plotterLabel->setToolTip(plotterLabel->text() == title ? QString() : title);
-    plotterLabel->setProperty("title", title);
+    plotTitle = title;
 }
 
 void Plotter::setLinkedPlotters(const QList<Plotter *> &plotters)
@@ -186,7 +187,7 @@ QColor Plotter::colorOf(int number) const
     return channelColors.at(index % channelColors.size());
 }
 
-Plotter::ShownChannel Plotter::shownChannel(int number) const
+ShownChannel Plotter::shownChannel(int number) const
 {
     ShownChannel shown;
     const AnalogChannel *channel = channelOf(number);

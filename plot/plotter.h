@@ -1,11 +1,10 @@
 #pragma once
 
 #include "customlabel.h"
-#include "digitalruns.h"
 #include "mousemovereceiver.h"
 #include "plotgeometry.h"
+#include "shownchannel.h"
 #include "timeaxis.h"
-#include "tracesummary.h"
 
 #include <QColor>
 #include <QList>
@@ -127,16 +126,6 @@ protected:
     void leaveEvent(QEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
 
-    // A shown channel. Analog plots use the traces, digital plots the runs.
-    struct ShownChannel {
-        QString id;
-        QString unit;
-        QString phase;
-        QString circuit;
-        TraceSummary trace; // scaled values, or the magnitudes of a spectrum
-        TraceSummary angle; // of a spectrum whose angle is drawn, else empty
-        DigitalRuns runs;
-    };
     virtual ShownChannel shownChannel(int number) const;
 
     CFGProperties *recording() const; // null without a host or a recording
@@ -180,6 +169,7 @@ private:
     void insertCursor(double time);
     void moveCursor(int cursor, double time);
     void removeCursor(int cursor);
+    void removeCursors(int first, int last);
     void dragCursor(int x);
     void numberCursors();
     void releaseGrab();
@@ -189,6 +179,7 @@ private:
     void chooseColor(const QLabel *label);
 
     QString plotName;
+    QString plotTitle; // in full; empty before the first setupPlot()
     QLabel *timeLabel;
     QFrame *timeLine;
     QLineEdit *labelEditor;

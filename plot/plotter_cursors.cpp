@@ -125,6 +125,18 @@ void Plotter::removeCursor(int cursor)
     numberCursors();
 }
 
+// Of this plot and of the linked ones, which have the same.
+void Plotter::removeCursors(int first, int last)
+{
+    const QList<Plotter *> others = linkedPlotters;
+    for (int cursor = last - 1; cursor >= first; --cursor) {
+        for (Plotter *plotter : others)
+            plotter->removeCursor(cursor);
+        removeCursor(cursor);
+    }
+    zoomIn();
+}
+
 void Plotter::clearCursors()
 {
     draggingTimeLine = false;

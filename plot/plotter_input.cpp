@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QScrollBar>
 #include <QWheelEvent>
 
@@ -134,7 +135,7 @@ void Plotter::editTitle()
 {
     releaseGrab();
     labelEditor->setGeometry(plotterLabel->geometry());
-    labelEditor->setText(plotterLabel->property("title").toString());
+    labelEditor->setText(plotTitle);
     labelEditor->selectAll();
     labelEditor->show();
     labelEditor->raise();
@@ -165,7 +166,9 @@ void Plotter::chooseColor(const QLabel *label)
     const int channel = label->property("channel").toInt();
     releaseGrab();
     colorDialog->setCurrentColor(Qt::white);
-    if (colorDialog->exec() != QDialog::Accepted || !colorDialog->selectedColor().isValid())
+    const QPointer<Plotter> self(this); // another recording may replace the plot meanwhile
+    const bool isAccepted = colorDialog->exec() == QDialog::Accepted;
+    if (!self || !isAccepted || !colorDialog->selectedColor().isValid())
         return;
     chosenColors.insert(channel, colorDialog->selectedColor());
     refreshPixmap();
@@ -248,19 +251,11 @@ void Plotter::contextMenuEvent(QContextMenuEvent *event)
     draggingTimeLine = false;
     draggedLabel = nullptr;
     releaseGrab();
-    QMenu menu(this);
-    const QAction *remove = menu.addAction(tr("Remove Cursor"));
-    const QAction *removeAll = menu.addAction(tr("Remove All Cursors"));
-    const QAction *chosen = menu.exec(event->globalPos());
-    if (!chosen)
-        return;
-    QList<Plotter *> plotters = linkedPlotters;
-    plotters.prepend(this);
-    for (Plotter *plotter : qAsConst(plotters)) {
-        if (chosen == removeAll)
-            plotter->clearCursors();
-        else if (chosen == remove)
-            plotter->removeCursor(cursor);
-        plotter->refreshPixmap();
-    }
+    auto *menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    connect(menu->addAction(tr("Remove Cursor")), &QAction::triggered, this,
+        [this, cursor] { removeCursors(cursor, cursor + 1); });
+    connect(menu->addAction(tr("Remove All Cursors")), &QAction::triggered, this,
+        [this] { removeCursors(0, cursorCount); });
+    menu->popup(event->globalPos());
 }

@@ -31,7 +31,7 @@ void plotterDg::setupPlot()
     plotterLabel->setFrameStyle(QFrame::Box);
 }
 
-Plotter::ShownChannel plotterDg::shownChannel(int number) const
+ShownChannel plotterDg::shownChannel(int number) const
 {
     ShownChannel shown;
     const DigitalChannel *channel

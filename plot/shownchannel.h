@@ -1,0 +1,17 @@
+#pragma once
+
+#include "digitalruns.h"
+#include "tracesummary.h"
+
+#include <QString>
+
+// A channel as a plot shows it. Analog plots use the traces, digital plots the runs.
+struct ShownChannel {
+    QString id;
+    QString unit;
+    QString phase;
+    QString circuit;
+    TraceSummary trace; // scaled values, or the magnitudes of a spectrum
+    TraceSummary angle; // of a spectrum whose angle is drawn, else empty
+    DigitalRuns runs;
+};
