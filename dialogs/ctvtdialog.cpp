@@ -72,7 +72,7 @@ void CTVTDialog::on_pushButton_Set_clicked()
     for (int i = 0; i < nameLabels.size(); ++i) {
         appliedPrimaries.append(primaryEdits.at(i)->text());
         appliedSecondaries.append(secondaryEdits.at(i)->text());
-        if (AnalogChannel *channel = recording ? recording->analogChannel(i + 1) : nullptr)
+        if (AnalogChannel *channel = recording ? recording->analogChannels.value(i) : nullptr)
             setRatio(
                 *channel, appliedPrimaries.at(i).toDouble(), appliedSecondaries.at(i).toDouble());
     }

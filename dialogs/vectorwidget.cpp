@@ -256,9 +256,8 @@ QList<int> VectorWidget::checkedChannels() const
 double VectorWidget::extremeOf(const QList<int> &channels) const
 {
     double extreme = 0;
-    const CFGProperties *source = recording();
     for (const int number : channels) {
-        if (const AnalogChannel *channel = source ? source->analogChannel(number) : nullptr) {
+        if (const AnalogChannel *channel = recordOf(number)) {
             extreme = qMax(extreme, static_cast<double>(channel->maxReal));
             extreme = qMax(extreme, static_cast<double>(channel->maxImaginary));
         }
@@ -268,12 +267,18 @@ double VectorWidget::extremeOf(const QList<int> &channels) const
 
 Phasor VectorWidget::phasorOf(int channel, double time) const
 {
-    const CFGProperties *source = recording();
-    const AnalogChannel *record = source ? source->analogChannel(channel) : nullptr;
+    const AnalogChannel *record = recordOf(channel);
     return record ? phasorAt(*record, time) : Phasor();
 }
 
-CFGProperties *VectorWidget::recording() const
+// Not by the recording's own accessor, which wraps numbers beyond the records around.
+const AnalogChannel *VectorWidget::recordOf(int channel) const
+{
+    const CFGProperties *source = recording();
+    return source ? source->analogChannels.value(channel - 1) : nullptr;
+}
+
+const CFGProperties *VectorWidget::recording() const
 {
     return mainWindow ? mainWindow->recording() : nullptr;
 }

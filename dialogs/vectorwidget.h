@@ -8,6 +8,7 @@
 #include <QWidget>
 #include <memory>
 
+class AnalogChannel;
 class CFGProperties;
 class DialogHost;
 class PhasorDiagram;
@@ -66,7 +67,8 @@ private:
     QList<int> checkedChannels() const;
     double extremeOf(const QList<int> &channels) const;
     Phasor phasorOf(int channel, double time) const;
-    CFGProperties *recording() const;
+    const AnalogChannel *recordOf(int channel) const;
+    const CFGProperties *recording() const;
     QStringList recordingNames() const;
     QPixmap pixmapFor(const QWidget &label) const;
 

@@ -4,17 +4,17 @@
 
 #include <QMouseEvent>
 
-CustomLabel::CustomLabel(QWidget* parent) : QLabel(parent)
+CustomLabel::CustomLabel(QWidget *parent) : QLabel(parent)
 {
     setMouseTracking(true);
 }
 
-void CustomLabel::setPlotter(QObject* object)
+void CustomLabel::setPlotter(QObject *object)
 {
-    plotter = qobject_cast<MouseMoveReceiver*>(object);
+    plotter = qobject_cast<MouseMoveReceiver *>(object);
 }
 
-void CustomLabel::mouseMoveEvent(QMouseEvent* event)
+void CustomLabel::mouseMoveEvent(QMouseEvent *event)
 {
     if (!plotter)
         return;

@@ -10,15 +10,15 @@ class CustomLabel : public QLabel {
     Q_OBJECT
 
 public:
-    explicit CustomLabel(QWidget* parent = nullptr);
+    explicit CustomLabel(QWidget *parent = nullptr);
 
     // The plot that gets the moves; an object that is no MouseMoveReceiver counts as none. It must
     // outlive the label.
-    void setPlotter(QObject* object);
+    void setPlotter(QObject *object);
 
 protected:
-    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
 
 private:
-    MouseMoveReceiver* plotter = nullptr;
+    MouseMoveReceiver *plotter = nullptr;
 };

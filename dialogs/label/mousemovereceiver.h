@@ -10,7 +10,7 @@ class MouseMoveReceiver {
 public:
     virtual ~MouseMoveReceiver() = default;
 
-    virtual void receiveMouseMove(QMouseEvent* event) = 0;
+    virtual void receiveMouseMove(QMouseEvent *event) = 0;
 };
 
 Q_DECLARE_INTERFACE(MouseMoveReceiver, "wavorin.MouseMoveReceiver/1.0")

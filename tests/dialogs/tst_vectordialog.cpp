@@ -84,11 +84,12 @@ void TestVectorDialog::init()
     host->shown = recording.properties.get();
     dialog = new VectorDialog(host.get());
     dialog->setMainWindow(host.get());
-    plotter = std::make_unique<CursorPlotter>(QList<double>{50});
+    plotter = std::make_unique<CursorPlotter>(QList<double>{50}, host.get());
 }
 
 void TestVectorDialog::cleanup()
 {
+    plotter.reset();
     host.reset();
 }
 

@@ -111,6 +111,7 @@ private slots:
     void printsMagnitudesInThreeColumns();
     void printsZeroOutsideTheRecordedSpan();
     void drawsAnUnknownNameInEntryEight();
+    void printsZeroForANameWithoutARecord();
     void survivesAMissingRecording();
     void survivesAStrangerAsMainWindow();
     void survivesADeletedPlotter();
@@ -162,13 +163,13 @@ void TestVectorWidget::init()
 
 void TestVectorWidget::cleanup()
 {
-    host.reset();
     plotter.reset();
+    host.reset();
 }
 
 void TestVectorWidget::setPlotter(const QList<double> &cursors)
 {
-    plotter = std::make_unique<CursorPlotter>(cursors);
+    plotter = std::make_unique<CursorPlotter>(cursors, host.get());
     dialog->setPlotter(plotter.get());
 }
 
@@ -487,6 +488,15 @@ void TestVectorWidget::drawsAnUnknownNameInEntryEight()
     panel->setChannelNames({QStringLiteral("X")});
     check(0);
     QCOMPARE(magnitudes(), pictureOf({{{0, 15}, QColor(245, 30, 18), QStringLiteral(": 0")}}));
+}
+
+void TestVectorWidget::printsZeroForANameWithoutARecord()
+{
+    recording.add(QStringLiteral("A"), 0, 50, extremeOf100);
+    recording.properties->analogIds.append(QStringLiteral("B"));
+    show();
+    check(1);
+    QCOMPARE(magnitudes(), pictureOf({{{0, 15}, green, QStringLiteral("B: 0")}}));
 }
 
 void TestVectorWidget::survivesAMissingRecording()

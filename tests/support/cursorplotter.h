@@ -2,8 +2,19 @@
 
 #include "plotter.h"
 
-// A plot whose cursors stand at times that the test chooses.
+// A plot whose cursors stand at times that the test chooses: each is set at the left edge of a view
+// that begins there.
 class CursorPlotter : public Plotter {
 public:
-    explicit CursorPlotter(const QList<double> &times) : Plotter(nullptr) { cursorTimes = times; }
+    CursorPlotter(const QList<double> &times, QWidget *parent) : Plotter(parent)
+    {
+        resize(600, 400);
+        for (const double time : times) {
+            PlotSettings view;
+            view.minX = time;
+            view.maxX = time + 1;
+            zoomStack = {view};
+            CursorPlotter::addCursor(PlotGeometry::left, 100);
+        }
+    }
 };
