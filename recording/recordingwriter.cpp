@@ -71,6 +71,18 @@ RecordingWriter::Outcome failure(const QSaveFile &file)
     return {file.fileName(), file.errorString()};
 }
 
+// Puts the complete file in its place. The flush stands apart because a commit does not notice
+// that its own last bytes could not be written.
+RecordingWriter::Outcome finish(QSaveFile &file)
+{
+    if (!file.flush()) {
+        const RecordingWriter::Outcome outcome = failure(file);
+        file.cancelWriting();
+        return outcome;
+    }
+    return file.commit() ? RecordingWriter::Outcome() : failure(file);
+}
+
 } // namespace
 
 RecordingWriter::RecordingWriter(
@@ -119,8 +131,7 @@ RecordingWriter::Outcome RecordingWriter::writePair(
     QSaveFile configurationFile(stem + extension);
     if (configurationFile.open(QIODevice::WriteOnly)) {
         configurationFile.write(encoded(configuration(span, side)));
-        if (!configurationFile.commit())
-            outcome = failure(configurationFile);
+        outcome = finish(configurationFile);
     }
 
     QSaveFile dataFile(stem + QLatin1String(".dat"));
@@ -138,8 +149,9 @@ RecordingWriter::Outcome RecordingWriter::writePair(
             }
         });
         dataFile.write(text);
-        if (!dataFile.commit())
-            outcome = failure(dataFile);
+        const Outcome dataOutcome = finish(dataFile);
+        if (!outcome.hasFailed())
+            outcome = dataOutcome;
     }
     return outcome;
 }
