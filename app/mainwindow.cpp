@@ -18,6 +18,8 @@
 #include <QThread>
 #include <QTranslator>
 
+#include <utility>
+
 namespace {
 
 QString applicationStyleSheet()
@@ -94,11 +96,10 @@ void MainWindow::slotLanguageChanged(QAction *action)
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     stopUnpacking();
-    if (tempFolderUsed)
-        removeRecursively(temporaryFolder);
     writeSettings({pos(), size(), isMaximized()}, languageFileName);
     event->accept();
     stopLoader();
+    enableRecordingActions(false);
 }
 
 void MainWindow::readSettings()
@@ -143,10 +144,12 @@ void MainWindow::createLoader()
 void MainWindow::stopUnpacking()
 {
     zipBusy = false;
-    if (zipProcess->state() == QProcess::NotRunning)
-        return;
-    zipProcess->kill();
-    zipProcess->waitForFinished();
+    if (zipProcess->state() != QProcess::NotRunning) {
+        zipProcess->kill();
+        zipProcess->waitForFinished();
+    }
+    if (std::exchange(tempFolderUsed, false))
+        removeRecursively(temporaryFolder);
 }
 
 void MainWindow::stopLoader()

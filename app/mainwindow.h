@@ -21,6 +21,7 @@ class QMenu;
 class QProcess;
 class QTranslator;
 class QVBoxLayout;
+class RecordingWriter;
 class SaveDialog;
 class VectorDialog;
 class plotterDg;
@@ -89,8 +90,9 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
-    // One action of the window: all that creation and retranslation need.
-    struct ActionEntry;
+    static constexpr int messageDuration = 2000; // in the status bar, ms
+
+    struct ActionEntry; // all that creation and retranslation need
     static const QList<ActionEntry> &actionEntries();
 
     void createActions();
@@ -105,7 +107,7 @@ private:
 
     void readSettings();
     void createLoader();
-    void stopUnpacking();
+    void stopUnpacking(); // and removes what was unpacked
     void stopLoader(); // waits without limit; the recording is gone afterwards
 
     // The steps of open(). Those that process events return false when the window was closed or
@@ -124,10 +126,16 @@ private:
     QPixmap capture(CaptureTarget target);
     void stylePlots(const QString &styleSheet);
     QList<Plotter *> plots() const; // all that exist
-    void writeRecording(const QString &path, double start, double end, bool asPrimary);
+    RecordingWriter recordingWriter() const; // with the ratings of the CT/VT dialog
+    void reportSaving(const QString &failedFile, const QString &error); // empty: none failed
 
     void createPlots(); // for the recording just loaded
     void disposePlots();
+    QStringList analogNames() const;
+    void connectSaveMarkers(Plotter *plot);
+    void linkPlots();
+    void showChosenChannels();
+    void refreshSpectra();
 
     std::unique_ptr<Ui::MainWindow> ui;
     AddPlotterDialog *addPlotterDialog = nullptr;

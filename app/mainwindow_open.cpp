@@ -29,7 +29,6 @@
 
 namespace {
 
-constexpr int messageDuration = 2000; // ms
 constexpr int animationSize = 100;
 
 QLabel *newLoadingAnimation(QWidget *window)

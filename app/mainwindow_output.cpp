@@ -75,6 +75,38 @@ void MainWindow::about()
         aboutText(ApplicationIdentity::applicationName(), ApplicationIdentity::brand()));
 }
 
+RecordingWriter MainWindow::recordingWriter() const
+{
+    return RecordingWriter(
+        *cfgProperties, ctvtDialog->primaryTexts(), ctvtDialog->secondaryTexts());
+}
+
+void MainWindow::reportSaving(const QString &failedFile, const QString &error)
+{
+    if (failedFile.isEmpty())
+        statusBar()->showMessage(tr("File saved."), messageDuration);
+    else
+        showWarning(tr("Cannot write file %1:\n%2.").arg(failedFile, error));
+}
+
+void MainWindow::saveRecording(const QString &path, double start, double end)
+{
+    if (!hasRecording)
+        return;
+    const RecordingWriter::Outcome outcome = recordingWriter().write(path, start, end);
+    reportSaving(outcome.failedFile, outcome.error);
+}
+
+void MainWindow::saveAsPrimary()
+{
+    const QString path
+        = QFileDialog::getSaveFileName(this, tr("Save recording"), recordingsFolder());
+    if (path.isEmpty() || !hasRecording)
+        return;
+    const RecordingWriter::Outcome outcome = recordingWriter().writeAsPrimary(path);
+    reportSaving(outcome.failedFile, outcome.error);
+}
+
 void MainWindow::showSaveDialog()
 {
     if (!hasRecording)

@@ -154,15 +154,30 @@ private slots:
         QCOMPARE(texts.join(QLatin1Char(' ')), QStringLiteral("1 100 20000 400"));
     }
 
-    void withoutPhasorsTheSpectrumControlsStayDisabled()
+    void textExportOpensWithoutSpectrumControls()
     {
-        // A rate of 0 gives no samples per cycle.
-        QByteArray configuration = smallConfiguration();
-        configuration.replace("1000,40\n", "0,40\n");
-        window->open(writeSmallRecording(folder->path(), QStringLiteral("norate"), configuration));
+        QVERIFY(writeTextFile(path("rec.txt"),
+            "#Ua[kV],Ub[kV]\n01/02/2020-10:00:00:000,1,2\n01/02/2020-10:00:00:020,3,4\n"));
+        window->open(path("rec.txt"));
+        QVERIFY(window->recording());
+        QCOMPARE(listed("listWidget"), QStringList({QStringLiteral("Ua"), QStringLiteral("Ub")}));
+        QCOMPARE(shownTimes(), QStringLiteral("01/02/2020|10:00:00:000||"));
         QVERIFY(recordingActionsEnabled());
         QVERIFY(!child<QCheckBox>("checkBox_showAngles")->isEnabled());
         QVERIFY(!child<QComboBox>("comboBox_mainReference")->isEnabled());
+        QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - rec.txt"));
+    }
+
+    void emptyTextExportCountsAsLoaded()
+    {
+        QVERIFY(writeTextFile(path("empty.txt"), ""));
+        window->open(path("empty.txt"));
+        QVERIFY(window->recording());
+        QCOMPARE(window->statusBar()->currentMessage(), QStringLiteral("File loaded"));
+        window->showSaveDialog();
+        window->showCTVTDialog();
+        window->open(goodRecording());
+        QCOMPARE(listed("listWidget").size(), 2);
     }
 
     void names_data()
@@ -425,6 +440,7 @@ private slots:
         window->open(goodRecording());
         window->close();
         QVERIFY(!window->recording());
+        QVERIFY(recordingActionsDisabled());
     }
 
     // Times

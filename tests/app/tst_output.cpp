@@ -1,0 +1,249 @@
+#include "mainwindow.h"
+#include "plotterdg.h"
+#include "smallrecording.h"
+#include "windowtest.h"
+
+#include <QClipboard>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+#include <memory>
+#include <sys/resource.h>
+
+// While it lives, this process can write no file beyond so many bytes.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t bytes)
+    {
+        m_handler = std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    FileSizeLimit(const FileSizeLimit &) = delete;
+    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
+
+private:
+    rlimit m_before{};
+    void (*m_handler)(int) = SIG_DFL;
+};
+
+class TestOutput : public QObject {
+    Q_OBJECT
+
+    const QString screenStyle = QStringLiteral(
+        "Plotter{background-color: #313034; border: 2px outset qlineargradient(x1: 0, y1: 0, x2: 0,"
+        " y2: 1, stop: 0 #616064, stop: 1 #313034);}");
+    const QString captureStyle = QStringLiteral("Plotter{background-color: transparent;}");
+
+    std::unique_ptr<QTemporaryDir> folder;
+    std::unique_ptr<MainWindow> window;
+
+    QWidget *plotColumn() const
+    {
+        return window->findChild<QWidget *>(QStringLiteral("scrollWidget"));
+    }
+
+    QString path(const char *name) const { return folder->filePath(QLatin1String(name)); }
+
+    static QString fileText(const QString &name)
+    {
+        QFile file(name);
+        return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll()) : QString();
+    }
+
+    void expectStyle(const QString &style) const
+    {
+        const QList<Plotter *> plots = window->findChildren<Plotter *>();
+        QVERIFY(plots.size() >= 2);
+        for (const Plotter *plot : plots)
+            QCOMPARE(plot->styleSheet(), style);
+    }
+
+    // Answers the next file dialog with the name, or cancels it where the name is empty.
+    void answerFileDialog(const QString &name, QString *title = nullptr,
+        QStringList *filters = nullptr, QString *proposal = nullptr)
+    {
+        QTimer::singleShot(100, this, [=] {
+            auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            auto *edit = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+            if (title)
+                *title = dialog->windowTitle();
+            if (filters)
+                *filters = dialog->nameFilters();
+            if (proposal)
+                *proposal = dialog->directory().filePath(edit->text());
+            if (name.isEmpty()) {
+                dialog->reject();
+            } else {
+                edit->setText(name);
+                QTest::keyClick(edit, Qt::Key_Return);
+            }
+        });
+    }
+
+private slots:
+    void init()
+    {
+        startAsMaker();
+        folder = std::make_unique<QTemporaryDir>();
+        window = std::make_unique<MainWindow>();
+        window->resize(1000, 700);
+        window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        window->open(writeSmallRecording(folder->path(), QStringLiteral("rec")));
+        QVERIFY(window->recording());
+        QCoreApplication::processEvents();
+        window->statusBar()->clearMessage();
+    }
+    void cleanup() { window.reset(); }
+
+    void screenshotDialog()
+    {
+        QString title;
+        QString proposal;
+        QStringList filters;
+        answerFileDialog(QString(), &title, &filters, &proposal);
+        window->saveScreenShot();
+        QCOMPARE(title, QStringLiteral("Save As"));
+        QCOMPARE(filters,
+            QStringList({QStringLiteral("PNG Files (*.png)"), QStringLiteral("All Files (*)")}));
+        QCOMPARE(proposal, QDir::currentPath() + QLatin1String("/untitled.png"));
+    }
+
+    void screenshotIsSavedAndThePlotsAreSetBack()
+    {
+        expectStyle(screenStyle);
+        answerFileDialog(path("shot.png"));
+        window->saveScreenShot();
+        const QImage picture(path("shot.png"), "png");
+        QCOMPARE(picture.size(), plotColumn()->size());
+        QCOMPARE(picture.pixelColor(2, 2), QColor(Qt::white));
+        expectStyle(screenStyle);
+    }
+
+    void cancelledScreenshotLeavesTheCaptureStyle()
+    {
+        answerFileDialog(QString());
+        window->saveScreenShot();
+        expectStyle(captureStyle);
+    }
+
+    void clipboardGetsThePicture()
+    {
+        window->copyToClipboard();
+        const QImage picture = QGuiApplication::clipboard()->image();
+        QCOMPARE(picture.size(), plotColumn()->size());
+        QCOMPARE(picture.pixelColor(2, 2), QColor(Qt::white));
+        expectStyle(screenStyle);
+    }
+
+    // The caption is the only black text in the left of the topmost rows.
+    void captionStandsInTheTopLeftCorner()
+    {
+        window->copyToClipboard();
+        const QImage picture = QGuiApplication::clipboard()->image();
+        int black = 0;
+        for (int y = 8; y < 21; ++y) {
+            for (int x = 10; x < 300; ++x)
+                black += qGray(picture.pixel(x, y)) < 60 ? 1 : 0;
+        }
+        QVERIFY2(black > 100, qPrintable(QString::number(black)));
+    }
+
+    void withoutRecordingThePictureIsStillMade()
+    {
+        MainWindow empty;
+        empty.resize(1000, 700);
+        empty.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&empty));
+        empty.copyToClipboard();
+        QCOMPARE(QGuiApplication::clipboard()->image().size(),
+            empty.findChild<QWidget *>(QStringLiteral("scrollWidget"))->size());
+    }
+
+    // Saving
+
+    void savedRangeIsReported()
+    {
+        window->saveRecording(path("out"), 10, 12);
+        QCOMPARE(window->statusBar()->currentMessage(), QStringLiteral("File saved."));
+        QCOMPARE(fileText(path("out.dat")),
+            QStringLiteral("11,0,-200,10,0\n12,1000,-200,11,0\n13,2000,-200,12,0"));
+        QVERIFY(fileText(path("out.cfg")).contains(QLatin1String(",400.000000,1.000000,S\n")));
+    }
+
+    void pathThatCannotBeOpenedIsReportedSavedAllTheSame()
+    {
+        window->saveRecording(path("no/such/folder/out"), 10, 12);
+        QCOMPARE(window->statusBar()->currentMessage(), QStringLiteral("File saved."));
+        QVERIFY(!QFile::exists(path("no")));
+    }
+
+    void writeErrorIsReportedAndLeavesWhatWasThere()
+    {
+        QVERIFY(writeTextFile(path("out.cfg"), "before"));
+        BoxReader boxes;
+        {
+            const FileSizeLimit limit(0);
+            window->saveRecording(path("out.cfg"), 10, 12);
+        }
+        const QList<BoxReader::Box> seen = boxes.take();
+        QCOMPARE(seen.size(), 1);
+        QCOMPARE(seen[0].icon, QMessageBox::Warning);
+        QCOMPARE(seen[0].title, QStringLiteral("Application"));
+        QCOMPARE(seen[0].text,
+            QLatin1String("Cannot write file ") + path("out.cfg")
+                + QLatin1String(":\nFile too large."));
+        QCOMPARE(window->statusBar()->currentMessage(), QString());
+        QCOMPARE(fileText(path("out.cfg")), QStringLiteral("before"));
+    }
+
+    void saveAsPrimary()
+    {
+        QString title;
+        answerFileDialog(path("primary"), &title);
+        window->saveAsPrimary();
+        QCOMPARE(title, QStringLiteral("Save recording"));
+        QCOMPARE(window->statusBar()->currentMessage(), QStringLiteral("File saved."));
+        const QStringList lines = fileText(path("primary.cfg")).split(QLatin1Char('\n'));
+        // 0.5 times 400/1 and 2 times 20000/100.
+        QCOMPARE(lines.value(2),
+            QStringLiteral("1,IL1,A,,A,200,0,0,-32767,32767,400.000000,1.000000,P"));
+        QCOMPARE(lines.value(3),
+            QStringLiteral("2,UL1,A,,V,400,0,0,-32767,32767,20000.000000,100.000000,P"));
+        QCOMPARE(fileText(path("primary.dat")).count(QLatin1Char('\n')), 39);
+    }
+
+    void cancelledSaveAsPrimaryWritesNothing()
+    {
+        answerFileDialog(QString());
+        window->saveAsPrimary();
+        QCOMPARE(window->statusBar()->currentMessage(), QString());
+        QCOMPARE(QDir(folder->path()).entryList(QDir::Files).size(), 2);
+    }
+
+    void saveDialogOffersTheWholeRecording()
+    {
+        window->showSaveDialog();
+        const auto *dialog = window->findChild<QDialog *>(QStringLiteral("SaveDialog"));
+        QVERIFY(dialog->isVisible());
+        QCOMPARE(dialog->findChild<QLineEdit *>(QStringLiteral("lineEdit_Start"))->text(),
+            QStringLiteral("0"));
+        QCOMPARE(dialog->findChild<QLineEdit *>(QStringLiteral("lineEdit_End"))->text(),
+            QStringLiteral("39"));
+    }
+};
+
+QTEST_MAIN(TestOutput)
+#include "tst_output.moc"
