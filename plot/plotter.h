@@ -70,6 +70,8 @@ public:
 
     // Cursor times in ms, in the order in which they were set.
     const QList<double> &cursors() const { return cursorTimes; }
+    // The time difference of the last neighbouring pair of cursors, ms; 0 with fewer than two.
+    double pairDifference() const { return lastCursorPairTimes[2]; }
     void clearCursors();
 
     virtual void setupPlot();

@@ -5,7 +5,6 @@
 #include "baselayer.h"
 #include "labeltext.h"
 #include "plothost.h"
-#include "readout.h"
 
 #include <QFrame>
 #include <QLabel>
@@ -79,15 +78,12 @@ void Plotter::insertCursor(double time)
     refreshPixmap();
 }
 
-// After the cursors have changed: their labels, and the room that the readout needs.
 void Plotter::numberCursors()
 {
     for (int i = 0; i < cursorLabels.size(); ++i) {
         cursorLabels.at(i)->setText(QStringLiteral("P%1").arg(i + 1));
         cursorLabels.at(i)->adjustSize();
     }
-    readoutWidth
-        = digitalFlag ? 0 : std::min(readout().neededWidth(smallFont(font())), width() / 2);
 }
 
 void Plotter::moveCursor(int cursor, double time)
@@ -118,6 +114,7 @@ void Plotter::removeCursor(int cursor)
     if (cursor < 0 || cursor >= cursorCount)
         return;
     --cursorCount;
+    lastCursorPairTimes = {};
     cursorTimes.removeAt(cursor);
     cursorPixels.removeAt(cursor);
     delete cursorLines.takeAt(cursor);

@@ -38,6 +38,8 @@ QPixmap clearPixmap(const QWidget &host)
 void Plotter::refreshPixmap()
 {
     if (!skipBaseLayer) {
+        readoutWidth
+            = digitalFlag ? 0 : std::min(readout().neededWidth(smallFont(font())), width() / 2);
         basePixmap = clearPixmap(*hostWidget);
         if (!zoomStack.isEmpty() && !basePixmap.isNull()) {
             placeChannelLabels();

@@ -1,0 +1,328 @@
+#include "plotpair.h"
+
+#include <QFrame>
+#include <QLabel>
+#include <QMenu>
+
+#include <memory>
+
+namespace {
+
+// Text is smoothed, so its pixels are shades between its colour and what is behind.
+bool isYellow(QRgb pixel)
+{
+    return qRed(pixel) > 120 && qGreen(pixel) > 120 && qBlue(pixel) < qRed(pixel) - 40;
+}
+
+} // namespace
+
+class tst_PlotterCursors : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { pair = std::make_unique<PlotPair>(); }
+    void cleanup() { pair.reset(); }
+
+    void theTimeLineFollowsThePointerInAllPlots();
+    void theTimeLineLetsTheMouseThrough();
+    void aDoubleClickSetsACursorAtOneTimeInAllPlots();
+    void atMostTwentyCursors();
+    void noTimeDifferenceForOneCursor();
+    void timeDifferencesOfNeighbours();
+    void timeDifferencesAreNeverNegative();
+    void cursorsOutOfViewAreHidden();
+    void theReadoutTakesRoomInAnalogPlotsOnly();
+    void theReadoutTakesAtMostHalfTheWidth();
+    void aDraggedLabelMovesTheCursorEverywhere();
+    void aDraggedLabelStopsAtTheEdges_data();
+    void aDraggedLabelStopsAtTheEdges();
+    void theMenuRemovesOneCursor();
+    void theMenuRemovesAllCursors();
+
+    void saveMarkers_data();
+    void saveMarkers();
+    void saveMarkersAreCutToWholeMilliseconds();
+    void zeroIsATimeOfAMarker();
+    void markersFollowTheView();
+    void clearedMarkersStayAway();
+
+private:
+    void doubleClick(int x) { QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {x, 150}); }
+    // Yellow pixels of the time differences, in the strip above the plot area.
+    int markPixels(int fromX, int toX) const
+    {
+        const QImage image = pair->plot->grab().toImage();
+        int found = 0;
+        for (int y = 41; y < 60; ++y) {
+            for (int x = fromX; x < toX; ++x)
+                found += isYellow(image.pixel(x, y));
+        }
+        return found;
+    }
+
+    std::unique_ptr<PlotPair> pair;
+};
+
+void tst_PlotterCursors::theTimeLineFollowsThePointerInAllPlots()
+{
+    PlotPair::move(pair->plot, {450, 100});
+    for (const Plotter *plotter :
+        {pair->plot, pair->other, static_cast<Plotter *>(pair->digital)}) {
+        const auto *line = plotter->findChild<QFrame *>(QStringLiteral("timeline"));
+        const auto *label = plotter->findChild<QLabel *>(QStringLiteral("timelabel"));
+        QCOMPARE(line->geometry(), QRect(QPoint(450, 60), QPoint(450, 260)));
+        QCOMPARE(label->geometry(), QRect(465, 45, 70, 20));
+        QCOMPARE(label->text(), QStringLiteral("t = 500"));
+        QVERIFY(line->isVisibleTo(plotter));
+        QVERIFY(label->isVisibleTo(plotter));
+    }
+    PlotPair::move(pair->other, {101, 100});
+    QCOMPARE(pair->plot->findChild<QLabel *>(QStringLiteral("timelabel"))->text(),
+        QStringLiteral("t = 1.42857"));
+}
+
+void tst_PlotterCursors::theTimeLineLetsTheMouseThrough()
+{
+    PlotPair::move(pair->plot, {450, 100});
+    QVERIFY(!pair->plot->childAt(450, 100));
+    QVERIFY(!pair->plot->childAt(470, 50));
+}
+
+void tst_PlotterCursors::aDoubleClickSetsACursorAtOneTimeInAllPlots()
+{
+    const int refreshes = pair->host.vectorRefreshes;
+    doubleClick(450);
+    QCOMPARE(pair->plot->cursors(), QList<double>{500});
+    QCOMPARE(pair->other->cursors(), QList<double>{500});
+    QCOMPARE(pair->digital->cursors(), QList<double>{500});
+    QVERIFY(pair->host.vectorRefreshes > refreshes);
+    // The digital plot has no readout, so its cursor stands where the double-click was.
+    QCOMPARE(PlotPair::lineLabels(pair->digital).first()->text(), QStringLiteral("P1"));
+    const auto *line = pair->digital->findChild<QFrame *>(QStringLiteral("cursorLine"));
+    QCOMPARE(line->geometry(), QRect(QPoint(450, 60), QPoint(450, 260)));
+    const int width = 803 - 100 - pair->plot->geometryOfView().readoutWidth() - 3;
+    QCOMPARE(pair->plot->findChild<QFrame *>(QStringLiteral("cursorLine"))->x(),
+        qRound(100 + 0.5 * width));
+}
+
+void tst_PlotterCursors::atMostTwentyCursors()
+{
+    for (int i = 0; i < 21; ++i)
+        doubleClick(110 + i);
+    QCOMPARE(pair->plot->cursors().size(), 20);
+    QCOMPARE(pair->other->cursors().size(), 20);
+    QCOMPARE(PlotPair::lineLabels(pair->plot).size(), 20);
+    pair->plot->addCursor(300, 100);
+    QCOMPARE(pair->plot->cursors().size(), 20);
+}
+
+void tst_PlotterCursors::noTimeDifferenceForOneCursor()
+{
+    pair->digital->raise();
+    doubleClick(450);
+    QCOMPARE(markPixels(100, 560), 0);
+}
+
+// In the digital plot pixels and times keep their relation, whatever the number of cursors.
+void tst_PlotterCursors::timeDifferencesOfNeighbours()
+{
+    for (const int x : {200, 400, 700})
+        QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {x, 150});
+    const QImage image = pair->digital->grab().toImage();
+    QCOMPARE(image.pixel(250, 60), qRgb(255, 250, 80));
+    QCOMPARE(image.pixel(650, 60), qRgb(255, 250, 80));
+    const auto textAround = [&](int centre) {
+        int found = 0;
+        for (int y = 42; y < 59; ++y) {
+            for (int x = centre - 45; x < centre + 45; ++x)
+                found += isYellow(image.pixel(x, y));
+        }
+        return found > 20;
+    };
+    QVERIFY(textAround(300)); // between the first and the second
+    QVERIFY(textAround(550)); // between the second and the third
+    QVERIFY(!textAround(450)); // none between the first and the third
+}
+
+void tst_PlotterCursors::timeDifferencesAreNeverNegative()
+{
+    pair->plot->addCursor(700, 100);
+    pair->plot->addCursor(300, 100);
+    QCOMPARE(pair->plot->pairDifference(), pair->plot->cursors()[0] - pair->plot->cursors()[1]);
+    QVERIFY(pair->plot->pairDifference() > 0);
+}
+
+void tst_PlotterCursors::cursorsOutOfViewAreHidden()
+{
+    QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {700, 150});
+    const auto *line = pair->digital->findChild<QFrame *>(QStringLiteral("cursorLine"));
+    QVERIFY(line->isVisibleTo(pair->digital));
+    pair->digital->customZoomIn(); // 0 to 500 ms
+    QVERIFY(!line->isVisibleTo(pair->digital));
+    QVERIFY(!PlotPair::lineLabels(pair->digital).first()->isVisibleTo(pair->digital));
+    pair->digital->customResetZoom();
+    QVERIFY(line->isVisibleTo(pair->digital));
+}
+
+void tst_PlotterCursors::theReadoutTakesRoomInAnalogPlotsOnly()
+{
+    QCOMPARE(pair->plot->geometryOfView().readoutWidth(), 0);
+    doubleClick(450);
+    const int one = pair->plot->geometryOfView().readoutWidth();
+    QVERIFY(one > 60);
+    doubleClick(300);
+    QVERIFY(pair->plot->geometryOfView().readoutWidth() > one);
+    QCOMPARE(pair->digital->geometryOfView().readoutWidth(), 0);
+    pair->plot->clearCursors();
+    pair->plot->refreshPixmap();
+    QCOMPARE(pair->plot->geometryOfView().readoutWidth(), 0);
+}
+
+void tst_PlotterCursors::theReadoutTakesAtMostHalfTheWidth()
+{
+    for (int i = 0; i < 20; ++i)
+        doubleClick(110 + 10 * i);
+    QCOMPARE(pair->plot->geometryOfView().readoutWidth(), 401);
+    pair->plot->resize(400, 301);
+    pair->plot->grab();
+    QCOMPARE(pair->plot->geometryOfView().readoutWidth(), 200);
+}
+
+void tst_PlotterCursors::aDraggedLabelMovesTheCursorEverywhere()
+{
+    pair->digital->raise();
+    QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {200, 150});
+    QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {600, 150});
+    CustomLabel *label = PlotPair::lineLabels(pair->digital).first();
+    const QPoint grip = label->geometry().center();
+    const int refreshes = pair->host.vectorRefreshes;
+    QTest::mousePress(pair->digital, Qt::LeftButton, {}, grip);
+    PlotPair::move(label, label->mapFromParent(QPoint(450, 80)), Qt::LeftButton);
+    QCOMPARE(pair->digital->cursors().first(), 500.0);
+    QCOMPARE(pair->plot->cursors().first(), 500.0);
+    QVERIFY(pair->host.vectorRefreshes > refreshes);
+    QTest::mouseRelease(pair->digital, Qt::LeftButton, {}, {450, 80});
+    PlotPair::move(pair->digital, {300, 80});
+    QCOMPARE(pair->digital->cursors(), QList<double>({500, 5000.0 / 7}));
+    QCOMPARE(pair->other->cursors(), pair->digital->cursors());
+}
+
+void tst_PlotterCursors::aDraggedLabelStopsAtTheEdges_data()
+{
+    QTest::addColumn<int>("x");
+    QTest::addColumn<double>("time");
+    QTest::newRow("past the left end") << -300 << 0.0;
+    QTest::newRow("past the right end") << 5000 << 1000.0;
+}
+
+void tst_PlotterCursors::aDraggedLabelStopsAtTheEdges()
+{
+    QFETCH(int, x);
+    QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {200, 150});
+    QTest::mousePress(pair->digital, Qt::LeftButton, {},
+        PlotPair::lineLabels(pair->digital).first()->geometry().center());
+    PlotPair::move(pair->digital, {x, 100}, Qt::LeftButton);
+    QTest::mouseRelease(pair->digital, Qt::LeftButton, {}, {x, 100});
+    QTEST(pair->digital->cursors().first(), "time");
+}
+
+void tst_PlotterCursors::theMenuRemovesOneCursor()
+{
+    for (const int x : {200, 400, 600})
+        QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {x, 150});
+    const QPoint grip = PlotPair::lineLabels(pair->digital).at(1)->geometry().center();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, grip, pair->digital->mapToGlobal(grip));
+    QApplication::sendEvent(pair->digital, &event);
+    const QList<QMenu *> menus = pair->digital->findChildren<QMenu *>();
+    QCOMPARE(menus.size(), 1);
+    QCOMPARE(menus.first()->actions().first()->text(), QStringLiteral("Remove Cursor"));
+    menus.first()->actions().first()->trigger();
+    QCOMPARE(pair->digital->cursors().size(), 2);
+    QCOMPARE(pair->plot->cursors(), pair->digital->cursors());
+    QCOMPARE(pair->other->cursors(), pair->digital->cursors());
+    QCOMPARE(PlotPair::lineLabels(pair->digital).at(1)->text(), QStringLiteral("P2"));
+}
+
+void tst_PlotterCursors::theMenuRemovesAllCursors()
+{
+    for (const int x : {200, 400, 600})
+        QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {x, 150});
+    const QPoint grip = PlotPair::lineLabels(pair->digital).first()->geometry().center();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, grip, pair->digital->mapToGlobal(grip));
+    QApplication::sendEvent(pair->digital, &event);
+    const QList<QMenu *> menus = pair->digital->findChildren<QMenu *>();
+    QCOMPARE(menus.size(), 1);
+    QCOMPARE(menus.first()->actions().last()->text(), QStringLiteral("Remove All Cursors"));
+    menus.first()->actions().last()->trigger();
+    QVERIFY(pair->digital->cursors().isEmpty());
+    QVERIFY(pair->plot->cursors().isEmpty());
+    QVERIFY(PlotPair::lineLabels(pair->plot).isEmpty());
+}
+
+// Markers are placed as the traces are, over 703 pixels.
+void tst_PlotterCursors::saveMarkers_data()
+{
+    QTest::addColumn<double>("time");
+    QTest::addColumn<bool>("visible");
+    QTest::addColumn<int>("x");
+    QTest::newRow("at the first time") << 0.0 << true << 100;
+    QTest::newRow("in the middle") << 500.0 << true << 452;
+    QTest::newRow("at the right edge") << 998.0 << true << 802;
+    QTest::newRow("right of the view") << 1001.0 << false << 804;
+    QTest::newRow("left of the view stays") << -100.0 << true << 30;
+}
+
+void tst_PlotterCursors::saveMarkers()
+{
+    QFETCH(double, time);
+    QFETCH(int, x);
+    for (const bool isStart : {true, false}) {
+        if (isStart)
+            pair->plot->setStartPoint(time);
+        else
+            pair->plot->setEndPoint(time);
+        const auto *marker = pair->plot->findChild<QFrame *>(
+            isStart ? QStringLiteral("startMarker") : QStringLiteral("endMarker"));
+        QTEST(marker->isVisibleTo(pair->plot), "visible");
+        QCOMPARE(marker->geometry(), QRect(QPoint(x, 60), QPoint(x, 260)));
+    }
+}
+
+void tst_PlotterCursors::saveMarkersAreCutToWholeMilliseconds()
+{
+    pair->plot->setStartPoint(12.9);
+    const auto *marker = pair->plot->findChild<QFrame *>(QStringLiteral("startMarker"));
+    QCOMPARE(marker->x(), 100 + 8); // 12 ms; 12.9 ms would be at 109
+}
+
+void tst_PlotterCursors::zeroIsATimeOfAMarker()
+{
+    pair->plot->setEndPoint(700);
+    const auto *start = pair->plot->findChild<QFrame *>(QStringLiteral("startMarker"));
+    QVERIFY(!start->isVisibleTo(pair->plot));
+    pair->plot->setStartPoint(0);
+    QVERIFY(start->isVisibleTo(pair->plot));
+}
+
+void tst_PlotterCursors::markersFollowTheView()
+{
+    pair->plot->setStartPoint(250);
+    const auto *marker = pair->plot->findChild<QFrame *>(QStringLiteral("startMarker"));
+    pair->plot->customZoomIn();
+    QCOMPARE(marker->x(), 452);
+    pair->plot->customZoomIn(); // 250 ms is one pixel right of the last place for a marker
+    QVERIFY(!marker->isVisibleTo(pair->plot));
+}
+
+void tst_PlotterCursors::clearedMarkersStayAway()
+{
+    pair->plot->setStartPoint(100);
+    pair->plot->setEndPoint(200);
+    pair->plot->clearSaveMarkers();
+    pair->plot->refreshPixmap();
+    for (const QString &name : {QStringLiteral("startMarker"), QStringLiteral("endMarker")})
+        QVERIFY(!pair->plot->findChild<QFrame *>(name)->isVisibleTo(pair->plot));
+}
+
+QTEST_MAIN(tst_PlotterCursors)
+#include "tst_plotter_cursors.moc"

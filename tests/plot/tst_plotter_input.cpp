@@ -1,0 +1,422 @@
+#include "plotpair.h"
+
+#include <QColorDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTimer>
+
+#include <memory>
+
+namespace {
+
+using Ends = QVector<double>;
+
+// The view to six decimals.
+Ends ends(const PlotSettings &view)
+{
+    Ends result{view.minX, view.maxX, view.minY, view.maxY};
+    for (double &end : result)
+        end = std::round(end * 1e6) / 1e6;
+    return result;
+}
+
+} // namespace
+
+// The band's offsets of 50 pixels and its scale of width - 100 and height - 100 are odd on purpose:
+// with a plot of 803 x 301 a band from x1 to x2 shows 1000 / 703 x (x1 - 50) ms to 1000 / 703 x (x2
+// - 50) ms.
+class tst_PlotterInput : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { pair = std::make_unique<PlotPair>(); }
+    void cleanup() { pair.reset(); }
+
+    void aBandZoomsBothAxes_data();
+    void aBandZoomsBothAxes();
+    void linkedPlotsFollowInTimeOnly();
+    void smallBandsDoNotZoom_data();
+    void smallBandsDoNotZoom();
+    void aBandBegunBesideTheAreaBeginsOnItsEdge_data();
+    void aBandBegunBesideTheAreaBeginsOnItsEdge();
+    void theBandIsDrawnWhileItGrows();
+    void otherButtonsDrawNoBand();
+    void aPressElsewhereGivesUpTheBandsOfLinkedPlots();
+    void afterABandTheScrollBarIsRanged();
+
+    void wheel_data();
+    void wheel();
+    void aFineWheelStepStillRepaints();
+    void plainWheelActsOnOnePlot();
+    void keysBeforeThePointerCameDoNotCount();
+
+    void keys_data();
+    void keys();
+    void arrowsTurnTheScrollBar();
+    void otherKeysAreLeftToTheWindow();
+
+    void thePointerGrabsTheKeyboard();
+    void theGrabEndsWithTheWindowsActivation();
+    void theGrabEndsWhenThePlotIsHidden();
+    void noGrabWhileTheTitleIsEdited();
+
+    void returnCommitsTheTitle();
+    void leavingTheEditorKeepsTheTitle();
+    void theEditorBeginsWithTheTitleSelected();
+
+    void aChannelLabelOffersColours_data();
+    void aChannelLabelOffersColours();
+    void otherLabelsOfferNone();
+
+    void movesRedrawNoBaseLayer();
+
+private:
+    void hold(Qt::Key key) { QTest::keyPress(pair->plot, key); }
+
+    std::unique_ptr<PlotPair> pair;
+};
+
+void tst_PlotterInput::aBandZoomsBothAxes_data()
+{
+    QTest::addColumn<QPoint>("from");
+    QTest::addColumn<QPoint>("to");
+    QTest::newRow("down to the right") << QPoint(191, 100) << QPoint(543, 200);
+    QTest::newRow("up to the right") << QPoint(191, 200) << QPoint(543, 100);
+    QTest::newRow("down to the left") << QPoint(543, 100) << QPoint(191, 200);
+    QTest::newRow("up to the left") << QPoint(543, 200) << QPoint(191, 100);
+}
+
+// From x = 191 to 543: 200.57 to 701.28 ms, to steps of 100 ms. From y = 100 to 200, of 201 pixels
+// for 24: 12 - 24 / 201 x 150 = -5.91 to 12 - 24 / 201 x 50 = 6.03, to steps of 1.
+void tst_PlotterInput::aBandZoomsBothAxes()
+{
+    QFETCH(QPoint, from);
+    QFETCH(QPoint, to);
+    PlotPair::drag(pair->plot, from, to);
+    QCOMPARE(ends(pair->plot->view()), Ends({200, 800, -6, 7}));
+    QCOMPARE(pair->plot->cursor().shape(), Qt::ArrowCursor);
+}
+
+void tst_PlotterInput::linkedPlotsFollowInTimeOnly()
+{
+    PlotPair::drag(pair->plot, {191, 100}, {543, 200});
+    QCOMPARE(pair->other->view().minX, 200.0);
+    QCOMPARE(pair->other->view().maxX, 800.0);
+    QVERIFY(pair->other->view().maxY >= 12);
+    QCOMPARE(pair->digital->view().minX, 200.0);
+}
+
+void tst_PlotterInput::smallBandsDoNotZoom_data()
+{
+    QTest::addColumn<QPoint>("size");
+    QTest::addColumn<bool>("zooms");
+    QTest::newRow("2 pixels wide") << QPoint(2, 100) << false;
+    QTest::newRow("3 pixels wide") << QPoint(3, 100) << true;
+    QTest::newRow("2 pixels high") << QPoint(100, 2) << false;
+    QTest::newRow("3 pixels high") << QPoint(100, 3) << true;
+    QTest::newRow("a click") << QPoint(0, 0) << false;
+}
+
+void tst_PlotterInput::smallBandsDoNotZoom()
+{
+    QFETCH(QPoint, size);
+    QFETCH(bool, zooms);
+    const Ends before = ends(pair->plot->view());
+    PlotPair::drag(pair->plot, {300, 120}, QPoint(300, 120) + size);
+    QCOMPARE(ends(pair->plot->view()) != before, zooms);
+    QCOMPARE(pair->plot->cursor().shape(), Qt::ArrowCursor);
+}
+
+void tst_PlotterInput::aBandBegunBesideTheAreaBeginsOnItsEdge_data()
+{
+    QTest::addColumn<QPoint>("from");
+    QTest::addColumn<QPoint>("edge"); // where the band begins, where it does
+    QTest::addColumn<bool>("begins");
+    QTest::newRow("19 pixels above") << QPoint(400, 41) << QPoint(400, 60) << true;
+    QTest::newRow("20 pixels above") << QPoint(400, 40) << QPoint() << false;
+    QTest::newRow("19 pixels left") << QPoint(81, 150) << QPoint(100, 150) << true;
+    QTest::newRow("20 pixels left") << QPoint(80, 150) << QPoint() << false;
+    QTest::newRow("19 pixels below") << QPoint(400, 279) << QPoint(400, 260) << true;
+    QTest::newRow("20 pixels below") << QPoint(400, 280) << QPoint() << false;
+    QTest::newRow("right of the edge") << QPoint(802, 150) << QPoint(800, 150) << true;
+}
+
+void tst_PlotterInput::aBandBegunBesideTheAreaBeginsOnItsEdge()
+{
+    QFETCH(QPoint, from);
+    QFETCH(QPoint, edge);
+    QFETCH(bool, begins);
+    QTest::mousePress(pair->plot, Qt::LeftButton, {}, from);
+    QCOMPARE(pair->plot->cursor().shape() == Qt::CrossCursor, begins);
+    if (!begins)
+        return;
+    PlotPair::move(pair->plot, {500, 200}, Qt::LeftButton);
+    const QImage image = pair->plot->grab().toImage();
+    const QRgb light = pair->plot->palette().light().color().rgb();
+    QCOMPARE(image.pixel(edge), light);
+}
+
+void tst_PlotterInput::theBandIsDrawnWhileItGrows()
+{
+    QTest::mousePress(pair->plot, Qt::LeftButton, {}, {300, 100});
+    PlotPair::move(pair->plot, {600, 200}, Qt::LeftButton);
+    const QRgb light = pair->plot->palette().light().color().rgb();
+    QImage image = pair->plot->grab().toImage();
+    QCOMPARE(image.pixel(300, 150), light);
+    QCOMPARE(image.pixel(450, 100), light);
+    QTest::mouseRelease(pair->plot, Qt::LeftButton, {}, {301, 101});
+}
+
+void tst_PlotterInput::otherButtonsDrawNoBand()
+{
+    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+        QTest::mousePress(pair->plot, button, {}, {300, 100});
+        QVERIFY(pair->plot->cursor().shape() != Qt::CrossCursor);
+        QTest::mouseRelease(pair->plot, button, {}, {300, 100});
+    }
+}
+
+void tst_PlotterInput::aPressElsewhereGivesUpTheBandsOfLinkedPlots()
+{
+    QTest::mousePress(pair->other, Qt::LeftButton, {}, {300, 100});
+    QCOMPARE(pair->other->cursor().shape(), Qt::CrossCursor);
+    QTest::mousePress(pair->plot, Qt::RightButton, {}, {400, 100});
+    QVERIFY(pair->other->cursor().shape() != Qt::CrossCursor);
+}
+
+void tst_PlotterInput::afterABandTheScrollBarIsRanged()
+{
+    PlotPair::drag(pair->plot, {191, 100}, {543, 200});
+    QCOMPARE(pair->host.bar->value(), 2); // 200 ms at 100 ms a unit
+}
+
+void tst_PlotterInput::wheel_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QPoint>("delta");
+    QTest::addColumn<Ends>("view");
+    const int ctrl = Qt::Key_Control;
+    const int shift = Qt::Key_Shift;
+    QTest::newRow("120 with Ctrl zooms time in")
+        << ctrl << QPoint(0, 120) << Ends({0, 500, -12, 12});
+    QTest::newRow("119 with Ctrl zooms time out")
+        << ctrl << QPoint(0, 119) << Ends({0, 2100, -12, 12});
+    QTest::newRow("60 with Ctrl zooms time out")
+        << ctrl << QPoint(0, 60) << Ends({0, 2100, -12, 12});
+    QTest::newRow("-120 with Ctrl zooms time out")
+        << ctrl << QPoint(0, -120) << Ends({0, 2100, -12, 12});
+    QTest::newRow("120 with Shift zooms values in")
+        << shift << QPoint(0, 120) << Ends({0, 1000, -6, 6});
+    QTest::newRow("119 with Shift zooms values out")
+        << shift << QPoint(0, 119) << Ends({0, 1000, -30, 30});
+    QTest::newRow("-120 with Shift zooms values out")
+        << shift << QPoint(0, -120) << Ends({0, 1000, -30, 30});
+    QTest::newRow("120 scrolls up an interval") << 0 << QPoint(0, 120) << Ends({0, 1000, -9, 15});
+    QTest::newRow("-240 scrolls down two") << 0 << QPoint(0, -240) << Ends({0, 1000, -18, 6});
+    QTest::newRow("60 scrolls by none") << 0 << QPoint(0, 60) << Ends({0, 1000, -12, 12});
+    QTest::newRow("119 scrolls by none") << 0 << QPoint(0, 119) << Ends({0, 1000, -12, 12});
+    QTest::newRow("sideways scrolls time by the vertical delta")
+        << 0 << QPoint(120, 120) << Ends({100, 1100, -12, 12});
+    QTest::newRow("sideways alone scrolls by none")
+        << 0 << QPoint(120, 0) << Ends({0, 1000, -12, 12});
+}
+
+void tst_PlotterInput::wheel()
+{
+    QFETCH(int, key);
+    QFETCH(QPoint, delta);
+    if (key)
+        hold(Qt::Key(key));
+    PlotPair::wheel(pair->plot, delta);
+    QTEST(ends(pair->plot->view()), "view");
+}
+
+void tst_PlotterInput::aFineWheelStepStillRepaints()
+{
+    const int refreshes = pair->host.vectorRefreshes;
+    PlotPair::wheel(pair->plot, {0, 60});
+    QCOMPARE(pair->host.vectorRefreshes, refreshes + 1);
+}
+
+void tst_PlotterInput::plainWheelActsOnOnePlot()
+{
+    const Ends before = ends(pair->other->view());
+    PlotPair::wheel(pair->plot, {0, 120});
+    QCOMPARE(ends(pair->other->view()), before);
+}
+
+void tst_PlotterInput::keysBeforeThePointerCameDoNotCount()
+{
+    QTest::keyPress(&pair->area, Qt::Key_Control);
+    QTest::keyRelease(&pair->area, Qt::Key_Control);
+    PlotPair::wheel(pair->plot, {0, 120});
+    QCOMPARE(ends(pair->plot->view()), Ends({0, 1000, -9, 15}));
+
+    hold(Qt::Key_Control);
+    QTest::keyRelease(pair->plot, Qt::Key_Control);
+    PlotPair::wheel(pair->plot, {0, -120});
+    QCOMPARE(ends(pair->plot->view()), Ends({0, 1000, -12, 12}));
+}
+
+void tst_PlotterInput::keys_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<Ends>("view");
+    QTest::addColumn<Ends>("linked");
+    QTest::newRow("plus") << int(Qt::Key_Plus) << Ends({0, 500, -12, 12})
+                          << Ends({0, 500, -12, 12});
+    QTest::newRow("minus") << int(Qt::Key_Minus) << Ends({0, 2100, -12, 12})
+                           << Ends({0, 2100, -12, 12});
+    QTest::newRow("up") << int(Qt::Key_Up) << Ends({0, 1000, -15, 9}) << Ends({0, 1000, -15, 9});
+    QTest::newRow("down") << int(Qt::Key_Down) << Ends({0, 1000, -9, 15})
+                          << Ends({0, 1000, -9, 15});
+}
+
+void tst_PlotterInput::keys()
+{
+    QFETCH(int, key);
+    QTest::keyClick(pair->plot, Qt::Key(key));
+    QTEST(ends(pair->plot->view()), "view");
+    QTEST(ends(pair->other->view()), "linked");
+}
+
+void tst_PlotterInput::arrowsTurnTheScrollBar()
+{
+    QTest::keyClick(pair->plot, Qt::Key_Right);
+    QCOMPARE(pair->host.bar->value(), 1);
+    QTest::keyClick(pair->plot, Qt::Key_Right);
+    QCOMPARE(pair->host.bar->value(), 2);
+    QTest::keyClick(pair->plot, Qt::Key_Left);
+    QCOMPARE(pair->host.bar->value(), 1);
+}
+
+void tst_PlotterInput::otherKeysAreLeftToTheWindow()
+{
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
+    QApplication::sendEvent(pair->plot, &event);
+    QVERIFY(!event.isAccepted());
+}
+
+void tst_PlotterInput::thePointerGrabsTheKeyboard()
+{
+    PlotPair::move(pair->plot, {300, 100});
+    QCOMPARE(QWidget::keyboardGrabber(), pair->plot);
+    hold(Qt::Key_Control);
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(pair->plot, &leave);
+    QVERIFY(!QWidget::keyboardGrabber());
+}
+
+void tst_PlotterInput::theGrabEndsWithTheWindowsActivation()
+{
+    PlotPair::move(pair->plot, {300, 100});
+    QEvent deactivate(QEvent::WindowDeactivate);
+    QApplication::sendEvent(&pair->area, &deactivate);
+    QVERIFY(!QWidget::keyboardGrabber());
+}
+
+void tst_PlotterInput::theGrabEndsWhenThePlotIsHidden()
+{
+    PlotPair::move(pair->plot, {300, 100});
+    pair->plot->hide();
+    QVERIFY(!QWidget::keyboardGrabber());
+    PlotPair::move(pair->other, {300, 100});
+    delete pair->other;
+    QVERIFY(!QWidget::keyboardGrabber());
+    pair->plot->setLinkedPlotters({});
+    pair->digital->setLinkedPlotters({});
+}
+
+void tst_PlotterInput::noGrabWhileTheTitleIsEdited()
+{
+    QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {100, 30});
+    PlotPair::move(pair->plot, {300, 100});
+    QCOMPARE(QWidget::keyboardGrabber(), pair->plot->findChild<QLineEdit *>());
+}
+
+void tst_PlotterInput::returnCommitsTheTitle()
+{
+    auto *editor = pair->plot->findChild<QLineEdit *>();
+    QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {100, 30});
+    QVERIFY(editor->isVisible());
+    QCOMPARE(editor->geometry(), QRect(70, 20, 100, 20));
+    QTest::keyClicks(editor, QStringLiteral("Feeder"));
+    QTest::keyClick(editor, Qt::Key_Return);
+    QVERIFY(!editor->isVisible());
+    QVERIFY(!QWidget::keyboardGrabber());
+    const auto *title = pair->plot->findChild<QLabel *>(QStringLiteral("Plotter Label"));
+    QCOMPARE(title->text(), QStringLiteral("Feeder"));
+    QCOMPARE(pair->plot->name(), QStringLiteral("Analog"));
+    pair->plot->setupPlot();
+    QCOMPARE(title->text(), QStringLiteral("Feeder"));
+}
+
+void tst_PlotterInput::leavingTheEditorKeepsTheTitle()
+{
+    auto *editor = pair->plot->findChild<QLineEdit *>();
+    QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {100, 30});
+    QTest::keyClicks(editor, QStringLiteral("Feeder"));
+    QFocusEvent leave(QEvent::FocusOut);
+    QApplication::sendEvent(editor, &leave);
+    QVERIFY(!editor->isVisible());
+    QVERIFY(!QWidget::keyboardGrabber());
+    QCOMPARE(pair->plot->findChild<QLabel *>(QStringLiteral("Plotter Label"))->text(),
+        QStringLiteral("Analog Plotter"));
+}
+
+void tst_PlotterInput::theEditorBeginsWithTheTitleSelected()
+{
+    QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {100, 30});
+    QCOMPARE(
+        pair->plot->findChild<QLineEdit *>()->selectedText(), QStringLiteral("Analog Plotter"));
+}
+
+void tst_PlotterInput::aChannelLabelOffersColours_data()
+{
+    QTest::addColumn<bool>("accepted");
+    QTest::addColumn<QColor>("color");
+    QTest::newRow("chosen") << true << QColor(1, 2, 3);
+    QTest::newRow("cancelled") << false << QColor(245, 30, 18);
+}
+
+void tst_PlotterInput::aChannelLabelOffersColours()
+{
+    QFETCH(bool, accepted);
+    auto *label = pair->plot->findChild<QLabel *>(QStringLiteral("channelLabel"));
+    QVERIFY(label);
+    QColor initial;
+    QTimer::singleShot(0, this, [&] {
+        auto *dialog = qobject_cast<QColorDialog *>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        initial = dialog->currentColor();
+        dialog->setCurrentColor(QColor(1, 2, 3));
+        accepted ? dialog->accept() : dialog->reject();
+    });
+    QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, label->geometry().center());
+    QCOMPARE(initial, QColor(Qt::white));
+    QTEST(label->palette().color(label->foregroundRole()), "color");
+    QVERIFY(pair->plot->cursors().isEmpty());
+}
+
+void tst_PlotterInput::otherLabelsOfferNone()
+{
+    QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {300, 150});
+    pair->digital->raise();
+    const QPoint grip = PlotPair::lineLabels(pair->digital).first()->geometry().center();
+    QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, grip);
+    QCOMPARE(pair->digital->cursors().size(), 1);
+}
+
+// The base layer asks for the phasors to be drawn, so it is counted by that.
+void tst_PlotterInput::movesRedrawNoBaseLayer()
+{
+    const int refreshes = pair->host.vectorRefreshes;
+    for (int x = 100; x < 800; x += 10)
+        PlotPair::move(pair->plot, {x, 150});
+    QCOMPARE(pair->host.vectorRefreshes, refreshes);
+    QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {300, 150});
+    QCOMPARE(pair->host.vectorRefreshes, refreshes + 4); // three plots, and the double-click itself
+}
+
+QTEST_MAIN(tst_PlotterInput)
+#include "tst_plotter_input.moc"

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "fakeplothost.h"
+#include "plotter.h"
+#include "plotterdg.h"
+
+#include <QApplication>
+#include <QWheelEvent>
+#include <QtTest>
+
+#include <memory>
+
+// Two linked analog plots and a digital one, one over the other in a host of 803 x 301, over a
+// recording of 1000 ms. Without cursors, the time line and the cursors have 700 pixels for the
+// 1000 ms, from x = 100 on; the traces have 703. The views are 0 to 1000 ms and -12 to 12.
+class PlotPair {
+public:
+    PlotPair()
+    {
+        QVector<double> times(1001);
+        QVector<float> current(1001);
+        for (int i = 0; i < times.size(); ++i) {
+            times[i] = i;
+            current[i] = float(i % 21 - 10);
+        }
+        host.setTimes(times);
+        host.source->durationMs = 1000;
+        host.source->sampleRate = 1000;
+        host.addAnalog(QStringLiteral("Ia"), current);
+        host.addAnalog(QStringLiteral("Ib"), current);
+        host.addDigital(QStringLiteral("Trip"), QVector<int>(1001, 1));
+
+        area.resize(803, 301);
+        plot = add<Plotter>(QStringLiteral("Analog"));
+        other = add<Plotter>(QStringLiteral("Graph 1"));
+        digital = add<plotterDg>(QStringLiteral("Digital"));
+        plot->setLinkedPlotters({other, digital});
+        other->setLinkedPlotters({plot, digital});
+        digital->setLinkedPlotters({plot, other});
+        plot->raise();
+        area.show();
+        area.activateWindow();
+        (void)QTest::qWaitForWindowActive(&area);
+    }
+
+    static void move(
+        QWidget *widget, const QPoint &position, Qt::MouseButtons buttons = Qt::NoButton)
+    {
+        QMouseEvent event(QEvent::MouseMove, position, widget->mapToGlobal(position), Qt::NoButton,
+            buttons, Qt::NoModifier);
+        QApplication::sendEvent(widget, &event);
+    }
+
+    static void wheel(QWidget *widget, const QPoint &delta)
+    {
+        const QPoint position(400, 150);
+        QWheelEvent event(position, widget->mapToGlobal(position), {}, delta, Qt::NoButton,
+            Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(widget, &event);
+    }
+
+    static void drag(QWidget *widget, const QPoint &from, const QPoint &to)
+    {
+        QTest::mousePress(widget, Qt::LeftButton, {}, from);
+        move(widget, to, Qt::LeftButton);
+        QTest::mouseRelease(widget, Qt::LeftButton, {}, to);
+    }
+
+    // The labels of the cursors in the order of the cursors.
+    static QList<CustomLabel *> lineLabels(const Plotter *plotter)
+    {
+        return plotter->findChildren<CustomLabel *>(QStringLiteral("lineLabel"));
+    }
+
+    FakePlotHost host;
+    QWidget area;
+    Plotter *plot = nullptr;
+    Plotter *other = nullptr;
+    plotterDg *digital = nullptr;
+
+private:
+    template <typename Plot> Plot *add(const QString &name)
+    {
+        auto *created = new Plot(&area);
+        created->setMainWindow(&host);
+        created->setName(name);
+        created->resize(803, 301);
+        created->addChannel(0);
+        created->setupPlot();
+        return created;
+    }
+};
