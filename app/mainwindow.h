@@ -101,17 +101,15 @@ private:
     void createMenus();
     void createToolBars();
     void retranslateTexts(); // of actions, menus and the check box in the tool bar
-    // Enables or disables what works on a recording; the spectrum controls only where it has
-    // phasors.
-    void enableRecordingActions(bool enabled);
+    void enableRecordingActions(bool enabled); // those on phasors only where there are any
 
     void readSettings();
     void createLoader();
     void stopUnpacking(); // and removes what was unpacked
     void stopLoader(); // waits without limit; the recording is gone afterwards
 
-    // The steps of open(). Those that process events return false when the window was closed or
-    // deleted meanwhile: then nothing of it may be touched any more.
+    // Steps of open(); false when the window was closed or deleted while events were processed:
+    // then nothing of it may be touched any more.
     bool load(QString path);
     bool unpack(QString &path); // path becomes that of the configuration file found
     bool parse(const QString &path); // on the loader thread
