@@ -71,7 +71,13 @@ VectorWidget::VectorWidget(QWidget *parent)
     setFixedWidth(width());
 }
 
-VectorWidget::~VectorWidget() = default;
+VectorWidget::~VectorWidget()
+{
+    if (removalClicked) { // the button is still handling the click that led here
+        ui->toolButton->setParent(nullptr);
+        ui->toolButton->deleteLater();
+    }
+}
 
 void VectorWidget::setMainWindow(QObject *object)
 {
@@ -153,6 +159,7 @@ bool VectorWidget::waitForPaintEvent()
 
 void VectorWidget::on_toolButton_clicked()
 {
+    removalClicked = true;
     emit deleteSignal(this);
 }
 

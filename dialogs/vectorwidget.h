@@ -83,5 +83,6 @@ private:
     VectorDialog *owner;
     bool renderPending = false;
     bool drawing = false;
+    bool removalClicked = false;
     std::unique_ptr<Ui::VectorWidget> ui;
 };
