@@ -133,6 +133,7 @@ private:
     void connectSaveMarkers(Plotter *plot);
     void linkPlots();
     void showChosenChannels();
+    void setColumnHeight();
     void refreshSpectra();
 
     std::unique_ptr<Ui::MainWindow> ui;

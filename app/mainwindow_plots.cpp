@@ -1,0 +1,330 @@
+// The plots of the recording on screen, and what chooses what they show.
+
+#include "mainwindow.h"
+
+#include "addplotterdialog.h"
+#include "cfgproperties.h"
+#include "ctvtdialog.h"
+#include "plotterdg.h"
+#include "savedialog.h"
+#include "ui_mainwindow.h"
+#include "vectordialog.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QPointer>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+namespace {
+
+constexpr int smallestPlotHeight = 200;
+constexpr int largestPlotHeight = 1000;
+// What an analog plot gets where the column is taller than the window, so that it scrolls anyway.
+constexpr int scrolledPlotHeight = 320;
+const QString spectrumSuffix = QStringLiteral("_FFT");
+
+void fill(QComboBox &combo, const QStringList &items, int current)
+{
+    const QSignalBlocker blocker(combo);
+    combo.clear();
+    combo.addItems(items);
+    combo.setCurrentIndex(current);
+}
+
+void select(QListWidget &list, const QList<int> &rows)
+{
+    for (int row = 0; row < list.count(); ++row)
+        list.item(row)->setSelected(rows.contains(row));
+}
+
+} // namespace
+
+QScrollBar *MainWindow::horizontalScrollBar() const
+{
+    return horizontalScroll;
+}
+
+int MainWindow::valueMode() const
+{
+    return mode;
+}
+
+int MainWindow::referenceIndex() const
+{
+    return qMax(0, referenceCombo->currentIndex());
+}
+
+bool MainWindow::showsAngles() const
+{
+    return anglesShown;
+}
+
+QStringList MainWindow::analogNames() const
+{
+    QStringList names;
+    for (const AnalogChannel *channel : qAsConst(cfgProperties->analogChannels))
+        names.append(channel->id);
+    return names;
+}
+
+void MainWindow::createPlots()
+{
+    horizontalScroll = new QScrollBar(Qt::Horizontal, this);
+    horizontalScroll->setRange(0, 0);
+    ui->verticalLayout_2->addWidget(horizontalScroll);
+
+    const QStringList names = analogNames();
+    const bool isSecondary = !cfgProperties->analogChannels.isEmpty()
+        && cfgProperties->analogChannels.constFirst()->ps == QLatin1String("S");
+    mode = isSecondary ? 1 : 0;
+    fill(*primSecCombo, {tr("P"), tr("S"), tr("Per Unit")}, mode);
+    fill(*referenceCombo, QStringList(QStringLiteral("-")) + names, 0);
+    {
+        const QSignalBlocker blocker(showAnglesCheckBox);
+        showAnglesCheckBox->setChecked(false);
+        anglesShown = false;
+    }
+
+    analogPlotter = new Plotter(ui->scrollWidget);
+    analogPlotter->setName(QStringLiteral("Analog"));
+    analogPlotter->setMinimumHeight(smallestPlotHeight);
+    analogPlotter->setMaximumHeight(largestPlotHeight);
+    connect(zoomResetAct, &QAction::triggered, analogPlotter, &Plotter::customResetZoom);
+    connect(zoomOutAct, &QAction::triggered, analogPlotter, &Plotter::customZoomOut);
+    connect(zoomInAct, &QAction::triggered, analogPlotter, &Plotter::customZoomIn);
+    connect(vZoomOutAct, &QAction::triggered, analogPlotter, &Plotter::customVZoomOut);
+    connect(vZoomInAct, &QAction::triggered, analogPlotter, &Plotter::customVZoomIn);
+    connect(ctvtDialog, &CTVTDialog::scaleChanged, analogPlotter, &Plotter::refreshSlot);
+    connectSaveMarkers(analogPlotter);
+
+    digitalPlotter = new plotterDg(ui->scrollWidget);
+    digitalPlotter->setName(QStringLiteral("Digital"));
+    connect(zoomResetAct, &QAction::triggered, digitalPlotter, &Plotter::customResetZoom);
+    connectSaveMarkers(digitalPlotter);
+
+    for (Plotter *plot : plots()) {
+        plot->setMainWindow(this);
+        connect(horizontalScroll, &QScrollBar::valueChanged, plot, &Plotter::scrolling);
+    }
+    plotLayout->addWidget(analogPlotter);
+    plotLayout->addWidget(digitalPlotter);
+    linkPlots();
+
+    for (int i = 0; i < qMin(firstPlotChannels, cfgProperties->analogChannels.size()); ++i)
+        analogPlotter->addChannel(i);
+    for (int i = 0; i < cfgProperties->digitalChannels.size(); ++i) {
+        if (!cfgProperties->digitalChannels.at(i)->allZero)
+            digitalPlotter->addChannel(i);
+    }
+    analogPlotter->setupPlot();
+    digitalPlotter->setupPlot();
+    analogPlotter->show();
+    showChosenChannels();
+    vectorDialog->setPlotter(analogPlotter);
+    vectorDialog->setChannelNames(names);
+}
+
+void MainWindow::disposePlots()
+{
+    analogPlotter->setLinkedPlotters({});
+    analogPlotter->resetPlot(); // plots of the next recording begin at the full view
+    for (Plotter *plot : plots())
+        delete plot;
+    analogPlotter = nullptr;
+    digitalPlotter = nullptr;
+    addedPlotters.clear();
+    ui->scrollWidget->setMinimumHeight(0);
+    graphCount = 0;
+    delete horizontalScroll;
+    horizontalScroll = nullptr;
+}
+
+void MainWindow::connectSaveMarkers(Plotter *plot)
+{
+    connect(saveDialog, &SaveDialog::setStartPoint, plot, &Plotter::setStartPoint);
+    connect(saveDialog, &SaveDialog::setEndPoint, plot, &Plotter::setEndPoint);
+    connect(saveDialog, &SaveDialog::clearPoints, plot, &Plotter::clearSaveMarkers);
+}
+
+void MainWindow::linkPlots()
+{
+    for (Plotter *plot : plots()) {
+        QList<Plotter *> others = plots();
+        others.removeAll(plot);
+        plot->setLinkedPlotters(others);
+    }
+}
+
+// After the first analog or the digital plot got other channels: the lists show which, and the
+// digital plot stands only where it has some.
+void MainWindow::showChosenChannels()
+{
+    select(*ui->listWidget, analogPlotter->channels());
+    select(*ui->listWidget2, digitalPlotter->channels());
+    digitalPlotter->setMinimumHeight(digitalPlotter->neededHeight());
+    digitalPlotter->setVisible(!digitalPlotter->channels().isEmpty());
+    setColumnHeight();
+}
+
+// A digital plot with many rows would leave the analog plots no more than their smallest height.
+void MainWindow::setColumnHeight()
+{
+    const int rows = digitalPlotter->neededHeight();
+    const int analogPlots = 1 + addedPlotters.size();
+    ui->scrollWidget->setMinimumHeight(
+        rows > smallestPlotHeight ? rows + analogPlots * scrolledPlotHeight : 0);
+}
+
+void MainWindow::on_listWidget_clicked(const QModelIndex & /*index*/)
+{
+    setRequiredAnChannels();
+}
+
+void MainWindow::setRequiredAnChannels()
+{
+    if (!analogPlotter)
+        return;
+    for (int row = 0; row < ui->listWidget->count(); ++row) {
+        if (ui->listWidget->item(row)->isSelected())
+            analogPlotter->addChannel(row);
+        else
+            analogPlotter->removeChannel(row);
+    }
+    analogPlotter->setupPlot();
+    analogPlotter->refreshPixmap();
+}
+
+void MainWindow::on_listWidget2_clicked(const QModelIndex &index)
+{
+    if (!digitalPlotter || !index.isValid())
+        return;
+    if (ui->listWidget2->item(index.row())->isSelected())
+        digitalPlotter->addChannel(index.row());
+    else
+        digitalPlotter->removeChannel(index.row());
+    showChosenChannels();
+    digitalPlotter->refreshPixmap();
+}
+
+void MainWindow::setAnalogChannels()
+{
+    QStringList names = analogNames();
+    if (spectrumOffered) {
+        for (const QString &name : analogNames()) {
+            if (!name.startsWith(QLatin1String("MEAS")))
+                names.append(name + spectrumSuffix);
+        }
+    }
+    addPlotterDialog->setChannelNames(names);
+    if (addPlotterDialog->exec() == QDialog::Accepted && hasRecording)
+        addPlotter(addPlotterDialog->selectedChannels());
+}
+
+void MainWindow::addPlotter(const QList<QString> &AnCheckedChannels)
+{
+    if (AnCheckedChannels.isEmpty() || !analogPlotter)
+        return;
+    removePlotterAct->setEnabled(true);
+    const QString given = addPlotterDialog->graphName().trimmed();
+    const QPointer<Plotter> plot = new Plotter(ui->scrollWidget);
+    plot->setName(given.isEmpty() ? tr("Graph %1").arg(++graphCount) : given);
+    plot->setMainWindow(this);
+    plotLayout->insertWidget(plotLayout->indexOf(digitalPlotter), plot);
+    addedPlotters.append(plot);
+    setColumnHeight();
+    linkPlots();
+
+    const QStringList ids = analogNames();
+    for (const QString &name : AnCheckedChannels) {
+        const bool isSpectrum = name.endsWith(spectrumSuffix);
+        const int number = ids.indexOf(isSpectrum ? name.chopped(spectrumSuffix.size()) : name);
+        if (number >= 0)
+            plot->addChannel(isSpectrum ? ids.size() + number : number);
+    }
+    plot->setMinimumHeight(smallestPlotHeight);
+    connect(zoomResetAct, &QAction::triggered, plot, &Plotter::customResetZoom);
+    connect(vZoomOutAct, &QAction::triggered, plot, &Plotter::customVZoomOut);
+    connect(vZoomInAct, &QAction::triggered, plot, &Plotter::customVZoomIn);
+    connect(ctvtDialog, &CTVTDialog::scaleChanged, plot, &Plotter::refreshSlot);
+    connectSaveMarkers(plot);
+    connect(horizontalScroll, &QScrollBar::valueChanged, plot, &Plotter::scrolling);
+    plot->setupPlot();
+    plot->adoptTimeRange(*analogPlotter);
+    plot->show();
+
+    // The scroll area knows the plot's place only after its layout was done.
+    constexpr int settleTime = 50; // ms
+    QElapsedTimer timer;
+    timer.start();
+    while (plot && timer.elapsed() < settleTime)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, settleTime);
+    if (plot)
+        ui->scrollArea->ensureWidgetVisible(plot, 0, 0);
+}
+
+void MainWindow::removePlotter()
+{
+    if (!addedPlotters.isEmpty()) {
+        Plotter *removed = addedPlotters.takeLast();
+        for (Plotter *plot : plots()) {
+            plot->removeLinkedPlotter(removed->name());
+            // Plots may share a name: then another one was taken out.
+            QList<Plotter *> left = plot->linked();
+            left.removeAll(removed);
+            plot->setLinkedPlotters(left);
+        }
+        plotLayout->removeWidget(removed);
+        delete removed;
+        setColumnHeight();
+        ui->scrollWidget->repaint();
+    }
+    if (addedPlotters.isEmpty())
+        removePlotterAct->setEnabled(false);
+}
+
+void MainWindow::removeCursors()
+{
+    for (Plotter *plot : plots()) {
+        plot->clearCursors();
+        plot->refreshPixmap();
+    }
+    vectorDialog->refresh();
+}
+
+void MainWindow::refreshPlots()
+{
+    for (Plotter *plot : plots()) {
+        plot->rescaleValues();
+        plot->refreshPixmap();
+    }
+}
+
+void MainWindow::primSecChanged(int index)
+{
+    mode = index;
+    refreshPlots();
+}
+
+void MainWindow::referenceChanged(int /*index*/)
+{
+    refreshSpectra();
+}
+
+void MainWindow::showAnglesSlot(bool on)
+{
+    anglesShown = on;
+    refreshSpectra();
+}
+
+// After another choice of what is drawn of the angles.
+void MainWindow::refreshSpectra()
+{
+    for (Plotter *plot : plots()) {
+        if (plot->showsSpectrum()) {
+            plot->setupPlot();
+            plot->refreshPixmap();
+        }
+    }
+}

@@ -1,0 +1,60 @@
+#include "packageunpacker.h"
+
+#include <QDir>
+
+namespace {
+
+// The path as it looks where the archiver's output is taken as Latin-1.
+QString pathPattern(const QString& path)
+{
+    return QRegularExpression::escape(QString::fromLatin1(path.toLocal8Bit()));
+}
+
+} // namespace
+
+QString archiverProgram()
+{
+    return QStringLiteral("7z.exe");
+}
+
+QStringList unpackArguments(const QString& package, const QString& folder)
+{
+    return {QStringLiteral("e"), package, QStringLiteral("-aoa"), QStringLiteral("-o") + folder};
+}
+
+ArchiverOutput::ArchiverOutput(const QString& package)
+{
+    QString pattern = QStringLiteral("Overwrite|password|error|Error|ERROR");
+    if (!package.isEmpty()) {
+        pattern = pathPattern(package) + QLatin1Char('|')
+            + pathPattern(QDir::toNativeSeparators(package)) + QLatin1Char('|') + pattern;
+    }
+    m_words.setPattern(pattern);
+}
+
+ArchiverOutput::Reaction ArchiverOutput::read(const QByteArray& output)
+{
+    Reaction reaction;
+    m_unread += QString::fromLatin1(output);
+    int from = 0;
+    for (;;) {
+        const QRegularExpressionMatch match
+            = m_words.match(m_unread, from, QRegularExpression::PartialPreferFirstMatch);
+        if (!match.hasMatch()) {
+            from = match.hasPartialMatch() ? match.capturedStart() : m_unread.size();
+            break;
+        }
+        from = match.capturedEnd();
+        const QString word = match.captured();
+        if (word == QLatin1String("Overwrite")) {
+            reaction.answer += "A\r\n"; // always
+        } else if (word == QLatin1String("password")) {
+            reaction.answer += '\n'; // none: the archiver ends with an error instead of waiting
+        } else if (word.compare(QLatin1String("error"), Qt::CaseInsensitive) == 0 && !m_errorSeen) {
+            m_errorSeen = true;
+            reaction.error = true;
+        }
+    }
+    m_unread.remove(0, from);
+    return reaction;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QByteArray>
+#include <QRegularExpression>
+#include <QStringList>
+
+// Name of the external archiver's program.
+QString archiverProgram();
+
+// The archiver's arguments: all files of the package, without its folders, into the folder;
+// existing files are overwritten.
+QStringList unpackArguments(const QString& package, const QString& folder);
+
+// Reads along with the archiver while it unpacks one package: finds its questions and its
+// complaints. The package's own path, which the archiver repeats, may hold any word. Words may come
+// in pieces.
+class ArchiverOutput {
+public:
+    struct Reaction {
+        QByteArray answer; // to be written to the archiver's input; may be empty
+        bool error = false; // true in one reaction at most
+    };
+
+    explicit ArchiverOutput(const QString& package);
+    Reaction read(const QByteArray& output);
+
+private:
+    QRegularExpression m_words;
+    QString m_unread; // what may be the beginning of a word
+    bool m_errorSeen = false;
+};

@@ -1,0 +1,68 @@
+#include "plotcapture.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QPainter>
+
+namespace {
+
+constexpr int darkestLight = 101;
+constexpr int greyTolerance = 9;
+constexpr int nearlyTransparent = 20;
+constexpr QRgb black = 0xff000000;
+constexpr QRgb white = 0xffffffff;
+
+bool isLightGrey(QRgb pixel)
+{
+    const int r = qRed(pixel);
+    const int g = qGreen(pixel);
+    const int b = qBlue(pixel);
+    return r >= darkestLight && g >= darkestLight && b >= darkestLight
+        && qAbs(r - g) <= greyTolerance && qAbs(b - g) <= greyTolerance;
+}
+
+} // namespace
+
+void recolour(QImage& image, CaptureTarget target)
+{
+    // Straight alpha: the colours of translucent pixels are judged as they are.
+    image = std::move(image).convertToFormat(QImage::Format_ARGB32);
+    const bool clipboard = target == CaptureTarget::Clipboard;
+    for (int y = 0; y < image.height(); ++y) {
+        auto* pixel = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (const QRgb* const end = pixel + image.width(); pixel != end; ++pixel) {
+            if (isLightGrey(*pixel))
+                *pixel = black;
+            else if (clipboard && qAlpha(*pixel) < nearlyTransparent)
+                *pixel = white;
+        }
+    }
+}
+
+QString captureCaption(const QString& startDate, const QString& startTime)
+{
+    // Parsed apart and joined as UTC: no hour is missing when the clocks change.
+    const QDate date = QDate::fromString(startDate, QStringLiteral("dd/MM/yyyy"));
+    const QTime time = QTime::fromString(startTime, QStringLiteral("hh:mm:ss.zzz"));
+    QString text;
+    if (date.isValid() && time.isValid()) {
+        text = QDateTime(date, time, Qt::UTC).toString(QStringLiteral("dd/MM/yyyy hh:mm:ss.zzz"));
+    }
+    return QCoreApplication::translate("MainWindow", "Start: %1    Trigger: %2").arg(text, text);
+}
+
+QPixmap printableCapture(const QPixmap& capture, CaptureTarget target, const QString& caption)
+{
+    QImage image = capture.toImage();
+    recolour(image, target);
+    QPixmap picture = QPixmap::fromImage(std::move(image));
+    if (picture.isNull())
+        return picture;
+    QPainter painter(&picture);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationOver);
+    painter.fillRect(picture.rect(), Qt::white);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.setPen(Qt::black);
+    painter.drawText(10, 20, caption);
+    return picture;
+}
