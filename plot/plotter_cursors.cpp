@@ -69,7 +69,7 @@ void Plotter::insertCursor(double time)
 
     auto *label = new CustomLabel(this);
     label->setObjectName(QStringLiteral("lineLabel"));
-    label->setStyleSheet(QStringLiteral("QLabel{color: #fffa50;}"));
+    label->setStyleSheet(QStringLiteral("QLabel{color: #fffa50; background-color: #313034; padding: 0px 2px;}"));
     label->setFont(smallFont(font()));
     label->setCursor(Qt::SizeHorCursor);
     label->setPlotter(this);
