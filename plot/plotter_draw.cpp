@@ -40,7 +40,7 @@ void Plotter::refreshPixmap()
     if (!skipBaseLayer) {
         readoutWidth
             = digitalFlag ? 0 : std::min(readout().neededWidth(smallFont(font())), width() / 2);
-        basePixmap = clearPixmap(*hostWidget);
+        basePixmap = clearPixmap(hostWidget ? *hostWidget : *this);
         if (!zoomStack.isEmpty() && !basePixmap.isNull()) {
             placeChannelLabels();
             QPainter painter(&basePixmap);
@@ -51,7 +51,7 @@ void Plotter::refreshPixmap()
             drawValueTable(&painter);
         }
     }
-    overlayPixmap = clearPixmap(*hostWidget);
+    overlayPixmap = clearPixmap(hostWidget ? *hostWidget : *this);
     if (!overlayPixmap.isNull())
         paintOverlay();
     placeMarks();

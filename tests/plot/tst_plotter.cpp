@@ -90,6 +90,7 @@ private slots:
     void resetPlotEmptiesThePlot();
     void aPlotWithoutHostSurvivesEverything();
 
+    void aPlotWithoutParentDraws();
     void gridAndTraceStandWhereTheViewSays();
     void triggerStandsAtItsTime();
     void noGridInATinyPlot_data();
@@ -587,6 +588,16 @@ void tst_Plotter::aPlotWithoutHostSurvivesEverything()
         alone.grab();
         alone.resetPlot();
     }
+}
+
+void tst_Plotter::aPlotWithoutParentDraws()
+{
+    Plotter alone(nullptr);
+    alone.setMainWindow(host.get());
+    alone.addChannel(0);
+    alone.setupPlot();
+    alone.resize(800, 301);
+    QCOMPARE(alone.grab().toImage().pixel(135, 160), qRgb(245, 30, 18));
 }
 
 void tst_Plotter::gridAndTraceStandWhereTheViewSays()
