@@ -42,7 +42,8 @@ void drawTimeGrid(QPainter &painter, const PlotGeometry &geometry)
     painter.setPen(gridColor);
     for (int i = 0; i <= geometry.view().numXTicks; ++i) {
         const int x = PlotGeometry::pixel(geometry.traceX(gridTime(geometry.view(), i)));
-        painter.drawLine(x, area.top(), x, area.bottom());
+        if (x <= area.right()) // the last line stands just right of the frame
+            painter.drawLine(x, area.top(), x, area.bottom());
     }
 }
 

@@ -150,6 +150,8 @@ void Plotter::paintOverlay()
         return;
     QPainter painter(&overlayPixmap);
     painter.setFont(smallFont(font()));
+    const QRect area = geometry.area();
+    painter.setClipRect(area.left(), 0, area.width(), height());
     for (int i = 1; i < cursorTimes.size(); ++i) {
         const double from = cursorTimes.at(i - 1);
         const double to = cursorTimes.at(i);

@@ -30,6 +30,7 @@ private slots:
     void noTimeDifferenceForOneCursor();
     void timeDifferencesOfNeighbours();
     void timeDifferencesAreNeverNegative();
+    void timeDifferencesStayWithinThePlotArea();
     void cursorsOutOfViewAreHidden();
     void theReadoutTakesRoomInAnalogPlotsOnly();
     void theReadoutTakesAtMostHalfTheWidth();
@@ -150,6 +151,18 @@ void tst_PlotterCursors::timeDifferencesAreNeverNegative()
     pair->plot->addCursor(300, 100);
     QCOMPARE(pair->plot->pairDifference(), pair->plot->cursors()[0] - pair->plot->cursors()[1]);
     QVERIFY(pair->plot->pairDifference() > 0);
+}
+
+void tst_PlotterCursors::timeDifferencesStayWithinThePlotArea()
+{
+    doubleClick(200);
+    doubleClick(600);
+    pair->plot->customZoomIn();
+    pair->plot->customZoomIn(); // the second cursor is right of the view
+    const QImage image = pair->plot->grab().toImage();
+    const QRect area = pair->plot->geometryOfView().area();
+    QVERIFY(isYellow(image.pixel(area.right(), 60)));
+    QVERIFY(!isYellow(image.pixel(area.right() + 1, 60)));
 }
 
 void tst_PlotterCursors::cursorsOutOfViewAreHidden()
