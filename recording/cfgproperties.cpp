@@ -2,6 +2,7 @@
 
 #include "configurationreader.h"
 #include "datareader.h"
+#include "numbers.h"
 #include "phasors.h"
 #include "textreader.h"
 
@@ -37,7 +38,7 @@ void AnalogChannel::appendValue(float x, float multiplier, float offset)
 {
     const double value
         = static_cast<double>(multiplier) * static_cast<double>(x) + static_cast<double>(offset);
-    const auto scaled = static_cast<float>(value);
+    const float scaled = narrowed(value);
     if (value > static_cast<double>(maxValue))
         maxValue = scaled;
     if (value < static_cast<double>(minValue))

@@ -2,7 +2,6 @@
 
 #include <QString>
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
@@ -94,7 +93,11 @@ int roundedToInt(double value)
     using Limits = std::numeric_limits<int>;
     if (std::isnan(value))
         return 0;
-    return static_cast<int>(std::round(std::clamp<double>(value, Limits::min(), Limits::max())));
+    if (value >= Limits::max())
+        return Limits::max();
+    if (value <= Limits::min())
+        return Limits::min();
+    return qRound(value);
 }
 
 qint64 truncatedToInt64(double value)

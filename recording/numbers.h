@@ -12,7 +12,8 @@ int fieldToInt(const char *begin, const char *end);
 // A double as a float; beyond its range an infinity.
 float narrowed(double value);
 
-// The nearest whole number, halves away from zero, kept within the range of an int; 0 for NaN.
+// The nearest whole number, halves upwards as qRound takes them, kept within the range of an int; 0
+// for NaN.
 int roundedToInt(double value);
 
 // The part before the decimal point, kept within the range of 64 bits; 0 for NaN.

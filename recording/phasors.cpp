@@ -1,6 +1,7 @@
 #include "phasors.h"
 
 #include "analogchannel.h"
+#include "numbers.h"
 
 #include <fftw3.h>
 
@@ -56,8 +57,8 @@ void computePhasors(AnalogChannel &channel, int samplesPerCycle)
     channel.fftAngles.reserve(channel.fftAngles.size() + samples);
     channel.fftMagnitudes.reserve(channel.fftMagnitudes.size() + samples);
     const auto append = [&](double angle, double magnitude) {
-        channel.fftAngles.append(static_cast<float>(angle));
-        channel.fftMagnitudes.append(static_cast<float>(magnitude));
+        channel.fftAngles.append(narrowed(angle));
+        channel.fftMagnitudes.append(narrowed(magnitude));
     };
     const auto isZero = [](float value) { return value == 0.0F; };
     if (!isMeaningful(size, samples)
@@ -90,11 +91,11 @@ void computePhasors(AnalogChannel &channel, int samplesPerCycle)
         const double magnitude
             = std::sqrt(real * real + imaginary * imaginary) / half / 1.4142135623730951;
         const double angle = std::atan2(imaginary, real);
-        channel.maxMagnitude = std::max(channel.maxMagnitude, static_cast<float>(magnitude));
+        channel.maxMagnitude = std::max(channel.maxMagnitude, narrowed(magnitude));
         channel.maxReal
-            = std::max(channel.maxReal, std::abs(static_cast<float>(magnitude * std::cos(angle))));
-        channel.maxImaginary = std::max(
-            channel.maxImaginary, std::abs(static_cast<float>(magnitude * std::sin(angle))));
+            = std::max(channel.maxReal, std::abs(narrowed(magnitude * std::cos(angle))));
+        channel.maxImaginary
+            = std::max(channel.maxImaginary, std::abs(narrowed(magnitude * std::sin(angle))));
         append(angle, magnitude);
     }
 }
