@@ -20,24 +20,16 @@ int sampleAt(const QVector<double> &times, double sampleRate, double time, int &
         return guess;
     if (times.constFirst() == time)
         return 0;
-    const auto holds = [&](int i) {
-        return i < times.size()
-            && (times.at(i) == time || (times.at(i - 1) < time && time < times.at(i)));
-    };
-    // Halving finds the place wherever the times ascend; others are searched as they stand.
+    // The first place counts, and times that run back have several: no halving.
     int i = std::max(firstSearched, searchFrom);
-    if (i < times.size()) {
-        const auto place = std::lower_bound(times.cbegin() + i, times.cend(), time);
-        const int found = static_cast<int>(place - times.cbegin());
-        if (holds(found))
-            i = found;
-    }
-    while (i < times.size() && !holds(i))
+    while (
+        i < times.size() && times.at(i) != time && !(times.at(i - 1) < time && time < times.at(i)))
         ++i;
     searchFrom = i;
     if (i >= times.size())
         return -1;
-    return time - times.at(i - 1) < times.at(i) - time ? i - 1 : i;
+    const bool isEarlierNearer = times.at(i) != time && time - times.at(i - 1) < times.at(i) - time;
+    return isEarlierNearer ? i - 1 : i;
 }
 
 int sampleAt(const QVector<double> &times, double sampleRate, double time)
