@@ -3,6 +3,7 @@
 #include "cfgproperties.h"
 #include "numbers.h"
 #include "recordregistry.h"
+#include "samplebudget.h"
 
 #include <QIODevice>
 
@@ -13,6 +14,7 @@
 namespace {
 
 constexpr int blockSize = 1 << 20; // bytes read at once
+constexpr int smallestCapacity = 16; // samples made room for, in each of perhaps very many channels
 constexpr int largestLine = 1 << 30; // bytes; a file with a longer one holds no data lines
 
 // The end of the field that begins at a place: its comma, or the end of the line.
@@ -138,6 +140,10 @@ private:
             return false;
         if (m_row == 0)
             makeRecords(begin, end);
+        m_bytes += end - begin;
+        const auto columns = static_cast<qint64>(m_analog.size() + m_digital.size());
+        if (!isWithinBudget(qint64(m_rowsBefore) + m_row + 1, columns, m_bytes))
+            return false;
         if (m_row == m_capacity)
             grow();
         LineFields fields(begin, end);
@@ -158,7 +164,7 @@ private:
     void makeRecords(const char *begin, const char *end)
     {
         const qint64 fields = std::count(begin, end, ',') + 1 - 2;
-        const qint64 promised = m_recording.analogChannelCount;
+        const qint64 promised = std::max(m_recording.analogChannelCount, 0);
         const qint64 analog
             = std::min(promised, std::max<qint64>(fields, m_recording.analogIndexes.size()));
         const qint64 digital = std::min(m_recording.totalChannelCount - promised,
@@ -178,7 +184,7 @@ private:
         }
     }
 
-    void grow() { setCapacity(std::max(4096, m_capacity + m_capacity / 2)); }
+    void grow() { setCapacity(std::max(smallestCapacity, m_capacity + m_capacity / 2)); }
 
     void setCapacity(int rows)
     {
@@ -259,6 +265,7 @@ private:
     const int m_rowsBefore;
     int m_row = 0;
     int m_capacity = 0;
+    qint64 m_bytes = 0; // of the lines read
     double *m_times = nullptr;
     std::vector<AnalogColumn> m_analog;
     std::vector<DigitalColumn> m_digital;

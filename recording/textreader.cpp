@@ -4,6 +4,7 @@
 #include "configurationreader.h"
 #include "numbers.h"
 #include "recordregistry.h"
+#include "samplebudget.h"
 
 #include <QDateTime>
 #include <QIODevice>
@@ -27,12 +28,14 @@ void readHeader(CFGProperties &recording, QString line)
     const QStringList fields = line.split(QLatin1Char(','));
     for (int k = 0; k < fields.size(); ++k) {
         const QString &field = fields.at(k);
-        const QString unit = field.mid(field.lastIndexOf(QLatin1Char('[')) + 1);
+        const int bracket = field.lastIndexOf(QLatin1Char('['));
+        const QString unit
+            = bracket < 0 ? field : field.mid(bracket + 1).section(QLatin1Char(']'), 0, 0);
         recording.analogIndexes.append(k);
         recording.analogIds.append(field.section(QLatin1Char('['), 0, 0));
         recording.analogPhases.append(QString());
         recording.analogCircuits.append(QString());
-        recording.analogUnits.append(unit.section(QLatin1Char(']'), 0, 0));
+        recording.analogUnits.append(unit);
         recording.analogA.append(1);
         recording.analogB.append(0);
         recording.analogSkews.append(0);
@@ -53,28 +56,39 @@ void readHeader(CFGProperties &recording, QString line)
     recording.timeMultiplier = 1;
 }
 
+// A stamp dd/MM/yyyy-hh:mm:ss:zzz, invalid where the text is none. In UTC no hour is missing or
+// doubled, which a single conversion, going by the local time, would not grant.
+QDateTime parsedStamp(const QString &text)
+{
+    const int hyphen = text.indexOf(QLatin1Char('-'));
+    const QDate date = QDate::fromString(text.left(hyphen), QStringLiteral("dd/MM/yyyy"));
+    const QTime time = QTime::fromString(text.mid(hyphen + 1), QStringLiteral("hh:mm:ss:zzz"));
+    return date.isValid() && time.isValid() ? QDateTime(date, time, Qt::UTC) : QDateTime();
+}
+
 // Whether a line is empty: those at the very end of the file are no samples.
 bool isBlank(const QByteArray &line)
 {
-    return line.isEmpty() || line == "\n" || line == "\r\n";
+    return line == "\n" || line == "\r\n";
 }
 
 class TextReader {
 public:
     explicit TextReader(CFGProperties &recording) : m_recording(recording) { }
 
-    void readLine(const QString &line)
+    // False, with nothing read, where the lines so far are not worth another row of samples.
+    bool readLine(const QString &line)
     {
+        m_letters += line.size();
+        if (!isWithinBudget(m_recording.sampleCount + 1, m_recording.analogChannelCount, m_letters))
+            return false;
         const QVector<QStringRef> fields = line.splitRef(QLatin1Char(','));
-        const QDateTime stamp = QDateTime::fromString(
-            fields.constFirst().toString(), QStringLiteral("dd/MM/yyyy-hh:mm:ss:zzz"));
+        const QDateTime stamp = parsedStamp(fields.constFirst().toString());
         if (m_recording.startDate.isEmpty())
             m_recording.startDate = stamp.toString(QStringLiteral("dd/MM/yyyy"));
         if (m_recording.startTime.isEmpty())
             m_recording.startTime = stamp.toString(QStringLiteral("hh:mm:ss:zzz"));
-        QDateTime utc(stamp);
-        utc.setTimeSpec(Qt::UTC); // no hour is missing or doubled
-        const qint64 moment = stamp.isValid() ? utc.toMSecsSinceEpoch() : 0;
+        const qint64 moment = stamp.isValid() ? stamp.toMSecsSinceEpoch() : 0;
         if (m_reference == 0)
             m_reference = moment;
         const qint64 elapsed = stamp.isValid() ? moment - m_reference : 0;
@@ -90,6 +104,7 @@ public:
             channel->appendValue(x, 1, 0);
             channel->rawValues.append(x);
         }
+        return true;
     }
 
     void finish()
@@ -104,6 +119,7 @@ public:
 
 private:
     CFGProperties &m_recording;
+    qint64 m_letters = 0; // of the lines read
     qint64 m_reference = 0; // ms since the epoch
 };
 
@@ -121,16 +137,19 @@ void readTextExport(QIODevice &device, CFGProperties &recording)
     readHeader(recording, text(device.readLine()));
     readTimeStamps(recording);
     TextReader reader(recording);
-    int blankLines = 0;
-    while (!device.atEnd()) {
+    qint64 blankLines = 0;
+    bool goesOn = true;
+    while (goesOn && !device.atEnd()) {
         const QByteArray line = device.readLine();
+        if (line.isEmpty())
+            break; // the device failed
         if (isBlank(line)) {
             ++blankLines;
             continue;
         }
-        for (; blankLines > 0; --blankLines)
-            reader.readLine(QString());
-        reader.readLine(text(line));
+        for (; goesOn && blankLines > 0; --blankLines)
+            goesOn = reader.readLine(QString());
+        goesOn = goesOn && reader.readLine(text(line));
     }
     reader.finish();
 }
