@@ -1,6 +1,7 @@
 #include "recordingwriter.h"
 
 #include "cfgproperties.h"
+#include "numbers.h"
 
 #include <QSaveFile>
 #include <QTime>
@@ -31,8 +32,7 @@ QString sixDecimals(double value)
 void appendWhole(QByteArray &line, double value)
 {
     constexpr double exact = 1e15;
-    if (value != std::trunc(value) || std::abs(value) > exact
-        || (value == 0 && std::signbit(value))) {
+    if (value != std::trunc(value) || std::abs(value) > exact) {
         line.append(QByteArray::number(value, 'f', 0));
         return;
     }
@@ -57,13 +57,11 @@ QByteArray encoded(const QString &text)
     return isLatin1 ? text.toLatin1() : text.toUtf8();
 }
 
-// The milliseconds of a time of day; the toolkit counts them in an int.
-int wholeMilliseconds(double value)
+// A time of day moved by milliseconds, truncated to whole ones, round the clock.
+QTime moved(const QTime &time, double milliseconds)
 {
-    using Limits = std::numeric_limits<int>;
-    return std::isnan(value)
-        ? 0
-        : static_cast<int>(std::clamp<double>(value, Limits::min(), Limits::max()));
+    constexpr qint64 day = 24 * 60 * 60 * 1000;
+    return time.addMSecs(static_cast<int>(truncatedToInt64(milliseconds) % day));
 }
 
 RecordingWriter::Outcome failure(const QSaveFile &file)
@@ -166,9 +164,14 @@ QString RecordingWriter::configuration(const Span &span, Side side) const
                      .arg(m_recording.totalChannelCount)
                      .arg(m_recording.analogChannelCount)
                      .arg(m_recording.digitalChannelCount));
-    for (int row = 0; row < m_recording.analogIndexes.size(); ++row)
+    // A record without a definition has a line too: its samples are in the data lines.
+    const int analogLines
+        = std::max(m_recording.analogIndexes.size(), m_recording.analogChannels.size());
+    for (int row = 0; row < analogLines; ++row)
         lines.append(analogLine(row, side));
-    for (int row = 0; row < m_recording.digitalIndexes.size(); ++row)
+    const int digitalLines
+        = std::max(m_recording.digitalIndexes.size(), m_recording.digitalChannels.size());
+    for (int row = 0; row < digitalLines; ++row)
         lines.append(digitalLine(row));
     lines.append(sixDecimals(m_recording.lineFrequency));
     lines.append(QString::number(m_recording.rateCount));
@@ -186,9 +189,9 @@ QString RecordingWriter::configuration(const Span &span, Side side) const
 QString RecordingWriter::analogLine(int row, Side side) const
 {
     const auto rating = [row](const QStringList &texts, const QList<double> &read) {
-        return sixDecimals(row < texts.size() ? texts.at(row).toDouble() : read.value(row));
+        return sixDecimals(row < texts.size() ? texts.at(row).toDouble() : read.value(row, 1));
     };
-    auto a = static_cast<double>(m_recording.analogA.value(row));
+    auto a = static_cast<double>(m_recording.analogA.value(row, 1));
     auto b = static_cast<double>(m_recording.analogB.value(row));
     QString flag = m_recording.psFlags.value(row);
     if (side == Side::Primary) {
@@ -200,7 +203,7 @@ QString RecordingWriter::analogLine(int row, Side side) const
         flag = QStringLiteral("P");
     }
     return QStringList(
-        {QString::number(m_recording.analogIndexes.at(row)), m_recording.analogIds.value(row),
+        {QString::number(m_recording.analogIndexes.value(row)), m_recording.analogIds.value(row),
             m_recording.analogPhases.value(row), m_recording.analogCircuits.value(row),
             m_recording.analogUnits.value(row), general(a), general(b),
             general(m_recording.analogSkews.value(row)),
@@ -214,7 +217,7 @@ QString RecordingWriter::analogLine(int row, Side side) const
 QString RecordingWriter::digitalLine(int row) const
 {
     return QStringList(
-        {QString::number(m_recording.digitalIndexes.at(row)), m_recording.digitalIds.value(row),
+        {QString::number(m_recording.digitalIndexes.value(row)), m_recording.digitalIds.value(row),
             m_recording.digitalPhases.value(row), m_recording.digitalCircuits.value(row),
             m_recording.digitalNormalStates.value(row)})
         .join(QLatin1Char(','));
@@ -224,9 +227,8 @@ QString RecordingWriter::digitalLine(int row) const
 // The dates stay, also when the range crosses midnight.
 QStringList RecordingWriter::timeStampLines(const Span &span) const
 {
-    const QTime start = QTime::fromString(m_recording.startTime, timeFormat)
-                            .addMSecs(wholeMilliseconds(span.start));
-    const QTime end = start.addMSecs(wholeMilliseconds(span.elapsed));
+    const QTime start = moved(QTime::fromString(m_recording.startTime, timeFormat), span.start);
+    const QTime end = moved(start, span.elapsed);
     QTime trigger = QTime::fromString(m_recording.triggerTime, timeFormat);
     if (!(start <= trigger && trigger <= end))
         trigger = start;
