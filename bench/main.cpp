@@ -1,0 +1,81 @@
+// Measures the figures that are promised and prints each on a line of its own. Exits with 1 where a
+// goal is missed.
+
+#include "figures.h"
+
+#include <QByteArray>
+
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <string>
+
+namespace {
+
+enum class Goal { AtLeast, AtMost, None };
+
+struct Figure {
+    const char *name;
+    Ratio (*measure)();
+    Goal goal;
+    double bound;
+
+    bool isMetBy(double value) const
+    {
+        return goal == Goal::None || (goal == Goal::AtLeast ? value >= bound : value <= bound);
+    }
+};
+
+const Figure figures[] = {
+    {"reading, plain reader / reader", readingPlainlyAgainstReading, Goal::AtLeast, 10},
+    {"reading, reader / converting alone", readingAgainstConverting, Goal::AtMost, 1.5},
+};
+
+std::string result(const Figure &figure, const Ratio &ratio)
+{
+    char text[120];
+    const char *const verdict = figure.isMetBy(ratio.value()) ? "" : ", MISSED";
+    if (figure.goal == Goal::None)
+        std::snprintf(text, sizeof text, "%.2f (no goal; %.4g / %.4g %s)", ratio.value(),
+            ratio.numerator, ratio.denominator, ratio.unit);
+    else
+        std::snprintf(text, sizeof text, "%.2f (goal at %s %g%s; %.4g / %.4g %s)", ratio.value(),
+            figure.goal == Goal::AtLeast ? "least" : "most", figure.bound, verdict, ratio.numerator,
+            ratio.denominator, ratio.unit);
+    return text;
+}
+
+class LineReporter : public benchmark::BenchmarkReporter {
+public:
+    bool ReportContext(const Context & /*context*/) override { return true; }
+    void ReportRuns(const std::vector<Run> &runs) override
+    {
+        for (const Run &run : runs)
+            std::printf("%s: %s\n", run.run_name.function_name.c_str(), run.report_label.c_str());
+        std::fflush(stdout);
+    }
+};
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    bool isEveryGoalMet = true;
+    for (const Figure &figure : figures) {
+        const auto run = [&isEveryGoalMet, &figure](benchmark::State &state) {
+            while (state.KeepRunning()) {
+                const Ratio ratio = figure.measure();
+                state.SetLabel(result(figure, ratio));
+                isEveryGoalMet = isEveryGoalMet && figure.isMetBy(ratio.value());
+            }
+        };
+        benchmark::RegisterBenchmark(figure.name, run)->Iterations(1);
+    }
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 2;
+    LineReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    benchmark::Shutdown();
+    return isEveryGoalMet ? 0 : 1;
+}
