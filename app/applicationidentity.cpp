@@ -8,7 +8,7 @@ struct Identity {
     QString applicationName;
 };
 
-Identity& identity()
+Identity &identity()
 {
     static Identity value;
     return value;
@@ -31,7 +31,7 @@ QString ApplicationIdentity::organisationName()
     return identity().organisationName;
 }
 
-void ApplicationIdentity::setOrganisationName(const QString& name)
+void ApplicationIdentity::setOrganisationName(const QString &name)
 {
     identity().organisationName = name;
 }
@@ -41,7 +41,7 @@ QString ApplicationIdentity::applicationName()
     return identity().applicationName;
 }
 
-void ApplicationIdentity::setApplicationName(const QString& name)
+void ApplicationIdentity::setApplicationName(const QString &name)
 {
     identity().applicationName = name;
 }

@@ -9,7 +9,7 @@ public:
     static int brand(); // a number of the table in brand.h
     static void setBrand(int brand);
     static QString organisationName();
-    static void setOrganisationName(const QString& name);
+    static void setOrganisationName(const QString &name);
     static QString applicationName();
-    static void setApplicationName(const QString& name);
+    static void setApplicationName(const QString &name);
 };

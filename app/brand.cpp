@@ -7,10 +7,10 @@
 namespace {
 
 struct Row {
-    const char* name;
-    const char* webSite;
-    const char* companionTool;
-    const char* filePrefix; // of the brand's own translation files
+    const char *name;
+    const char *webSite;
+    const char *companionTool;
+    const char *filePrefix; // of the brand's own translation files
     bool finnish;
     bool chinese;
 };
@@ -26,9 +26,9 @@ constexpr std::array<Row, 5> rows = {{
 constexpr char makerPrefix[] = QT_TRANSLATE_NOOP("MainWindow", "Created by ");
 
 // A hidden entry carries the maker's file.
-LanguageEntry entry(const Row& row, const QString& text, QLatin1String language, bool visible)
+LanguageEntry entry(const Row &row, const QString &text, QLatin1String language, bool visible)
 {
-    const char* prefix = visible ? row.filePrefix : rows[0].filePrefix;
+    const char *prefix = visible ? row.filePrefix : rows[0].filePrefix;
     return {text, QLatin1String(prefix) + language, visible};
 }
 
@@ -38,7 +38,7 @@ Brand brandDetails(int brand)
 {
     const bool known = brand >= 0 && brand < int(rows.size());
     const bool maker = !known || brand == 0;
-    const Row& row = maker ? rows[0] : rows[size_t(brand)];
+    const Row &row = maker ? rows[0] : rows[size_t(brand)];
     const QString name = QLatin1String(row.name);
 
     Brand details;
@@ -58,7 +58,7 @@ Brand brandDetails(int brand)
     return details;
 }
 
-QString aboutText(const QString& applicationName, int brand)
+QString aboutText(const QString &applicationName, int brand)
 {
     const Brand details = brandDetails(brand);
     return QStringLiteral("<font size=4>") + applicationName

@@ -24,4 +24,4 @@ struct Brand {
 Brand brandDetails(int brand);
 
 // Rich text of the About box.
-QString aboutText(const QString& applicationName, int brand);
+QString aboutText(const QString &applicationName, int brand);

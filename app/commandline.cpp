@@ -1,11 +1,11 @@
 #include "commandline.h"
 
-QByteArray latin1Argument(const char* argument)
+QByteArray latin1Argument(const char *argument)
 {
     return QString::fromLocal8Bit(argument).toLatin1();
 }
 
-QString pathArgument(int argc, const char* const* argv)
+QString pathArgument(int argc, const char *const *argv)
 {
     if (argc < 2)
         return QString();
@@ -16,7 +16,7 @@ QString pathArgument(int argc, const char* const* argv)
 #endif
 }
 
-bool opensAtStart(const QString& path)
+bool opensAtStart(const QString &path)
 {
     return path.endsWith(QLatin1String(".zip")) || path.endsWith(QLatin1String(".cfg"));
 }

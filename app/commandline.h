@@ -5,12 +5,12 @@
 
 // The argument from the locale's encoding to 8-bit text that reads right as Latin-1; letters
 // outside Latin-1 become "?". Needs the application object, which sets the locale.
-QByteArray latin1Argument(const char* argument);
+QByteArray latin1Argument(const char *argument);
 
 // The path on the command line, argument 1 read as Latin-1; null where there is none. The Windows
 // start-up code has turned the arguments into 8-bit text before; elsewhere it is done here.
-QString pathArgument(int argc, const char* const* argv);
+QString pathArgument(int argc, const char *const *argv);
 
 // Whether start-up opens this path: a package or a configuration file, by its lower-case ending.
 // Text exports are opened from the dialog only.
-bool opensAtStart(const QString& path);
+bool opensAtStart(const QString &path);

@@ -68,6 +68,7 @@ MainWindow::~MainWindow()
 {
     stopUnpacking();
     stopLoader();
+    disposePlots();
 }
 
 CFGProperties *MainWindow::recording() const

@@ -130,6 +130,7 @@ private:
     void createPlots(); // for the recording just loaded
     void disposePlots();
     QStringList analogNames() const;
+    bool hasPhasors() const; // of the recording on screen; spectra are offered then
     void connectSaveMarkers(Plotter *plot);
     void linkPlots();
     void showChosenChannels();
@@ -195,6 +196,5 @@ private:
     int firstPlotChannels = 6; // at most so many in the first analog plot
     int mode = 0; // value mode: 0 primary, 1 secondary, 2 per unit
     int graphCount = 0; // plots named by number so far
-    bool spectrumOffered = false;
     bool anglesShown = false;
 };

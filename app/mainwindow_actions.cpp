@@ -14,8 +14,6 @@
 #include <QMenu>
 #include <QToolBar>
 
-#include <algorithm>
-
 struct MainWindow::ActionEntry {
     QAction *MainWindow::*action;
     const char *text;
@@ -166,10 +164,7 @@ void MainWindow::enableRecordingActions(bool enabled)
     if (!enabled)
         removePlotterAct->setEnabled(false); // adding a plot enables it
 
-    const CFGProperties *loaded = recording();
-    const bool phasors = enabled && loaded
-        && std::any_of(loaded->analogChannels.begin(), loaded->analogChannels.end(),
-            [](const AnalogChannel *channel) { return !channel->fftMagnitudes.isEmpty(); });
+    const bool phasors = enabled && hasPhasors();
     showAnglesCheckBox->setEnabled(phasors);
     referenceCombo->setEnabled(phasors);
 }

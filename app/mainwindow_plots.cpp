@@ -17,6 +17,8 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int smallestPlotHeight = 200;
@@ -69,11 +71,20 @@ QStringList MainWindow::analogNames() const
     return names;
 }
 
+bool MainWindow::hasPhasors() const
+{
+    const CFGProperties *loaded = recording();
+    return loaded
+        && std::any_of(loaded->analogChannels.cbegin(), loaded->analogChannels.cend(),
+            [](const AnalogChannel *channel) { return !channel->fftMagnitudes.isEmpty(); });
+}
+
 void MainWindow::createPlots()
 {
     horizontalScroll = new QScrollBar(Qt::Horizontal, this);
     horizontalScroll->setRange(0, 0);
     ui->verticalLayout_2->addWidget(horizontalScroll);
+    horizontalScroll->show();
 
     const QStringList names = analogNames();
     const bool isSecondary = !cfgProperties->analogChannels.isEmpty()
@@ -128,6 +139,8 @@ void MainWindow::createPlots()
 
 void MainWindow::disposePlots()
 {
+    if (!analogPlotter)
+        return;
     analogPlotter->setLinkedPlotters({});
     analogPlotter->resetPlot(); // plots of the next recording begin at the full view
     for (Plotter *plot : plots())
@@ -211,7 +224,7 @@ void MainWindow::on_listWidget2_clicked(const QModelIndex &index)
 void MainWindow::setAnalogChannels()
 {
     QStringList names = analogNames();
-    if (spectrumOffered) {
+    if (hasPhasors()) {
         for (const QString &name : analogNames()) {
             if (!name.startsWith(QLatin1String("MEAS")))
                 names.append(name + spectrumSuffix);

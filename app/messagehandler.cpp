@@ -22,7 +22,7 @@ void breakIntoDebugger()
 
 } // namespace
 
-void messageOutput(QtMsgType type, const char* message)
+void messageOutput(QtMsgType type, const char *message)
 {
     switch (type) {
     case QtDebugMsg:

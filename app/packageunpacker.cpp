@@ -5,7 +5,7 @@
 namespace {
 
 // The path as it looks where the archiver's output is taken as Latin-1.
-QString pathPattern(const QString& path)
+QString pathPattern(const QString &path)
 {
     return QRegularExpression::escape(QString::fromLatin1(path.toLocal8Bit()));
 }
@@ -17,12 +17,12 @@ QString archiverProgram()
     return QStringLiteral("7z.exe");
 }
 
-QStringList unpackArguments(const QString& package, const QString& folder)
+QStringList unpackArguments(const QString &package, const QString &folder)
 {
     return {QStringLiteral("e"), package, QStringLiteral("-aoa"), QStringLiteral("-o") + folder};
 }
 
-ArchiverOutput::ArchiverOutput(const QString& package)
+ArchiverOutput::ArchiverOutput(const QString &package)
 {
     QString pattern = QStringLiteral("Overwrite|password|error|Error|ERROR");
     if (!package.isEmpty()) {
@@ -32,7 +32,7 @@ ArchiverOutput::ArchiverOutput(const QString& package)
     m_words.setPattern(pattern);
 }
 
-ArchiverOutput::Reaction ArchiverOutput::read(const QByteArray& output)
+ArchiverOutput::Reaction ArchiverOutput::read(const QByteArray &output)
 {
     Reaction reaction;
     m_unread += QString::fromLatin1(output);

@@ -9,7 +9,7 @@ QString archiverProgram();
 
 // The archiver's arguments: all files of the package, without its folders, into the folder;
 // existing files are overwritten.
-QStringList unpackArguments(const QString& package, const QString& folder);
+QStringList unpackArguments(const QString &package, const QString &folder);
 
 // Reads along with the archiver while it unpacks one package: finds its questions and its
 // complaints. The package's own path, which the archiver repeats, may hold any word. Words may come
@@ -21,8 +21,8 @@ public:
         bool error = false; // true in one reaction at most
     };
 
-    explicit ArchiverOutput(const QString& package);
-    Reaction read(const QByteArray& output);
+    explicit ArchiverOutput(const QString &package);
+    Reaction read(const QByteArray &output);
 
 private:
     QRegularExpression m_words;

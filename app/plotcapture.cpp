@@ -23,14 +23,14 @@ bool isLightGrey(QRgb pixel)
 
 } // namespace
 
-void recolour(QImage& image, CaptureTarget target)
+void recolour(QImage &image, CaptureTarget target)
 {
     // Straight alpha: the colours of translucent pixels are judged as they are.
     image = std::move(image).convertToFormat(QImage::Format_ARGB32);
     const bool clipboard = target == CaptureTarget::Clipboard;
     for (int y = 0; y < image.height(); ++y) {
-        auto* pixel = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (const QRgb* const end = pixel + image.width(); pixel != end; ++pixel) {
+        auto *pixel = reinterpret_cast<QRgb *>(image.scanLine(y));
+        for (const QRgb *const end = pixel + image.width(); pixel != end; ++pixel) {
             if (isLightGrey(*pixel))
                 *pixel = black;
             else if (clipboard && qAlpha(*pixel) < nearlyTransparent)
@@ -39,7 +39,7 @@ void recolour(QImage& image, CaptureTarget target)
     }
 }
 
-QString captureCaption(const QString& startDate, const QString& startTime)
+QString captureCaption(const QString &startDate, const QString &startTime)
 {
     // Parsed apart and joined as UTC: no hour is missing when the clocks change.
     const QDate date = QDate::fromString(startDate, QStringLiteral("dd/MM/yyyy"));
@@ -51,7 +51,7 @@ QString captureCaption(const QString& startDate, const QString& startTime)
     return QCoreApplication::translate("MainWindow", "Start: %1    Trigger: %2").arg(text, text);
 }
 
-QPixmap printableCapture(const QPixmap& capture, CaptureTarget target, const QString& caption)
+QPixmap printableCapture(const QPixmap &capture, CaptureTarget target, const QString &caption)
 {
     QImage image = capture.toImage();
     recolour(image, target);

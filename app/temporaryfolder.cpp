@@ -13,7 +13,7 @@ QString temporaryFolderBase()
     return base;
 }
 
-QString freeTemporaryFolder(const QString& base)
+QString freeTemporaryFolder(const QString &base)
 {
     for (int number = 1;; ++number) {
         const QString candidate = base + QString::number(number);
@@ -22,7 +22,7 @@ QString freeTemporaryFolder(const QString& base)
     }
 }
 
-void removeRecursively(const QString& path)
+void removeRecursively(const QString &path)
 {
     if (path.isEmpty())
         return;
@@ -36,7 +36,7 @@ void removeRecursively(const QString& path)
     // Without QDir::System a link that leads nowhere would not be listed.
     const QStringList names = QDir(path).entryList(
         QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    for (const QString& name : names) {
+    for (const QString &name : names) {
         if (!name.startsWith(QLatin1Char('.')))
             removeRecursively(path + QLatin1Char('/') + name);
     }
