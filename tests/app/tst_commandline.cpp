@@ -1,0 +1,82 @@
+#include "commandline.h"
+
+#include <QtTest>
+
+#include <array>
+
+class tst_CommandLine : public QObject {
+    Q_OBJECT
+
+private slots:
+    void opensAtStart_data();
+    void opensAtStart();
+    void readsArgumentOne_data();
+    void readsArgumentOne();
+    void missingArgumentIsNull();
+    void furtherArgumentsAreIgnored();
+    void eightBitTextIsLatin1();
+};
+
+void tst_CommandLine::opensAtStart_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<bool>("opens");
+    QTest::newRow("a package") << QStringLiteral("/rec/a.zip") << true;
+    QTest::newRow("a configuration file") << QStringLiteral("/rec/a.cfg") << true;
+    QTest::newRow("a package in capitals does not count") << QStringLiteral("/rec/A.ZIP") << false;
+    QTest::newRow("a configuration file in capitals does not count")
+        << QStringLiteral("/rec/A.CFG") << false;
+    QTest::newRow("a text export is for the dialog only") << QStringLiteral("/rec/a.txt") << false;
+    QTest::newRow("the data file does not count") << QStringLiteral("/rec/a.dat") << false;
+    QTest::newRow("the ending must be last") << QStringLiteral("/rec/a.cfg.bak") << false;
+    QTest::newRow("a folder's name does not count") << QStringLiteral("/rec.zip/a") << false;
+    QTest::newRow("the ending alone") << QStringLiteral(".cfg") << true;
+    QTest::newRow("no argument") << QString() << false;
+}
+
+void tst_CommandLine::opensAtStart()
+{
+    QFETCH(QString, path);
+    QTEST(::opensAtStart(path), "opens");
+}
+
+void tst_CommandLine::readsArgumentOne_data()
+{
+    QTest::addColumn<QByteArray>("argument"); // in the locale's encoding, UTF-8
+    QTest::addColumn<QString>("path");
+    QTest::newRow("plain letters")
+        << QByteArray("/rec/fault.cfg") << QStringLiteral("/rec/fault.cfg");
+    QTest::newRow("letters of Latin-1 arrive whole")
+        << QByteArray("h\xc3\xa4iri\xc3\xb6.cfg") << QStringLiteral("h\u00e4iri\u00f6.cfg");
+    QTest::newRow("letters outside Latin-1 arrive altered")
+        << QByteArray("\xe6\x95\x85.cfg") << QStringLiteral("?.cfg");
+    QTest::newRow("an empty argument") << QByteArray("") << QStringLiteral("");
+}
+
+void tst_CommandLine::readsArgumentOne()
+{
+    QFETCH(QByteArray, argument);
+    const std::array<const char *, 2> argv{"wavorin", argument.constData()};
+    QTEST(pathArgument(2, argv.data()), "path");
+}
+
+void tst_CommandLine::missingArgumentIsNull()
+{
+    const std::array<const char *, 2> argv{"wavorin", nullptr};
+    QVERIFY(pathArgument(1, argv.data()).isNull());
+    QVERIFY(pathArgument(0, argv.data() + 1).isNull());
+}
+
+void tst_CommandLine::furtherArgumentsAreIgnored()
+{
+    const std::array<const char *, 3> argv{"wavorin", "one.cfg", "two.cfg"};
+    QCOMPARE(pathArgument(3, argv.data()), QStringLiteral("one.cfg"));
+}
+
+void tst_CommandLine::eightBitTextIsLatin1()
+{
+    QCOMPARE(latin1Argument("h\xc3\xa4iri\xc3\xb6"), QByteArray("h\xe4iri\xf6"));
+}
+
+QTEST_GUILESS_MAIN(tst_CommandLine)
+#include "tst_commandline.moc"
