@@ -8,12 +8,15 @@
 #include <QIODevice>
 
 #include <algorithm>
+#include <array>
 #include <cstring>
+#include <limits>
 #include <vector>
 
 namespace {
 
-constexpr int blockSize = 1 << 20; // bytes read at once
+constexpr int blockSize = 1 << 18; // bytes read at once
+constexpr int blockRows = 256; // lines gathered before they go to their channels
 constexpr int smallestCapacity = 16; // samples made room for, in each of perhaps very many channels
 constexpr int largestLine = 1 << 30; // bytes; a file with a longer one holds no data lines
 
@@ -90,7 +93,7 @@ private:
 class DataReader {
 public:
     DataReader(QIODevice &device, CFGProperties &recording)
-        : m_device(device), m_recording(recording), m_rowsBefore(recording.sampleTimes.size())
+        : m_device(device), m_recording(recording), m_timesBefore(recording.sampleTimes.size())
     {
     }
 
@@ -123,12 +126,23 @@ public:
                 search = line;
             }
             kept = static_cast<int>(end - line);
-            std::memmove(buffer.data(), line, static_cast<size_t>(kept));
+            if (line != buffer.constData())
+                std::memmove(buffer.data(), line, static_cast<size_t>(kept));
         }
         finish();
     }
 
 private:
+    struct AnalogColumn {
+        AnalogChannel *channel;
+        float b;
+        std::array<float, blockRows> block;
+    };
+    struct DigitalColumn {
+        DigitalChannel *channel;
+        std::array<int, blockRows> block;
+    };
+
     // False where the line ends the data.
     bool readLine(const char *begin, const char *end)
     {
@@ -138,25 +152,20 @@ private:
             end = static_cast<const char *>(nul);
         if (fieldEnd(begin, end) == end)
             return false;
-        if (m_row == 0)
+        if (m_rows == 0) {
             makeRecords(begin, end);
-        m_bytes += end - begin;
-        const auto columns = static_cast<qint64>(m_analog.size() + m_digital.size());
-        if (!isWithinBudget(qint64(m_rowsBefore) + m_row + 1, columns, m_bytes))
-            return false;
-        if (m_row == m_capacity)
-            grow();
+            reserve(end - begin);
+        }
         LineFields fields(begin, end);
         fields.skip();
-        m_times[m_row] = fields.toDouble() / 1000;
+        m_times[m_gathered] = fields.toDouble() / 1000;
         for (AnalogColumn &column : m_analog)
-            column.set(m_row, fields.toFloat());
-        for (DigitalColumn &column : m_digital) {
-            const int state = fields.toInt();
-            column.states[m_row] = state;
-            column.anyState |= state;
-        }
-        ++m_row;
+            column.block[m_gathered] = fields.toFloat();
+        for (DigitalColumn &column : m_digital)
+            column.block[m_gathered] = fields.toInt();
+        ++m_rows;
+        if (++m_gathered == blockRows)
+            deliver();
         return true;
     }
 
@@ -173,100 +182,100 @@ private:
             m_recording.analogChannels.append(newAnalogChannel(m_recording, k));
         for (int j = m_recording.digitalChannels.size(); j < digital; ++j)
             m_recording.digitalChannels.append(newDigitalChannel(m_recording, j));
-        for (int k = 0; k < analog; ++k) {
-            AnalogChannel *channel = m_recording.analogChannels.at(k);
-            m_analog.push_back({channel, channel->values.size(), channel->a,
-                m_recording.analogB.value(k, 0.0F), channel->minValue, channel->maxValue});
-        }
-        for (int j = 0; j < digital; ++j) {
-            DigitalChannel *channel = m_recording.digitalChannels.at(j);
-            m_digital.push_back({channel, channel->values.size()});
-        }
+        for (int k = 0; k < analog; ++k)
+            m_analog.push_back(
+                {m_recording.analogChannels.at(k), m_recording.analogB.value(k, 0.0F), {}});
+        for (int j = 0; j < digital; ++j)
+            m_digital.push_back({m_recording.digitalChannels.at(j), {}});
     }
 
-    void grow() { setCapacity(std::max(smallestCapacity, m_capacity + m_capacity / 2)); }
-
-    void setCapacity(int rows)
+    // Makes room for as many lines as the device holds when all are as long as the first one, or as
+    // long as the fields of a complete one make it.
+    void reserve(qint64 lineLength)
     {
-        m_capacity = rows;
-        m_recording.sampleTimes.resize(m_rowsBefore + rows);
-        m_times = m_recording.sampleTimes.data() + m_rowsBefore;
-        for (AnalogColumn &column : m_analog) {
-            column.channel->values.resize(column.rowsBefore + rows);
-            column.channel->rawValues.resize(column.rowsBefore + rows);
-            column.values = column.channel->values.data() + column.rowsBefore;
-            column.rawValues = column.channel->rawValues.data() + column.rowsBefore;
+        const auto fields = static_cast<qint64>(2 + m_analog.size() + m_digital.size());
+        const qint64 lines = m_device.size() / std::max(lineLength + 1, 2 * fields);
+        const auto extend = [lines](auto &series) {
+            constexpr qint64 most = std::numeric_limits<int>::max() / 16;
+            series.reserve(static_cast<int>(std::min(most, series.size() + lines)));
+        };
+        extend(m_recording.sampleTimes);
+        for (const AnalogColumn &column : m_analog) {
+            extend(column.channel->values);
+            extend(column.channel->rawValues);
         }
-        for (DigitalColumn &column : m_digital) {
-            column.channel->values.resize(column.rowsBefore + rows);
-            column.states = column.channel->values.data() + column.rowsBefore;
+        for (const DigitalColumn &column : m_digital)
+            extend(column.channel->values);
+    }
+
+    void deliver()
+    {
+        append(m_recording.sampleTimes, m_times);
+        for (const AnalogColumn &column : m_analog) {
+            append(column.channel->rawValues, column.block);
+            appendScaled(*column.channel, column);
         }
+        for (const DigitalColumn &column : m_digital) {
+            append(column.channel->values, column.block);
+            column.channel->allZero = column.channel->allZero
+                && std::all_of(column.block.cbegin(),
+                    column.block.cbegin() + static_cast<std::ptrdiff_t>(m_gathered),
+                    [](int state) { return state == 0; });
+        }
+        m_gathered = 0;
+    }
+
+    template <typename Number>
+    void append(QVector<Number> &series, const std::array<Number, blockRows> &block) const
+    {
+        const int count = series.size();
+        series.resize(count + static_cast<int>(m_gathered));
+        std::copy_n(block.cbegin(), m_gathered, series.begin() + count);
+    }
+
+    void appendScaled(AnalogChannel &channel, const AnalogColumn &column) const
+    {
+        const auto a = static_cast<double>(channel.a);
+        const auto b = static_cast<double>(column.b);
+        std::array<float, blockRows> scaled;
+        for (size_t row = 0; row < m_gathered; ++row) {
+            scaled[row] = narrowed(a * static_cast<double>(column.block[row]) + b);
+            channel.maxValue = std::max(channel.maxValue, scaled[row]);
+            channel.minValue = std::min(channel.minValue, scaled[row]);
+        }
+        append(channel.values, scaled);
     }
 
     void finish()
     {
-        const QVector<double> timesBefore = m_recording.sampleTimes.mid(0, m_rowsBefore);
-        setCapacity(m_row);
+        deliver();
         m_recording.sampleTimes.squeeze();
-        const QVector<double> newTimes = m_recording.sampleTimes.mid(m_rowsBefore);
+        const QVector<double> timesBefore = m_recording.sampleTimes.mid(0, m_timesBefore);
+        const QVector<double> newTimes = m_recording.sampleTimes.mid(m_timesBefore);
         const auto extend = [&](QVector<double> &times) {
             if (times == timesBefore)
                 times = m_recording.sampleTimes;
             else
                 times += newTimes;
         };
-        for (AnalogColumn &column : m_analog) {
+        for (const AnalogColumn &column : m_analog) {
             column.channel->values.squeeze();
             column.channel->rawValues.squeeze();
-            column.channel->minValue = column.min;
-            column.channel->maxValue = column.max;
             extend(column.channel->times);
         }
-        for (DigitalColumn &column : m_digital) {
+        for (const DigitalColumn &column : m_digital) {
             column.channel->values.squeeze();
-            column.channel->allZero = column.channel->allZero && column.anyState == 0;
             extend(column.channel->times);
         }
-        m_recording.sampleCount = m_row;
+        m_recording.sampleCount = m_rows;
     }
-
-    struct AnalogColumn {
-        AnalogChannel *channel;
-        int rowsBefore;
-        float a;
-        float b;
-        float min;
-        float max;
-        float *values = nullptr;
-        float *rawValues = nullptr;
-
-        void set(int row, float x)
-        {
-            const double value
-                = static_cast<double>(a) * static_cast<double>(x) + static_cast<double>(b);
-            const float scaled = narrowed(value);
-            rawValues[row] = x;
-            values[row] = scaled;
-            if (value > static_cast<double>(max))
-                max = scaled;
-            if (value < static_cast<double>(min))
-                min = scaled;
-        }
-    };
-    struct DigitalColumn {
-        DigitalChannel *channel;
-        int rowsBefore;
-        int *states = nullptr;
-        int anyState = 0;
-    };
 
     QIODevice &m_device;
     CFGProperties &m_recording;
-    const int m_rowsBefore;
-    int m_row = 0;
-    int m_capacity = 0;
-    qint64 m_bytes = 0; // of the lines read
-    double *m_times = nullptr;
+    const int m_timesBefore;
+    int m_rows = 0;
+    size_t m_gathered = 0; // rows in the blocks
+    std::array<double, blockRows> m_times;
     std::vector<AnalogColumn> m_analog;
     std::vector<DigitalColumn> m_digital;
 };
