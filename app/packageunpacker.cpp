@@ -35,6 +35,8 @@ ArchiverOutput::ArchiverOutput(const QString &package)
 ArchiverOutput::Reaction ArchiverOutput::read(const QByteArray &output)
 {
     Reaction reaction;
+    bool asksToOverwrite = false;
+    bool asksForPassword = false;
     m_unread += QString::fromLatin1(output);
     int from = 0;
     for (;;) {
@@ -47,14 +49,18 @@ ArchiverOutput::Reaction ArchiverOutput::read(const QByteArray &output)
         from = match.capturedEnd();
         const QString word = match.captured();
         if (word == QLatin1String("Overwrite")) {
-            reaction.answer += "A\r\n"; // always
+            asksToOverwrite = true;
         } else if (word == QLatin1String("password")) {
-            reaction.answer += '\n'; // none: the archiver ends with an error instead of waiting
+            asksForPassword = true;
         } else if (word.compare(QLatin1String("error"), Qt::CaseInsensitive) == 0 && !m_errorSeen) {
             m_errorSeen = true;
             reaction.error = true;
         }
     }
     m_unread.remove(0, from);
+    if (asksToOverwrite)
+        reaction.answer += "A\r\n"; // always
+    if (asksForPassword)
+        reaction.answer += '\n'; // none: the archiver ends with an error instead of waiting
     return reaction;
 }

@@ -17,7 +17,7 @@ QStringList unpackArguments(const QString &package, const QString &folder);
 class ArchiverOutput {
 public:
     struct Reaction {
-        QByteArray answer; // to be written to the archiver's input; may be empty
+        QByteArray answer; // for the archiver's input, to each kind of question once; may be empty
         bool error = false; // true in one reaction at most
     };
 
