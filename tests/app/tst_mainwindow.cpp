@@ -400,7 +400,8 @@ private slots:
         QCOMPARE(boxes[0].title, QStringLiteral("About Wavorin"));
         QCOMPARE(boxes[0].text,
             QStringLiteral("<font size=4>Wavorin</font> v1.5.4-1-g56f75d81<br/>Created by "
-                           "<a href=\"https://www.norvale.example\">Norvale</a></font></p>"));
+                           "<a style=\"color:#79d7ff\" href=\"https://www.norvale.example\">"
+                           "Norvale</a></font></p>"));
     }
 
     void statusTipIsShown()
