@@ -89,7 +89,7 @@ void CFGProperties::init()
 void CFGProperties::readConfgFile()
 {
     QFile file(filePath);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    if (!file.open(QIODevice::ReadOnly)) {
         qDebug("CANNOT OPEN CFG FILE");
         return;
     }

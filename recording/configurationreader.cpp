@@ -137,9 +137,12 @@ void readTimeStamps(CFGProperties &recording)
 void readConfiguration(QIODevice &device, CFGProperties &recording)
 {
     while (!device.atEnd()) {
-        const QByteArray line = device.readLine();
+        QByteArray line = device.readLine();
         if (line.isEmpty())
             return; // the device failed
+        // A text-mode device would drop other carriage returns too, by the state of its buffer.
+        if (line.endsWith("\r\n"))
+            line.remove(line.size() - 2, 1);
         ++recording.cfgLineNumber;
         // The text of a line ends at its first NUL.
         readLine(recording, QString::fromLatin1(line.constData()));

@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
-#include <limits>
 #include <vector>
 
 namespace {
@@ -156,6 +155,10 @@ private:
             makeRecords(begin, end);
             reserve(end - begin);
         }
+        m_bytes += end - begin;
+        const auto columns = static_cast<qint64>(m_analog.size() + m_digital.size());
+        if (!isWithinBudget(qint64(m_timesBefore) + m_rows + 1, columns, m_bytes))
+            return false;
         LineFields fields(begin, end);
         fields.skip();
         m_times[m_gathered] = fields.toDouble() / 1000;
@@ -196,8 +199,7 @@ private:
         const auto fields = static_cast<qint64>(2 + m_analog.size() + m_digital.size());
         const qint64 lines = m_device.size() / std::max(lineLength + 1, 2 * fields);
         const auto extend = [lines](auto &series) {
-            constexpr qint64 most = std::numeric_limits<int>::max() / 16;
-            series.reserve(static_cast<int>(std::min(most, series.size() + lines)));
+            series.reserve(static_cast<int>(std::min(mostRows, series.size() + lines)));
         };
         extend(m_recording.sampleTimes);
         for (const AnalogColumn &column : m_analog) {
@@ -275,6 +277,7 @@ private:
     const int m_timesBefore;
     int m_rows = 0;
     size_t m_gathered = 0; // rows in the blocks
+    qint64 m_bytes = 0; // of the lines read
     std::array<double, blockRows> m_times;
     std::vector<AnalogColumn> m_analog;
     std::vector<DigitalColumn> m_digital;

@@ -22,6 +22,8 @@ bool isDigit(char c)
 // Digits with at most one point between them, with an optional sign; false for anything else.
 bool plainDecimal(const char *at, const char *end, double &value)
 {
+    if (end - at > mostDigits + 2)
+        return false;
     const bool isNegative = at != end && *at == '-';
     if (isNegative || (at != end && *at == '+'))
         ++at;
@@ -31,20 +33,18 @@ bool plainDecimal(const char *at, const char *end, double &value)
         digits = digits * 10 + (*at - '0');
     std::ptrdiff_t count = at - first;
     std::ptrdiff_t decimals = 0;
-    if (count == 0 || count > mostDigits)
+    if (count == 0)
         return false;
     if (at != end && *at == '.') {
         const char *const point = ++at;
-        if (end - point > mostDigits)
-            return false;
         for (; at != end && isDigit(*at); ++at)
             digits = digits * 10 + (*at - '0');
         decimals = at - point;
         count += decimals;
-        if (decimals == 0 || count > mostDigits)
+        if (decimals == 0)
             return false;
     }
-    if (at != end)
+    if (at != end || count > mostDigits)
         return false;
     value = static_cast<double>(digits);
     if (decimals != 0)
