@@ -37,7 +37,7 @@ ArchiverOutput::Reaction ArchiverOutput::read(const QByteArray &output)
     Reaction reaction;
     bool asksToOverwrite = false;
     bool asksForPassword = false;
-    m_unread += QString::fromLatin1(output);
+    m_unread += QString::fromLatin1(output.constData(), output.size()); // past zero bytes, too
     int from = 0;
     for (;;) {
         const QRegularExpressionMatch match
