@@ -122,7 +122,7 @@ private slots:
         QCOMPARE(recording.totalChannelCount, 16);
         QCOMPARE(recording.analogIds.join(QLatin1Char(' ')),
             QStringLiteral("IL1 IL2 IL3 I0 UL1 UL2 UL3 U0"));
-        QCOMPARE(recording.digitalIds.at(3), QStringLiteral("Breaker closed"));
+        QCOMPARE(recording.digitalIds.at(3), QStringLiteral("CB closed"));
         QCOMPARE(recording.digitalNormalStates.join(QString()), QStringLiteral("00010000"));
         QCOMPARE(recording.sampleCount, 3200);
         QCOMPARE(recording.lastSampleNumber, 3200);
@@ -131,7 +131,7 @@ private slots:
         QCOMPARE(recording.startTime, QStringLiteral("09:26:53.500"));
         QCOMPARE(recording.triggerOffsetMs, 200);
         QCOMPARE(recording.sampleTimes.last(), 1599.5);
-        QCOMPARE(recording.toPrimary.first(), 400.0);
+        QCOMPARE(recording.toPrimary.first(), 80.0);
         QCOMPARE(recording.toPrimary.last(), 200.0);
         for (const DigitalChannel *channel : qAsConst(recording.digitalChannels))
             QVERIFY2(!channel->allZero, qPrintable(channel->id));
@@ -332,7 +332,7 @@ private slots:
             run(QStringLiteral("--analog 17 --digital 10 --noise 0 --samples 400 r")).exitCode, 0);
         const QList<QByteArray> configuration = lines("r.cfg");
         QCOMPARE(configuration.at(1), QByteArray("27,17A,10D"));
-        QVERIFY(configuration.at(10).startsWith("9,IL1 2,L1,CT core 2,A,0.0005,0,0,"));
+        QVERIFY(configuration.at(10).startsWith("9,IL1 2,L1,CT core 2,A,0.0025,0,0,"));
         QVERIFY(configuration.at(18).startsWith("17,IL1 3,L1,CT core 3,A,"));
         QCOMPARE(configuration.at(28), QByteArray("10,Input 10,,,0"));
         for (const Row &row : data()) {

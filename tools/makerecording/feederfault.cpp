@@ -52,10 +52,10 @@ const std::array<Fault, 12> faults
         {"CA", 2, 1}, {"ABG", 3, 2}, {"BCG", 3, 0}, {"CAG", 3, 1}, {"ABC", 4, 0}, {"ABCG", 4, 0}}};
 
 const std::array<RelaySignal, 8> relaySignals
-    = {{{"Pick-up", false, 22, 232}, {"Trip", false, 150, 250}, {"Breaker open", false, 215, 760},
-        {"Breaker closed", true, contactsPart, contactsMeet}, {"Reclose start", false, 152, 252},
-        {"Reclose in progress", false, 152, 850}, {"Close command", false, 700, 800},
-        {"Reclose successful", false, 850, 1150}}};
+    = {{{"Pick-up", false, 22, 232}, {"Trip", false, 150, 250}, {"CB open", false, 215, 760},
+        {"CB closed", true, contactsPart, contactsMeet}, {"Reclose start", false, 152, 252},
+        {"Reclosing", false, 152, 850}, {"Close pulse", false, 700, 800},
+        {"Reclosed", false, 850, 1150}}};
 
 // The symmetrical components of a 20 kV network at the busbar of a feeder. Source 0.2 + j2 ohm and
 // 11 ohm between neutral and earth; fault at the end of a line of 1.5 + j1.75 ohm, zero sequence

@@ -106,8 +106,8 @@ void writeConfiguration(std::ostream &file, const RecordingOptions &options)
             file << ' ' << core;
         file << ',' << phaseNames[quantity % phaseNames.size()] << ','
              << (isCurrent ? "CT core " : "VT winding ") << core
-             << (isCurrent ? ",A,0.0005,0,0," : ",V,0.005,0,0,") << -largestCount << ','
-             << largestCount << (isCurrent ? ",400,1,S" : ",20000,100,S") << lineEnd;
+             << (isCurrent ? ",A,0.0025,0,0," : ",V,0.005,0,0,") << -largestCount << ','
+             << largestCount << (isCurrent ? ",400,5,S" : ",20000,100,S") << lineEnd;
     }
     for (std::int64_t k = 0; k < options.digitals; ++k) {
         const auto channel = static_cast<std::size_t>(k);
