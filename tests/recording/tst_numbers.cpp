@@ -1,48 +1,15 @@
 #include "numbers.h"
 
+#include "oddfields.h"
+
 #include <QtTest>
 
-#include <cmath>
-#include <cstring>
 #include <limits>
-#include <random>
 
 namespace {
 
 const double infinite = std::numeric_limits<double>::infinity();
 const double notANumber = std::numeric_limits<double>::quiet_NaN();
-
-// Equal bits, so that the sign of a zero counts; any NaN equals any other.
-template <typename Number> bool sameBits(Number left, Number right)
-{
-    return std::memcmp(&left, &right, sizeof(Number)) == 0
-        || (std::isnan(static_cast<double>(left)) && std::isnan(static_cast<double>(right)));
-}
-
-// A field of letters that numbers are made of, and a few that they are not.
-QByteArray oddField(std::mt19937 &random)
-{
-    static const QByteArray letters = "0123456789012345678901234567890000..--++eE \t\rxainf\xa0";
-    QByteArray field;
-    for (auto left = random() % 22; left > 0; --left)
-        field += letters.at(static_cast<int>(random() % static_cast<unsigned>(letters.size())));
-    return field;
-}
-
-// Digits with a point and a sign in their places: what the short way takes.
-QByteArray plainField(std::mt19937 &random)
-{
-    static const QByteArrayList signs{"", "", "-", "+"};
-    QByteArray field = signs.at(static_cast<int>(random() % 4));
-    const auto digits = 1 + random() % 18;
-    const auto point = random() % 24;
-    for (unsigned i = 0; i < digits; ++i) {
-        if (i == point)
-            field += '.';
-        field += static_cast<char>('0' + random() % 10);
-    }
-    return field;
-}
 
 } // namespace
 
