@@ -6,3 +6,4 @@
 
 Ratio readingPlainlyAgainstReading();
 Ratio readingAgainstConverting();
+Ratio phasorsAgainstTransforms(int samplesPerCycle);

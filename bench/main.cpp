@@ -29,6 +29,12 @@ struct Figure {
 const Figure figures[] = {
     {"reading, plain reader / reader", readingPlainlyAgainstReading, Goal::AtLeast, 10},
     {"reading, reader / converting alone", readingAgainstConverting, Goal::AtMost, 1.5},
+    {"phasors of 20, computed / transforms alone", [] { return phasorsAgainstTransforms(20); },
+        Goal::AtMost, 1.1},
+    {"phasors of 80, computed / transforms alone", [] { return phasorsAgainstTransforms(80); },
+        Goal::AtMost, 1.1},
+    {"phasors of 400, computed / transforms alone", [] { return phasorsAgainstTransforms(400); },
+        Goal::AtMost, 1.1},
 };
 
 std::string result(const Figure &figure, const Ratio &ratio)
