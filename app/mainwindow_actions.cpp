@@ -10,15 +10,33 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
+#include <QFile>
+#include <QIcon>
 #include <QLabel>
 #include <QMenu>
 #include <QToolBar>
+
+namespace {
+
+// The images of actions that start disabled have a grey one beside them: the toolkit's own greying
+// follows a light palette and would leave them almost white.
+QIcon actionIcon(QLatin1String name)
+{
+    const QString path = QStringLiteral(":/images/%1%2.png");
+    QIcon icon(path.arg(name, QString()));
+    const QString grey = path.arg(name, QLatin1String("disabled"));
+    if (QFile::exists(grey))
+        icon.addFile(grey, QSize(), QIcon::Disabled);
+    return icon;
+}
+
+} // namespace
 
 struct MainWindow::ActionEntry {
     QAction *MainWindow::*action;
     const char *text;
     const char *statusTip;
-    const char *icon; // name in ":/images/", empty for none
+    const char *icon; // image of this name, empty for none
     void (MainWindow::*slot)() = nullptr; // null: connected elsewhere
     bool enabled = true; // at start
     QKeySequence::StandardKey shortcut = QKeySequence::UnknownKey;
@@ -28,33 +46,33 @@ const QList<MainWindow::ActionEntry> &MainWindow::actionEntries()
 {
     using W = MainWindow;
     static const QList<ActionEntry> entries{
-        {&W::openAct, QT_TR_NOOP("&Open..."), QT_TR_NOOP("Open an existing file."), "open.png",
+        {&W::openAct, QT_TR_NOOP("&Open..."), QT_TR_NOOP("Open an existing file."), "open",
             &W::open, true, QKeySequence::Open},
-        {&W::saveAsAct, QT_TR_NOOP("&Save As.."), QT_TR_NOOP("Save recording to file."), "save.png",
+        {&W::saveAsAct, QT_TR_NOOP("&Save As.."), QT_TR_NOOP("Save recording to file."), "save",
             &W::showSaveDialog, false},
         {&W::saveAsPrimaryAct, QT_TR_NOOP("Save As &Primary"),
-            QT_TR_NOOP("Save as a primary type."), "save.png", &W::saveAsPrimary, false},
-        {&W::addPlotterAct, QT_TR_NOOP("&Add Plotter"), QT_TR_NOOP("Add analog plotter."),
-            "Plus.png", &W::setAnalogChannels, false},
+            QT_TR_NOOP("Save as a primary type."), "save", &W::saveAsPrimary, false},
+        {&W::addPlotterAct, QT_TR_NOOP("&Add Plotter"), QT_TR_NOOP("Add analog plotter."), "Plus",
+            &W::setAnalogChannels, false},
         {&W::removePlotterAct, QT_TR_NOOP("&Remove Plotter"), QT_TR_NOOP("Remoe analog plotter."),
-            "minus.png", &W::removePlotter, false},
+            "minus", &W::removePlotter, false},
         {&W::removeCursorsAct, QT_TR_NOOP("&Remove All Cursors"), QT_TR_NOOP("Remove all cursors."),
-            "RemoveCursors.png", &W::removeCursors, false},
+            "RemoveCursors", &W::removeCursors, false},
         {&W::showVectorsAct, QT_TR_NOOP("&Show Vectors"), QT_TR_NOOP("Show vectors dialog."),
-            "vector.png"},
+            "vector"},
         {&W::rescaleAct, QT_TR_NOOP("Rescale CTVT"), QT_TR_NOOP("Set CTVT ratios."), "",
             &W::showCTVTDialog, false},
         {&W::screenshotAct, QT_TR_NOOP("&Save screenshot"), QT_TR_NOOP("Save screenshot."),
-            "screenshot.png", &W::saveScreenShot},
+            "screenshot", &W::saveScreenShot},
         {&W::clipboardAct, QT_TR_NOOP("&Copy to clipboard"), QT_TR_NOOP("Copy to clipboard."),
-            "clipboard.png", &W::copyToClipboard},
-        {&W::zoomInAct, QT_TR_NOOP("Zoom In"), QT_TR_NOOP("Zoom in."), "zoomin.png"},
-        {&W::zoomOutAct, QT_TR_NOOP("Zoom Out"), QT_TR_NOOP("Zoom out."), "zoomout.png"},
-        {&W::zoomResetAct, QT_TR_NOOP("Zoom Reset"), QT_TR_NOOP("Zoom reset."), "zoomreset.png"},
+            "clipboard", &W::copyToClipboard},
+        {&W::zoomInAct, QT_TR_NOOP("Zoom In"), QT_TR_NOOP("Zoom in."), "zoomin"},
+        {&W::zoomOutAct, QT_TR_NOOP("Zoom Out"), QT_TR_NOOP("Zoom out."), "zoomout"},
+        {&W::zoomResetAct, QT_TR_NOOP("Zoom Reset"), QT_TR_NOOP("Zoom reset."), "zoomreset"},
         {&W::vZoomInAct, QT_TR_NOOP("Vertical Zoom In"), QT_TR_NOOP("Vertical zoom in."),
-            "zoominh.png"},
+            "zoominh"},
         {&W::vZoomOutAct, QT_TR_NOOP("Vertical Zoom Out"), QT_TR_NOOP("Vertical zoom out."),
-            "zoomouth.png"},
+            "zoomouth"},
         {&W::exitAct, QT_TR_NOOP("E&xit"), QT_TR_NOOP("Exit the application."), "", nullptr, true,
             QKeySequence::Quit},
         {&W::aboutAct, QT_TR_NOOP("&About Wavorin"), QT_TR_NOOP("About Wavorin"), "", &W::about},
@@ -67,7 +85,7 @@ void MainWindow::createActions()
     for (const ActionEntry &entry : actionEntries()) {
         auto *action = new QAction(this);
         if (*entry.icon)
-            action->setIcon(QIcon(QLatin1String(":/images/") + QLatin1String(entry.icon)));
+            action->setIcon(actionIcon(QLatin1String(entry.icon)));
         if (entry.shortcut != QKeySequence::UnknownKey)
             action->setShortcuts(entry.shortcut);
         action->setEnabled(entry.enabled);
