@@ -10,12 +10,15 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <vector>
 
 namespace {
 
 const QLatin1String extension(".cfg");
 const QString timeFormat = QStringLiteral("hh:mm:ss.zzz");
-constexpr int blockSize = 1 << 20; // bytes written at once
+constexpr int blockSize = 1 << 18; // bytes written at once
+constexpr int mostDigits = 320; // of a double without decimals, and its sign
+constexpr int mostDigitsOfSample = 48; // of a float or an int without decimals, sign and comma
 
 QString general(double value)
 {
@@ -27,26 +30,25 @@ QString sixDecimals(double value)
     return QString::number(value, 'f', 6);
 }
 
-// A value without decimals, as the toolkit writes it. Whole numbers, which nearly all are, need no
-// rounding and no string.
-void appendWhole(QByteArray &line, double value)
+// A value without decimals, as the toolkit writes it, to the place given. Nearly all are small
+// enough to need no string.
+char *writeWhole(char *at, double value)
 {
     constexpr double exact = 1e15;
-    if (value != std::trunc(value) || std::abs(value) > exact) {
-        line.append(QByteArray::number(value, 'f', 0));
-        return;
-    }
-    char digits[24];
-    const std::to_chars_result result
-        = std::to_chars(std::begin(digits), std::end(digits), static_cast<qint64>(value));
-    line.append(digits, static_cast<int>(result.ptr - digits));
+    const double whole = std::round(value);
+    const bool isNegativeZero = whole == 0 && value < 0;
+    if (std::abs(whole) <= exact && !isNegativeZero)
+        return std::to_chars(at, at + mostDigits, static_cast<qint64>(whole)).ptr;
+    const QByteArray digits = QByteArray::number(value, 'f', 0);
+    return std::copy(digits.cbegin(), digits.cend(), at);
 }
 
-void appendWhole(QByteArray &line, int value)
+char *writeWhole(char *at, int value)
 {
-    char digits[12];
-    const std::to_chars_result result = std::to_chars(std::begin(digits), std::end(digits), value);
-    line.append(digits, static_cast<int>(result.ptr - digits));
+    if (value < 0 || value > 9)
+        return std::to_chars(at, at + mostDigits, value).ptr;
+    *at = static_cast<char>('0' + value);
+    return at + 1;
 }
 
 // The bytes that were read where they were Latin-1.
@@ -134,19 +136,23 @@ RecordingWriter::Outcome RecordingWriter::writePair(
 
     QSaveFile dataFile(stem + QLatin1String(".dat"));
     if (dataFile.open(QIODevice::WriteOnly)) {
-        QByteArray text;
+        const int lineRoom = 2 * mostDigits
+            + mostDigitsOfSample
+                * (m_recording.analogChannels.size() + m_recording.digitalChannels.size());
+        std::vector<char> text(static_cast<size_t>(blockSize + lineRoom));
+        char *at = text.data();
         bool isFirst = true;
         visitSamples(start, end, [&](int sample, double /*time*/) {
             if (!isFirst)
-                text.append('\n');
+                *at++ = '\n';
             isFirst = false;
-            appendDataLine(text, sample, span.start);
-            if (text.size() >= blockSize) {
-                dataFile.write(text);
-                text.resize(0);
+            at = writeDataLine(at, sample, span.start);
+            if (at - text.data() >= blockSize) {
+                dataFile.write(text.data(), at - text.data());
+                at = text.data();
             }
         });
-        dataFile.write(text);
+        dataFile.write(text.data(), at - text.data());
         const Outcome dataOutcome = finish(dataFile);
         if (!outcome.hasFailed())
             outcome = dataOutcome;
@@ -236,20 +242,19 @@ QStringList RecordingWriter::timeStampLines(const Span &span) const
         m_recording.triggerDate + QLatin1Char(',') + trigger.toString(timeFormat)};
 }
 
-void RecordingWriter::appendDataLine(QByteArray &text, int sample, double firstTime) const
+char *RecordingWriter::writeDataLine(char *at, int sample, double firstTime) const
 {
-    appendWhole(text, sample + 1);
-    text.append(',');
-    appendWhole(text, m_recording.sampleTimes.at(sample) * 1000 - firstTime * 1000);
-    text.append(',');
+    at = writeWhole(at, sample + 1);
+    *at++ = ',';
+    at = writeWhole(at, m_recording.sampleTimes.at(sample) * 1000 - firstTime * 1000);
+    *at++ = ',';
     for (const AnalogChannel *channel : m_recording.analogChannels) {
-        appendWhole(text, static_cast<double>(channel->rawValues.at(sample)));
-        text.append(',');
+        at = writeWhole(at, static_cast<double>(channel->rawValues.at(sample)));
+        *at++ = ',';
     }
     for (const DigitalChannel *channel : m_recording.digitalChannels) {
-        appendWhole(text, channel->values.at(sample));
-        text.append(',');
+        at = writeWhole(at, channel->values.at(sample));
+        *at++ = ',';
     }
-    if (!m_recording.digitalChannels.isEmpty())
-        text.chop(1);
+    return m_recording.digitalChannels.isEmpty() ? at : at - 1;
 }

@@ -45,7 +45,7 @@ private:
     QString analogLine(int row, Side side) const;
     QString digitalLine(int row) const;
     QStringList timeStampLines(const Span &span) const;
-    void appendDataLine(QByteArray &text, int sample, double firstTime) const;
+    char *writeDataLine(char *at, int sample, double firstTime) const; // gives the end
 
     const CFGProperties &m_recording;
     QStringList m_primaries;
