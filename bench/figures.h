@@ -7,3 +7,4 @@
 Ratio readingPlainlyAgainstReading();
 Ratio readingAgainstConverting();
 Ratio phasorsAgainstTransforms(int samplesPerCycle);
+Ratio writingPlainlyAgainstWriting();

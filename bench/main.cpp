@@ -35,6 +35,7 @@ const Figure figures[] = {
         Goal::AtMost, 1.1},
     {"phasors of 400, computed / transforms alone", [] { return phasorsAgainstTransforms(400); },
         Goal::AtMost, 1.1},
+    {"writing, plain writer / writer", writingPlainlyAgainstWriting, Goal::AtLeast, 10},
 };
 
 std::string result(const Figure &figure, const Ratio &ratio)
