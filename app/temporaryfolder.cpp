@@ -6,7 +6,7 @@
 
 QString temporaryFolderBase()
 {
-    const QString base = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation)
+    QString base = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation)
         + QLatin1String("/tmp/files");
     if (!QDir(base).exists())
         QDir().mkpath(base);
@@ -16,7 +16,7 @@ QString temporaryFolderBase()
 QString freeTemporaryFolder(const QString &base)
 {
     for (int number = 1;; ++number) {
-        const QString candidate = base + QString::number(number);
+        QString candidate = base + QString::number(number);
         if (!QDir(candidate).exists())
             return candidate;
     }
