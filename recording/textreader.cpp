@@ -10,6 +10,8 @@
 #include <QIODevice>
 #include <QTextCodec>
 
+#include <array>
+
 namespace {
 
 // The bytes as UTF-8 where they are that, else as Latin-1.
@@ -58,11 +60,26 @@ void readHeader(CFGProperties &recording, QString line)
 
 // A stamp dd/MM/yyyy-hh:mm:ss:zzz, invalid where the text is none. In UTC no hour is missing or
 // doubled, which a single conversion, going by the local time, would not grant.
-QDateTime parsedStamp(const QString &text)
+QDateTime parsedStamp(const QStringRef &text)
 {
-    const int hyphen = text.indexOf(QLatin1Char('-'));
-    const QDate date = QDate::fromString(text.left(hyphen), QStringLiteral("dd/MM/yyyy"));
-    const QTime time = QTime::fromString(text.mid(hyphen + 1), QStringLiteral("hh:mm:ss:zzz"));
+    const QLatin1String pattern("00/00/0000-00:00:00:000");
+    if (text.size() != pattern.size())
+        return {};
+    std::array<int, 7> numbers{};
+    auto number = numbers.begin();
+    for (int i = 0; i < pattern.size(); ++i) {
+        const ushort letter = text.at(i).unicode();
+        const bool isDigit = letter >= '0' && letter <= '9';
+        if (pattern.at(i) == QLatin1Char('0') ? !isDigit : text.at(i) != pattern.at(i))
+            return {};
+        if (isDigit)
+            *number = *number * 10 + (letter - '0');
+        else
+            ++number;
+    }
+    const auto [day, month, year, hour, minute, second, millisecond] = numbers;
+    const QDate date(year, month, day);
+    const QTime time(hour, minute, second, millisecond);
     return date.isValid() && time.isValid() ? QDateTime(date, time, Qt::UTC) : QDateTime();
 }
 
@@ -83,7 +100,7 @@ public:
         if (!isWithinBudget(m_recording.sampleCount + 1, m_recording.analogChannelCount, m_letters))
             return false;
         const QVector<QStringRef> fields = line.splitRef(QLatin1Char(','));
-        const QDateTime stamp = parsedStamp(fields.constFirst().toString());
+        const QDateTime stamp = parsedStamp(fields.constFirst());
         if (m_recording.startDate.isEmpty())
             m_recording.startDate = stamp.toString(QStringLiteral("dd/MM/yyyy"));
         if (m_recording.startTime.isEmpty())
