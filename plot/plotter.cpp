@@ -74,6 +74,10 @@ Plotter::Plotter(QWidget *parent)
     timeLabel->setObjectName(QStringLiteral("timelabel"));
     timeLabel->setStyleSheet(QStringLiteral("QLabel{color: white;}"));
     timeLabel->setFont(smallFont(font()));
+    QPalette opaque(timeLabel->palette()); // over the time differences of cursors
+    opaque.setColor(QPalette::Window, QColor(0x31, 0x30, 0x34));
+    timeLabel->setPalette(opaque);
+    timeLabel->setAutoFillBackground(true);
     timeLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
     timeLabel->hide();
     timeLabel->lower();
