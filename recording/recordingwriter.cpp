@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <initializer_list>
 #include <limits>
 #include <vector>
 
@@ -66,21 +67,20 @@ QTime moved(const QTime &time, double milliseconds)
     return time.addMSecs(static_cast<int>(truncatedToInt64(milliseconds) % day));
 }
 
-RecordingWriter::Outcome failure(const QSaveFile &file)
+// Puts the files that were opened in their places, none before all are complete: an old data file
+// beside a new configuration would be neither recording. The flush stands apart because a commit
+// does not notice that its own last bytes could not be written.
+RecordingWriter::Outcome finish(const std::initializer_list<QSaveFile *> &files)
 {
-    return {file.fileName(), file.errorString()};
-}
-
-// Puts the complete file in its place. The flush stands apart because a commit does not notice
-// that its own last bytes could not be written.
-RecordingWriter::Outcome finish(QSaveFile &file)
-{
-    if (!file.flush()) {
-        const RecordingWriter::Outcome outcome = failure(file);
-        file.cancelWriting();
-        return outcome;
+    for (QSaveFile *file : files) {
+        if (file->isOpen() && (!file->flush() || file->error() != QFileDevice::NoError))
+            return {file->fileName(), file->errorString()};
     }
-    return file.commit() ? RecordingWriter::Outcome() : failure(file);
+    for (QSaveFile *file : files) {
+        if (file->isOpen() && !file->commit())
+            return {file->fileName(), file->errorString()};
+    }
+    return {};
 }
 
 } // namespace
@@ -127,12 +127,9 @@ RecordingWriter::Outcome RecordingWriter::writePair(
     });
 
     const QString stem = path.endsWith(extension) ? path.chopped(extension.size()) : path;
-    Outcome outcome;
     QSaveFile configurationFile(stem + extension);
-    if (configurationFile.open(QIODevice::WriteOnly)) {
+    if (configurationFile.open(QIODevice::WriteOnly))
         configurationFile.write(encoded(configuration(span, side)));
-        outcome = finish(configurationFile);
-    }
 
     QSaveFile dataFile(stem + QLatin1String(".dat"));
     if (dataFile.open(QIODevice::WriteOnly)) {
@@ -153,11 +150,8 @@ RecordingWriter::Outcome RecordingWriter::writePair(
             }
         });
         dataFile.write(text.data(), at - text.data());
-        const Outcome dataOutcome = finish(dataFile);
-        if (!outcome.hasFailed())
-            outcome = dataOutcome;
     }
-    return outcome;
+    return finish({&configurationFile, &dataFile});
 }
 
 QString RecordingWriter::configuration(const Span &span, Side side) const
@@ -181,14 +175,19 @@ QString RecordingWriter::configuration(const Span &span, Side side) const
         lines.append(digitalLine(row));
     lines.append(sixDecimals(m_recording.lineFrequency));
     lines.append(QString::number(m_recording.rateCount));
-    // No more rate lines than the file that was read can have had.
-    const int rates = std::min(m_recording.rateCount, std::max(1, m_recording.cfgLineNumber));
+    // No more rate lines than the standard allows or the file that was read can have had.
+    constexpr int mostRates = 999;
+    const int rates
+        = std::min(m_recording.rateCount, std::max(mostRates, m_recording.cfgLineNumber));
     for (int i = 0; i < rates; ++i)
         lines.append(
             sixDecimals(m_recording.sampleRate) + QLatin1Char(',') + QString::number(span.count));
     lines.append(timeStampLines(span));
     lines.append(m_recording.fileType);
     lines.append(general(m_recording.timeMultiplier));
+    // The last text of a short line was kept with its line end, which would start a line here.
+    for (QString &line : lines)
+        line.remove(QLatin1Char('\n'));
     return lines.join(QLatin1Char('\n'));
 }
 
