@@ -41,7 +41,9 @@ ArchiverOutput::Reaction ArchiverOutput::read(const QByteArray &output)
     int from = 0;
     for (;;) {
         const QRegularExpressionMatch match
-            = m_words.match(m_unread, from, QRegularExpression::PartialPreferFirstMatch);
+            = m_words.match(m_unread, from, QRegularExpression::PartialPreferFirstMatch,
+                // Latin-1 text is sound; checking all of it for each word takes quadratic time.
+                QRegularExpression::DontCheckSubjectStringMatchOption);
         if (!match.hasMatch()) {
             from = match.hasPartialMatch() ? match.capturedStart() : m_unread.size();
             break;

@@ -1,5 +1,6 @@
 #include "packageunpacker.h"
 
+#include <QElapsedTimer>
 #include <QtTest>
 
 class tst_PackageUnpacker : public QObject {
@@ -17,6 +18,7 @@ private slots:
     void errorIsReportedOnce();
     void nextPackageHasItsOwnErrors();
     void longOutputWithoutWordsIsQuiet();
+    void manyErrorsInOneReadingTakeNoTime();
 };
 
 namespace {
@@ -219,6 +221,17 @@ void tst_PackageUnpacker::longOutputWithoutWordsIsQuiet()
         QVERIFY(reaction.answer.isEmpty() && !reaction.error);
     }
     QVERIFY(watched.read("rror").error);
+}
+
+// A damaged package of some megabytes makes the archiver tell of each file in it. Going over the
+// whole output for each of them would take minutes.
+void tst_PackageUnpacker::manyErrorsInOneReadingTakeNoTime()
+{
+    ArchiverOutput watched(QStringLiteral("/rec/device.zip"));
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(watched.read(QByteArray("ERROR: Data Error : file\n").repeated(100000)).error);
+    QVERIFY(timer.elapsed() < 20000);
 }
 
 QTEST_GUILESS_MAIN(tst_PackageUnpacker)
