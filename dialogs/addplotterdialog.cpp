@@ -28,6 +28,9 @@ void AddPlotterDialog::setChannelNames(const QStringList &names)
     ui->listWidget_Selected->clear();
     channelNames = names;
     ui->listWidget_unSelected->addItems(channelNames);
+    // The earlier name stays, to be typed over.
+    ui->lineEdit_graphName->setFocus();
+    ui->lineEdit_graphName->selectAll();
 }
 
 QString AddPlotterDialog::graphName() const

@@ -24,6 +24,7 @@ private slots:
     void acceptsAnEmptyChoice();
     void rejectsOnCancel();
     void keepsItsListsUntilNamesAreGivenAgain();
+    void beginsWithTheNameToBeTypedOver();
     void retranslatesOnALanguageChange();
 
 private:
@@ -177,6 +178,16 @@ void TestAddPlotterDialog::keepsItsListsUntilNamesAreGivenAgain()
     dialog->setChannelNames({QStringLiteral("X")});
     QCOMPARE(left(), QStringList({QStringLiteral("X")}));
     QCOMPARE(dialog->selectedChannels(), QStringList());
+}
+
+void TestAddPlotterDialog::beginsWithTheNameToBeTypedOver()
+{
+    auto *name = child<QLineEdit>("lineEdit_graphName");
+    name->setText(QStringLiteral("Currents"));
+    child<QPushButton>("pushButton_add")->setFocus();
+    dialog->setChannelNames({QStringLiteral("A")});
+    QCOMPARE(dialog->focusWidget(), name);
+    QCOMPARE(name->selectedText(), QStringLiteral("Currents"));
 }
 
 void TestAddPlotterDialog::retranslatesOnALanguageChange()
