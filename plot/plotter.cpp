@@ -28,6 +28,7 @@ constexpr int titleX = 70;
 constexpr int titleWidth = 100;
 constexpr int titleHeight = 20;
 constexpr int smallestTitleFont = 9; // pixels
+constexpr QSize timeLabelSize(70, 20);
 
 QFrame *verticalLine(QWidget *parent, const QString &name, const QString &style)
 {
@@ -74,10 +75,12 @@ Plotter::Plotter(QWidget *parent)
     timeLabel->setObjectName(QStringLiteral("timelabel"));
     timeLabel->setStyleSheet(QStringLiteral("QLabel{color: white;}"));
     timeLabel->setFont(smallFont(font()));
-    QPalette opaque(timeLabel->palette()); // over the time differences of cursors
+    // It hides the time differences of cursors that it stands over, but not the frame below them.
+    QPalette opaque(timeLabel->palette());
     opaque.setColor(QPalette::Window, QColor(0x31, 0x30, 0x34));
     timeLabel->setPalette(opaque);
     timeLabel->setAutoFillBackground(true);
+    timeLabel->setMask(QRect(0, 0, timeLabelSize.width(), timeLabelSize.height() - 5));
     timeLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
     timeLabel->hide();
     timeLabel->lower();

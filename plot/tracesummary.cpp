@@ -36,23 +36,6 @@ void addUnblocked(
 
 } // namespace
 
-void TraceExtent::add(float value)
-{
-    if (!std::isfinite(value)) {
-        broken = true;
-        return;
-    }
-    min = std::min(min, value);
-    max = std::max(max, value);
-}
-
-void TraceExtent::add(const TraceExtent &other)
-{
-    min = std::min(min, other.min);
-    max = std::max(max, other.max);
-    broken = broken || other.broken;
-}
-
 TraceSummary::TraceSummary(const QVector<float> &values) : m_values(values)
 {
     if (values.size() <= fanOut)

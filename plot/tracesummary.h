@@ -2,6 +2,8 @@
 
 #include <QVector>
 
+#include <algorithm>
+#include <cmath>
 #include <limits>
 
 // The smallest and largest of a run of samples, and whether some of them are not finite numbers.
@@ -11,8 +13,21 @@ struct TraceExtent {
     bool broken = false;
 
     bool isEmpty() const { return min > max; } // no finite sample
-    void add(float value);
-    void add(const TraceExtent &other);
+    void add(float value)
+    {
+        if (std::isfinite(value)) {
+            min = std::min(min, value);
+            max = std::max(max, value);
+        } else {
+            broken = true;
+        }
+    }
+    void add(const TraceExtent &other)
+    {
+        min = std::min(min, other.min);
+        max = std::max(max, other.max);
+        broken = broken || other.broken;
+    }
 };
 
 // A series of samples with the extents of ever larger blocks of it, made once, so that the extent
