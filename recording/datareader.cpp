@@ -15,8 +15,9 @@
 namespace {
 
 constexpr int blockSize = 1 << 18; // bytes read at once
-constexpr int blockRows = 256; // lines gathered before they go to their channels
-constexpr int smallestCapacity = 16; // samples made room for, in each of perhaps very many channels
+constexpr size_t mostBlockRows = 256; // lines gathered before they go to their channels
+constexpr size_t mostGathered = 1 << 20; // samples gathered, in perhaps very many channels
+constexpr qint64 mostChannels = 999999; // of a recording, clause 5.3.2
 constexpr int largestLine = 1 << 30; // bytes; a file with a longer one holds no data lines
 
 // The end of the field that begins at a place: its comma, or the end of the line.
@@ -135,11 +136,11 @@ private:
     struct AnalogColumn {
         AnalogChannel *channel;
         float b;
-        std::array<float, blockRows> block;
+        float *block;
     };
     struct DigitalColumn {
         DigitalChannel *channel;
-        std::array<int, blockRows> block;
+        int *block;
     };
 
     // False where the line ends the data.
@@ -167,7 +168,7 @@ private:
         for (DigitalColumn &column : m_digital)
             column.block[m_gathered] = fields.toInt();
         ++m_rows;
-        if (++m_gathered == blockRows)
+        if (++m_gathered == m_blockRows)
             deliver();
         return true;
     }
@@ -177,19 +178,33 @@ private:
     {
         const qint64 fields = std::count(begin, end, ',') + 1 - 2;
         const qint64 promised = std::max(m_recording.analogChannelCount, 0);
-        const qint64 analog
-            = std::min(promised, std::max<qint64>(fields, m_recording.analogIndexes.size()));
-        const qint64 digital = std::min(m_recording.totalChannelCount - promised,
-            std::max<qint64>(fields - promised, m_recording.digitalIndexes.size()));
+        const qint64 analog = std::min(
+            {promised, mostChannels, std::max<qint64>(fields, m_recording.analogIndexes.size())});
+        const qint64 digital
+            = std::min({m_recording.totalChannelCount - promised, mostChannels - analog,
+                std::max<qint64>(fields - promised, m_recording.digitalIndexes.size())});
         for (int k = m_recording.analogChannels.size(); k < analog; ++k)
             m_recording.analogChannels.append(newAnalogChannel(m_recording, k));
         for (int j = m_recording.digitalChannels.size(); j < digital; ++j)
             m_recording.digitalChannels.append(newDigitalChannel(m_recording, j));
-        for (int k = 0; k < analog; ++k)
-            m_analog.push_back(
-                {m_recording.analogChannels.at(k), m_recording.analogB.value(k, 0.0F), {}});
-        for (int j = 0; j < digital; ++j)
-            m_digital.push_back({m_recording.digitalChannels.at(j), {}});
+        makeColumns(static_cast<size_t>(std::max<qint64>(analog, 0)),
+            static_cast<size_t>(std::max<qint64>(digital, 0)));
+    }
+
+    void makeColumns(size_t analog, size_t digital)
+    {
+        m_blockRows = std::clamp<size_t>(
+            mostGathered / std::max<size_t>(analog + digital, 1), 1, mostBlockRows);
+        m_analogBlocks.resize(analog * m_blockRows);
+        m_digitalBlocks.resize(digital * m_blockRows);
+        for (size_t k = 0; k < analog; ++k) {
+            const int row = static_cast<int>(k);
+            m_analog.push_back({m_recording.analogChannels.at(row),
+                m_recording.analogB.value(row, 0.0F), &m_analogBlocks[k * m_blockRows]});
+        }
+        for (size_t j = 0; j < digital; ++j)
+            m_digital.push_back({m_recording.digitalChannels.at(static_cast<int>(j)),
+                &m_digitalBlocks[j * m_blockRows]});
     }
 
     // Makes room for as many lines as the device holds when all are as long as the first one, or as
@@ -212,7 +227,7 @@ private:
 
     void deliver()
     {
-        append(m_recording.sampleTimes, m_times);
+        append(m_recording.sampleTimes, m_times.data());
         for (const AnalogColumn &column : m_analog) {
             append(column.channel->rawValues, column.block);
             appendScaled(*column.channel, column);
@@ -220,32 +235,30 @@ private:
         for (const DigitalColumn &column : m_digital) {
             append(column.channel->values, column.block);
             column.channel->allZero = column.channel->allZero
-                && std::all_of(column.block.cbegin(),
-                    column.block.cbegin() + static_cast<std::ptrdiff_t>(m_gathered),
-                    [](int state) { return state == 0; });
+                && std::all_of(
+                    column.block, column.block + m_gathered, [](int state) { return state == 0; });
         }
         m_gathered = 0;
     }
 
-    template <typename Number>
-    void append(QVector<Number> &series, const std::array<Number, blockRows> &block) const
+    template <typename Number> void append(QVector<Number> &series, const Number *block) const
     {
         const int count = series.size();
         series.resize(count + static_cast<int>(m_gathered));
-        std::copy_n(block.cbegin(), m_gathered, series.begin() + count);
+        std::copy_n(block, m_gathered, series.begin() + count);
     }
 
     void appendScaled(AnalogChannel &channel, const AnalogColumn &column) const
     {
         const auto a = static_cast<double>(channel.a);
         const auto b = static_cast<double>(column.b);
-        std::array<float, blockRows> scaled;
+        std::array<float, mostBlockRows> scaled;
         for (size_t row = 0; row < m_gathered; ++row) {
             scaled[row] = narrowed(a * static_cast<double>(column.block[row]) + b);
             channel.maxValue = std::max(channel.maxValue, scaled[row]);
             channel.minValue = std::min(channel.minValue, scaled[row]);
         }
-        append(channel.values, scaled);
+        append(channel.values, scaled.data());
     }
 
     void finish()
@@ -278,7 +291,10 @@ private:
     int m_rows = 0;
     size_t m_gathered = 0; // rows in the blocks
     qint64 m_bytes = 0; // of the lines read
-    std::array<double, blockRows> m_times;
+    size_t m_blockRows = mostBlockRows;
+    std::array<double, mostBlockRows> m_times;
+    std::vector<float> m_analogBlocks;
+    std::vector<int> m_digitalBlocks;
     std::vector<AnalogColumn> m_analog;
     std::vector<DigitalColumn> m_digital;
 };
