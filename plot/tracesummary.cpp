@@ -1,7 +1,6 @@
 #include "tracesummary.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
