@@ -207,6 +207,8 @@ private slots:
     void missingFactorsAreOne();
     void countsThatDisagree_data();
     void countsThatDisagree();
+    void veryManyChannelsAreRead();
+    void noMoreChannelsThanTheStandardAllows();
     void allChannelsShareOneTimeList();
     void aSecondReadingAppends();
     void anyFileReadsAsThePlainReaderReadsIt_data();
@@ -492,6 +494,49 @@ void TestDataReader::countsThatDisagree()
     QCOMPARE(undefined.values, undefined.rawValues);
     QCOMPARE(undefined.toPrimary, 1.0);
     QCOMPARE(undefined.toSecondary, 1.0);
+}
+
+void TestDataReader::veryManyChannelsAreRead()
+{
+    // So many that fewer lines are gathered at once than there are.
+    constexpr int analog = 15000;
+    constexpr int digital = 5000;
+    constexpr int lines = 120;
+    CFGProperties recording;
+    recording.totalChannelCount = analog + digital;
+    recording.analogChannelCount = analog;
+    QByteArray data;
+    for (int i = 0; i < lines; ++i) {
+        data += "1,0";
+        for (int k = 0; k < analog + digital; ++k)
+            data += ',' + QByteArray::number(k % 100 - i);
+        data += '\n';
+    }
+    read(recording, data);
+    QCOMPARE(recording.sampleCount, lines);
+    QCOMPARE(recording.analogChannels.size(), analog);
+    QCOMPARE(recording.digitalChannels.size(), digital);
+    for (int k : {0, 1, analog - 1}) {
+        const QVector<float> &values = recording.analogChannels.at(k)->values;
+        QCOMPARE(values.size(), lines);
+        for (int i = 0; i < lines; ++i)
+            QCOMPARE(values.at(i), static_cast<float>(k % 100 - i));
+    }
+    const QVector<int> &states = recording.digitalChannels.constLast()->values;
+    QCOMPARE(states.size(), lines);
+    for (int i = 0; i < lines; ++i)
+        QCOMPARE(states.at(i), 99 - i);
+}
+
+void TestDataReader::noMoreChannelsThanTheStandardAllows()
+{
+    CFGProperties recording;
+    recording.totalChannelCount = 2000000000;
+    recording.analogChannelCount = 2000000000;
+    read(recording, QByteArray(1000100, ','));
+    QCOMPARE(recording.sampleCount, 1);
+    QCOMPARE(recording.analogChannels.size(), 999999);
+    QCOMPARE(recording.digitalChannels.size(), 0);
 }
 
 void TestDataReader::allChannelsShareOneTimeList()

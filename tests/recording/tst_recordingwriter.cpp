@@ -1,0 +1,841 @@
+#include "cfgproperties.h"
+#include "recordingwriter.h"
+
+#include "recordingbuilder.h"
+
+#include <QtTest>
+
+#include <cmath>
+#include <limits>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
+Q_DECLARE_METATYPE(ConfigurationText)
+
+namespace {
+
+const double infinite = std::numeric_limits<double>::infinity();
+
+QByteArray contents(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
+}
+
+// Two analog channels and one digital one, a sample each millisecond from 0 to last.
+ConfigurationText configurationText()
+{
+    ConfigurationText text;
+    text.analog = QByteArrayList{
+        "1,IL1,A,Bay,A,0.5,-1,3.25,-32767,32767,400,1,S", "2,UL1,B,,V,2,0,0,-100,100,20000,100,P"};
+    text.digital = QByteArrayList{"1,TRIP,x,y,0"};
+    return text;
+}
+
+QByteArray dataUpTo(int last)
+{
+    QByteArray data;
+    for (int i = 0; i <= last; ++i)
+        data += QByteArray::number(i + 1) + ',' + QByteArray::number(i * 1000) + ','
+            + QByteArray::number(i % 7) + ',' + QByteArray::number(-i) + ','
+            + QByteArray::number(i % 2) + '\n';
+    return data;
+}
+
+// What a writer made.
+struct Written {
+    RecordingWriter::Outcome outcome;
+    QByteArray configuration;
+    QByteArray data;
+
+    QByteArray line(int number) const // counted from 1
+    {
+        return configuration.split('\n').value(number - 1);
+    }
+};
+
+Written written(const CFGProperties &recording, double start, double end,
+    const QStringList &primaries = {}, const QStringList &secondaries = {})
+{
+    const RecordingFolder folder;
+    const RecordingWriter writer(recording, primaries, secondaries);
+    const RecordingWriter::Outcome outcome = writer.write(folder.path("out"), start, end);
+    return {outcome, contents(folder.path("out.cfg")), contents(folder.path("out.dat"))};
+}
+
+Written writtenAsPrimary(const CFGProperties &recording, const QStringList &primaries = {},
+    const QStringList &secondaries = {})
+{
+    const RecordingFolder folder;
+    const RecordingWriter writer(recording, primaries, secondaries);
+    const RecordingWriter::Outcome outcome = writer.writeAsPrimary(folder.path("out"));
+    return {outcome, contents(folder.path("out.cfg")), contents(folder.path("out.dat"))};
+}
+
+} // namespace
+
+class TestRecordingWriter : public QObject {
+    Q_OBJECT
+
+private slots:
+    void aWholeRecordingIsWrittenLineByLine();
+    void aRangeOfALongRecording();
+    void samplesOfARange_data();
+    void samplesOfARange();
+    void anEmptyRangeIsCountedFromBeforeTheStart();
+    void timesOfARange_data();
+    void timesOfARange();
+    void generalNumbers_data();
+    void generalNumbers();
+    void ratings_data();
+    void ratings();
+    void valuesOfData_data();
+    void valuesOfData();
+    void stampsOfData_data();
+    void stampsOfData();
+    void channelsOfOneKind_data();
+    void channelsOfOneKind();
+    void rateLines_data();
+    void rateLines();
+    void shortDefinitionsAreFilledWithEmptyTexts();
+    void recordsWithoutDefinitionsHaveLines();
+    void lettersGoOutAsTheyCameIn();
+    void lettersBeyondLatin1GoOutAsUtf8();
+    void targetNames_data();
+    void targetNames();
+    void whatWasThereIsReplaced();
+    void filesThatCannotBeOpenedAreSilent_data();
+    void filesThatCannotBeOpenedAreSilent();
+    void aFileThatCannotBeWrittenInFullIsTold_data();
+    void aFileThatCannotBeWrittenInFullIsTold();
+    void asPrimaryTurnsSecondaryChannels();
+    void asPrimaryWritesEverySample();
+    void asPrimaryShowsTheSameValuesWhenOpened();
+    void aTextExportCanBeWritten();
+    void aCopyReadsAsTheOriginalAndCopiesToTheSameBytes_data();
+    void aCopyReadsAsTheOriginalAndCopiesToTheSameBytes();
+};
+
+void TestRecordingWriter::aWholeRecordingIsWrittenLineByLine()
+{
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, configurationText().text(), dataUpTo(3));
+    const Written copy = written(recording, -1000, 1000);
+    QVERIFY(!copy.outcome.hasFailed());
+    QCOMPARE(copy.configuration,
+        QByteArray("Harju,Feeder J07,1999\n"
+                   "3,2A,1D\n"
+                   "1,IL1,A,Bay,A,0.5,-1,3.25,-32767,32767,400.000000,1.000000,S\n"
+                   "2,UL1,B,,V,2,0,0,-100,100,20000.000000,100.000000,P\n"
+                   "1,TRIP,x,y,0\n"
+                   "50.000000\n"
+                   "1\n"
+                   "1000.000000,4\n"
+                   "15/03/2024,10:00:00.000\n"
+                   "15/03/2024,10:00:00.000\n" // the trigger lies behind the end
+                   "ASCII\n"
+                   "1"));
+    QCOMPARE(copy.data,
+        QByteArray("1,0,0,0,0\n"
+                   "2,1000,1,-1,1\n"
+                   "3,2000,2,-2,0\n"
+                   "4,3000,3,-3,1"));
+}
+
+void TestRecordingWriter::aRangeOfALongRecording()
+{
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, configurationText().text(), dataUpTo(300));
+    const Written copy = written(recording, 100, 200);
+    const QByteArrayList lines = copy.data.split('\n');
+    QCOMPARE(lines.size(), 101);
+    QVERIFY2(lines.constFirst().startsWith("101,0,"), lines.constFirst().constData());
+    QVERIFY2(lines.constLast().startsWith("201,100000,"), lines.constLast().constData());
+    QCOMPARE(copy.line(8), QByteArray("1000.000000,101"));
+    QCOMPARE(copy.line(9), QByteArray("15/03/2024,10:00:00.100"));
+    QCOMPARE(copy.line(10), QByteArray("15/03/2024,10:00:00.100"));
+}
+
+void TestRecordingWriter::samplesOfARange_data()
+{
+    QTest::addColumn<double>("start");
+    QTest::addColumn<double>("end");
+    QTest::addColumn<QByteArray>("data"); // of samples at 0, 1, 2 and 3 ms
+    const double notANumber = std::numeric_limits<double>::quiet_NaN();
+    QTest::newRow("both ends belong to it")
+        << 1.0 << 2.0 << QByteArray("2,0,1,-1,1\n3,1000,2,-2,0");
+    QTest::newRow("between samples") << 0.5 << 2.5 << QByteArray("2,0,1,-1,1\n3,1000,2,-2,0");
+    QTest::newRow("one sample") << 3.0 << 3.0 << QByteArray("4,0,3,-3,1");
+    QTest::newRow("up to the first") << -5.0 << 0.0 << QByteArray("1,0,0,0,0");
+    QTest::newRow("between two samples: none") << 1.2 << 1.8 << QByteArray();
+    QTest::newRow("behind the last: none") << 3.5 << 9.0 << QByteArray();
+    QTest::newRow("before the first: none") << -9.0 << -1.0 << QByteArray();
+    QTest::newRow("start behind the end: none") << 2.0 << 1.0 << QByteArray();
+    QTest::newRow("an end that is no number ends nowhere")
+        << 2.0 << notANumber << QByteArray("3,0,2,-2,0\n4,1000,3,-3,1");
+    QTest::newRow("a start that is no number is before everything")
+        << notANumber << 0.0 << QByteArray("1,0,0,0,0");
+}
+
+void TestRecordingWriter::samplesOfARange()
+{
+    QFETCH(double, start);
+    QFETCH(double, end);
+    QFETCH(QByteArray, data);
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, configurationText().text(), dataUpTo(3));
+    const Written copy = written(recording, start, end);
+    QCOMPARE(copy.data, data);
+    const int count = data.isEmpty() ? 0 : data.count('\n') + 1;
+    QCOMPARE(copy.line(8), "1000.000000," + QByteArray::number(count));
+}
+
+void TestRecordingWriter::anEmptyRangeIsCountedFromBeforeTheStart()
+{
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, configurationText().text(), dataUpTo(3));
+    const Written copy = written(recording, 50, 60);
+    QVERIFY(!copy.outcome.hasFailed());
+    QCOMPARE(copy.data, QByteArray());
+    QCOMPARE(copy.line(8), QByteArray("1000.000000,0"));
+    QCOMPARE(copy.line(9), QByteArray("15/03/2024,09:59:59.999"));
+    QCOMPARE(copy.line(10), QByteArray("15/03/2024,09:59:59.999"));
+}
+
+void TestRecordingWriter::timesOfARange_data()
+{
+    QTest::addColumn<QByteArray>("startTime");
+    QTest::addColumn<QByteArray>("triggerTime");
+    QTest::addColumn<QByteArray>("stamps"); // of the first and the last sample, microseconds
+    QTest::addColumn<QByteArray>("newStart");
+    QTest::addColumn<QByteArray>("newTrigger");
+    const auto row = [](const char *name, const char *start, const char *trigger,
+                         const char *stamps, const char *newStart, const char *newTrigger) {
+        QTest::newRow(name) << QByteArray(start) << QByteArray(trigger) << QByteArray(stamps)
+                            << QByteArray(newStart) << QByteArray(newTrigger);
+    };
+    row("a trigger inside stays", "10:00:00.000000", "10:00:00.020000", "0 50000", "10:00:00.000",
+        "10:00:00.020");
+    row("a trigger at the start stays", "10:00:00.000", "10:00:00.000", "0 50000", "10:00:00.000",
+        "10:00:00.000");
+    row("a trigger at the end stays", "10:00:00.000", "10:00:00.050", "0 50000", "10:00:00.000",
+        "10:00:00.050");
+    row("a trigger before moves to the start", "10:00:00.000", "10:00:00.020", "30000 50000",
+        "10:00:00.030", "10:00:00.030");
+    row("a trigger behind moves to the start", "10:00:00.000", "10:00:00.051", "0 50000",
+        "10:00:00.000", "10:00:00.000");
+    row("parts of milliseconds are cut", "10:00:00.000", "10:00:00.051", "999 50999",
+        "10:00:00.000", "10:00:00.000");
+    row("the length is cut by itself", "10:00:00.000", "10:00:00.051", "1900 52800", "10:00:00.001",
+        "10:00:00.051");
+    row("a first stamp before 0", "10:00:00.000", "10:00:00.000", "-77500 50000", "09:59:59.923",
+        "10:00:00.000");
+    row("over midnight no trigger lies inside", "23:59:59.990", "23:59:59.995", "0 50000",
+        "23:59:59.990", "23:59:59.990");
+    row("a start over midnight", "23:59:59.990", "23:59:59.995", "20000 50000", "00:00:00.010",
+        "00:00:00.010");
+    row("thirty days round the clock", "10:00:00.000", "11:00:00.000",
+        "2595600000000 2595600000000", "11:00:00.000", "11:00:00.000");
+    row("a first stamp without end", "10:00:00.000", "10:00:00.000", "inf inf", "17:12:55.807",
+        "17:12:55.807");
+    row("a start that is no time", "9:00:00.000000", "10:00:00.000", "0 50000", "", "");
+    row("a trigger that is no time", "10:00:00.000", "never", "0 50000", "10:00:00.000",
+        "10:00:00.000");
+    row("neither is a time", "", "", "0 50000", "", "");
+}
+
+void TestRecordingWriter::timesOfARange()
+{
+    QFETCH(QByteArray, startTime);
+    QFETCH(QByteArray, triggerTime);
+    QFETCH(QByteArray, stamps);
+    QFETCH(QByteArray, newStart);
+    QFETCH(QByteArray, newTrigger);
+    ConfigurationText text = configurationText();
+    text.start = "15/03/2024," + startTime;
+    text.trigger = "16/03/2024," + triggerTime;
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, text.text(),
+        "1," + stamps.split(' ').at(0) + ",1,2,0\n2," + stamps.split(' ').at(1) + ",1,2,0\n");
+    const Written copy = written(recording, -infinite, infinite);
+    // The dates are those that were read.
+    QCOMPARE(copy.line(9), "15/03/2024," + newStart);
+    QCOMPARE(copy.line(10), "16/03/2024," + newTrigger);
+}
+
+void TestRecordingWriter::generalNumbers_data()
+{
+    QTest::addColumn<QByteArray>("read");
+    QTest::addColumn<QByteArray>("written");
+    const auto row = [](const char *name, const char *read, const char *written) {
+        QTest::newRow(name) << QByteArray(read) << QByteArray(written);
+    };
+    row("a whole number", "2", "2");
+    row("zeros at the end go", "0.5000", "0.5");
+    row("six digits", "0.0012345678", "0.00123457");
+    row("six digits before the point", "123456.4", "123456");
+    row("a tenth of a thousandth is fixed", "0.0001", "0.0001");
+    row("a hundredth of a thousandth has an exponent", "0.00001", "1e-05");
+    row("digits before an exponent", "0.000012345678", "1.23457e-05");
+    row("rounded up to a million", "999999.5", "1e+06");
+    row("just below that", "999999.4", "999999");
+    row("a million", "1000000", "1e+06");
+    row("an exponent of two digits", "1.5e12", "1.5e+12");
+    row("an exponent of three digits", "1e-120", "1e-120");
+    row("negative", "-3.75", "-3.75");
+    row("nothing", "0", "0");
+    row("minus nothing", "-0", "0");
+    row("infinite", "inf", "inf");
+    row("no number at all", "x", "0");
+}
+
+void TestRecordingWriter::generalNumbers()
+{
+    QFETCH(QByteArray, read);
+    QFETCH(QByteArray, written);
+    ConfigurationText text = configurationText();
+    text.analog[0] = "1,IL1,A,Bay,A,1,0," + read + ",0,0,1,1,S";
+    text.timeMultiplier = read;
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, text.text(), dataUpTo(3));
+    const Written copy = ::written(recording, 0, 3);
+    QCOMPARE(copy.line(3), "1,IL1,A,Bay,A,1,0," + written + ",0,0,1.000000,1.000000,S");
+    QCOMPARE(copy.line(12), written);
+
+    // The multiplier and the offset are floats, of which six digits show the same.
+    if (read == "1e-120")
+        return;
+    text.analog[0] = "1,IL1,A,Bay,A," + read + ',' + read + ",0,0,0,1,1,S";
+    folder.load(recording, text.text(), dataUpTo(3));
+    QCOMPARE(::written(recording, 0, 3).line(3),
+        "1,IL1,A,Bay,A," + written + ',' + written + ",0,0,0,1.000000,1.000000,S");
+}
+
+void TestRecordingWriter::ratings_data()
+{
+    QTest::addColumn<QStringList>("primaries");
+    QTest::addColumn<QStringList>("secondaries");
+    QTest::addColumn<QByteArray>("first");
+    QTest::addColumn<QByteArray>("second");
+    const auto list
+        = [](const char *texts) { return QString::fromLatin1(texts).split(QLatin1Char('|')); };
+    QTest::newRow("of the dialog")
+        << list("600|33000") << list("5|110") << QByteArray("600.000000,5.000000")
+        << QByteArray("33000.000000,110.000000");
+    QTest::newRow("with decimals")
+        << list("0.12345678|1e3") << list("1.5|-2") << QByteArray("0.123457,1.500000")
+        << QByteArray("1000.000000,-2.000000");
+    QTest::newRow("that are no numbers")
+        << list("x|") << list("1,5| 7 ") << QByteArray("0.000000,0.000000")
+        << QByteArray("0.000000,7.000000");
+    QTest::newRow("of a list too short")
+        << list("600") << list("5") << QByteArray("600.000000,5.000000")
+        << QByteArray("20000.000000,100.000000");
+    QTest::newRow("of no list") << QStringList() << QStringList()
+                                << QByteArray("400.000000,1.000000")
+                                << QByteArray("20000.000000,100.000000");
+}
+
+void TestRecordingWriter::ratings()
+{
+    QFETCH(QStringList, primaries);
+    QFETCH(QStringList, secondaries);
+    QFETCH(QByteArray, first);
+    QFETCH(QByteArray, second);
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, configurationText().text(), dataUpTo(3));
+    const Written copy = written(recording, 0, 3, primaries, secondaries);
+    QCOMPARE(copy.line(3), "1,IL1,A,Bay,A,0.5,-1,3.25,-32767,32767," + first + ",S");
+    QCOMPARE(copy.line(4), "2,UL1,B,,V,2,0,0,-100,100," + second + ",P");
+}
+
+void TestRecordingWriter::valuesOfData_data()
+{
+    QTest::addColumn<QByteArray>("read"); // of three channels and a state
+    QTest::addColumn<QByteArray>("written");
+    const auto row = [](const char *name, const char *read, const char *written) {
+        QTest::newRow(name) << QByteArray(read) << QByteArray(written);
+    };
+    row("whole numbers", "0,32767,-32768,1", "0,32767,-32768,1");
+    row("unscaled, whatever a and b are", "99999,5,-5,0", "99999,5,-5,0");
+    row("below and above a half", "2.4,2.6,-2.6,0", "2,3,-3,0");
+    row("halves go away from zero", "0.5,1.5,-2.5,0", "1,2,-3,0");
+    row("the half below zero too", "-0.5,-1.5,2.5,0", "-1,-2,3,0");
+    row("a little below zero keeps its sign", "-0.4,0.4,-0,0", "-0,0,0,0");
+    row("beyond whole floats", "16777217,1e15,-1e15,0",
+        "16777216,999999986991104,-999999986991104,0");
+    row("beyond 64 bits", "1e20,-1e20,0,0", "100000002004087734272,-100000002004087734272,0,0");
+    row("beyond all bounds", "inf,-inf,nan,0", "inf,-inf,nan,0");
+    row("missing and empty", ",,", "0,0,0,0");
+    row("states as read", "1,2,3,-7", "1,2,3,-7");
+    row("the smallest state", "1,2,3,-2147483648", "1,2,3,-2147483648");
+}
+
+void TestRecordingWriter::valuesOfData()
+{
+    QFETCH(QByteArray, read);
+    QFETCH(QByteArray, written);
+    ConfigurationText text = configurationText();
+    text.analog = QByteArrayList{analogLine(1, "3", "7"), analogLine(2), analogLine(3)};
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, text.text(), "9,0," + read + '\n');
+    QCOMPARE(::written(recording, -1, 1).data, "1,0," + written);
+}
+
+void TestRecordingWriter::stampsOfData_data()
+{
+    QTest::addColumn<QByteArray>("read"); // separated by blanks
+    QTest::addColumn<QByteArray>("written");
+    const auto row = [](const char *name, const char *read, const char *written) {
+        QTest::newRow(name) << QByteArray(read) << QByteArray(written);
+    };
+    row("from 0", "0 833 1667 2500", "0 833 1667 2500");
+    row("a late start moves to 0", "72500 73333 74167", "0 833 1667");
+    row("an early start moves to 0", "-77500 -76667 0", "0 833 77500");
+    row("parts of a microsecond are rounded", "0 833.4 1666.6", "0 833 1667");
+    row("beyond 32 bits", "0 17258333000", "0 17258333000");
+    row("stamps that run back", "5000 4000", "0 -1000");
+    row("no stamps", "x x", "0 0");
+}
+
+void TestRecordingWriter::stampsOfData()
+{
+    QFETCH(QByteArray, read);
+    QFETCH(QByteArray, written);
+    QByteArray data;
+    for (const QByteArray &stamp : read.split(' '))
+        data += "1," + stamp + ",1,2,0\n";
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, configurationText().text(), data);
+    QByteArrayList stamps;
+    for (const QByteArray &line : ::written(recording, -infinite, infinite).data.split('\n'))
+        stamps += line.split(',').value(1);
+    QCOMPARE(stamps.join(' '), written);
+}
+
+void TestRecordingWriter::channelsOfOneKind_data()
+{
+    QTest::addColumn<int>("analog");
+    QTest::addColumn<int>("digital");
+    QTest::addColumn<QByteArray>("counts");
+    QTest::addColumn<QByteArray>("data");
+    QTest::newRow("no digital channel: the line ends with a comma")
+        << 2 << 0 << QByteArray("2,2A,0D") << QByteArray("1,0,5,6,\n2,1000,7,8,");
+    QTest::newRow("no analog channel")
+        << 0 << 2 << QByteArray("2,0A,2D") << QByteArray("1,0,5,6\n2,1000,7,8");
+    QTest::newRow("no channel at all")
+        << 0 << 0 << QByteArray("0,0A,0D") << QByteArray("1,0,\n2,1000,");
+}
+
+void TestRecordingWriter::channelsOfOneKind()
+{
+    QFETCH(int, analog);
+    QFETCH(int, digital);
+    QFETCH(QByteArray, counts);
+    QFETCH(QByteArray, data);
+    ConfigurationText text;
+    for (int k = 1; k <= analog; ++k)
+        text.analog += analogLine(k);
+    for (int j = 1; j <= digital; ++j)
+        text.digital += digitalLine(j);
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, text.text(), "1,0,5,6\n2,1000,7,8\n");
+    const Written copy = written(recording, 0, 10);
+    QCOMPARE(copy.line(2), counts);
+    QCOMPARE(copy.data, data);
+}
+
+void TestRecordingWriter::rateLines_data()
+{
+    QTest::addColumn<QByteArrayList>("rates");
+    QTest::addColumn<QByteArrayList>("written");
+    QTest::newRow("one") << QByteArrayList{"7680.25,3"} << QByteArrayList{"1", "7680.250000,4"};
+    QTest::newRow("three become the last one three times") << QByteArrayList{"1000,10", "2000,20",
+        "4000,30"} << QByteArrayList{"3", "4000.000000,4", "4000.000000,4", "4000.000000,4"};
+    QTest::newRow("none") << QByteArrayList() << QByteArrayList{"0"};
+}
+
+void TestRecordingWriter::rateLines()
+{
+    QFETCH(QByteArrayList, rates);
+    QFETCH(QByteArrayList, written);
+    ConfigurationText text = configurationText();
+    text.rates = rates;
+    text.frequency = "16.7";
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, text.text(), dataUpTo(3));
+    const QByteArrayList lines = ::written(recording, 0, 3).configuration.split('\n');
+    QCOMPARE(lines.at(5), QByteArray("16.700000"));
+    QCOMPARE(lines.mid(6, written.size()), written);
+    QVERIFY2(lines.at(6 + written.size()).startsWith("15/03/2024,"), lines.at(7).constData());
+}
+
+void TestRecordingWriter::shortDefinitionsAreFilledWithEmptyTexts()
+{
+    ConfigurationText text = configurationText();
+    text.analog[1] = "2,UL1,B,,V,2,0,0,-100,100"; // as the edition before has it
+    text.digital = QByteArrayList{"1,TRIP,x,y,0", "2,CLOSE,0"};
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, text.text(), dataUpTo(3));
+    const Written copy = written(recording, 0, 3);
+    QCOMPARE(copy.line(4), QByteArray("2,UL1,B,,V,2,0,0,-100,100,0.000000,0.000000,"));
+    // The phase was kept with the line end behind it, which must not start a line here.
+    QCOMPARE(copy.line(6), QByteArray("2,CLOSE,0,,"));
+    QCOMPARE(copy.line(7), QByteArray("50.000000"));
+}
+
+void TestRecordingWriter::recordsWithoutDefinitionsHaveLines()
+{
+    // A configuration cut off behind its first channel.
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, "Harju,J07,1999\n3,2A,1D\n" + analogLine(1) + '\n', "1,0,5,6,1\n");
+    QCOMPARE(recording.analogChannels.size(), 2);
+    const Written copy = written(recording, 0, 3);
+    QCOMPARE(copy.line(4), QByteArray("0,,,,,1,0,0,0,0,1.000000,1.000000,"));
+    QCOMPARE(copy.line(5), QByteArray("0,,,,"));
+    QCOMPARE(copy.line(6), QByteArray("0.000000"));
+    QCOMPARE(copy.data, QByteArray("1,0,5,6,1"));
+}
+
+void TestRecordingWriter::lettersGoOutAsTheyCameIn()
+{
+    ConfigurationText text = configurationText();
+    text.station = "H\xe4rj\xe4,J\xc3\xa4,2013";
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, text.text(), dataUpTo(3));
+    QCOMPARE(written(recording, 0, 3).line(1), text.station);
+}
+
+void TestRecordingWriter::lettersBeyondLatin1GoOutAsUtf8()
+{
+    const RecordingFolder folder;
+    QVERIFY(writeTextFile(
+        folder.path("rec.txt"), "#J\xc3\xa4nnite[\xce\xa9]\n01/02/2020-10:00:00:000,5\n"));
+    CFGProperties recording;
+    recording.filePath = folder.path("rec.txt");
+    recording.init();
+    QCOMPARE(written(recording, 0, 3).line(3),
+        QByteArray("0,J\xc3\xa4nnite,,,\xce\xa9,1,0,0,-99999,99999,1.000000,1.000000,P"));
+}
+
+void TestRecordingWriter::targetNames_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<QStringList>("files");
+    const auto row = [](const char *name, const char *target, const char *files) {
+        QTest::newRow(name) << QString::fromLatin1(target)
+                            << QString::fromLatin1(files).split(QLatin1Char(' '));
+    };
+    row("no extension", "out", "out.cfg out.dat");
+    row("the extension", "out.cfg", "out.cfg out.dat");
+    row("the extension in capitals", "out.CFG", "out.CFG.cfg out.CFG.dat");
+    row("the extension of the data", "out.dat", "out.dat.cfg out.dat.dat");
+    row("the extension twice", "out.cfg.cfg", "out.cfg.cfg out.cfg.dat");
+    row("the extension inside", "out.cfg.old", "out.cfg.old.cfg out.cfg.old.dat");
+    row("a point at the end", "out.", "out..cfg out..dat");
+}
+
+void TestRecordingWriter::targetNames()
+{
+    QFETCH(QString, target);
+    QFETCH(QStringList, files);
+    const RecordingFolder source;
+    CFGProperties recording;
+    source.load(recording, configurationText().text(), dataUpTo(3));
+    const RecordingWriter writer(recording, {}, {});
+    const QTemporaryDir folder;
+    writer.write(folder.filePath(target), 0, 3);
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files, QDir::Name), files);
+    const QTemporaryDir other;
+    writer.writeAsPrimary(other.filePath(target));
+    QCOMPARE(QDir(other.path()).entryList(QDir::Files, QDir::Name), files);
+}
+
+void TestRecordingWriter::whatWasThereIsReplaced()
+{
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, configurationText().text(), dataUpTo(3));
+    QVERIFY(writeTextFile(folder.path("out.cfg"), QByteArray(100000, 'x')));
+    QVERIFY(writeTextFile(folder.path("out.dat"), QByteArray(100000, 'x')));
+    const auto outcome = RecordingWriter(recording, {}, {}).write(folder.path("out"), 1, 1);
+    QVERIFY(!outcome.hasFailed());
+    QCOMPARE(contents(folder.path("out.dat")), QByteArray("2,0,1,-1,1"));
+    QVERIFY(contents(folder.path("out.cfg")).startsWith("Harju,"));
+    QVERIFY(contents(folder.path("out.cfg")).endsWith("\nASCII\n1"));
+}
+
+void TestRecordingWriter::filesThatCannotBeOpenedAreSilent_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<bool>("hasConfiguration");
+    QTest::addColumn<bool>("hasData");
+    QTest::newRow("a folder that is not there") << QStringLiteral("missing/out") << false << false;
+    QTest::newRow("a folder in the configuration's place")
+        << QStringLiteral("cfg-taken") << false << true;
+    QTest::newRow("a folder in the data's place") << QStringLiteral("dat-taken") << true << false;
+    QTest::newRow("a folder without write permission")
+        << QStringLiteral("locked/out") << false << false;
+}
+
+void TestRecordingWriter::filesThatCannotBeOpenedAreSilent()
+{
+    QFETCH(QString, target);
+    QFETCH(bool, hasConfiguration);
+    QFETCH(bool, hasData);
+    const QTemporaryDir folder;
+    const QDir dir(folder.path());
+    QVERIFY(dir.mkdir(QStringLiteral("cfg-taken.cfg")));
+    QVERIFY(dir.mkdir(QStringLiteral("dat-taken.dat")));
+    QVERIFY(dir.mkdir(QStringLiteral("locked")));
+    const QString locked = folder.filePath(QStringLiteral("locked"));
+    QVERIFY(QFile::setPermissions(locked, QFile::ReadOwner | QFile::ExeOwner));
+    if (target.startsWith(QLatin1String("locked")) && QFileInfo(locked).isWritable())
+        QSKIP("This user may write everywhere.");
+    const RecordingFolder source;
+    CFGProperties recording;
+    source.load(recording, configurationText().text(), dataUpTo(3));
+    const auto outcome = RecordingWriter(recording, {}, {}).write(folder.filePath(target), 0, 3);
+    QVERIFY2(!outcome.hasFailed(), qPrintable(outcome.error));
+    QCOMPARE(QFileInfo(folder.filePath(target + QLatin1String(".cfg"))).isFile(), hasConfiguration);
+    QCOMPARE(QFileInfo(folder.filePath(target + QLatin1String(".dat"))).isFile(), hasData);
+}
+
+void TestRecordingWriter::aFileThatCannotBeWrittenInFullIsTold_data()
+{
+    QTest::addColumn<int>("samples");
+    QTest::addColumn<int>("room"); // bytes a file may have
+    QTest::addColumn<QString>("failed");
+    QTest::newRow("the configuration does not fit") << 3 << 50 << QStringLiteral("out.cfg");
+    QTest::newRow("the last bytes of the data do not fit")
+        << 300 << 1000 << QStringLiteral("out.dat");
+    QTest::newRow("data of several blocks do not fit")
+        << 60000 << 700000 << QStringLiteral("out.dat");
+}
+
+void TestRecordingWriter::aFileThatCannotBeWrittenInFullIsTold()
+{
+#ifdef Q_OS_UNIX
+    QFETCH(int, samples);
+    QFETCH(int, room);
+    QFETCH(QString, failed);
+    const QTemporaryDir folder;
+    const QString configuration = folder.filePath(QStringLiteral("out.cfg"));
+    const QString data = folder.filePath(QStringLiteral("out.dat"));
+    QVERIFY(writeTextFile(configuration, "as before"));
+    QVERIFY(writeTextFile(data, "as before"));
+    const RecordingFolder source;
+    CFGProperties recording;
+    source.load(recording, configurationText().text(), dataUpTo(samples));
+
+    rlimit before{};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limited{static_cast<rlim_t>(room), before.rlim_max};
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &limited), 0);
+    const RecordingWriter writer(recording, {}, {});
+    const auto outcome = writer.write(configuration, -infinite, infinite);
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, handler);
+
+    QVERIFY(outcome.hasFailed());
+    QCOMPARE(outcome.failedFile, folder.filePath(failed));
+    QVERIFY(!outcome.error.isEmpty());
+    // What was there stays, both of it, and nothing half-written is left beside it.
+    QCOMPARE(contents(configuration), QByteArray("as before"));
+    QCOMPARE(contents(data), QByteArray("as before"));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+#else
+    QSKIP("Only where a process can limit its own files.");
+#endif
+}
+
+void TestRecordingWriter::asPrimaryTurnsSecondaryChannels()
+{
+    ConfigurationText text = configurationText();
+    text.analog += "3,IL3,C,,A,0.25,2,0,0,0,500,5,s";
+    text.analog += "4,IL4,C,,A,0.25,2,0,0,0,500,0,S";
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, text.text(), "1,0,1,2,3,4,1\n2,1000,-1,-2,-3,-4,0\n");
+    const Written copy
+        = writtenAsPrimary(recording, QStringList{QStringLiteral("600"), QStringLiteral("33000")},
+            QStringList{QStringLiteral("5"), QStringLiteral("110")});
+    QVERIFY(!copy.outcome.hasFailed());
+    QCOMPARE(copy.configuration,
+        QByteArray("Harju,Feeder J07,1999\n"
+                   "5,4A,1D\n"
+                   "1,IL1,A,Bay,A,200,-400,3.25,-32767,32767,600.000000,5.000000,P\n"
+                   "2,UL1,B,,V,2,0,0,-100,100,33000.000000,110.000000,P\n"
+                   "3,IL3,C,,A,0.25,2,0,0,0,500.000000,5.000000,P\n"
+                   "4,IL4,C,,A,0.25,2,0,0,0,500.000000,0.000000,P\n"
+                   "1,TRIP,x,y,0\n"
+                   "50.000000\n"
+                   "1\n"
+                   "1000.000000,2\n"
+                   "15/03/2024,10:00:00.000\n"
+                   "15/03/2024,10:00:00.000\n"
+                   "ASCII\n"
+                   "1"));
+    QCOMPARE(copy.data, QByteArray("1,0,1,2,3,4,1\n2,1000,-1,-2,-3,-4,0"));
+}
+
+void TestRecordingWriter::asPrimaryWritesEverySample()
+{
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(
+        recording, configurationText().text(), "1,-5000,1,2,0\n2,0,3,4,1\n3,90000000,5,6,0\n");
+    const Written copy = writtenAsPrimary(recording);
+    QCOMPARE(copy.data, QByteArray("1,0,1,2,0\n2,5000,3,4,1\n3,90005000,5,6,0"));
+    QCOMPARE(copy.line(8), QByteArray("1000.000000,3"));
+    QCOMPARE(copy.line(9), QByteArray("15/03/2024,09:59:59.995"));
+    QCOMPARE(copy.line(10), QByteArray("15/03/2024,10:00:00.020"));
+}
+
+void TestRecordingWriter::asPrimaryShowsTheSameValuesWhenOpened()
+{
+    ConfigurationText text = configurationText();
+    text.analog[0] = "1,IL1,A,Bay,A,0.0123456,-1.5,0,0,0,600,5,S";
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, text.text(), dataUpTo(40));
+    RecordingWriter(recording, {}, {}).writeAsPrimary(folder.path("copy"));
+    CFGProperties copy;
+    copy.filePath = folder.path("copy.cfg");
+    copy.init();
+    QCOMPARE(copy.loaded, 1);
+    QCOMPARE(copy.sampleCount, 41);
+    for (int k = 0; k < 2; ++k) {
+        const AnalogChannel &one = *recording.analogChannels.at(k);
+        const AnalogChannel &other = *copy.analogChannels.at(k);
+        for (int i = 0; i < 41; ++i) {
+            const double value = static_cast<double>(one.values.at(i));
+            const double copied = static_cast<double>(other.values.at(i));
+            QVERIFY(std::abs(copied * other.toPrimary - value * one.toPrimary)
+                <= 2e-6 * std::abs(value * one.toPrimary) + 1e-3);
+            QVERIFY(std::abs(copied * other.toSecondary - value * one.toSecondary)
+                <= 2e-6 * std::abs(value * one.toSecondary) + 1e-5);
+        }
+        QCOMPARE(other.ps, QStringLiteral("P"));
+    }
+    QCOMPARE(copy.analogChannels.at(0)->toPrimary, 1.0);
+    // 5 by 600, of values that are 120 times as large.
+    QCOMPARE(copy.analogChannels.at(0)->toSecondary, 1.0 / 120);
+    QCOMPARE(copy.analogA.at(0), 1.48147F);
+    QCOMPARE(copy.analogB.at(0), -180.0F);
+}
+
+void TestRecordingWriter::aTextExportCanBeWritten()
+{
+    const RecordingFolder folder;
+    QVERIFY(writeTextFile(folder.path("rec.txt"),
+        "#Ua[kV],Freq\n01/02/2020-10:00:00:000,1.5,50\n01/02/2020-10:00:00:020,-2.25,49\n"));
+    CFGProperties recording;
+    recording.filePath = folder.path("rec.txt");
+    recording.init();
+    const Written copy = written(recording, 0, 20);
+    // Its start time has a colon before the milliseconds and is no time of a configuration.
+    QCOMPARE(copy.configuration,
+        QByteArray(",,\n"
+                   "2,2A,0D\n"
+                   "0,Ua,,,kV,1,0,0,-99999,99999,1.000000,1.000000,P\n"
+                   "1,Freq,,,Freq,1,0,0,-99999,99999,1.000000,1.000000,P\n"
+                   "1.000000\n"
+                   "1\n"
+                   "1.000000,2\n"
+                   "01/02/2020,\n"
+                   ",\n"
+                   "\n"
+                   "1"));
+    QCOMPARE(copy.data, QByteArray("1,0,2,50,\n2,20000,-2,49,"));
+}
+
+void TestRecordingWriter::aCopyReadsAsTheOriginalAndCopiesToTheSameBytes_data()
+{
+    QTest::addColumn<ConfigurationText>("text");
+    QTest::addColumn<int>("last");
+    ConfigurationText text = configurationText();
+    QTest::newRow("a recording of both kinds") << text << 400;
+    text.start = "15/03/2024,10:00:00.123456";
+    text.rates = QByteArrayList{"1000,10", "7680.25,401"};
+    text.analog[0] = "1,IL1,A,Bay,A,3.2e-7,-1.25e9,3.25,-32767,32767,400,1,S";
+    text.fileType = "BINARY";
+    text.timeMultiplier = "0.001";
+    QTest::newRow("numbers with exponents, two rates") << text << 400;
+    text.analog[1] = "2,UL1,B,,V,2,0,0,-100,100,20000,100,s";
+    QTest::newRow("a flag that is none") << text << 400;
+    text.digital.clear();
+    QTest::newRow("no digital channels") << text << 400;
+    QTest::newRow("one sample") << text << 0;
+    QTest::newRow("several blocks of data") << configurationText() << 60000;
+}
+
+void TestRecordingWriter::aCopyReadsAsTheOriginalAndCopiesToTheSameBytes()
+{
+    QFETCH(ConfigurationText, text);
+    QFETCH(int, last);
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, text.text(), dataUpTo(last));
+    const Written first = written(recording, -infinite, infinite);
+    QVERIFY(!first.outcome.hasFailed());
+
+    CFGProperties copy;
+    folder.load(copy, first.configuration + '\n', first.data, "first");
+    QCOMPARE(copy.loaded, 1);
+    QCOMPARE(copy.stationName, recording.stationName);
+    QCOMPARE(copy.recordingDeviceId, recording.recordingDeviceId);
+    QCOMPARE(copy.revisionYear, recording.revisionYear);
+    QCOMPARE(copy.analogIds, recording.analogIds);
+    QCOMPARE(copy.analogA, recording.analogA);
+    QCOMPARE(copy.analogB, recording.analogB);
+    QCOMPARE(copy.analogSkews, recording.analogSkews);
+    QCOMPARE(copy.analogMins, recording.analogMins);
+    QCOMPARE(copy.psFlags, recording.psFlags);
+    QCOMPARE(copy.toPrimary, recording.toPrimary);
+    QCOMPARE(copy.digitalIds, recording.digitalIds);
+    QCOMPARE(copy.digitalNormalStates, recording.digitalNormalStates);
+    QCOMPARE(copy.sampleRate, recording.sampleRate);
+    QCOMPARE(copy.lineFrequency, recording.lineFrequency);
+    QCOMPARE(copy.lastSampleNumber, last + 1);
+    QCOMPARE(copy.startTime, recording.startTime);
+    QCOMPARE(copy.fileType, recording.fileType);
+    QCOMPARE(copy.timeMultiplier, recording.timeMultiplier);
+    QCOMPARE(copy.sampleTimes, recording.sampleTimes);
+    QCOMPARE(copy.analogChannels.size(), recording.analogChannels.size());
+    for (int k = 0; k < copy.analogChannels.size(); ++k) {
+        QCOMPARE(copy.analogChannels.at(k)->rawValues, recording.analogChannels.at(k)->rawValues);
+        QCOMPARE(copy.analogChannels.at(k)->values, recording.analogChannels.at(k)->values);
+    }
+    QCOMPARE(copy.digitalChannels.size(), recording.digitalChannels.size());
+    for (int j = 0; j < copy.digitalChannels.size(); ++j)
+        QCOMPARE(copy.digitalChannels.at(j)->values, recording.digitalChannels.at(j)->values);
+
+    // The copy lacks the last line end, as every copy does, and nothing is lost by that.
+    CFGProperties again;
+    folder.load(again, first.configuration, first.data, "again");
+    const Written second = written(again, -infinite, infinite);
+    QCOMPARE(second.configuration, first.configuration);
+    QVERIFY(second.data == first.data);
+}
+
+QTEST_GUILESS_MAIN(TestRecordingWriter)
+#include "tst_recordingwriter.moc"
