@@ -5,7 +5,7 @@
 on_own_display() {
     local size=$1
     shift
-    [ -n "${OWN_DISPLAY:-}" ] && return
+    [ -z "${OWN_DISPLAY:-}" ] || return 0
     export OWN_DISPLAY=$size
     exec xvfb-run -a -s "-screen 0 ${size}x24" "$@"
 }
