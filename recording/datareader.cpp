@@ -157,8 +157,7 @@ private:
             reserve(end - begin);
         }
         m_bytes += end - begin;
-        const auto columns = static_cast<qint64>(m_analog.size() + m_digital.size());
-        if (!isWithinBudget(qint64(m_timesBefore) + m_rows + 1, columns, m_bytes))
+        if (!isWithinBudget(qint64(m_timesBefore) + m_rows + 1, columns(), m_bytes))
             return false;
         LineFields fields(begin, end);
         fields.skip();
@@ -171,6 +170,11 @@ private:
         if (++m_gathered == m_blockRows)
             deliver();
         return true;
+    }
+
+    qint64 columns() const
+    {
+        return static_cast<qint64>(m_analog.size()) + static_cast<qint64>(m_digital.size());
     }
 
     // The promised counts are believed as far as definition lines or fields stand behind them.
@@ -211,8 +215,7 @@ private:
     // long as the fields of a complete one make it.
     void reserve(qint64 lineLength)
     {
-        const auto fields = static_cast<qint64>(2 + m_analog.size() + m_digital.size());
-        const qint64 lines = m_device.size() / std::max(lineLength + 1, 2 * fields);
+        const qint64 lines = m_device.size() / std::max(lineLength + 1, 2 * (2 + columns()));
         const auto extend = [lines](auto &series) {
             series.reserve(static_cast<int>(std::min(mostRows, series.size() + lines)));
         };
