@@ -63,7 +63,7 @@ QByteArray encoded(const QString &text)
 // A time of day moved by milliseconds, truncated to whole ones, round the clock.
 QTime moved(const QTime &time, double milliseconds)
 {
-    constexpr qint64 day = 24 * 60 * 60 * 1000;
+    constexpr qint64 day = 86400000;
     return time.addMSecs(static_cast<int>(truncatedToInt64(milliseconds) % day));
 }
 
