@@ -4,14 +4,14 @@
 #include <QByteArrayList>
 
 #include <cmath>
-#include <cstring>
 #include <random>
 
-// Equal bits, so that the sign of a zero counts; any NaN equals any other.
+// Equal numbers, the sign of a zero included; any NaN equals any other.
 template <typename Number> bool sameBits(Number left, Number right)
 {
-    return std::memcmp(&left, &right, sizeof(Number)) == 0
-        || (std::isnan(static_cast<double>(left)) && std::isnan(static_cast<double>(right)));
+    const bool areNumbers = !std::isnan(left) && !std::isnan(right);
+    return areNumbers ? left == right && std::signbit(left) == std::signbit(right)
+                      : std::isnan(left) && std::isnan(right);
 }
 
 // A field of letters that numbers are made of, and a few that they are not.
