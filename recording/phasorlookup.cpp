@@ -21,10 +21,15 @@ int sampleAt(const QVector<double> &times, double sampleRate, double time, int &
     if (times.constFirst() == time)
         return 0;
     // The first place counts, and times that run back have several: no halving.
-    int i = std::max(firstSearched, searchFrom);
-    while (
-        i < times.size() && times.at(i) != time && !(times.at(i - 1) < time && time < times.at(i)))
-        ++i;
+    const double *const first = times.constData();
+    const double *const last = first + times.size();
+    const auto reached = [time, last](const double *from) {
+        return std::find_if(from, last, [time](double other) { return other >= time; });
+    };
+    const double *at = reached(first + std::clamp(searchFrom, firstSearched, times.size()));
+    while (at != last && *at != time && !(at[-1] < time))
+        at = reached(at + 1);
+    const int i = static_cast<int>(at - first);
     searchFrom = i;
     if (i >= times.size())
         return -1;
