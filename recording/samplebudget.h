@@ -5,11 +5,12 @@
 constexpr qint64 mostRows = 1 << 27; // of samples in a recording
 
 // Whether a reader may take this many rows of samples after so many bytes. A full line has a byte
-// for every sample, so only the samples that stand in for missing fields can use the budget up, and
-// no file makes more rows than a list holds.
+// for every sample, so only the samples that stand in for missing fields can use the budget up. The
+// first row is free, for its channels take more than it does. No file makes more rows than a list
+// holds.
 constexpr bool isWithinBudget(qint64 rows, qint64 columns, qint64 bytes)
 {
     constexpr qint64 samplesForNothing = 1 << 14;
     constexpr qint64 samplesPerByte = 8;
-    return rows <= mostRows && rows * columns <= samplesForNothing + samplesPerByte * bytes;
+    return rows <= mostRows && (rows - 1) * columns <= samplesForNothing + samplesPerByte * bytes;
 }
