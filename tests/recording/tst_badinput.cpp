@@ -1,0 +1,341 @@
+#include "cfgproperties.h"
+#include "phasorlookup.h"
+#include "recordingwriter.h"
+
+#include "recordingbuilder.h"
+
+#include <QtTest>
+
+#include <ctime>
+#include <limits>
+#include <random>
+
+namespace {
+
+const double infinite = std::numeric_limits<double>::infinity();
+
+#ifdef __SANITIZE_ADDRESS__
+constexpr double mostSeconds = 20;
+constexpr bool isMemoryMeasured = false;
+#else
+constexpr double mostSeconds = 1;
+constexpr bool isMemoryMeasured = true;
+#endif
+
+double processorSeconds()
+{
+    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+}
+
+// A figure of this process in kilobytes, 0 where the system does not tell.
+int memory(const QByteArray &figure)
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly))
+        return 0;
+    for (const QByteArray &line : status.readAll().split('\n')) {
+        if (line.startsWith(figure))
+            return line.simplified().split(' ').value(1).toInt();
+    }
+    return 0;
+}
+
+void forgetPeakOfMemory()
+{
+    writeTextFile(QStringLiteral("/proc/self/clear_refs"), "5");
+}
+
+// What the program does with a recording, as far as it goes without a window.
+void use(CFGProperties &recording, bool isWritten = true)
+{
+    for (int number = -1; number <= recording.analogChannels.size() + 2; ++number) {
+        const AnalogChannel *const channel = recording.analogChannel(number);
+        if (channel && number < 20) {
+            phasorAt(*channel, 0);
+            phasorAt(*channel, infinite);
+        }
+    }
+    recording.updateMaxValue();
+    recording.updateMinValue();
+    if (!isWritten)
+        return;
+    const RecordingFolder folder;
+    const RecordingWriter writer(recording, {}, {});
+    writer.write(folder.path("part"), 0, 10);
+    writer.writeAsPrimary(folder.path("all"));
+}
+
+ConfigurationText twoAndOne()
+{
+    ConfigurationText text;
+    text.analog = QByteArrayList{analogLine(1), analogLine(2)};
+    text.digital = QByteArrayList{digitalLine(1)};
+    return text;
+}
+
+const QByteArray threeLines = "1,0,5,6,0\n2,1000,-7,8,1\n3,2000,9,-9,0\n";
+
+} // namespace
+
+class TestBadInput : public QObject {
+    Q_OBJECT
+
+private slots:
+    void aBadPairTakesAMomentAndLittleMemory_data();
+    void aBadPairTakesAMomentAndLittleMemory();
+    void aBadExportTakesAMomentAndLittleMemory_data();
+    void aBadExportTakesAMomentAndLittleMemory();
+    void aPairCutOffAnywhereIsSurvived();
+    void aPairWithBytesChangedIsSurvived();
+    void anExportWithBytesChangedIsSurvived();
+};
+
+void TestBadInput::aBadPairTakesAMomentAndLittleMemory_data()
+{
+    QTest::addColumn<QByteArray>("configuration");
+    QTest::addColumn<QByteArray>("data");
+    QTest::addColumn<int>("loaded");
+    QTest::addColumn<int>("megabytes");
+    const auto row = [](const char *name, const QByteArray &configuration, const QByteArray &data,
+                         int loaded = 1, int megabytes = 16) {
+        QTest::newRow(name) << configuration << data << loaded << megabytes;
+    };
+    const auto with = [](const QByteArray &counts) {
+        ConfigurationText text = twoAndOne();
+        text.counts = counts;
+        return text.text();
+    };
+    row("two milliards of channels", with("2000000000,2000000000A,0D"), threeLines);
+    row("two milliards of digital channels", with("2000000000,2A,1999999998D"), threeLines);
+    row("two milliards of everything", with("2000000000,2000000000A,2000000000D"), threeLines);
+    row("negative counts", with("-5,-3A,-2D"), threeLines);
+    row("a very negative analog count", with("2000000000,-2000000000A,5D"), threeLines);
+    row("a very negative total", with("-2000000000,2A,1D"), threeLines);
+    row("the smallest counts", with("-2147483648,-2147483648A,-2147483648D"), threeLines);
+    row("the largest counts", with("2147483647,2147483647A,2147483647D"), threeLines);
+    row("counts that do not add up", with("7,2A,1D"), threeLines);
+
+    QByteArray text = twoAndOne().text();
+    row("two milliards of rates", QByteArray(text).replace("\n1\n1000", "\n2000000000\n1000"),
+        threeLines);
+    row("a negative number of rates", QByteArray(text).replace("\n1\n1000", "\n-2000000000\n1000"),
+        threeLines);
+    row("a rate beyond all bounds", QByteArray(text).replace("1000,40", "1e308,2147483647"),
+        threeLines);
+    row("a rate that is infinite", QByteArray(text).replace("1000,40", "inf,40"), threeLines);
+    row("a rate that is no number", QByteArray(text).replace("1000,40", "nan,40"), threeLines);
+    row("a negative rate", QByteArray(text).replace("1000,40", "-1000,-40"), threeLines);
+    row("a frequency of nearly nothing", QByteArray(text).replace("\n50\n", "\n1e-300\n"),
+        threeLines);
+    row("a frequency that is no number", QByteArray(text).replace("\n50\n", "\nnan\n"), threeLines);
+    row("a frequency of nothing and no rate",
+        QByteArray(text).replace("\n50\n", "\n0\n").replace("1000,40", "0,0"), threeLines);
+
+    QByteArray manyLines;
+    for (int i = 0; i < 400; ++i)
+        manyLines += "1,0,5,6,0\n";
+    row("a million samples a cycle", QByteArray(text).replace("1000,40", "52428800,40"), manyLines);
+    row("four thousand samples a cycle", QByteArray(text).replace("1000,40", "204800,40"),
+        manyLines);
+
+    row("multipliers beyond all bounds",
+        QByteArray(text).replace("Bay,A,1,0", "Bay,A,1e308,-1e308"), threeLines);
+    row("ratings of nothing", QByteArray(text).replace("400,1,S", "0,0,S"), threeLines);
+    row("values beyond all bounds", text, "1,0,1e39,inf,1\n2,1000,nan,-1e39,99999999999\n");
+    row("stamps beyond all bounds", text,
+        "1,inf,1,2,0\n2,-inf,1,2,0\n3,nan,1,2,0\n4,1e308,1,2,0\n");
+
+    // Four thousand channels of one byte each, two thousand lines of two bytes.
+    row("channels and lines of hardly a byte",
+        "S,D,1999\n4000,4000A,0D\n" + QByteArray(4000, '\n') + "50\n1\n1000,9\n,\n,\nASCII\n1\n",
+        QByteArray(",\n").repeated(2000));
+    row("channels of hardly a byte, the first sample of each",
+        "S,D,1999\n1000,1000A,0D\n" + QByteArray(1000, '\n') + "50\n1\n204800,9\n,\n,\nASCII\n1\n",
+        "1,0" + QByteArray(",1").repeated(1000) + '\n' + QByteArray(",\n").repeated(1000));
+    row("four thousand promised channels, empty fields", with("4000,4000A,0D"),
+        QByteArray(4000, ',') + '\n');
+    row("a million promised channels, empty fields", with("1000000,1000000A,0D"),
+        QByteArray(1000000, ',') + '\n', 1, 600);
+    row("a million promised digital channels, empty fields", with("1000002,2A,1000000D"),
+        QByteArray(1000000, ',') + '\n', 1, 600);
+
+    row("a configuration of one long line", QByteArray(4000000, 'x'), threeLines, 1, 80);
+    row("a configuration of one line of commas", QByteArray(4000000, ','), threeLines, 1, 80);
+    row("a configuration of empty lines", QByteArray(200000, '\n'), threeLines, 1, 80);
+    row("two hundred thousand lines of channels",
+        "S,D,1999\n200000,200000A,0D\n" + QByteArray(200000, '\n'), threeLines, 1, 300);
+    row("data of one long line", text, QByteArray(4000000, 'x'), 0, 80);
+    row("data of one long number", text, "1,0," + QByteArray(4000000, '9') + ",5,1\n", 1, 80);
+    row("data of one long exponent", text, "1,0,1e" + QByteArray(100000, '9') + ",5,1\n", 1, 80);
+    row("data of one long line of commas", text, QByteArray(4000000, ','), 1, 80);
+    row("data of blanks", text, "1," + QByteArray(4000000, ' ') + ",5,6,1\n", 1, 80);
+    row("data without a line end", text, QByteArray("1,0,5,6,1,").repeated(400000), 1, 80);
+
+    row("an empty configuration", QByteArray(), threeLines);
+    row("an empty pair", QByteArray(), QByteArray(), 0);
+    row("NULs in place of a configuration", QByteArray(1000, '\0'), threeLines);
+    row("NULs in place of data", text, QByteArray(1000, '\0'), 0);
+    row("data in place of the configuration", threeLines, threeLines);
+    row("the configuration in place of data", text, text);
+    QByteArray wide;
+    for (const char letter : text) {
+        wide += letter;
+        wide += '\0';
+    }
+    row("letters of two bytes", wide, threeLines);
+    QByteArray noise;
+    std::mt19937 random(1);
+    for (int i = 0; i < 20000; ++i)
+        noise += static_cast<char>(random());
+    row("noise in place of a configuration", noise, threeLines);
+    row("noise in place of data", text, "1,2\n" + noise);
+    row("noise in place of both", noise, "1,2\n" + noise);
+}
+
+void TestBadInput::aBadPairTakesAMomentAndLittleMemory()
+{
+    QFETCH(QByteArray, configuration);
+    QFETCH(QByteArray, data);
+    QFETCH(int, loaded);
+    QFETCH(int, megabytes);
+    const RecordingFolder folder;
+    CFGProperties recording;
+    forgetPeakOfMemory();
+    const int before = memory("VmRSS:");
+    const double start = processorSeconds();
+    folder.load(recording, configuration, data);
+    const double taken = processorSeconds() - start;
+    const int peak = memory("VmHWM:");
+    QCOMPARE(recording.loaded, loaded);
+    QVERIFY2(taken < mostSeconds, qPrintable(QString::number(taken)));
+    if (isMemoryMeasured)
+        QVERIFY2(peak - before < megabytes * 1024, qPrintable(QString::number(peak - before)));
+    for (const AnalogChannel *channel : qAsConst(recording.analogChannels)) {
+        QCOMPARE(channel->values.size(), recording.sampleCount);
+        QCOMPARE(channel->fftAngles.size(), recording.sampleCount);
+    }
+    use(recording);
+}
+
+void TestBadInput::aBadExportTakesAMomentAndLittleMemory_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<int>("megabytes");
+    const QByteArray stamp = "01/02/2020-10:00:00:000";
+    QTest::newRow("nothing") << QByteArray() << 16;
+    QTest::newRow("one line end") << QByteArray("\n") << 16;
+    QTest::newRow("a long name") << QByteArray(4000000, 'x') << 80;
+    QTest::newRow("a long stamp") << "a[A]\n" + QByteArray(4000000, '1') + ",5\n" << 80;
+    QTest::newRow("a long value") << "a[A]\n" + stamp + ',' + QByteArray(4000000, '9') << 80;
+    QTest::newRow("a long line of commas") << "a[A]\n" + stamp + QByteArray(1000000, ',') << 80;
+    QTest::newRow("many names") << QByteArray(100000, ',') + '\n' + stamp + ",1\n" << 200;
+    QTest::newRow("names and lines of hardly a byte")
+        << QByteArray(4000, ',') + '\n' + QByteArray("x\n").repeated(2000) << 16;
+    QTest::newRow("many empty lines and then one") << QByteArray(1000, ',')
+            + QByteArray(200000, '\n') + "x\n" << 32;
+    QTest::newRow("NULs") << QByteArray(1000, '\0') << 16;
+    QTest::newRow("lone carriage returns") << QByteArray("a[A]\r01/02/2020\r5\r\r") << 16;
+    QTest::newRow("values beyond all bounds") << "a[A],b[A]\n" + stamp + ",1e39,nan\n" << 16;
+    QTest::newRow("years far apart")
+        << QByteArray("a[A]\n01/01/0001-00:00:00:000,1\n31/12/9999-23:59:59:999,2\n") << 16;
+}
+
+void TestBadInput::aBadExportTakesAMomentAndLittleMemory()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(int, megabytes);
+    const RecordingFolder folder;
+    QVERIFY(writeTextFile(folder.path("rec.txt"), text));
+    CFGProperties recording;
+    recording.filePath = folder.path("rec.txt");
+    forgetPeakOfMemory();
+    const int before = memory("VmRSS:");
+    const double start = processorSeconds();
+    recording.init();
+    const double taken = processorSeconds() - start;
+    const int peak = memory("VmHWM:");
+    QCOMPARE(recording.loaded, 1);
+    QVERIFY2(taken < mostSeconds, qPrintable(QString::number(taken)));
+    if (isMemoryMeasured)
+        QVERIFY2(peak - before < megabytes * 1024, qPrintable(QString::number(peak - before)));
+    for (const AnalogChannel *channel : qAsConst(recording.analogChannels))
+        QCOMPARE(channel->values.size(), recording.sampleCount);
+    use(recording);
+}
+
+void TestBadInput::aPairCutOffAnywhereIsSurvived()
+{
+    const RecordingFolder folder;
+    const QByteArray configuration = twoAndOne().text();
+    for (int length = 0; length <= configuration.size(); ++length) {
+        CFGProperties recording;
+        folder.load(recording, configuration.left(length), threeLines);
+        QCOMPARE(recording.loaded, 1);
+        QCOMPARE(recording.sampleCount, 3);
+        use(recording, length % 10 == 0);
+    }
+    for (int length = 0; length <= threeLines.size(); ++length) {
+        CFGProperties recording;
+        folder.load(recording, configuration, threeLines.left(length));
+        // From the first comma on there is a sample.
+        QCOMPARE(recording.loaded, length < 2 ? 0 : 1);
+        use(recording, length % 10 == 0);
+    }
+}
+
+void TestBadInput::aPairWithBytesChangedIsSurvived()
+{
+    const QByteArray letters = QByteArray("0123456789,,,\n\r-+.eEnaifSPAD :/\x1a\xff\0", 37);
+    std::mt19937 random(11);
+    const auto changed = [&](QByteArray text) {
+        for (auto changes = 1 + random() % 6; changes > 0; --changes) {
+            const int at = static_cast<int>(random() % static_cast<unsigned>(text.size()));
+            const char letter
+                = letters.at(static_cast<int>(random() % static_cast<unsigned>(letters.size())));
+            switch (random() % 3) {
+            case 0:
+                text[at] = letter;
+                break;
+            case 1:
+                text.insert(at, letter);
+                break;
+            default:
+                text.remove(at, 1 + static_cast<int>(random() % 4));
+            }
+        }
+        return text;
+    };
+    const RecordingFolder folder;
+    for (int i = 0; i < 1500; ++i) {
+        CFGProperties recording;
+        const QByteArray configuration = changed(twoAndOne().text());
+        const QByteArray data = changed(threeLines);
+        folder.load(recording, configuration, data);
+        QVERIFY2(recording.sampleCount <= 6, configuration.constData());
+        QVERIFY2(recording.analogChannels.size() <= 40, configuration.constData());
+        use(recording, i % 10 == 0);
+    }
+}
+
+void TestBadInput::anExportWithBytesChangedIsSurvived()
+{
+    const QByteArray text = "#Ua[kV],Ub[kV]\n01/02/2020-10:00:00:000,1.5,-2\n"
+                            "01/02/2020-10:00:00:020,3,4.25\n";
+    std::mt19937 random(12);
+    const RecordingFolder folder;
+    for (int i = 0; i < 1500; ++i) {
+        QByteArray changed = text;
+        for (auto changes = 1 + random() % 6; changes > 0; --changes)
+            changed[static_cast<int>(random() % static_cast<unsigned>(changed.size()))]
+                = static_cast<char>(random());
+        QVERIFY(writeTextFile(folder.path("rec.txt"), changed));
+        CFGProperties recording;
+        recording.filePath = folder.path("rec.txt");
+        recording.init();
+        QVERIFY(recording.sampleCount <= 10);
+        use(recording, i % 10 == 0);
+    }
+}
+
+QTEST_GUILESS_MAIN(TestBadInput)
+#include "tst_badinput.moc"
