@@ -285,7 +285,7 @@ void TestBadInput::aPairCutOffAnywhereIsSurvived()
 
 void TestBadInput::aPairWithBytesChangedIsSurvived()
 {
-    const QByteArray letters = QByteArray("0123456789,,,\n\r-+.eEnaifSPAD :/\x1a\xff\0", 37);
+    const QByteArray letters = QByteArray("0123456789,,,\n\r-+.eEnaifSPAD :/\x1a\xff") + '\0';
     std::mt19937 random(11);
     const auto changed = [&](QByteArray text) {
         for (auto changes = 1 + random() % 6; changes > 0; --changes) {
