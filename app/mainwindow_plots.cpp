@@ -264,7 +264,7 @@ void MainWindow::addPlotter(const QList<QString> &AnCheckedChannels)
     connectSaveMarkers(plot);
     connect(horizontalScroll, &QScrollBar::valueChanged, plot, &Plotter::scrolling);
     plot->setupPlot();
-    plot->adoptTimeRange(*analogPlotter);
+    plot->followFromNowOn(*analogPlotter);
     plot->show();
 
     // The scroll area knows the plot's place only after its layout was done.

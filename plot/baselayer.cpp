@@ -8,6 +8,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -22,9 +23,12 @@ constexpr int bandReach = 5; // of a band above and below its base line
 constexpr int marginStart = 4;
 constexpr int marginWidth = PlotGeometry::left - labelGap - marginStart;
 
+// The time of a grid line. What is left of rounding where a line stands at 0 is no time.
 double gridTime(const PlotSettings &view, int line)
 {
-    return view.minX + line * view.spanX() / view.numXTicks;
+    const double step = view.spanX() / view.numXTicks;
+    const double time = view.minX + line * view.spanX() / view.numXTicks;
+    return std::abs(time) < step * 1e-9 ? 0 : time;
 }
 
 } // namespace
@@ -42,8 +46,8 @@ void drawTimeGrid(QPainter &painter, const PlotGeometry &geometry)
     painter.setPen(gridColor);
     for (int i = 0; i <= geometry.view().numXTicks; ++i) {
         const int x = PlotGeometry::pixel(geometry.traceX(gridTime(geometry.view(), i)));
-        if (x <= area.right()) // the last line stands just right of the frame
-            painter.drawLine(x, area.top(), x, area.bottom());
+        const int drawn = std::min(x, area.right()); // the last line would stand beside the frame
+        painter.drawLine(drawn, area.top(), drawn, area.bottom());
     }
 }
 

@@ -1,10 +1,16 @@
 #include "labeltext.h"
 
 #include <QFontMetrics>
+#include <QTextDocument>
+
+QString plainToolTip(const QString &text)
+{
+    return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
+}
 
 QString generalText(double value)
 {
-    return QString::number(value, 'g', 6);
+    return QString::number(value == 0 ? 0 : value, 'g', 6);
 }
 
 QString valueAxisText(double value)

@@ -4,7 +4,10 @@
 
 class QFontMetrics;
 
-// A time or value in the general format, six significant digits.
+// A text of a file as tool tip, shown as it stands whatever it looks like.
+QString plainToolTip(const QString &text);
+
+// A time or value in the general format, six significant digits; never "-0".
 QString generalText(double value);
 
 // A value of the value axis: six decimals, of which trailing zeros and then a trailing point are

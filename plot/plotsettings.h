@@ -13,6 +13,12 @@ struct PlotSettings {
     // A step count that leaves the axis alone in scroll().
     static constexpr int noScroll = -100;
 
+    bool operator==(const PlotSettings &other) const
+    {
+        return minX == other.minX && maxX == other.maxX && numXTicks == other.numXTicks
+            && minY == other.minY && maxY == other.maxY && numYTicks == other.numYTicks;
+    }
+
     double spanX() const { return maxX - minX; }
     double spanY() const { return maxY - minY; }
 

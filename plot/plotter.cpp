@@ -4,6 +4,7 @@
 #include "baselayer.h"
 #include "cfgproperties.h"
 #include "channelvalues.h"
+#include "labeltext.h"
 #include "plothost.h"
 
 #include <QApplication>
@@ -70,7 +71,7 @@ Plotter::Plotter(QWidget *parent)
 
     plotterLabel->setObjectName(QStringLiteral("Plotter Label"));
     plotterLabel->setStyleSheet(QStringLiteral("QLabel{border: 1px solid #00b9f2; color:white;}"));
-    plotterLabel->setAlignment(Qt::AlignCenter);
+    plotterLabel->setTextFormat(Qt::PlainText);
 
     timeLabel->setObjectName(QStringLiteral("timelabel"));
     timeLabel->setStyleSheet(QStringLiteral("QLabel{color: white;}"));
@@ -125,7 +126,8 @@ void Plotter::placeTitle(int y)
     plotterLabel->show();
 }
 
-// The title's place is fixed, so a long text gets a smaller font, and then is elided.
+// The title's place is fixed: a long text gets a smaller font, and one that is too long even then
+// shows its beginning.
 void Plotter::setTitle(const QString &title)
 {
     constexpr int room = titleWidth - 6;
@@ -134,9 +136,11 @@ void Plotter::setTitle(const QString &title)
     while (titleFont.pixelSize() > smallestTitleFont
         && QFontMetrics(titleFont).horizontalAdvance(title) > room)
         titleFont.setPixelSize(titleFont.pixelSize() - 1);
+    const bool fits = QFontMetrics(titleFont).horizontalAdvance(title) <= room;
     plotterLabel->setFont(titleFont);
-    plotterLabel->setText(QFontMetrics(titleFont).elidedText(title, Qt::ElideRight, room));
-    plotterLabel->setToolTip(plotterLabel->text() == title ? QString() : title);
+    plotterLabel->setText(title);
+    plotterLabel->setAlignment(fits ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
+    plotterLabel->setToolTip(fits ? QString() : plainToolTip(title));
     plotTitle = title;
 }
 
@@ -295,10 +299,16 @@ PlotGeometry Plotter::geometryOfView() const
     return {size(), readoutWidth, view()};
 }
 
-void Plotter::adoptTimeRange(const Plotter &other)
+void Plotter::followFromNowOn(const Plotter &other)
 {
     if (zoomStack.isEmpty() || other.zoomStack.isEmpty())
         return;
+    for (const double time : other.cursorTimes)
+        insertCursor(time);
+    startMarkerSet = other.startMarkerSet;
+    startMarkerTime = other.startMarkerTime;
+    endMarkerSet = other.endMarkerSet;
+    endMarkerTime = other.endMarkerTime;
     const PlotSettings source = other.view();
     zoomStack[0].minX = source.minX;
     zoomStack[0].maxX = source.maxX;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "basecontent.h"
 #include "customlabel.h"
 #include "mousemovereceiver.h"
 #include "plotgeometry.h"
@@ -22,7 +23,6 @@ class QColorDialog;
 class QFrame;
 class QLabel;
 class QLineEdit;
-struct Readout;
 
 // Shows analog channels of a recording as waveforms or spectra against time. A plot paints into two
 // pixmaps, the base layer (grid, traces, readout) and the overlay (cursors); a repaint only copies
@@ -62,8 +62,9 @@ public:
     PlotSettings view() const;
     const PlotSettings &home() const { return homeSettings; }
     PlotGeometry geometryOfView() const;
-    // Takes over the time range of another plot.
-    void adoptTimeRange(const Plotter &other);
+    // Takes over the time range, the cursors and the save markers of another plot, and its share of
+    // the horizontal zoom.
+    void followFromNowOn(const Plotter &other);
     // Fits the value axis to changed factors so that a trace keeps its place.
     void rescaleValues();
     void resetPlot();
@@ -151,8 +152,11 @@ private:
     double factorOf(int number) const;
     QColor colorOf(int number) const;
     Readout readout() const;
-    void placeChannelLabels();
+    BaseContent baseContent() const;
+    QPixmap clearLayer() const;
+    void paintBase();
     void paintOverlay();
+    void placeChannelLabels();
     void placeMarks();
 
     // Each gives false and keeps the view where the zoomed range could not be shown.
@@ -200,7 +204,8 @@ private:
     double defaultVerticalZoom = 1.0;
     int cursorCount = 0;
     QPixmap basePixmap;
-    QPixmap overlayPixmap;
+    BaseContent drawnContent; // what basePixmap shows
+    QPixmap overlayPixmap; // null while there is nothing to show
     PlotHost *mainWindow = nullptr;
     QWidget *hostWidget; // the pixmaps have its size
     QList<QLabel *> channelLabels;

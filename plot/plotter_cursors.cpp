@@ -69,7 +69,8 @@ void Plotter::insertCursor(double time)
 
     auto *label = new CustomLabel(this);
     label->setObjectName(QStringLiteral("lineLabel"));
-    label->setStyleSheet(QStringLiteral("QLabel{color: #fffa50; background-color: #313034; padding: 0px 2px;}"));
+    label->setStyleSheet(
+        QStringLiteral("QLabel{color: #fffa50; background-color: #313034; padding: 0px 2px;}"));
     label->setFont(smallFont(font()));
     label->setCursor(Qt::SizeHorCursor);
     label->setPlotter(this);
@@ -145,9 +146,11 @@ void Plotter::clearCursors()
 // The time differences of neighbouring cursors.
 void Plotter::paintOverlay()
 {
+    overlayPixmap = QPixmap();
     const PlotGeometry geometry = geometryOfView();
     if (zoomStack.isEmpty() || cursorTimes.size() < 2 || !geometry.isDrawable())
         return;
+    overlayPixmap = clearLayer();
     QPainter painter(&overlayPixmap);
     painter.setFont(smallFont(font()));
     const QRect area = geometry.area();

@@ -7,7 +7,6 @@
 #include "cfgproperties.h"
 #include "channelvalues.h"
 #include "labeltext.h"
-#include "phasorlookup.h"
 #include "plothost.h"
 #include "readout.h"
 #include "tracepainter.h"
@@ -24,40 +23,63 @@ constexpr int labelGap = 10;
 constexpr int labelY = 20;
 constexpr int labelHeight = 20;
 
-QPixmap clearPixmap(const QWidget &host)
-{
-    const qreal ratio = host.devicePixelRatioF();
-    QPixmap pixmap(host.size() * ratio);
-    pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(Qt::transparent);
-    return pixmap;
-}
-
 } // namespace
+
+// Of the size of the widget that holds the plots.
+QPixmap Plotter::clearLayer() const
+{
+    const qreal ratio = devicePixelRatioF();
+    QPixmap layer((hostWidget ? hostWidget->size() : size()) * ratio);
+    layer.setDevicePixelRatio(ratio);
+    layer.fill(Qt::transparent);
+    return layer;
+}
 
 void Plotter::refreshPixmap()
 {
     if (!skipBaseLayer) {
-        readoutWidth
-            = digitalFlag ? 0 : std::min(readout().neededWidth(smallFont(font())), width() / 2);
-        basePixmap = clearPixmap(hostWidget ? *hostWidget : *this);
-        if (!zoomStack.isEmpty() && !basePixmap.isNull()) {
+        BaseContent content = baseContent();
+        if (!(content == drawnContent)) {
+            drawnContent = std::move(content);
             placeChannelLabels();
-            QPainter painter(&basePixmap);
-            drawGrid(&painter);
-            drawCurves(&painter);
-            drawTrigger(&painter);
-            drawTimeLabels(&painter);
-            drawValueTable(&painter);
+            paintBase();
         }
     }
-    overlayPixmap = clearPixmap(hostWidget ? *hostWidget : *this);
-    if (!overlayPixmap.isNull())
-        paintOverlay();
+    paintOverlay();
     placeMarks();
     update();
     if (mainWindow)
         mainWindow->refreshVectors();
+}
+
+BaseContent Plotter::baseContent() const
+{
+    BaseContent content;
+    content.view = view();
+    content.size = size();
+    content.layerSize = hostWidget ? hostWidget->size() : size();
+    content.pixelRatio = devicePixelRatioF();
+    content.font = font();
+    content.trigger = recording() ? recording()->triggerOffsetMs : 0;
+    content.readout = readout();
+    for (auto it = channelMap.cbegin(); it != channelMap.cend(); ++it)
+        content.traces.append({it.key(), factorOf(it.key()), colorOf(it.key()).rgb(),
+            it->trace.values().constData(), it->angle.values().constData()});
+    return content;
+}
+
+void Plotter::paintBase()
+{
+    readoutWidth = std::min(drawnContent.readout.neededWidth(smallFont(font())), width() / 2);
+    basePixmap = clearLayer();
+    if (zoomStack.isEmpty() || basePixmap.isNull())
+        return;
+    QPainter painter(&basePixmap);
+    drawGrid(&painter);
+    drawCurves(&painter);
+    drawTrigger(&painter);
+    drawTimeLabels(&painter);
+    drawValueTable(&painter);
 }
 
 void Plotter::drawGrid(QPainter *painter)
@@ -102,17 +124,19 @@ void Plotter::drawTimeLabels(QPainter *painter)
 Readout Plotter::readout() const
 {
     Readout table;
-    if (cursorTimes.isEmpty())
+    if (cursorTimes.isEmpty() || digitalFlag)
         return table;
     const double rate = recording() ? recording()->sampleRate : 0;
+    QVector<int> samples; // at the cursors
     Readout::Row header{tr("Parameter")};
-    for (int i = 0; i < cursorTimes.size(); ++i)
+    for (int i = 0; i < cursorTimes.size(); ++i) {
         header.append(QStringLiteral("P%1 (%2)").arg(i + 1).arg(generalText(cursorTimes.at(i))));
+        samples.append(timeAxis.sampleAt(rate, cursorTimes.at(i)));
+    }
     table.rows.append(header);
     for (auto it = channelMap.cbegin(); it != channelMap.cend(); ++it) {
         Readout::Row row{isSpectrum(it.key()) ? it->id + QStringLiteral(" FFT") : it->id};
-        for (const double time : cursorTimes) {
-            const int sample = sampleAt(timeAxis.times(), rate, time);
+        for (const int sample : qAsConst(samples)) {
             const QVector<float> &values = it->trace.values();
             row.append(sample < 0 || sample >= values.size()
                     ? QString()
@@ -127,7 +151,7 @@ void Plotter::drawValueTable(QPainter *painter)
 {
     const PlotGeometry geometry = geometryOfView();
     if (geometry.isDrawable())
-        readout().draw(*painter, geometry, smallFont(font()));
+        drawnContent.readout.draw(*painter, geometry, smallFont(font()));
 }
 
 // The labels are reused from one refresh to the next. Where they need more room than there is, each
@@ -174,7 +198,7 @@ void Plotter::placeChannelLabels()
         QStringList tip{texts.at(i)};
         tip << it->phase << it->circuit;
         tip.removeAll(QString());
-        label->setToolTip(tip.join(QLatin1Char('\n')));
+        label->setToolTip(plainToolTip(tip.join(QLatin1Char('\n'))));
         const int width = metrics.horizontalAdvance(shown) + 2;
         label->setGeometry(x, labelY, width, labelHeight);
         label->show();

@@ -187,7 +187,7 @@ void Plotter::scrolling(int r)
 {
     if (r == lastScrollValue)
         return;
-    scrollDelta = std::abs(r - lastScrollValue);
+    scrollDelta = PlotGeometry::truncated(std::abs(static_cast<double>(r) - lastScrollValue));
     scrollView(r, 0);
     lastScrollValue = r;
 }
@@ -229,10 +229,15 @@ bool Plotter::zoomToBand(bool withValues)
         || !PlotSettings::isUsable(zoomed.minY, zoomed.maxY))
         return false;
     horizontalZoom = zoomed.spanX() / homeSettings.spanX();
-    if (withValues)
+    sharedHorizontalZoom = horizontalZoom;
+    PlotSettings::adjustAxis(zoomed.minX, zoomed.maxX, zoomed.numXTicks);
+    if (withValues) {
         verticalZoom = zoomed.spanY() / homeSettings.spanY();
-    zoomed.adjust();
+        sharedVerticalZoom = verticalZoom;
+        PlotSettings::adjustAxis(zoomed.minY, zoomed.maxY, zoomed.numYTicks);
+    }
     zoomStack[0] = zoomed;
+    shareView(Sharing::IfAnalog);
     zoomIn();
     return true;
 }

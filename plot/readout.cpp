@@ -57,13 +57,22 @@ void Readout::draw(QPainter &painter, const PlotGeometry &geometry, const QFont 
         }
     }
 
+    // Rows move together before some of them are left out, for which an ellipsis stands.
     const QFontMetrics metrics(font);
-    const int areaHeight = geometry.plotHeight() - PlotGeometry::top;
-    const int rowHeight = std::min(metrics.height() + rowPadding, areaHeight / rows.size());
+    const int height = geometry.widgetSize().height() - PlotGeometry::top - margin;
+    const int rowHeight
+        = std::clamp(height / rows.size(), metrics.height(), metrics.height() + rowPadding);
+    const int fitting = std::max(1, height / rowHeight);
+    QVector<Row> shown = rows.mid(0, fitting);
+    if (rows.size() > fitting) {
+        shown.last().fill(QString());
+        shown.last().first() = QChar(0x2026);
+    }
+
     painter.setFont(font);
     painter.setPen(Qt::white);
     int y = PlotGeometry::top;
-    for (const Row &row : rows) {
+    for (const Row &row : qAsConst(shown)) {
         int x = geometry.widgetSize().width() - geometry.readoutWidth() + margin;
         for (int column = 0; column < row.size(); ++column) {
             const QRect cell(x, y, widths[column], rowHeight);

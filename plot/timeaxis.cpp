@@ -1,5 +1,7 @@
 #include "timeaxis.h"
 
+#include "phasorlookup.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -27,6 +29,14 @@ int TimeAxis::firstAtOrAfter(double time) const
 {
     return static_cast<int>(
         std::lower_bound(m_times.cbegin(), m_times.cend(), time) - m_times.cbegin());
+}
+
+int TimeAxis::sampleAt(double sampleRate, double time) const
+{
+    // The lookup searches one by one, from a place on that is found by halving where that may be
+    // done.
+    int searchFrom = m_ascending ? firstAtOrAfter(time) : 0;
+    return ::sampleAt(m_times, sampleRate, time, searchFrom);
 }
 
 // Columns of a steadily sampled recording are nearly equally full, so the search starts where the

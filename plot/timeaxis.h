@@ -28,6 +28,9 @@ public:
     // The first sample at or after a time; the sample count where there is none.
     int firstAtOrAfter(double time) const;
 
+    // The sample nearest to a time, by the rule of the phasor lookup; -1 outside the recorded span.
+    int sampleAt(double sampleRate, double time) const;
+
     // The columns of the samples from the left edge of the view on, and as the last one the first
     // sample right of the plot area, where the line leaves it.
     QVector<Column> columns(const PlotGeometry &geometry) const;

@@ -8,6 +8,7 @@
 #include <QtTest>
 
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <memory>
 
@@ -25,7 +26,13 @@ public:
         ++refreshes;
         Plotter::refreshPixmap();
     }
+    void drawGrid(QPainter *painter) override
+    {
+        ++draws;
+        Plotter::drawGrid(painter);
+    }
     int refreshes = 0;
+    int draws = 0; // of the base layer
 };
 
 // The view to nine decimals: steps such as 0.3 are no exact doubles.
@@ -98,7 +105,9 @@ private slots:
     void channelLabels();
     void channelLabelsShareTheRoom();
     void spectrumLabelAndColour();
-    void longTitlesAreElided();
+    void longTitlesShowTheirBeginning();
+    void namesAreNoMarkUp();
+    void anUnchangedBaseLayerIsNotDrawnAgain();
     void pixmapsFollowTheScaleFactor();
     void aPaintOnlyCopiesTheLayers();
 
@@ -522,7 +531,7 @@ void tst_Plotter::aNewPlotTakesOverTheTimeRange()
     added.setMainWindow(host.get());
     added.addChannel(1);
     added.setupPlot();
-    added.adoptTimeRange(*plot);
+    added.followFromNowOn(*plot);
     QCOMPARE(ends(added.view()), Ends({200, 700, 5, 0, 4, 4}));
     added.customZoomIn2(); // from the shared half to a quarter
     QCOMPARE(added.view().maxX, 450.0);
@@ -552,6 +561,8 @@ void tst_Plotter::resetPlotEmptiesThePlot()
     QVERIFY(plot->channels().isEmpty());
     QVERIFY(plot->cursors().isEmpty());
     QCOMPARE(ends(plot->view()), Ends({0, 0, 4, 0, 0, 4}));
+    plot->refreshPixmap();
+    QVERIFY(plot->findChildren<QLabel *>(QStringLiteral("channelLabel")).isEmpty());
     plot->addChannel(0);
     plot->setupPlot();
     plot->scrolling(3); // the last position is forgotten
@@ -716,15 +727,58 @@ void tst_Plotter::spectrumLabelAndColour()
     QCOMPARE(labels[3]->palette().color(labels[3]->foregroundRole()), QColor(250, 140, 20));
 }
 
-void tst_Plotter::longTitlesAreElided()
+void tst_Plotter::namesAreNoMarkUp()
+{
+    const auto *title = plot->findChild<QLabel *>(QStringLiteral("Plotter Label"));
+    plot->setTitle(QStringLiteral("<b>x</b>"));
+    QCOMPARE(title->text(), QStringLiteral("<b>x</b>"));
+    QCOMPARE(title->textFormat(), Qt::PlainText);
+    host->source->analogChannels[1]->id = QStringLiteral("<i>Ua</i>");
+    plot->addChannel(1);
+    plot->refreshPixmap();
+    const QList<QLabel *> labels = plot->findChildren<QLabel *>(QStringLiteral("channelLabel"));
+    QCOMPARE(labels[1]->textFormat(), Qt::PlainText);
+    QVERIFY(labels[1]->toolTip().startsWith(QStringLiteral("&lt;i&gt;Ua&lt;/i&gt;(V)")));
+}
+
+// A zoom refreshes each plot through every plot that is linked to it.
+void tst_Plotter::anUnchangedBaseLayerIsNotDrawnAgain()
+{
+    const int before = plot->draws;
+    plot->refreshPixmap();
+    QCOMPARE(plot->draws, before);
+    plot->customZoomIn();
+    QCOMPARE(plot->draws, before + 1);
+    QCOMPARE(other->view().maxX, 500.0);
+    const int atZoom = other->draws;
+    other->refreshPixmap();
+    QCOMPARE(other->draws, atZoom);
+    for (const auto &change :
+        {std::function<void()>([&] { plot->addChannel(1); }), std::function<void()>([&] {
+             host->mode = 2;
+             host->source->analogChannels[0]->ps = QStringLiteral("P");
+             host->source->analogChannels[0]->primary = 5;
+         }),
+            std::function<void()>([&] { host->source->triggerOffsetMs = 3; }),
+            std::function<void()>([&] { area->resize(790, 301); }),
+            std::function<void()>([&] { plot->addCursor(300, 100); })}) {
+        const int last = plot->draws;
+        change();
+        plot->refreshPixmap();
+        QCOMPARE(plot->draws, last + 1);
+    }
+}
+
+void tst_Plotter::longTitlesShowTheirBeginning()
 {
     const auto *title = plot->findChild<QLabel *>(QStringLiteral("Plotter Label"));
     plot->setTitle(QStringLiteral("Feeder currents before and after the fault"));
-    QVERIFY(title->text().startsWith(QStringLiteral("Feeder")));
-    QVERIFY(title->text().endsWith(QChar(0x2026)));
+    QCOMPARE(title->text(), QStringLiteral("Feeder currents before and after the fault"));
+    QCOMPARE(title->alignment(), Qt::AlignLeft | Qt::AlignVCenter);
     QCOMPARE(title->toolTip(), QStringLiteral("Feeder currents before and after the fault"));
     plot->setTitle(QStringLiteral("I"));
     QCOMPARE(title->text(), QStringLiteral("I"));
+    QCOMPARE(title->alignment(), Qt::AlignCenter);
     QVERIFY(title->toolTip().isEmpty());
 }
 

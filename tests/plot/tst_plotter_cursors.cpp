@@ -37,6 +37,7 @@ private slots:
     void aDraggedLabelMovesTheCursorEverywhere();
     void aDraggedLabelStopsAtTheEdges_data();
     void aDraggedLabelStopsAtTheEdges();
+    void aNewPlotTakesOverCursorsAndMarkers();
     void theMenuRemovesOneCursor();
     void theMenuRemovesAllCursors();
 
@@ -161,7 +162,7 @@ void tst_PlotterCursors::timeDifferencesStayWithinThePlotArea()
     pair->plot->customZoomIn(); // the second cursor is right of the view
     const QImage image = pair->plot->grab().toImage();
     const QRect area = pair->plot->geometryOfView().area();
-    QVERIFY(isYellow(image.pixel(area.right(), 60)));
+    QVERIFY(isYellow(image.pixel(area.right() - 1, 60)));
     QVERIFY(!isYellow(image.pixel(area.right() + 1, 60)));
 }
 
@@ -237,6 +238,24 @@ void tst_PlotterCursors::aDraggedLabelStopsAtTheEdges()
     PlotPair::move(pair->digital, {x, 100}, Qt::LeftButton);
     QTest::mouseRelease(pair->digital, Qt::LeftButton, {}, {x, 100});
     QTEST(pair->digital->cursors().first(), "time");
+}
+
+void tst_PlotterCursors::aNewPlotTakesOverCursorsAndMarkers()
+{
+    doubleClick(300);
+    doubleClick(500);
+    pair->plot->setEndPoint(700);
+    Plotter added(&pair->area);
+    added.setMainWindow(&pair->host);
+    added.addChannel(1);
+    added.setupPlot();
+    added.followFromNowOn(*pair->plot);
+    added.resize(803, 301);
+    added.refreshPixmap();
+    QCOMPARE(added.cursors(), pair->plot->cursors());
+    QCOMPARE(PlotPair::lineLabels(&added).size(), 2);
+    QVERIFY(added.findChild<QFrame *>(QStringLiteral("endMarker"))->isVisibleTo(&added));
+    QVERIFY(!added.findChild<QFrame *>(QStringLiteral("startMarker"))->isVisibleTo(&added));
 }
 
 void tst_PlotterCursors::theMenuRemovesOneCursor()
