@@ -31,25 +31,29 @@ QString sixDecimals(double value)
     return QString::number(value, 'f', 6);
 }
 
-// A value without decimals, as the toolkit writes it, to the place given. Nearly all are small
-// enough to need no string.
-char *writeWhole(char *at, double value)
-{
-    constexpr double exact = 1e15;
-    const double whole = std::round(value);
-    const bool isNegativeZero = whole == 0 && value < 0;
-    if (std::abs(whole) <= exact && !isNegativeZero)
-        return std::to_chars(at, at + mostDigits, static_cast<qint64>(whole)).ptr;
-    const QByteArray digits = QByteArray::number(value, 'f', 0);
-    return std::copy(digits.cbegin(), digits.cend(), at);
-}
-
-char *writeWhole(char *at, int value)
+char *writeWhole(char *at, qint64 value)
 {
     if (value < 0 || value > 9)
         return std::to_chars(at, at + mostDigits, value).ptr;
     *at = static_cast<char>('0' + value);
     return at + 1;
+}
+
+// A value without decimals, rounded as the toolkit does. Nearly all are small enough to need no
+// string.
+char *writeWhole(char *at, double value)
+{
+    constexpr double exact = 1e15;
+    if (std::abs(value) <= exact) {
+        const auto truncated = static_cast<qint64>(value);
+        const double rest = value - static_cast<double>(truncated);
+        const qint64 whole = truncated + (rest >= 0.5 ? 1 : 0) - (rest <= -0.5 ? 1 : 0);
+        const bool isNegativeZero = whole == 0 && value < 0;
+        if (!isNegativeZero)
+            return writeWhole(at, whole);
+    }
+    const QByteArray digits = QByteArray::number(value, 'f', 0);
+    return std::copy(digits.cbegin(), digits.cend(), at);
 }
 
 // The bytes that were read where they were Latin-1.
@@ -243,7 +247,7 @@ QStringList RecordingWriter::timeStampLines(const Span &span) const
 
 char *RecordingWriter::writeDataLine(char *at, int sample, double firstTime) const
 {
-    at = writeWhole(at, sample + 1);
+    at = writeWhole(at, qint64(sample) + 1);
     *at++ = ',';
     at = writeWhole(at, m_recording.sampleTimes.at(sample) * 1000 - firstTime * 1000);
     *at++ = ',';
@@ -252,7 +256,7 @@ char *RecordingWriter::writeDataLine(char *at, int sample, double firstTime) con
         *at++ = ',';
     }
     for (const DigitalChannel *channel : m_recording.digitalChannels) {
-        at = writeWhole(at, channel->values.at(sample));
+        at = writeWhole(at, qint64(channel->values.at(sample)));
         *at++ = ',';
     }
     return m_recording.digitalChannels.isEmpty() ? at : at - 1;
