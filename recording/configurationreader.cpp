@@ -131,7 +131,7 @@ void readTimeStamps(CFGProperties &recording)
     const QString format = QStringLiteral("hh:mm:ss.zzz");
     const QTime start = QTime::fromString(recording.startTime, format);
     const QTime trigger = QTime::fromString(recording.triggerTime, format);
-    recording.triggerOffsetMs = start.isValid() && trigger.isValid() ? start.msecsTo(trigger) : 0;
+    recording.triggerOffsetMs = start.msecsTo(trigger); // 0 where one of them is no time
 }
 
 void readConfiguration(QIODevice &device, CFGProperties &recording)
