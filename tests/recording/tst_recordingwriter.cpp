@@ -670,8 +670,8 @@ void TestRecordingWriter::aFileThatCannotBeWrittenInFullIsTold()
 void TestRecordingWriter::asPrimaryTurnsSecondaryChannels()
 {
     ConfigurationText text = configurationText();
-    text.analog += "3,IL3,C,,A,0.25,2,0,0,0,500,5,s";
-    text.analog += "4,IL4,C,,A,0.25,2,0,0,0,500,0,S";
+    text.analog += "3,IL3,C,,A,0.25,2,0,0,0,500,0,S";
+    text.analog += "4,IL4,C,,A,0.25,2,0,0,0,500,5,s";
     const RecordingFolder folder;
     CFGProperties recording;
     folder.load(recording, text.text(), "1,0,1,2,3,4,1\n2,1000,-1,-2,-3,-4,0\n");
@@ -684,8 +684,8 @@ void TestRecordingWriter::asPrimaryTurnsSecondaryChannels()
                    "5,4A,1D\n"
                    "1,IL1,A,Bay,A,200,-400,3.25,-32767,32767,600.000000,5.000000,P\n"
                    "2,UL1,B,,V,2,0,0,-100,100,33000.000000,110.000000,P\n"
-                   "3,IL3,C,,A,0.25,2,0,0,0,500.000000,5.000000,P\n"
-                   "4,IL4,C,,A,0.25,2,0,0,0,500.000000,0.000000,P\n"
+                   "3,IL3,C,,A,0.25,2,0,0,0,500.000000,0.000000,P\n"
+                   "4,IL4,C,,A,0.25,2,0,0,0,500.000000,5.000000,P\n"
                    "1,TRIP,x,y,0\n"
                    "50.000000\n"
                    "1\n"
