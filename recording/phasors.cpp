@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
+#include <vector>
 
 namespace {
 
@@ -48,6 +49,18 @@ private:
     fftw_plan m_plan;
 };
 
+// The scaled samples without the offset, between the zeros that stand in beyond both ends: the
+// window of a sample, 2 * half values, begins at the sample's own index.
+std::vector<double> paddedWave(const AnalogChannel &channel, int half)
+{
+    const auto before = static_cast<size_t>(half - 1);
+    const auto after = static_cast<size_t>(half);
+    std::vector<double> wave(before + static_cast<size_t>(channel.rawValues.size()) + after);
+    std::transform(channel.rawValues.cbegin(), channel.rawValues.cend(), wave.begin() + half - 1,
+        [a = static_cast<double>(channel.a)](float x) { return static_cast<double>(x) * a; });
+    return wave;
+}
+
 } // namespace
 
 void computePhasors(AnalogChannel &channel, int samplesPerCycle)
@@ -73,18 +86,17 @@ void computePhasors(AnalogChannel &channel, int samplesPerCycle)
     const ComplexArray keptOut = complexArray(size);
     const Plan kept(size, keptIn.get(), keptOut.get());
     const int half = size / 2;
-    const double a = static_cast<double>(channel.a);
+    const std::vector<double> wave = paddedWave(channel, half);
     for (int sample = 0; sample < samples; ++sample) {
         const ComplexArray in = complexArray(size);
         const ComplexArray out = complexArray(size);
         const Plan plan(size, in.get(), out.get());
-        const int first = sample - half + 1;
-        for (int i = 0; i < size; ++i) {
-            const int j = first + i;
-            const bool isInside = j >= 0 && j < samples && i < 2 * half;
-            in.get()[i][0] = isInside ? static_cast<double>(channel.rawValues.at(j)) * a : 0;
+        const double *const window = wave.data() + sample;
+        for (int i = 0; i < 2 * half; ++i) {
+            in.get()[i][0] = window[i];
             in.get()[i][1] = 0;
         }
+        std::fill(in.get()[2 * half], in.get()[size], 0.0); // the last value of an odd cycle
         plan.execute();
         const double real = out.get()[1][0];
         const double imaginary = out.get()[1][1];
