@@ -3,7 +3,8 @@
 
 #include "figures.h"
 
-#include <QByteArray>
+#include <QApplication>
+#include <QLoggingCategory>
 
 #include <benchmark/benchmark.h>
 
@@ -36,6 +37,12 @@ const Figure figures[] = {
     {"phasors of 400, computed / transforms alone", [] { return phasorsAgainstTransforms(400); },
         Goal::AtMost, 1.1},
     {"writing, plain writer / writer", writingPlainlyAgainstWriting, Goal::AtLeast, 10},
+    {"redrawing, 1,000,000 samples / 2,000",
+        [] { return redrawingAgainstRedrawing(1000000, 2000); }, Goal::AtMost, 5},
+    {"redrawing, 10,000,000 samples / 1,000,000",
+        [] { return redrawingAgainstRedrawing(10000000, 1000000); }, Goal::AtMost, 1.2},
+    {"drawing a trace, in full / thinned", drawingInFullAgainstThinned, Goal::AtLeast, 40},
+    {"redrawing / a move of the pointer", redrawingAgainstPointing, Goal::None, 0},
 };
 
 std::string result(const Figure &figure, const Ratio &ratio)
@@ -78,6 +85,10 @@ int main(int argc, char **argv)
         };
         benchmark::RegisterBenchmark(figure.name, run)->Iterations(1);
     }
+    // The platform without a display warns whenever a plot grabs the keyboard.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 2;

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <algorithm>
-#include <chrono>
-#include <limits>
+#include <ctime>
+#include <vector>
 
 // Two amounts of the same unit, of which the ratio is of interest.
 struct Ratio {
@@ -13,23 +13,24 @@ struct Ratio {
     double value() const { return numerator / denominator; }
 };
 
+// The processor time of the work, so that other programs and the disk are not measured.
 template <typename Work> double milliseconds(Work &&work)
 {
-    using Clock = std::chrono::steady_clock;
-    const Clock::time_point start = Clock::now();
+    const std::clock_t start = std::clock();
     work();
-    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+    return static_cast<double>(std::clock() - start) * 1000 / CLOCKS_PER_SEC;
 }
 
-// The time of one piece of work against that of another, each the shortest of all rounds. The two
+// The time of one piece of work against that of another, in the round of the middle ratio. The two
 // take turns, so that whatever else the machine does meets both.
 template <typename Numerator, typename Denominator>
 Ratio timesInTurn(int rounds, Numerator &&numerator, Denominator &&denominator)
 {
-    Ratio ratio{std::numeric_limits<double>::max(), std::numeric_limits<double>::max(), "ms"};
-    for (int round = 0; round < rounds; ++round) {
-        ratio.numerator = std::min(ratio.numerator, milliseconds(numerator));
-        ratio.denominator = std::min(ratio.denominator, milliseconds(denominator));
-    }
-    return ratio;
+    std::vector<Ratio> ratios;
+    for (int round = 0; round < rounds; ++round)
+        ratios.push_back({milliseconds(numerator), milliseconds(denominator), "ms"});
+    const auto middle = ratios.begin() + rounds / 2;
+    std::nth_element(ratios.begin(), middle, ratios.end(),
+        [](const Ratio &left, const Ratio &right) { return left.value() < right.value(); });
+    return *middle;
 }

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "fakeplothost.h"
+#include "plotter.h"
+
+#include <QWidget>
+
+// Linked plots of 1600 x 400, one over the other, each of which shows the same eight channels of
+// noise over 1000 ms.
+class NoisyPlots {
+public:
+    static constexpr int channels = 8;
+
+    NoisyPlots(int plots, int samples);
+
+    Plotter &first() const { return *m_plots.constFirst(); }
+    const CFGProperties &recording() const { return *m_host.source; }
+
+private:
+    FakePlotHost m_host;
+    QWidget m_area;
+    QList<Plotter *> m_plots;
+};

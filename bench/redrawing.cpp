@@ -1,0 +1,72 @@
+// Redrawing eight traces of noise at 1600 x 400.
+
+#include "analogchannel.h"
+#include "cfgproperties.h"
+#include "figures.h"
+#include "noisyplot.h"
+#include "tracepainter.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr int rounds = 51;
+constexpr int fullRounds = 3;
+constexpr int million = 1000000;
+
+template <typename Draw> void paintTrace(const PlotGeometry &geometry, Draw &&draw)
+{
+    QPixmap pixmap(geometry.widgetSize());
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setClipRect(geometry.area());
+    painter.setPen(QPen(Qt::red, 0));
+    draw(painter);
+}
+
+} // namespace
+
+Ratio redrawingAgainstRedrawing(int samples, int fewerSamples)
+{
+    const NoisyPlots many(1, samples);
+    const NoisyPlots few(1, fewerSamples);
+    return timesInTurn(
+        rounds, [&] { many.first().refreshPixmap(); }, [&] { few.first().refreshPixmap(); });
+}
+
+Ratio drawingInFullAgainstThinned()
+{
+    const NoisyPlots plots(1, million);
+    const PlotGeometry geometry = plots.first().geometryOfView();
+    const TimeAxis axis(plots.recording().sampleTimes);
+    const TraceSummary trace(plots.recording().analogChannels.constFirst()->values);
+    return timesInTurn(
+        fullRounds,
+        [&] {
+            paintTrace(geometry, [&](QPainter &painter) {
+                TracePainter(painter, geometry, axis).drawAll(trace.values(), 1);
+            });
+        },
+        [&] {
+            paintTrace(geometry,
+                [&](QPainter &painter) { TracePainter(painter, geometry, axis).draw(trace, 1); });
+        });
+}
+
+Ratio redrawingAgainstPointing()
+{
+    const NoisyPlots plots(8, million);
+    Plotter &plot = plots.first();
+    int x = 0;
+    return timesInTurn(
+        rounds, [&] { plot.refreshPixmap(); },
+        [&] {
+            const QPointF position(200 + 10 * (++x % 100), 200);
+            QMouseEvent move(
+                QEvent::MouseMove, position, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+            QApplication::sendEvent(&plot, &move);
+            QApplication::processEvents();
+        });
+}
