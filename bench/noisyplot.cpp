@@ -36,3 +36,9 @@ NoisyPlots::NoisyPlots(int plots, int samples)
     }
     m_area.show();
 }
+
+void NoisyPlots::redraw() const
+{
+    m_host.source->triggerOffsetMs ^= 1;
+    first().refreshPixmap();
+}

@@ -14,6 +14,9 @@ public:
     NoisyPlots(int plots, int samples);
 
     Plotter &first() const { return *m_plots.constFirst(); }
+    // Draws the base layer of the first plot, with the trigger at another time than before: a layer
+    // of which nothing has changed would not be drawn again.
+    void redraw() const;
     const CFGProperties &recording() const { return *m_host.source; }
 
 private:

@@ -33,7 +33,7 @@ Ratio redrawingAgainstRedrawing(int samples, int fewerSamples)
     const NoisyPlots many(1, samples);
     const NoisyPlots few(1, fewerSamples);
     return timesInTurn(
-        rounds, [&] { many.first().refreshPixmap(); }, [&] { few.first().refreshPixmap(); });
+        rounds, [&] { many.redraw(); }, [&] { few.redraw(); });
 }
 
 Ratio drawingInFullAgainstThinned()
@@ -61,7 +61,7 @@ Ratio redrawingAgainstPointing()
     Plotter &plot = plots.first();
     int x = 0;
     return timesInTurn(
-        rounds, [&] { plot.refreshPixmap(); },
+        rounds, [&] { plots.redraw(); },
         [&] {
             const QPointF position(200 + 10 * (++x % 100), 200);
             QMouseEvent move(
