@@ -4,6 +4,9 @@
 
 // What is measured, one source for each group. A call takes seconds to minutes.
 
+// Resident memory after a load less 60 MB, against the bytes of the series. It must be the first,
+// as memory that was freed before would be taken again unnoticed.
+Ratio memoryAgainstSeries();
 Ratio readingPlainlyAgainstReading();
 Ratio readingAgainstConverting();
 Ratio phasorsAgainstTransforms(int samplesPerCycle);

@@ -28,6 +28,7 @@ struct Figure {
 };
 
 const Figure figures[] = {
+    {"memory after a load less 60 MB / series", memoryAgainstSeries, Goal::AtMost, 1.25},
     {"reading, plain reader / reader", readingPlainlyAgainstReading, Goal::AtLeast, 10},
     {"reading, reader / converting alone", readingAgainstConverting, Goal::AtMost, 1.5},
     {"phasors of 20, computed / transforms alone", [] { return phasorsAgainstTransforms(20); },

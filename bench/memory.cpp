@@ -1,0 +1,64 @@
+// The memory that a recording of 1,000,000 samples stands in.
+
+#include "cfgproperties.h"
+#include "figures.h"
+#include "recordingtext.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace {
+
+constexpr RecordingText text{1000000, 20};
+constexpr double megabyte = 1e6;
+constexpr double allowance = 60; // MB that do not depend on the recording
+
+// Resident memory of the process in MB, as Linux tells it.
+double residentMemory()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (status.open(QIODevice::ReadOnly)) {
+        const QByteArrayList lines = status.readAll().split('\n');
+        for (const QByteArray &line : lines) {
+            if (line.startsWith("VmRSS:"))
+                return line.simplified().split(' ').value(1).toDouble() * 1024 / megabyte;
+        }
+    }
+    qFatal("resident memory is known on Linux only");
+}
+
+double seriesMemory(const CFGProperties &recording)
+{
+    constexpr int analogSeries = 4; // scaled and raw values, angles, magnitudes
+    const double samples = recording.sampleCount;
+    return samples
+        * (sizeof(double) + analogSeries * sizeof(float) * RecordingText::analogCount
+            + sizeof(int) * RecordingText::digitalCount)
+        / megabyte;
+}
+
+} // namespace
+
+Ratio memoryAgainstSeries()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("recording"));
+    QFile configuration(path + QStringLiteral(".cfg"));
+    QFile data(path + QStringLiteral(".dat"));
+    if (!configuration.open(QIODevice::WriteOnly) || !data.open(QIODevice::WriteOnly))
+        qFatal("cannot write to %s", qPrintable(folder.path()));
+    configuration.write(text.configuration());
+    configuration.close();
+    text.writeData(data);
+    data.close();
+
+    const double before = residentMemory();
+    CFGProperties recording;
+    recording.filePath = configuration.fileName();
+    recording.init();
+    if (recording.sampleCount != text.samples)
+        qFatal("read %d of %d samples", recording.sampleCount, text.samples);
+    const Ratio ratio{residentMemory() - before - allowance, seriesMemory(recording), "MB"};
+    discardSeries(recording);
+    return ratio;
+}
