@@ -92,11 +92,11 @@ void computePhasors(AnalogChannel &channel, int samplesPerCycle)
         const ComplexArray out = complexArray(size);
         const Plan plan(size, in.get(), out.get());
         const double *const window = wave.data() + sample;
-        for (int i = 0; i < 2 * half; ++i) {
-            in.get()[i][0] = window[i];
+        for (int i = 0; i < size; ++i) {
+            const bool isInside = i < 2 * half; // not the last value of an odd cycle
+            in.get()[i][0] = isInside ? window[i] : 0;
             in.get()[i][1] = 0;
         }
-        std::fill(in.get()[2 * half], in.get()[size], 0.0); // the last value of an odd cycle
         plan.execute();
         const double real = out.get()[1][0];
         const double imaginary = out.get()[1][1];
