@@ -27,6 +27,7 @@ template <typename Numerator, typename Denominator>
 Ratio timesInTurn(int rounds, Numerator &&numerator, Denominator &&denominator)
 {
     std::vector<Ratio> ratios;
+    ratios.reserve(static_cast<size_t>(rounds));
     for (int round = 0; round < rounds; ++round)
         ratios.push_back({milliseconds(numerator), milliseconds(denominator), "ms"});
     const auto middle = ratios.begin() + rounds / 2;
