@@ -52,7 +52,7 @@ inline QImage textInk(const QString &text, const QFont &font, double offset)
 // Whether exactly this ink stands at a place, with none close to it.
 inline bool standsAt(const QImage &picture, const QImage &ink, const QPoint &place)
 {
-    constexpr int gap = 3; // beside it; above and below, one pixel
+    constexpr int gap = 4; // beside it; above and below, one pixel
     for (int y = -1; y <= ink.height(); ++y) {
         for (int x = -gap; x < ink.width() + gap; ++x) {
             if (isInk(picture, place.x() + x, place.y() + y) != isInk(ink, x, y))

@@ -1,0 +1,291 @@
+#include "baselayer.h"
+#include "textsearch.h"
+
+#include <QtTest>
+
+#include <cmath>
+#include <functional>
+
+Q_DECLARE_METATYPE(PlotSettings)
+
+namespace {
+
+const QRgb grid = qRgb(150, 150, 150);
+const QRgb white = qRgb(255, 255, 255);
+const QRgb black = qRgb(0, 0, 0);
+
+// A plot area 698 pixels wide from x = 100 on and 201 high from y = 60 on; traces have 700 x 200.
+constexpr QSize widget(800, 301);
+const QRect area(100, 60, 698, 201);
+const QRect belowArea(0, 262, 800, 39);
+const QRect leftOfArea(0, 0, 100, 301);
+
+PlotGeometry geometryOf(const PlotSettings &view, int readoutWidth = 0)
+{
+    return {widget, readoutWidth, view};
+}
+
+QImage paint(const std::function<void(QPainter &)> &draw)
+{
+    QImage image(widget, QImage::Format_RGB32);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    draw(painter);
+    return image;
+}
+
+QStringList list(const char *texts)
+{
+    return QString::fromLatin1(texts).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+class tst_BaseLayer : public QObject {
+    Q_OBJECT
+
+private slots:
+    void timeGridStandsOnItsTimes();
+    void theLastTimeLineStandsOnTheFrame_data();
+    void theLastTimeLineStandsOnTheFrame();
+    void timeLabels_data();
+    void timeLabels();
+    void timeLabelsStandUnderTheirLines();
+    void timeLabelsThatWouldOverlapAreLeftOut();
+    void valueGridStandsOnItsValues();
+    void valueLabels_data();
+    void valueLabels();
+    void valueLabelsThatWouldOverlapAreLeftOut();
+    void theFrameStandsAroundTheArea();
+    void theTriggerIsALineWithItsTime_data();
+    void theTriggerIsALineWithItsTime();
+    void aTriggerOutOfViewIsNotDrawn_data();
+    void aTriggerOutOfViewIsNotDrawn();
+
+private:
+    QFont font = crispFont(12);
+};
+
+// 7 intervals of 100 pixels.
+void tst_BaseLayer::timeGridStandsOnItsTimes()
+{
+    const QImage image = paint([](QPainter &painter) {
+        drawTimeGrid(painter, geometryOf({0, 700, 7, -12, 12, 8}));
+    });
+    for (int x = 0; x < 800; ++x) {
+        const bool isLine = (x % 100 == 0 && x >= 100 && x < 800) || x == 797;
+        QCOMPARE(image.pixel(x, 160), isLine ? grid : black);
+    }
+    for (int y = 0; y < 301; ++y)
+        QCOMPARE(image.pixel(300, y), y >= 60 && y <= 260 ? grid : black);
+}
+
+void tst_BaseLayer::theLastTimeLineStandsOnTheFrame_data()
+{
+    QTest::addColumn<int>("readoutWidth");
+    QTest::addColumn<int>("right");
+    QTest::newRow("at the widget's right") << 0 << 797;
+    QTest::newRow("at the readout") << 200 << 597;
+}
+
+void tst_BaseLayer::theLastTimeLineStandsOnTheFrame()
+{
+    QFETCH(int, readoutWidth);
+    QFETCH(int, right);
+    const PlotGeometry geometry = geometryOf({0, 1000, 10, -12, 12, 8}, readoutWidth);
+    const QImage lines = paint([&](QPainter &painter) { drawTimeGrid(painter, geometry); });
+    const QImage frame = paint([&](QPainter &painter) { drawFrame(painter, geometry); });
+    QCOMPARE(lines.pixel(right, 100), grid);
+    QCOMPARE(frame.pixel(right, 100), white);
+    for (int x = right + 1; x < 800; ++x)
+        QCOMPARE(lines.pixel(x, 100), black);
+}
+
+void tst_BaseLayer::timeLabels_data()
+{
+    QTest::addColumn<PlotSettings>("view");
+    QTest::addColumn<QStringList>("texts");
+    QTest::newRow("whole milliseconds")
+        << PlotSettings{0, 1000, 5, 0, 1, 4} << list("0 200 400 600 800 1000");
+    QTest::newRow("six digits") << PlotSettings{1234.5, 1238.5, 4, 0, 1, 4}
+                                << list("1234.5 1235.5 1236.5 1237.5 1238.5");
+    QTest::newRow("more than six digits are rounded") << PlotSettings{
+        100000.25, 100004.25, 4, 0, 1, 4} << list("100000 100001 100002 100003 100004");
+    QTest::newRow("large times have an exponent")
+        << PlotSettings{0, 4e6, 4, 0, 1, 4} << list("0 1e+06 2e+06 3e+06 4e+06");
+    QTest::newRow("what rounding leaves of zero is zero")
+        << PlotSettings{-0.1, 0.25, 7, 0, 1, 4} << list("-0.1 -0.05 0 0.05 0.1 0.15 0.2 0.25");
+    QTest::newRow("a small time that is none of rounding stays")
+        << PlotSettings{0, 4e-9, 4, 0, 1, 4} << list("0 1e-09 2e-09 3e-09 4e-09");
+}
+
+void tst_BaseLayer::timeLabels()
+{
+    QFETCH(PlotSettings, view);
+    QFETCH(QStringList, texts);
+    const QImage image
+        = paint([&](QPainter &painter) { drawTimeLabels(painter, geometryOf(view), font); });
+    int right = 0;
+    for (const QString &text : qAsConst(texts)) {
+        const QRect found = findText(image, text, font, belowArea);
+        QVERIFY2(!found.isNull(), qPrintable(text));
+        QVERIFY(found.left() > right);
+        right = found.right();
+    }
+    QCOMPARE(inkRect(image, image.rect()), inkRect(image, belowArea));
+}
+
+// The last label would reach out of the widget and stands as far right as it may.
+void tst_BaseLayer::timeLabelsStandUnderTheirLines()
+{
+    const QImage image = paint([&](QPainter &painter) {
+        drawTimeLabels(painter, geometryOf({0, 700, 7, 0, 1, 4}), font);
+    });
+    for (int i = 0; i < 7; ++i) {
+        const QRect found = findText(image, QString::number(100 * i), font, belowArea);
+        QVERIFY(std::abs(found.center().x() - (100 + 100 * i)) <= 1);
+    }
+    QVERIFY(findText(image, QStringLiteral("700"), font, belowArea).right() < 798);
+}
+
+// 20 intervals of 5 pixels each.
+void tst_BaseLayer::timeLabelsThatWouldOverlapAreLeftOut()
+{
+    const QImage image = paint([&](QPainter &painter) {
+        drawTimeLabels(painter, {{200, 301}, 0, {0, 20000, 20, 0, 1, 4}}, font);
+    });
+    QVERIFY(!findText(image, QStringLiteral("0"), font, belowArea).isNull());
+    QVERIFY(findText(image, QStringLiteral("1000"), font, belowArea).isNull());
+    int labels = 0;
+    for (int i = 1; i <= 20; ++i)
+        labels += !findText(image, QString::number(1000 * i), font, belowArea).isNull();
+    QVERIFY(labels >= 1 && labels <= 3);
+}
+
+// Values -12 to 12 in steps of 3, 25 pixels apart.
+void tst_BaseLayer::valueGridStandsOnItsValues()
+{
+    const QImage image = paint([&](QPainter &painter) {
+        drawValueGrid(painter, geometryOf({0, 700, 7, -12, 12, 8}), font);
+    });
+    for (int y = 0; y < 301; ++y) {
+        const bool isLine = y >= 60 && y <= 260 && (y - 60) % 25 == 0;
+        QCOMPARE(image.pixel(400, y), isLine ? grid : black);
+    }
+    QCOMPARE(image.pixel(99, 160), black);
+    QCOMPARE(image.pixel(100, 160), grid);
+    QCOMPARE(image.pixel(797, 160), grid);
+    QCOMPARE(image.pixel(798, 160), black);
+}
+
+void tst_BaseLayer::valueLabels_data()
+{
+    QTest::addColumn<PlotSettings>("view");
+    QTest::addColumn<QStringList>("texts"); // from the bottom up
+    QTest::newRow("whole numbers")
+        << PlotSettings{0, 1, 4, -12, 12, 8} << list("-12 -9 -6 -3 0 3 6 9 12");
+    QTest::newRow("trailing zeros are cut")
+        << PlotSettings{0, 1, 4, 0, 10, 4} << list("0 2.5 5 7.5 10");
+    QTest::newRow("zeros of whole numbers stay")
+        << PlotSettings{0, 1, 4, 0, 400, 4} << list("0 100 200 300 400");
+    QTest::newRow("six decimals") << PlotSettings{0, 1, 4, 0, 0.000004, 4}
+                                  << list("0 0.000001 0.000002 0.000003 0.000004");
+    QTest::newRow("what rounding leaves of zero is zero")
+        << PlotSettings{0, 1, 4, -0.1, 0.25, 7} << list("-0.1 -0.05 0 0.05 0.1 0.15 0.2 0.25");
+}
+
+// In a font of 10 pixels, right-aligned six pixels left of the area, beside their lines.
+void tst_BaseLayer::valueLabels()
+{
+    QFETCH(PlotSettings, view);
+    QFETCH(QStringList, texts);
+    const QImage image
+        = paint([&](QPainter &painter) { drawValueGrid(painter, geometryOf(view), font); });
+    for (int i = 0; i < texts.size(); ++i) {
+        const QRect found = findText(image, texts.at(i), crispFont(10), leftOfArea);
+        QVERIFY2(!found.isNull(), qPrintable(texts.at(i)));
+        QVERIFY(found.right() >= 90 && found.right() <= 94);
+        const int line = qRound(260 - 200.0 * i / (texts.size() - 1));
+        QVERIFY(std::abs(found.center().y() - line) <= 2);
+    }
+}
+
+// Forty lines 5 pixels apart have labels at most at every second.
+void tst_BaseLayer::valueLabelsThatWouldOverlapAreLeftOut()
+{
+    const QImage image = paint([&](QPainter &painter) {
+        drawValueGrid(painter, geometryOf({0, 700, 7, 0, 40, 40}), font);
+    });
+    QVERIFY(!findText(image, QStringLiteral("0"), crispFont(10), leftOfArea).isNull());
+    QVERIFY(findText(image, QStringLiteral("1"), crispFont(10), leftOfArea).isNull());
+    int labels = 0;
+    for (int i = 0; i <= 40; ++i)
+        labels += !findText(image, QString::number(i), crispFont(10), leftOfArea).isNull();
+    QVERIFY(labels >= 10 && labels <= 20);
+}
+
+void tst_BaseLayer::theFrameStandsAroundTheArea()
+{
+    const QImage image = paint([](QPainter &painter) {
+        drawFrame(painter, geometryOf({0, 700, 7, 0, 1, 4}));
+    });
+    for (int y = 0; y < 301; ++y) {
+        for (int x = 0; x < 800; ++x) {
+            const bool isEdge = area.contains(x, y) && !area.adjusted(1, 1, -1, -1).contains(x, y);
+            QCOMPARE(image.pixel(x, y), isEdge ? white : black);
+        }
+    }
+}
+
+void tst_BaseLayer::theTriggerIsALineWithItsTime_data()
+{
+    QTest::addColumn<int>("time");
+    QTest::addColumn<int>("x");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isRight"); // the text is right of the line
+    QTest::newRow("in the middle") << 250 << 350 << QStringLiteral("Trigger: 250 ms") << true;
+    QTest::newRow("at the left edge") << 0 << 100 << QStringLiteral("Trigger: 0 ms") << true;
+    QTest::newRow("near the right edge")
+        << 690 << 790 << QStringLiteral("Trigger: 690 ms") << false;
+}
+
+void tst_BaseLayer::theTriggerIsALineWithItsTime()
+{
+    QFETCH(int, time);
+    QFETCH(int, x);
+    QFETCH(QString, text);
+    QFETCH(bool, isRight);
+    const QImage image = paint([&](QPainter &painter) {
+        drawTriggerMark(painter, geometryOf({0, 700, 7, 0, 1, 4}), font, time);
+    });
+    int onLine = 0;
+    for (int y = 60; y <= 260; ++y)
+        onLine += image.pixel(x, y) == white;
+    QVERIFY(onLine > 100 && onLine < 201); // dashes
+    QCOMPARE(inkRect(image, image.rect()) | area, area);
+    const QRect found = findText(image, text, font);
+    QVERIFY(!found.isNull());
+    QVERIFY(isRight ? found.left() > x && found.left() <= x + 10
+                    : found.right() < x && found.right() >= x - 10);
+    QVERIFY(found.bottom() > 245);
+}
+
+void tst_BaseLayer::aTriggerOutOfViewIsNotDrawn_data()
+{
+    QTest::addColumn<int>("time");
+    QTest::newRow("left of the view") << -1;
+    QTest::newRow("right of the view") << 701;
+    QTest::newRow("far away") << 2000000000;
+}
+
+void tst_BaseLayer::aTriggerOutOfViewIsNotDrawn()
+{
+    QFETCH(int, time);
+    const QImage image = paint([&](QPainter &painter) {
+        drawTriggerMark(painter, geometryOf({0, 700, 7, 0, 1, 4}), font, time);
+    });
+    QVERIFY(inkRect(image, image.rect()).isNull());
+}
+
+QTEST_MAIN(tst_BaseLayer)
+#include "tst_baselayer.moc"
