@@ -61,6 +61,10 @@ MainWindow::MainWindow(QWidget *parent)
     createLoader();
     connect(ui->checkBox_convertToLocal, &QCheckBox::toggled, this, &MainWindow::showLocalTimes);
     ui->checkBox_convertToLocal->setStyleSheet(QStringLiteral("color: white;"));
+    connect(ui->listWidget, &QListWidget::itemSelectionChanged, this,
+        &MainWindow::setRequiredAnChannels);
+    connect(ui->listWidget2, &QListWidget::itemSelectionChanged, this,
+        [this] { on_listWidget2_clicked(QModelIndex()); });
     setAcceptDrops(true);
 }
 
@@ -158,6 +162,7 @@ void MainWindow::stopLoader()
     if (!cfgProperties)
         return;
     queuedPath.reset();
+    loaderThread->requestInterruption();
     loaderThread->quit();
     loaderThread->wait();
     delete loaderThread;

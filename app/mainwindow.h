@@ -16,7 +16,6 @@ class CTVTDialog;
 class Plotter;
 class QCheckBox;
 class QComboBox;
-class QDateTime;
 class QMenu;
 class QProcess;
 class QTranslator;

@@ -123,10 +123,15 @@ bool MainWindow::unpack(QString &path)
     const QPointer<MainWindow> self(this);
     zipBusy = true;
     startUnpacking(path);
-    while (self && zipBusy)
+    // An archiver that cannot be started never ends: the wait goes on until another file is asked
+    // for.
+    const auto isGivenUp
+        = [this] { return queuedPath && zipProcess->error() == QProcess::FailedToStart; };
+    while (self && zipBusy && !isGivenUp())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     if (!self || !cfgProperties)
         return false;
+    zipBusy = false;
 
     const QDir folder(temporaryFolder);
     const QStringList names
@@ -183,6 +188,8 @@ void MainWindow::startUnpacking(const QString &package)
 
 void MainWindow::processZip()
 {
+    if (!zipBusy)
+        return; // the window is closing
     const ArchiverOutput::Reaction reaction = archiverOutput->read(zipProcess->readAll());
     if (!reaction.answer.isEmpty())
         zipProcess->write(reaction.answer);

@@ -37,8 +37,27 @@ void fill(QComboBox &combo, const QStringList &items, int current)
 
 void select(QListWidget &list, const QList<int> &rows)
 {
+    const QSignalBlocker blocker(&list);
     for (int row = 0; row < list.count(); ++row)
         list.item(row)->setSelected(rows.contains(row));
+}
+
+// Makes a plot show the channels that are selected; false where it does so already.
+bool showSelection(const QListWidget &list, Plotter &plot)
+{
+    const QList<int> shown = plot.channels();
+    bool changed = false;
+    for (int row = 0; row < list.count(); ++row) {
+        const bool isSelected = list.item(row)->isSelected();
+        if (isSelected == shown.contains(row))
+            continue;
+        changed = true;
+        if (isSelected)
+            plot.addChannel(row);
+        else
+            plot.removeChannel(row);
+    }
+    return changed;
 }
 
 } // namespace
@@ -115,13 +134,13 @@ void MainWindow::createPlots()
     connect(zoomResetAct, &QAction::triggered, digitalPlotter, &Plotter::customResetZoom);
     connectSaveMarkers(digitalPlotter);
 
-    for (Plotter *plot : plots()) {
+    for (Plotter *plot : plots())
         plot->setMainWindow(this);
-        connect(horizontalScroll, &QScrollBar::valueChanged, plot, &Plotter::scrolling);
-    }
     plotLayout->addWidget(analogPlotter);
     plotLayout->addWidget(digitalPlotter);
     linkPlots();
+    connect(horizontalScroll, &QScrollBar::valueChanged, analogPlotter, &Plotter::scrolling);
+    connect(horizontalScroll, &QScrollBar::valueChanged, digitalPlotter, &Plotter::scrolling);
 
     for (int i = 0; i < qMin(firstPlotChannels, cfgProperties->analogChannels.size()); ++i)
         analogPlotter->addChannel(i);
@@ -190,6 +209,8 @@ void MainWindow::setColumnHeight()
         rows > smallestPlotHeight ? rows + analogPlots * scrolledPlotHeight : 0);
 }
 
+// A selection changes by clicks, but also by keys and by dragging over the rows; whatever brings
+// the news first changes the plot.
 void MainWindow::on_listWidget_clicked(const QModelIndex & /*index*/)
 {
     setRequiredAnChannels();
@@ -197,26 +218,16 @@ void MainWindow::on_listWidget_clicked(const QModelIndex & /*index*/)
 
 void MainWindow::setRequiredAnChannels()
 {
-    if (!analogPlotter)
+    if (!analogPlotter || !showSelection(*ui->listWidget, *analogPlotter))
         return;
-    for (int row = 0; row < ui->listWidget->count(); ++row) {
-        if (ui->listWidget->item(row)->isSelected())
-            analogPlotter->addChannel(row);
-        else
-            analogPlotter->removeChannel(row);
-    }
     analogPlotter->setupPlot();
     analogPlotter->refreshPixmap();
 }
 
-void MainWindow::on_listWidget2_clicked(const QModelIndex &index)
+void MainWindow::on_listWidget2_clicked(const QModelIndex & /*index*/)
 {
-    if (!digitalPlotter || !index.isValid())
+    if (!digitalPlotter || !showSelection(*ui->listWidget2, *digitalPlotter))
         return;
-    if (ui->listWidget2->item(index.row())->isSelected())
-        digitalPlotter->addChannel(index.row());
-    else
-        digitalPlotter->removeChannel(index.row());
     showChosenChannels();
     digitalPlotter->refreshPixmap();
 }
@@ -281,13 +292,8 @@ void MainWindow::removePlotter()
 {
     if (!addedPlotters.isEmpty()) {
         Plotter *removed = addedPlotters.takeLast();
-        for (Plotter *plot : plots()) {
+        for (Plotter *plot : plots())
             plot->removeLinkedPlotter(removed->name());
-            // Plots may share a name: then another one was taken out.
-            QList<Plotter *> left = plot->linked();
-            left.removeAll(removed);
-            plot->setLinkedPlotters(left);
-        }
         plotLayout->removeWidget(removed);
         delete removed;
         setColumnHeight();
@@ -303,7 +309,6 @@ void MainWindow::removeCursors()
         plot->clearCursors();
         plot->refreshPixmap();
     }
-    vectorDialog->refresh();
 }
 
 void MainWindow::refreshPlots()

@@ -309,6 +309,8 @@ void Plotter::followFromNowOn(const Plotter &other)
     startMarkerTime = other.startMarkerTime;
     endMarkerSet = other.endMarkerSet;
     endMarkerTime = other.endMarkerTime;
+    lastScrollValue = other.lastScrollValue;
+    scrollDelta = other.scrollDelta;
     const PlotSettings source = other.view();
     zoomStack[0].minX = source.minX;
     zoomStack[0].maxX = source.maxX;

@@ -3,6 +3,8 @@
 #include "analogchannel.h"
 #include "numbers.h"
 
+#include <QThread>
+
 #include <fftw3.h>
 
 #include <algorithm>
@@ -12,6 +14,7 @@
 
 namespace {
 
+constexpr int samplesBetweenLooks = 256; // whether the program ends
 constexpr int largestCycle = 1 << 20; // samples
 // A longer cycle than this, of which the recording does not hold one, has no fundamental to speak
 // of, and a transform for every sample of it would cost out of all proportion.
@@ -88,6 +91,9 @@ void computePhasors(AnalogChannel &channel, int samplesPerCycle)
     const int half = size / 2;
     const std::vector<double> wave = paddedWave(channel, half);
     for (int sample = 0; sample < samples; ++sample) {
+        if (sample % samplesBetweenLooks == 0
+            && QThread::currentThread()->isInterruptionRequested())
+            return;
         const ComplexArray in = complexArray(size);
         const ComplexArray out = complexArray(size);
         const Plan plan(size, in.get(), out.get());

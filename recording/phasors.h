@@ -6,4 +6,5 @@ class AnalogChannel;
 // samples that is centred on it (one more sample after it than before), zeros standing in beyond
 // both ends. Magnitudes are RMS in the scaled unit without the offset, angles are radians against a
 // cosine. Where no transform of that size is meaningful, both are 0.
+// A request to interrupt the thread ends the work early.
 void computePhasors(AnalogChannel &channel, int samplesPerCycle);

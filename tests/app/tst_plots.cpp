@@ -92,6 +92,7 @@ private slots:
 
     void analogListChoosesTheFirstPlotsChannels();
     void digitalListChoosesTheRows();
+    void keysAndDraggingChooseChannelsToo();
     void noDigitalChannelsHideTheirPlot();
     void aDeselectedListHidesThePlotAndASelectionShowsIt();
 
@@ -115,6 +116,7 @@ private slots:
     void removingWithoutAnAddedPlotDisablesTheAction();
     void aRemovedPlotHoldsNeitherKeyboardNorBand();
     void anAddedPlotStartsAtTheFirstPlotsTime();
+    void anAddedPlotScrollsWithTheOthers();
     void anAddedPlotIsScrolledIntoView();
 
     void spectrumTracesFollowAngleAndReference();
@@ -367,6 +369,38 @@ void tst_Plots::digitalListChoosesTheRows()
     click(list("listWidget2"), 2);
     QCOMPARE(digital()->channels(), QList<int>({1, 2}));
     QVERIFY(list("listWidget2")->item(2)->isSelected());
+}
+
+void tst_Plots::keysAndDraggingChooseChannelsToo()
+{
+    open({QStringLiteral("Ia"), QStringLiteral("Ib"), QStringLiteral("Ic")},
+        {QStringLiteral("D1"), QStringLiteral("D2")});
+    const auto selected = [](const QListWidget *widget) {
+        QList<int> rows;
+        for (int row = 0; row < widget->count(); ++row) {
+            if (widget->item(row)->isSelected())
+                rows.append(row);
+        }
+        return rows;
+    };
+    for (QListWidget *widget : {list("listWidget"), list("listWidget2")}) {
+        const Plotter *shown = widget == list("listWidget") ? analog() : digital();
+        widget->setCurrentRow(1, QItemSelectionModel::NoUpdate);
+        QTest::keyClick(widget, Qt::Key_Space);
+        QVERIFY(!widget->item(1)->isSelected());
+        QCOMPARE(shown->channels(), selected(widget));
+        QTest::keyClick(widget, Qt::Key_A, Qt::ControlModifier);
+        QVERIFY(widget->item(1)->isSelected());
+        QCOMPARE(shown->channels(), selected(widget));
+        QTest::mousePress(widget->viewport(), Qt::LeftButton, {},
+            widget->visualItemRect(widget->item(0)).center());
+        QMouseEvent move(QEvent::MouseMove, widget->visualItemRect(widget->item(1)).center(),
+            Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(widget->viewport(), &move);
+        QTest::mouseRelease(widget->viewport(), Qt::LeftButton, {},
+            widget->visualItemRect(widget->item(1)).center());
+        QCOMPARE(shown->channels(), selected(widget));
+    }
 }
 
 void tst_Plots::noDigitalChannelsHideTheirPlot()
@@ -634,6 +668,20 @@ void tst_Plots::anAddedPlotStartsAtTheFirstPlotsTime()
     QCOMPARE(plot(QStringLiteral("Currents"))->view().maxX, 50.0);
     action("Zoom In")->trigger();
     QCOMPARE(plot(QStringLiteral("Currents"))->view().maxX, analog()->view().maxX);
+}
+
+// The bar goes to 2, the zoom sets it to 4, and it goes to 2 again, where the older plots were last
+// and so do not move.
+void tst_Plots::anAddedPlotScrollsWithTheOthers()
+{
+    open({QStringLiteral("Ia")}, {QStringLiteral("D1")});
+    action("Zoom In")->trigger();
+    window->horizontalScrollBar()->setValue(2);
+    compose({QStringLiteral("Ia")}, QStringLiteral("Currents"));
+    action("Zoom In")->trigger();
+    window->horizontalScrollBar()->setValue(2);
+    for (const Plotter *each : plots())
+        QCOMPARE(each->view().minX, 20.0);
 }
 
 void tst_Plots::anAddedPlotIsScrolledIntoView()

@@ -48,7 +48,7 @@ shot() { import -window root "${output:-.}/$1.png"; }
 different_pixels() { # of two screenshots
     local pixels
     pixels=$(compare -metric AE "$output/$1.png" "$output/$2.png" null: 2>&1 || true)
-    echo "${pixels%%[!0-9]*}"
+    printf '%.0f' "${pixels%% *}" || fail "$1 and $2 cannot be compared: $pixels"
 }
 
 click() { xdotool mousemove "$1" "$2" click 1; }
@@ -60,13 +60,13 @@ drag() { # drag X Y X Y
         mousemove "$3" "$4" mouseup 1
 }
 
-open_recording() { # through the dialog
+open_recording() { # open_recording PATH [NAME IN THE TITLE]: through the dialog
     xdotool windowfocus "$window" key ctrl+o
     within 10 titled '^Open File$' || fail "no Open dialog"
     sleep 0.3
     xdotool type --delay 5 "$1"
     xdotool key Return
-    within 60 titled "^Wavorin - $(basename "$1")\$" || fail "$1 did not open"
+    within 60 titled "^Wavorin - ${2:-$(basename "$1")}\$" || fail "$1 did not open"
     xdotool windowfocus "$window"
 }
 
