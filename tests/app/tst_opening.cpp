@@ -1,7 +1,9 @@
 #include "cfgproperties.h"
 #include "mainwindow.h"
+#include "plotter.h"
 #include "plotvalues.h"
 #include "smallrecording.h"
+#include "vectordialog.h"
 #include "windowtest.h"
 
 #include <QCheckBox>
@@ -83,6 +85,12 @@ class TestOpening : public QObject {
             && child<QComboBox>("comboBox_primSec")->count() == 0;
     }
 
+    bool animationIsGone() const
+    {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return window->findChildren<QMovie *>().isEmpty();
+    }
+
     QString path(const char *name) const { return folder->filePath(QLatin1String(name)); }
 
     QString goodRecording(const char *name = "good")
@@ -154,6 +162,41 @@ private slots:
         QCOMPARE(texts.join(QLatin1Char(' ')), QStringLiteral("1 100 20000 400"));
     }
 
+    void ratingsHaveSixDigits()
+    {
+        window->open(writeSmallRecording(folder->path(), QStringLiteral("rec"),
+            smallConfiguration().replace("400,1,S", "1234567.8,0.00001234567,S")));
+        window->showCTVTDialog();
+        QStringList texts;
+        for (const QLineEdit *edit : child<QDialog>("CTVTDialog")->findChildren<QLineEdit *>())
+            texts.append(edit->text());
+        texts.sort();
+        QCOMPARE(texts.join(QLatin1Char(' ')), QStringLiteral("1.23457e+06 1.23457e-05 100 20000"));
+    }
+
+    void cursorOfTheFirstPlotReachesTheVectorDialog()
+    {
+        window->show();
+        window->open(goodRecording());
+        for (QAction *action : window->findChildren<QAction *>()) {
+            if (action->text() == QLatin1String("&Show Vectors"))
+                action->trigger();
+        }
+        const auto *dialog = window->findChild<VectorDialog *>();
+        QVERIFY(dialog->isVisible());
+        const auto *magnitudes = dialog->findChild<QLabel *>(QStringLiteral("labelMagnitudes"));
+        const auto picture = [&] { return magnitudes->pixmap(Qt::ReturnByValue).toImage(); };
+        dialog->findChild<QCheckBox *>()->click();
+        QTest::qWait(200); // the panel draws 100 ms after it is shown
+        const QImage withoutCursor = picture();
+        QVERIFY(!withoutCursor.isNull());
+        for (auto *plot : window->findChildren<Plotter *>()) {
+            if (plot->name() == QLatin1String("Analog"))
+                QTest::mouseDClick(plot, Qt::LeftButton, {}, plot->rect().center());
+        }
+        QTRY_VERIFY(picture() != withoutCursor);
+    }
+
     void textExportOpensWithoutSpectrumControls()
     {
         QVERIFY(writeTextFile(path("rec.txt"),
@@ -214,6 +257,16 @@ private slots:
         QCOMPARE(window->recording()->stationName, QStringLiteral("Harju 110/20 kV"));
     }
 
+    void textEndingInTheMiddleCountsAsConfiguration()
+    {
+        QVERIFY(writeTextFile(path("d.txt.bak"), "#Ua[kV]\n01/02/2020-10:00:00:000,1\n"));
+        window->open(path("d.txt.bak"));
+        const QList<BoxReader::Box> seen = boxes->take();
+        QCOMPARE(seen.size(), 1);
+        QCOMPARE(seen[0].text, QStringLiteral("File not supported."));
+        QVERIFY(!window->recording());
+    }
+
     void anotherEndingLoadsNothingButIsReportedLoaded()
     {
         window->open(goodRecording());
@@ -240,8 +293,14 @@ private slots:
                                   << "file to open is a directory";
         QTest::newRow("no permission") << "secret.cfg"
                                        << "Permission denied";
+        QTest::newRow("a link that leads nowhere") << "dangling.cfg"
+                                                   << "No such file or directory";
+        QTest::newRow("a link to itself") << "circle.cfg"
+                                          << "Too many levels of symbolic links";
         QTest::newRow("place markers in the name") << "%2.cfg"
                                                    << "No such file or directory";
+        QTest::newRow("tags in the name") << "<b>x</b>.cfg"
+                                          << "No such file or directory";
     }
 
     void unreadableFile()
@@ -249,6 +308,8 @@ private slots:
         QFETCH(QString, name);
         QFETCH(QString, reason);
         QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("folder.cfg")));
+        QVERIFY(QFile::link(path("nowhere.cfg"), path("dangling.cfg")));
+        QVERIFY(QFile::link(path("circle.cfg"), path("circle.cfg")));
         QVERIFY(writeTextFile(path("secret.cfg"), "x"));
         QFile::setPermissions(path("secret.cfg"), {});
         if (name == QLatin1String("secret.cfg") && geteuid() == 0)
@@ -263,6 +324,7 @@ private slots:
         QCOMPARE(seen[0].text,
             QLatin1String("Cannot read file ") + folder->filePath(name) + QLatin1String(":\n")
                 + reason + QLatin1Char('.'));
+        QCOMPARE(seen[0].format, Qt::PlainText);
         QCOMPARE(seen[0].buttons, QMessageBox::Ok);
         // Nothing changes.
         QVERIFY(window->recording());
@@ -298,6 +360,7 @@ private slots:
         QCOMPARE(seen[0].title, QStringLiteral("Application"));
         QCOMPARE(seen[0].text, QStringLiteral("File not supported."));
         QCOMPARE(seen[0].buttons, QMessageBox::Ok);
+        QVERIFY(animationIsGone());
         QVERIFY(viewIsEmpty());
         QVERIFY(recordingActionsDisabled());
         QVERIFY(!window->recording());
@@ -371,9 +434,7 @@ private slots:
         });
         window->open(goodRecording());
         QVERIFY(movie);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        for (const QLabel *label : window->findChildren<QLabel *>())
-            QVERIFY(!label->movie());
+        QVERIFY(animationIsGone());
     }
 
     void lastOfSeveralFilesOpensWhenTheRunningLoadHasEnded()

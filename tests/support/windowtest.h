@@ -37,6 +37,7 @@ public:
         QString text;
         QMessageBox::StandardButtons buttons;
         bool modal;
+        Qt::TextFormat format;
     };
 
     BoxReader()
@@ -56,7 +57,7 @@ private:
             if (!box || !box->isVisible())
                 continue;
             m_boxes.append({box->icon(), box->windowTitle(), box->text(), box->standardButtons(),
-                box->isModal()});
+                box->isModal(), box->textFormat()});
             QTest::mouseClick(box->buttons().first(), Qt::LeftButton);
             return;
         }
