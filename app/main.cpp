@@ -24,6 +24,8 @@ int main(int argc, char *argv[])
             ? QStringLiteral(":/images/waveform@2x.png")
             : QStringLiteral(":/images/waveform.png"));
     icon = QIcon(QStringLiteral(":/images/logo.png"));
+    for (const int size : {16, 24, 32, 48, 64, 128})
+        icon.addFile(QStringLiteral(":/images/logo_%1.png").arg(size));
     QCoreApplication::setOrganizationName(ApplicationIdentity::organisationName());
     QCoreApplication::setApplicationName(ApplicationIdentity::applicationName());
     preferApplicationFolder();

@@ -109,6 +109,10 @@ void MainWindow::createToolBarWidgets()
     referenceCombo = new QComboBox(this);
     referenceCombo->setObjectName(QStringLiteral("comboBox_mainReference"));
     referenceCombo->setEnabled(false);
+    referenceCombo->setToolTip(tr("Reference channel of the FFT angles"));
+    // Long channel names widen the list, not the tool bar, which just fits the window.
+    referenceCombo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    referenceCombo->setMinimumContentsLength(5);
     connect(referenceCombo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
         &MainWindow::referenceChanged);
 

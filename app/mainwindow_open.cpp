@@ -4,6 +4,7 @@
 #include "applicationidentity.h"
 #include "cfgproperties.h"
 #include "ctvtdialog.h"
+#include "labeltext.h"
 #include "plotvalues.h"
 #include "savedialog.h"
 #include "temporaryfolder.h"
@@ -54,6 +55,19 @@ QDateTime toLocalTime(const QString &date, const QString &time, const QString &d
     if (!timeOfDay.isValid())
         return QDateTime(); // the toolkit would take it as midnight
     return QDateTime(day, timeOfDay, Qt::UTC).toLocalTime();
+}
+
+// Names may be longer than the room for them, so each tells itself in full in a tool tip.
+void addName(QListWidget &list, const QString &name)
+{
+    auto *item = new QListWidgetItem(name.trimmed(), &list);
+    item->setToolTip(plainToolTip(item->text()));
+}
+
+void showName(QLabel &label, const QString &name)
+{
+    label.setText(name.trimmed());
+    label.setToolTip(plainToolTip(label.text()));
 }
 
 // The dropped file on this machine, empty where something else is dropped.
@@ -217,8 +231,12 @@ void MainWindow::clearView()
     for (QLabel *label :
         {ui->label4, ui->label5, ui->label9, ui->label10, ui->label11, ui->label12})
         label->clear();
-    ui->listWidget->clear();
-    ui->listWidget2->clear();
+    for (QListWidget *list : {ui->listWidget, ui->listWidget2}) {
+        const QSignalBlocker blocker(list);
+        list->clear();
+    }
+    ui->label4->setToolTip(QString());
+    ui->label5->setToolTip(QString());
     for (QComboBox *combo : {referenceCombo, primSecCombo}) {
         const QSignalBlocker blocker(combo);
         combo->clear();
@@ -245,15 +263,15 @@ void MainWindow::showRecording()
         ids.append(channel->id);
         primaries.append(QString::number(channel->primary, 'g', 6));
         secondaries.append(QString::number(channel->secondary, 'g', 6));
-        ui->listWidget->addItem(channel->id.trimmed());
+        addName(*ui->listWidget, channel->id);
     }
     for (const DigitalChannel *channel : qAsConst(cfgProperties->digitalChannels))
-        ui->listWidget2->addItem(channel->id.trimmed());
+        addName(*ui->listWidget2, channel->id);
     ui->listWidget->setSelectionMode(QAbstractItemView::MultiSelection);
     ui->listWidget2->setSelectionMode(QAbstractItemView::MultiSelection);
 
-    ui->label4->setText(cfgProperties->stationName.trimmed());
-    ui->label5->setText(cfgProperties->recordingDeviceId.trimmed());
+    showName(*ui->label4, cfgProperties->stationName);
+    showName(*ui->label5, cfgProperties->recordingDeviceId);
     if (localTimes)
         showTimesAsLocal(QStringLiteral("MM/dd/yyyy"));
     else

@@ -10,6 +10,7 @@
 #include "ui_mainwindow.h"
 #include "vectordialog.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QElapsedTimer>
@@ -33,6 +34,7 @@ void fill(QComboBox &combo, const QStringList &items, int current)
     combo.clear();
     combo.addItems(items);
     combo.setCurrentIndex(current);
+    combo.view()->setMinimumWidth(combo.view()->sizeHintForColumn(0) + 30); // a scroll bar, too
 }
 
 void select(QListWidget &list, const QList<int> &rows)

@@ -9,9 +9,14 @@
 
 void preferApplicationFolder()
 {
+#ifndef Q_OS_WIN
+    // Without a PATH the system searches its default one; an empty entry would be the working
+    // folder.
+    const QByteArray path = qgetenv("PATH");
     qputenv("PATH",
-        QFile::encodeName(QCoreApplication::applicationDirPath() + QDir::listSeparator())
-            + qgetenv("PATH"));
+        QFile::encodeName(QCoreApplication::applicationDirPath()) + ':'
+            + (path.isEmpty() ? QByteArray("/usr/local/bin:/usr/bin:/bin") : path));
+#endif
 }
 
 void openOrWait(MainWindow &window, const QString &path)

@@ -123,6 +123,7 @@ private slots:
     void vectorDialogGetsPlotAndNames();
     void aReloadBeginsAnew();
     void manyRowsLeaveRoomForTheAnalogPlot();
+    void longNamesFitTheWindowAndAreToldInFull();
     void slotsWithoutARecordingDoNothing();
 
 private:
@@ -743,6 +744,28 @@ void tst_Plots::manyRowsLeaveRoomForTheAnalogPlot()
     QCoreApplication::processEvents();
     QCOMPARE(digital()->minimumHeight(), 60 + 41 + 61 * 16);
     QVERIFY(analog()->height() > 290);
+}
+
+void tst_Plots::longNamesFitTheWindowAndAreToldInFull()
+{
+    const QString name = QStringLiteral("Phase current IL1 of the HV side");
+    window->resize(1000, 720);
+    open({name, QStringLiteral("<b>I0</b>")},
+        {QStringLiteral("Trip of the main breaker by stage 2")});
+    QCoreApplication::processEvents();
+    QVERIFY(combo("comboBox_primSec")->isVisible());
+    QVERIFY(combo("comboBox_primSec")->geometry().right() < window->width());
+    QVERIFY(combo("comboBox_mainReference")->view()->minimumWidth() > 150);
+    QCOMPARE(list("listWidget")->item(0)->toolTip(), name);
+    QCOMPARE(list("listWidget")->item(1)->toolTip(), QStringLiteral("&lt;b&gt;I0&lt;/b&gt;"));
+    QCOMPARE(list("listWidget2")->item(0)->toolTip(),
+        QStringLiteral("Trip of the main breaker by stage 2"));
+    QCOMPARE(
+        window->findChild<QLabel *>(QStringLiteral("label4"))->toolTip(), QStringLiteral("Harju"));
+    QVERIFY(writeTextFile(folder->filePath(QStringLiteral("bad.cfg")), "x\n"));
+    BoxReader boxes;
+    window->open(folder->filePath(QStringLiteral("bad.cfg")));
+    QVERIFY(window->findChild<QLabel *>(QStringLiteral("label4"))->toolTip().isEmpty());
 }
 
 void tst_Plots::slotsWithoutARecordingDoNothing()
