@@ -293,6 +293,12 @@ private slots:
         if (!icon.isEmpty()) {
             QVERIFY2(QFile::exists(icon), qPrintable(icon));
             QCOMPARE(found->icon().pixmap(24).toImage(), QIcon(icon).pixmap(24).toImage());
+            QString grey = icon;
+            grey.replace(QLatin1String(".png"), QLatin1String("disabled.png"));
+            QVERIFY(enabled || QFile::exists(grey));
+            if (!enabled)
+                QCOMPARE(found->icon().pixmap(24, QIcon::Disabled).toImage(),
+                    QIcon(grey).pixmap(24).toImage());
         }
     }
 

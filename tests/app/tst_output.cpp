@@ -3,6 +3,7 @@
 #include "smallrecording.h"
 #include "windowtest.h"
 
+#include <QAction>
 #include <QClipboard>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -10,6 +11,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <csignal>
 #include <memory>
 #include <sys/resource.h>
@@ -92,6 +94,15 @@ class TestOutput : public QObject {
         });
     }
 
+    void trigger(const char *text) const
+    {
+        const QList<QAction *> actions = window->findChildren<QAction *>();
+        const auto found = std::find_if(actions.cbegin(), actions.cend(),
+            [text](const QAction *action) { return action->text() == QLatin1String(text); });
+        QVERIFY(found != actions.cend());
+        (*found)->trigger();
+    }
+
 private slots:
     void init()
     {
@@ -114,7 +125,7 @@ private slots:
         QString proposal;
         QStringList filters;
         answerFileDialog(QString(), &title, &filters, &proposal);
-        window->saveScreenShot();
+        trigger("&Save screenshot");
         QCOMPARE(title, QStringLiteral("Save As"));
         QCOMPARE(filters,
             QStringList({QStringLiteral("PNG Files (*.png)"), QStringLiteral("All Files (*)")}));
@@ -125,7 +136,7 @@ private slots:
     {
         expectStyle(screenStyle);
         answerFileDialog(path("shot.png"));
-        window->saveScreenShot();
+        trigger("&Save screenshot");
         const QImage picture(path("shot.png"), "png");
         QCOMPARE(picture.size(), plotColumn()->size());
         QCOMPARE(picture.pixelColor(2, 2), QColor(Qt::white));
@@ -135,13 +146,13 @@ private slots:
     void cancelledScreenshotLeavesTheCaptureStyle()
     {
         answerFileDialog(QString());
-        window->saveScreenShot();
+        trigger("&Save screenshot");
         expectStyle(captureStyle);
     }
 
     void clipboardGetsThePicture()
     {
-        window->copyToClipboard();
+        trigger("&Copy to clipboard");
         const QImage picture = QGuiApplication::clipboard()->image();
         QCOMPARE(picture.size(), plotColumn()->size());
         QCOMPARE(picture.pixelColor(2, 2), QColor(Qt::white));
@@ -151,7 +162,7 @@ private slots:
     // The caption is the only black text in the left of the topmost rows.
     void captionStandsInTheTopLeftCorner()
     {
-        window->copyToClipboard();
+        trigger("&Copy to clipboard");
         const QImage picture = QGuiApplication::clipboard()->image();
         int black = 0;
         for (int y = 8; y < 21; ++y) {
@@ -213,7 +224,7 @@ private slots:
     {
         QString title;
         answerFileDialog(path("primary"), &title);
-        window->saveAsPrimary();
+        trigger("Save As &Primary");
         QCOMPARE(title, QStringLiteral("Save recording"));
         QCOMPARE(window->statusBar()->currentMessage(), QStringLiteral("File saved."));
         const QStringList lines = fileText(path("primary.cfg")).split(QLatin1Char('\n'));
@@ -228,7 +239,7 @@ private slots:
     void cancelledSaveAsPrimaryWritesNothing()
     {
         answerFileDialog(QString());
-        window->saveAsPrimary();
+        trigger("Save As &Primary");
         QCOMPARE(window->statusBar()->currentMessage(), QString());
         QCOMPARE(QDir(folder->path()).entryList(QDir::Files).size(), 2);
     }
