@@ -15,7 +15,9 @@
 namespace {
 
 constexpr int blockSize = 1 << 18; // bytes read at once
-constexpr size_t mostBlockRows = 256; // lines gathered before they go to their channels
+// Lines gathered before they go to their channels. Blocks of a power of two would contend for the
+// same few lines of the processor's cache.
+constexpr size_t mostBlockRows = 240;
 constexpr size_t mostGathered = 1 << 20; // samples gathered, in perhaps very many channels
 constexpr qint64 mostChannels = 999999; // of a recording, clause 5.3.2
 constexpr int largestLine = 1 << 30; // bytes; a file with a longer one holds no data lines
@@ -31,8 +33,6 @@ const char *fieldEnd(const char *begin, const char *end)
 class LineFields {
 public:
     LineFields(const char *begin, const char *end) : m_at(begin), m_end(end) { }
-
-    void skip() { next(); }
 
     double toDouble()
     {
@@ -150,7 +150,8 @@ private:
             --end;
         if (const void *nul = std::memchr(begin, '\0', static_cast<size_t>(end - begin)))
             end = static_cast<const char *>(nul);
-        if (fieldEnd(begin, end) == end)
+        const char *const numberEnd = fieldEnd(begin, end);
+        if (numberEnd == end)
             return false;
         if (m_rows == 0) {
             makeRecords(begin, end);
@@ -159,8 +160,7 @@ private:
         m_bytes += end - begin;
         if (!isWithinBudget(qint64(m_timesBefore) + m_rows + 1, columns(), m_bytes))
             return false;
-        LineFields fields(begin, end);
-        fields.skip();
+        LineFields fields(numberEnd + 1, end);
         m_times[m_gathered] = fields.toDouble() / 1000;
         for (AnalogColumn &column : m_analog)
             column.block[m_gathered] = fields.toFloat();
@@ -256,11 +256,15 @@ private:
         const auto a = static_cast<double>(channel.a);
         const auto b = static_cast<double>(column.b);
         std::array<float, mostBlockRows> scaled;
+        float largest = channel.maxValue;
+        float smallest = channel.minValue;
         for (size_t row = 0; row < m_gathered; ++row) {
             scaled[row] = narrowed(a * static_cast<double>(column.block[row]) + b);
-            channel.maxValue = std::max(channel.maxValue, scaled[row]);
-            channel.minValue = std::min(channel.minValue, scaled[row]);
+            largest = std::max(largest, scaled[row]);
+            smallest = std::min(smallest, scaled[row]);
         }
+        channel.maxValue = largest;
+        channel.minValue = smallest;
         append(channel.values, scaled.data());
     }
 

@@ -80,14 +80,6 @@ int fieldToInt(const char *begin, const char *end)
     return text(begin, end).toInt();
 }
 
-float narrowed(double value)
-{
-    using Limits = std::numeric_limits<float>;
-    if (std::abs(value) > static_cast<double>(Limits::max()))
-        return value > 0 ? Limits::infinity() : -Limits::infinity();
-    return static_cast<float>(value);
-}
-
 int roundedToInt(double value)
 {
     using Limits = std::numeric_limits<int>;

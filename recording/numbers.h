@@ -2,6 +2,9 @@
 
 #include <QByteArray>
 
+#include <cmath>
+#include <limits>
+
 // Conversions of a field of a text file, [begin, end) in Latin-1. The results are those of the
 // toolkit's string class in the C locale, 0 where a field does not convert; plain decimals, which
 // nearly all fields are, take a way that makes no string.
@@ -10,7 +13,13 @@ float fieldToFloat(const char *begin, const char *end);
 int fieldToInt(const char *begin, const char *end);
 
 // A double as a float; beyond its range an infinity.
-float narrowed(double value);
+inline float narrowed(double value)
+{
+    using Limits = std::numeric_limits<float>;
+    if (std::abs(value) > static_cast<double>(Limits::max()))
+        return value > 0 ? Limits::infinity() : -Limits::infinity();
+    return static_cast<float>(value);
+}
 
 // The nearest whole number, halves upwards as qRound takes them, kept within the range of an int; 0
 // for NaN.
