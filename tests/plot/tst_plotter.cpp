@@ -100,15 +100,12 @@ private slots:
     void aPlotWithoutParentDraws();
     void gridAndTraceStandWhereTheViewSays();
     void triggerStandsAtItsTime();
-    void noGridInATinyPlot_data();
-    void noGridInATinyPlot();
     void channelLabels();
     void channelLabelsShareTheRoom();
     void spectrumLabelAndColour();
     void longTitlesShowTheirBeginning();
     void namesAreNoMarkUp();
     void anUnchangedBaseLayerIsNotDrawnAgain();
-    void pixmapsFollowTheScaleFactor();
     void aPaintOnlyCopiesTheLayers();
 
 private:
@@ -648,27 +645,6 @@ void tst_Plotter::triggerStandsAtItsTime()
     QVERIFY(!isDashed(100 - 70));
 }
 
-void tst_Plotter::noGridInATinyPlot_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("too narrow") << QSize(102, 300);
-    QTest::newRow("too low") << QSize(800, 100);
-    QTest::newRow("one pixel") << QSize(1, 1);
-    QTest::newRow("narrower than the margin") << QSize(40, 300);
-}
-
-void tst_Plotter::noGridInATinyPlot()
-{
-    QFETCH(QSize, size);
-    plot->resize(size);
-    plot->addCursor(10, 10);
-    plot->addCursor(20, 10);
-    plot->refreshPixmap();
-    const QImage image = plot->grab().toImage();
-    for (int x = 0; x < image.width(); ++x)
-        QVERIFY(image.pixel(x, image.height() - 1) != qRgb(150, 150, 150));
-}
-
 void tst_Plotter::channelLabels()
 {
     plot->addChannel(1);
@@ -780,12 +756,6 @@ void tst_Plotter::longTitlesShowTheirBeginning()
     QCOMPARE(title->text(), QStringLiteral("I"));
     QCOMPARE(title->alignment(), Qt::AlignCenter);
     QVERIFY(title->toolTip().isEmpty());
-}
-
-void tst_Plotter::pixmapsFollowTheScaleFactor()
-{
-    const QPixmap shown = plot->grab();
-    QCOMPARE(shown.size(), plot->size() * plot->devicePixelRatioF());
 }
 
 void tst_Plotter::aPaintOnlyCopiesTheLayers()

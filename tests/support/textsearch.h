@@ -74,9 +74,10 @@ inline QRect findText(
         if (tried.contains(ink))
             continue;
         tried.append(ink);
+        const int probe = inkRect(ink, QRect(0, 0, 1, ink.height())).top();
         for (int y = searched.top(); y <= searched.bottom() - ink.height() + 1; ++y) {
             for (int x = searched.left(); x <= searched.right() - ink.width() + 1; ++x) {
-                if (standsAt(picture, ink, {x, y}))
+                if (isInk(picture, x, y + probe) && standsAt(picture, ink, {x, y}))
                     return {QPoint(x, y), ink.size()};
             }
         }
