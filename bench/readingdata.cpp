@@ -12,6 +12,7 @@
 
 #include <charconv>
 #include <cstring>
+#include <deque>
 
 namespace {
 
@@ -25,19 +26,34 @@ const QByteArray &dataText()
     return data;
 }
 
-// Reads the data with a function that takes a device and a recording.
-template <typename Reader> void readWith(Reader &&reader)
-{
-    QBuffer buffer;
-    buffer.setData(dataText());
-    buffer.open(QIODevice::ReadOnly);
-    CFGProperties recording;
-    configure(recording, text);
-    reader(buffer, recording);
-    if (recording.sampleCount != text.samples)
-        qFatal("read %d of %d samples", recording.sampleCount, text.samples);
-    discardSeries(recording);
-}
+// Recordings read with a function that takes a device and a recording. What they hold is given back
+// at the end, which is no part of reading.
+class Readings {
+public:
+    Readings() { dataText(); }
+    ~Readings()
+    {
+        for (CFGProperties &recording : m_recordings)
+            discardSeries(recording);
+    }
+    Readings(const Readings &) = delete;
+    Readings &operator=(const Readings &) = delete;
+
+    template <typename Reader> void readWith(Reader &&reader)
+    {
+        QBuffer buffer;
+        buffer.setData(dataText());
+        buffer.open(QIODevice::ReadOnly);
+        CFGProperties &recording = m_recordings.emplace_back();
+        configure(recording, text);
+        reader(buffer, recording);
+        if (recording.sampleCount != text.samples)
+            qFatal("read %d of %d samples", recording.sampleCount, text.samples);
+    }
+
+private:
+    std::deque<CFGProperties> m_recordings;
+};
 
 // The reader that suggests itself: a line is cut into strings, each string is converted, and each
 // sample appended.
@@ -95,14 +111,14 @@ void convert()
 
 Ratio readingPlainlyAgainstReading()
 {
-    dataText();
+    Readings readings;
     return timesInTurn(
-        plainRounds, [] { readWith(readPlainly); }, [] { readWith(readData); });
+        plainRounds, [&] { readings.readWith(readPlainly); }, [&] { readings.readWith(readData); });
 }
 
 Ratio readingAgainstConverting()
 {
-    dataText();
+    Readings readings;
     return timesInTurn(
-        rounds, [] { readWith(readData); }, convert);
+        rounds, [&] { readings.readWith(readData); }, convert);
 }
