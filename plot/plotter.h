@@ -62,6 +62,10 @@ public:
     PlotSettings view() const;
     const PlotSettings &home() const { return homeSettings; }
     PlotGeometry geometryOfView() const;
+    // What all plots have in common: the last analog view and the last zooms, as fractions shown.
+    static const PlotSettings &sharedView() { return sharedAnalogSettings; }
+    static double sharedTimeZoom() { return sharedHorizontalZoom; }
+    static double sharedValueZoom() { return sharedVerticalZoom; }
     // Takes over the time range, the cursors and the save markers of another plot, and its share of
     // the horizontal zoom.
     void followFromNowOn(const Plotter &other);
