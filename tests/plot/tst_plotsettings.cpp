@@ -15,6 +15,7 @@ private slots:
     void anyRangeBecomesUsable();
     void scroll_data();
     void scroll();
+    void scrollKeepsAViewThatCannotMove_data();
     void scrollKeepsAViewThatCannotMove();
     void spans();
 };
@@ -96,6 +97,8 @@ void tst_PlotSettings::scroll_data()
     QTest::newRow("up by two intervals") << -100 << 2 << QVector<double>{0, 100, -1, 9};
     QTest::newRow("both axes") << 2 << -1 << QVector<double>{20, 120, -7, 3};
     QTest::newRow("the sentinel on both axes") << -100 << -100 << QVector<double>{0, 100, -5, 5};
+    QTest::newRow("by the largest step count") << std::numeric_limits<int>::max() << -100
+                                               << QVector<double>{21474836470, 21474836570, -5, 5};
     QTest::newRow("by nothing") << 0 << 0 << QVector<double>{0, 100, -5, 5};
 }
 
@@ -110,16 +113,30 @@ void tst_PlotSettings::scroll()
     QCOMPARE(view.numYTicks, 5.0);
 }
 
+void tst_PlotSettings::scrollKeepsAViewThatCannotMove_data()
+{
+    QTest::addColumn<double>("min");
+    QTest::addColumn<double>("max");
+    QTest::addColumn<int>("steps");
+    QTest::newRow("to where its span is too fine")
+        << 999900000000.0 << 999900000001.0 << 2000000000;
+    QTest::newRow("to where its span is too fine, below zero")
+        << -999900000001.0 << -999900000000.0 << -2000000000;
+    QTest::newRow("beyond the largest end") << 1e299 << 1e300 << 1000;
+    QTest::newRow("beyond the smallest end") << -1e300 << -1e299 << -1000;
+}
+
 void tst_PlotSettings::scrollKeepsAViewThatCannotMove()
 {
-    PlotSettings view{0, 1e-3, 4, 0, 1, 4};
-    view.scroll(std::numeric_limits<int>::max(), -100);
-    const double minX = view.minX;
-    view.minX = 1e299;
-    view.maxX = 1e300;
-    view.scroll(1000, -100);
-    QVERIFY(std::isfinite(minX));
-    QCOMPARE(view.maxX, 1e300);
+    QFETCH(double, min);
+    QFETCH(double, max);
+    QFETCH(int, steps);
+    PlotSettings view{min, max, 4, min, max, 4};
+    view.scroll(steps, steps);
+    QCOMPARE(view.minX, min);
+    QCOMPARE(view.maxX, max);
+    QCOMPARE(view.minY, min);
+    QCOMPARE(view.maxY, max);
 }
 
 void tst_PlotSettings::spans()
