@@ -29,9 +29,10 @@ constexpr int titleX = 70;
 constexpr int titleWidth = 100;
 constexpr int titleHeight = 20;
 constexpr int smallestTitleFont = 9; // pixels
-constexpr QSize timeLabelSize(70, 20);
 
-QFrame *verticalLine(QWidget *parent, const QString &name, const QString &style)
+} // namespace
+
+QFrame *Plotter::verticalLine(QWidget *parent, const QString &name, const QString &style)
 {
     auto *line = new QFrame(parent);
     line->setObjectName(name);
@@ -42,8 +43,6 @@ QFrame *verticalLine(QWidget *parent, const QString &name, const QString &style)
     line->hide();
     return line;
 }
-
-} // namespace
 
 Plotter::Plotter(QWidget *parent)
     : QWidget(parent),
@@ -81,7 +80,8 @@ Plotter::Plotter(QWidget *parent)
     opaque.setColor(QPalette::Window, QColor(0x31, 0x30, 0x34));
     timeLabel->setPalette(opaque);
     timeLabel->setAutoFillBackground(true);
-    timeLabel->setMask(QRect(0, 0, timeLabelSize.width(), timeLabelSize.height() - 5));
+    timeLabel->resize(70, 20);
+    timeLabel->setMask(QRect(0, 0, 70, 15));
     timeLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
     timeLabel->hide();
     timeLabel->lower();

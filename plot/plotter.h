@@ -151,6 +151,7 @@ protected:
     int readoutWidth = 0; // kept free at the right of the plot area
 
 private:
+    static QFrame *verticalLine(QWidget *parent, const QString &name, const QString &style);
     bool isSpectrum(int number) const;
     const AnalogChannel *channelOf(int number) const;
     double factorOf(int number) const;

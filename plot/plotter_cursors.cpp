@@ -33,7 +33,7 @@ void Plotter::showTimeLine(int x)
     const PlotGeometry geometry = geometryOfView();
     timeLineTime = geometry.lineTime(x);
     timeLabel->setText(QStringLiteral("t = ") + generalText(timeLineTime));
-    timeLabel->setGeometry(x + 15, 45, 70, 20);
+    timeLabel->move(x + 15, 45);
     timeLabel->show();
     timeLabel->lower();
     timeLine->setGeometry(lineAt(x, geometry));
@@ -60,12 +60,8 @@ void Plotter::insertCursor(double time)
     cursorTimes.append(time);
     cursorPixels.append(0);
 
-    auto *line = new QFrame(this);
-    line->setObjectName(QStringLiteral("cursorLine"));
-    line->setFrameStyle(QFrame::VLine | QFrame::Plain);
-    line->setStyleSheet(QStringLiteral("QFrame{color: #fffa50; border-color: #fffa50;}"));
-    line->setAttribute(Qt::WA_TransparentForMouseEvents);
-    cursorLines.append(line);
+    cursorLines.append(verticalLine(this, QStringLiteral("cursorLine"),
+        QStringLiteral("QFrame{color: #fffa50; border-color: #fffa50;}")));
 
     auto *label = new CustomLabel(this);
     label->setObjectName(QStringLiteral("lineLabel"));
