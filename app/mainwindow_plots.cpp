@@ -47,19 +47,15 @@ void select(QListWidget &list, const QList<int> &rows)
 // Makes a plot show the channels that are selected; false where it does so already.
 bool showSelection(const QListWidget &list, Plotter &plot)
 {
-    const QList<int> shown = plot.channels();
-    bool changed = false;
+    QList<int> rows;
     for (int row = 0; row < list.count(); ++row) {
-        const bool isSelected = list.item(row)->isSelected();
-        if (isSelected == shown.contains(row))
-            continue;
-        changed = true;
-        if (isSelected)
-            plot.addChannel(row);
-        else
-            plot.removeChannel(row);
+        if (list.item(row)->isSelected())
+            rows.append(row);
     }
-    return changed;
+    if (rows == plot.channels())
+        return false;
+    plot.showChannels(rows);
+    return true;
 }
 
 } // namespace

@@ -32,30 +32,16 @@ constexpr int smallestTitleFont = 9; // pixels
 
 } // namespace
 
-QFrame *Plotter::verticalLine(QWidget *parent, const QString &name, const QString &style)
-{
-    auto *line = new QFrame(parent);
-    line->setObjectName(name);
-    line->setFrameStyle(QFrame::VLine | QFrame::Plain);
-    line->setLineWidth(1);
-    line->setStyleSheet(style);
-    line->setAttribute(Qt::WA_TransparentForMouseEvents);
-    line->hide();
-    return line;
-}
-
 Plotter::Plotter(QWidget *parent)
     : QWidget(parent),
       plotType(QStringLiteral("Analog")),
       plotterLabel(new QLabel(this)),
       timeLabel(new QLabel(this)),
-      timeLine(verticalLine(this, QStringLiteral("timeline"),
-          QStringLiteral("QFrame{color: white; border-color: white;}"))),
+      timeLine(makePlotLine(this, QStringLiteral("timeline"), QStringLiteral("white"))),
       labelEditor(new QLineEdit(this)),
-      startMarker(verticalLine(this, QStringLiteral("startMarker"),
-          QStringLiteral("QFrame{color: red; border-color: red;}"))),
-      endMarker(verticalLine(this, QStringLiteral("endMarker"),
-          QStringLiteral("QFrame{color: red; border-color: red;}"))),
+      startMarker(makePlotLine(this, QStringLiteral("startMarker"), QStringLiteral("red"))),
+      endMarker(makePlotLine(this, QStringLiteral("endMarker"), QStringLiteral("red"))),
+      cursorMarks(this),
       hostWidget(parent),
       colorDialog(new QColorDialog(Qt::white, this)),
       channelColors({QColor(245, 30, 18), QColor(220, 220, 0), QColor(66, 66, 255),
@@ -216,13 +202,21 @@ ShownChannel Plotter::shownChannel(int number) const
 
 void Plotter::addChannel(int number)
 {
-    if (number >= 0 && !channelMap.contains(number))
-        channelMap.insert(number, shownChannel(number));
+    if (number < 0 || channelMap.contains(number))
+        return;
+    channelMap.insert(number, shownChannel(number));
+    channelOrder.append(number);
 }
 
-void Plotter::removeChannel(int number)
+void Plotter::showChannels(const QList<int> &numbers)
 {
-    channelMap.remove(number);
+    for (const int number : qAsConst(channelOrder)) {
+        if (!numbers.contains(number))
+            channelMap.remove(number);
+    }
+    for (const int number : numbers)
+        addChannel(number);
+    channelOrder = numbers;
 }
 
 void Plotter::readTimes()
@@ -303,7 +297,7 @@ void Plotter::followFromNowOn(const Plotter &other)
 {
     if (zoomStack.isEmpty() || other.zoomStack.isEmpty())
         return;
-    for (const double time : other.cursorTimes)
+    for (const double time : other.cursors())
         insertCursor(time);
     startMarkerSet = other.startMarkerSet;
     startMarkerTime = other.startMarkerTime;
@@ -339,6 +333,7 @@ void Plotter::resetPlot()
 {
     customResetZoom();
     channelMap.clear();
+    channelOrder.clear();
     zoomStack.clear();
     homeSettings = PlotSettings();
     zoomLevel = 0;

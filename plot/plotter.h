@@ -1,6 +1,7 @@
 #pragma once
 
 #include "basecontent.h"
+#include "cursormarks.h"
 #include "customlabel.h"
 #include "mousemovereceiver.h"
 #include "plotgeometry.h"
@@ -14,13 +15,10 @@
 #include <QVector>
 #include <QWidget>
 
-#include <array>
-
 class AnalogChannel;
 class CFGProperties;
 class PlotHost;
 class QColorDialog;
-class QFrame;
 class QLabel;
 class QLineEdit;
 
@@ -34,8 +32,6 @@ class Plotter : public QWidget, public MouseMoveReceiver {
     Q_INTERFACES(MouseMoveReceiver)
 
 public:
-    static constexpr int maxCursors = 20;
-
     explicit Plotter(QWidget *parent);
     ~Plotter() override;
 
@@ -52,10 +48,12 @@ public:
     // Removes the last linked plot of that name, and where there is none the first linked plot.
     void removeLinkedPlotter(const QString &name);
 
-    // Channels are drawn from the next setupPlot() and refreshPixmap() on.
+    // Channels are drawn from the next setupPlot() and refreshPixmap() on; labels and readout name
+    // them in the order in which they were added.
     void addChannel(int number);
-    void removeChannel(int number);
-    QList<int> channels() const { return channelMap.keys(); }
+    // Shows these channels and no others, in this order.
+    void showChannels(const QList<int> &numbers);
+    const QList<int> &channels() const { return channelOrder; }
     bool showsSpectrum() const;
 
     // The live view, all zero before setupPlot(), and the full view.
@@ -74,9 +72,9 @@ public:
     void resetPlot();
 
     // Cursor times in ms, in the order in which they were set.
-    const QList<double> &cursors() const { return cursorTimes; }
+    QList<double> cursors() const { return cursorMarks.times(); }
     // The time difference of the last neighbouring pair of cursors, ms; 0 with fewer than two.
-    double pairDifference() const { return lastCursorPairTimes[2]; }
+    double pairDifference() const { return cursorMarks.pairDifference(); }
     void clearCursors();
 
     virtual void setupPlot();
@@ -145,13 +143,13 @@ protected:
     int digitalFlag = 0;
     QVector<PlotSettings> zoomStack; // element 0 is the live view; empty before setupPlot()
     QLabel *plotterLabel;
-    QMap<int, ShownChannel> channelMap;
+    QMap<int, ShownChannel> channelMap; // traces are drawn in the order of the numbers
+    QList<int> channelOrder; // the same numbers in the order in which they were added
     TimeAxis timeAxis;
     int pressedKey = -1; // the key held down, as far as this plot has seen
     int readoutWidth = 0; // kept free at the right of the plot area
 
 private:
-    static QFrame *verticalLine(QWidget *parent, const QString &name, const QString &style);
     bool isSpectrum(int number) const;
     const AnalogChannel *channelOf(int number) const;
     double factorOf(int number) const;
@@ -179,10 +177,8 @@ private:
     void showTimeLine(int x);
     void insertCursor(double time);
     void moveCursor(int cursor, double time);
-    void removeCursor(int cursor);
     void removeCursors(int first, int last);
     void dragCursor(int x);
-    void numberCursors();
     void releaseGrab();
     void closeTitleEditor();
     void takePress(const QPoint &position);
@@ -201,13 +197,8 @@ private:
     int startMarkerTime = 0; // ms
     int endMarkerTime = 0; // ms
     double timeLineTime = 0; // ms
-    QList<double> cursorTimes;
-    QList<int> cursorPixels; // parallel to cursorTimes
-    QList<QFrame *> cursorLines; // parallel to cursorTimes
-    QList<CustomLabel *> cursorLabels; // parallel to cursorTimes
-    std::array<double, 3> lastCursorPairTimes{}; // both times and their difference, ms
+    CursorMarks cursorMarks;
     double defaultVerticalZoom = 1.0;
-    int cursorCount = 0;
     QPixmap basePixmap;
     BaseContent drawnContent; // what basePixmap shows
     QPixmap overlayPixmap; // null while there is nothing to show

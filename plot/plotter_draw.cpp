@@ -62,15 +62,19 @@ BaseContent Plotter::baseContent() const
     content.font = font();
     content.trigger = recording() ? recording()->triggerOffsetMs : 0;
     content.readout = readout();
-    for (auto it = channelMap.cbegin(); it != channelMap.cend(); ++it)
-        content.traces.append({it.key(), factorOf(it.key()), colorOf(it.key()).rgb(),
-            it->trace.values().constData(), it->angle.values().constData()});
+    for (const int number : channelOrder) {
+        const ShownChannel &shown = *channelMap.constFind(number);
+        content.traces.append({number, factorOf(number), colorOf(number).rgb(),
+            shown.trace.values().constData(), shown.angle.values().constData()});
+    }
     return content;
 }
 
 void Plotter::paintBase()
 {
-    readoutWidth = std::min(drawnContent.readout.neededWidth(smallFont(font())), width() / 2);
+    // At least half of the plot stays plot.
+    readoutWidth = std::clamp(
+        width() / 2 - PlotGeometry::left, 0, drawnContent.readout.neededWidth(smallFont(font())));
     basePixmap = clearLayer();
     if (zoomStack.isEmpty() || basePixmap.isNull())
         return;
@@ -124,23 +128,25 @@ void Plotter::drawTimeLabels(QPainter *painter)
 Readout Plotter::readout() const
 {
     Readout table;
-    if (cursorTimes.isEmpty() || digitalFlag)
+    const QList<double> times = cursors();
+    if (times.isEmpty() || digitalFlag)
         return table;
     const double rate = recording() ? recording()->sampleRate : 0;
     QVector<int> samples; // at the cursors
     Readout::Row header{tr("Parameter")};
-    for (int i = 0; i < cursorTimes.size(); ++i) {
-        header.append(QStringLiteral("P%1 (%2)").arg(i + 1).arg(generalText(cursorTimes.at(i))));
-        samples.append(timeAxis.sampleAt(rate, cursorTimes.at(i)));
+    for (int i = 0; i < times.size(); ++i) {
+        header.append(QStringLiteral("P%1 (%2)").arg(i + 1).arg(generalText(times.at(i))));
+        samples.append(timeAxis.sampleAt(rate, times.at(i)));
     }
     table.rows.append(header);
-    for (auto it = channelMap.cbegin(); it != channelMap.cend(); ++it) {
-        Readout::Row row{isSpectrum(it.key()) ? it->id + QStringLiteral(" FFT") : it->id};
+    for (const int number : channelOrder) {
+        const ShownChannel &shown = *channelMap.constFind(number);
+        const QVector<float> &values = shown.trace.values();
+        Readout::Row row{isSpectrum(number) ? shown.id + QStringLiteral(" FFT") : shown.id};
         for (const int sample : qAsConst(samples)) {
-            const QVector<float> &values = it->trace.values();
             row.append(sample < 0 || sample >= values.size()
                     ? QString()
-                    : generalText(static_cast<double>(values.at(sample)) * factorOf(it.key())));
+                    : generalText(static_cast<double>(values.at(sample)) * factorOf(number)));
         }
         table.rows.append(row);
     }
@@ -174,9 +180,10 @@ void Plotter::placeChannelLabels()
     const int count = channelMap.size();
     QStringList texts;
     int needed = 0;
-    for (auto it = channelMap.cbegin(); it != channelMap.cend(); ++it) {
-        QString text = it->id + QLatin1Char('(') + it->unit + QLatin1Char(')');
-        if (isSpectrum(it.key()))
+    for (const int number : qAsConst(channelOrder)) {
+        const ShownChannel &shown = *channelMap.constFind(number);
+        QString text = shown.id + QLatin1Char('(') + shown.unit + QLatin1Char(')');
+        if (isSpectrum(number))
             text += QStringLiteral("_FFT");
         texts.append(text);
         needed += metrics.horizontalAdvance(text) + 2 + labelGap;
@@ -185,18 +192,19 @@ void Plotter::placeChannelLabels()
     const int share
         = count == 0 || needed <= room ? room : std::max(labelGap, room / count) - labelGap;
     int x = firstLabelX;
-    int i = 0;
-    for (auto it = channelMap.cbegin(); it != channelMap.cend(); ++it, ++i) {
+    for (int i = 0; i < count; ++i) {
+        const int number = channelOrder.at(i);
+        const ShownChannel &shownChannel = *channelMap.constFind(number);
         QLabel *label = channelLabels.at(i);
         const QString shown = metrics.elidedText(texts.at(i), Qt::ElideRight, share);
         QPalette colors = label->palette();
-        colors.setColor(label->foregroundRole(), colorOf(it.key()));
+        colors.setColor(label->foregroundRole(), colorOf(number));
         label->setPalette(colors);
         label->setFont(bold);
         label->setText(shown);
-        label->setProperty("channel", it.key());
+        label->setProperty("channel", number);
         QStringList tip{texts.at(i)};
-        tip << it->phase << it->circuit;
+        tip << shownChannel.phase << shownChannel.circuit;
         tip.removeAll(QString());
         label->setToolTip(plainToolTip(tip.join(QLatin1Char('\n'))));
         const int width = metrics.horizontalAdvance(shown) + 2;

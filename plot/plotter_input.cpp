@@ -243,7 +243,7 @@ void Plotter::leaveEvent(QEvent * /*event*/)
 void Plotter::contextMenuEvent(QContextMenuEvent *event)
 {
     auto *label = qobject_cast<CustomLabel *>(childAt(event->pos()));
-    const int cursor = label ? cursorLabels.indexOf(label) : -1;
+    const int cursor = cursorMarks.cursorOf(label);
     if (cursor < 0) {
         event->ignore();
         return;
@@ -256,6 +256,6 @@ void Plotter::contextMenuEvent(QContextMenuEvent *event)
     connect(menu->addAction(tr("Remove Cursor")), &QAction::triggered, this,
         [this, cursor] { removeCursors(cursor, cursor + 1); });
     connect(menu->addAction(tr("Remove All Cursors")), &QAction::triggered, this,
-        [this] { removeCursors(0, cursorCount); });
+        [this] { removeCursors(0, cursorMarks.count()); });
     menu->popup(event->globalPos());
 }

@@ -554,10 +554,11 @@ void tst_Plots::namesOfferedForANewPlot()
 void tst_Plots::aPlotIsComposed()
 {
     open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {QStringLiteral("D1")});
-    compose({QStringLiteral("Ib"), QStringLiteral("Ia_FFT")}, QStringLiteral("Currents"));
+    compose({QStringLiteral("Ib"), QStringLiteral("Ia_FFT"), QStringLiteral("Ia")},
+        QStringLiteral("Currents"));
     Plotter *added = plot(QStringLiteral("Currents"));
     QVERIFY(added);
-    QCOMPARE(added->channels(), QList<int>({1, 2}));
+    QCOMPARE(added->channels(), QList<int>({1, 2, 0})); // in the order of the choice
     QCOMPARE(plots(), QList<Plotter *>({analog(), added, digital()}));
     QCOMPARE(added->minimumHeight(), 200);
     QVERIFY(added->isVisible());

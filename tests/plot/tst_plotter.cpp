@@ -101,6 +101,7 @@ private slots:
     void gridAndTraceStandWhereTheViewSays();
     void triggerStandsAtItsTime();
     void channelLabels();
+    void channelsAreNamedInTheOrderOfTheirAdding();
     void channelLabelsShareTheRoom();
     void spectrumLabelAndColour();
     void longTitlesShowTheirBeginning();
@@ -662,12 +663,29 @@ void tst_Plotter::channelLabels()
     QCOMPARE(labels[0]->toolTip(), QStringLiteral("Ia(A)\nA\nline"));
     QVERIFY(labels[0]->isVisible());
 
-    plot->removeChannel(0);
+    plot->showChannels({1});
     plot->refreshPixmap();
     const QList<QLabel *> left = plot->findChildren<QLabel *>(QStringLiteral("channelLabel"));
     QCOMPARE(left.size(), 1);
     QCOMPARE(left[0]->text(), QStringLiteral("Ua(V)"));
     QCOMPARE(left[0]->palette().color(left[0]->foregroundRole()), QColor(220, 220, 0));
+}
+
+void tst_Plotter::channelsAreNamedInTheOrderOfTheirAdding()
+{
+    plot->showChannels({1, 0});
+    plot->setupPlot();
+    plot->addCursor(300, 100);
+    QCOMPARE(plot->channels(), QList<int>({1, 0}));
+    const QList<QLabel *> labels = plot->findChildren<QLabel *>(QStringLiteral("channelLabel"));
+    QCOMPARE(labels.size(), 2);
+    QCOMPARE(labels[0]->text(), QStringLiteral("Ua(V)"));
+    QCOMPARE(labels[1]->text(), QStringLiteral("Ia(A)"));
+    QCOMPARE(labels[0]->palette().color(labels[0]->foregroundRole()), QColor(220, 220, 0));
+
+    plot->showChannels({0, 1}); // the same channels, the other way round
+    plot->refreshPixmap();
+    QCOMPARE(labels[0]->text(), QStringLiteral("Ia(A)"));
 }
 
 void tst_Plotter::channelLabelsShareTheRoom()

@@ -33,7 +33,11 @@ private slots:
     void timeDifferencesStayWithinThePlotArea();
     void cursorsOutOfViewAreHidden();
     void theReadoutTakesRoomInAnalogPlotsOnly();
-    void theReadoutTakesAtMostHalfTheWidth();
+    void halfOfThePlotStaysPlot();
+    void labelsOfCloseCursorsStandApart();
+    void aLabelAtTheRightEdgeStandsLeftOfItsLine();
+    void timeDifferencesThatWouldOverlapAreLeftOut();
+    void noTimeDifferenceIsBehindTheTitle();
     void aDraggedLabelMovesTheCursorEverywhere();
     void aDraggedLabelStopsAtTheEdges_data();
     void aDraggedLabelStopsAtTheEdges();
@@ -51,11 +55,11 @@ private slots:
 private:
     void doubleClick(int x) { QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {x, 150}); }
     // Yellow pixels of the time differences, in the strip above the plot area.
-    int markPixels(int fromX, int toX) const
+    static int markPixels(Plotter *plot, int fromX, int toX)
     {
-        const QImage image = pair->plot->grab().toImage();
+        const QImage image = plot->grab().toImage();
         int found = 0;
-        for (int y = 41; y < 60; ++y) {
+        for (int y = 42; y < 59; ++y) {
             for (int x = fromX; x < toX; ++x)
                 found += isYellow(image.pixel(x, y));
         }
@@ -110,7 +114,8 @@ void tst_PlotterCursors::aDoubleClickSetsACursorAtOneTimeInAllPlots()
 void tst_PlotterCursors::atMostTwentyCursors()
 {
     for (int i = 0; i < 21; ++i)
-        doubleClick(110 + i);
+        QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {110 + 30 * i, 150});
+    QCOMPARE(pair->digital->cursors().size(), 20);
     QCOMPARE(pair->plot->cursors().size(), 20);
     QCOMPARE(pair->other->cursors().size(), 20);
     QCOMPARE(PlotPair::lineLabels(pair->plot).size(), 20);
@@ -120,9 +125,8 @@ void tst_PlotterCursors::atMostTwentyCursors()
 
 void tst_PlotterCursors::noTimeDifferenceForOneCursor()
 {
-    pair->digital->raise();
     doubleClick(450);
-    QCOMPARE(markPixels(100, 560), 0);
+    QCOMPARE(markPixels(pair->plot, 100, 560), 0);
 }
 
 // In the digital plot pixels and times keep their relation, whatever the number of cursors.
@@ -133,17 +137,9 @@ void tst_PlotterCursors::timeDifferencesOfNeighbours()
     const QImage image = pair->digital->grab().toImage();
     QCOMPARE(image.pixel(250, 60), qRgb(255, 250, 80));
     QCOMPARE(image.pixel(650, 60), qRgb(255, 250, 80));
-    const auto textAround = [&](int centre) {
-        int found = 0;
-        for (int y = 42; y < 59; ++y) {
-            for (int x = centre - 45; x < centre + 45; ++x)
-                found += isYellow(image.pixel(x, y));
-        }
-        return found > 20;
-    };
-    QVERIFY(textAround(300)); // between the first and the second
-    QVERIFY(textAround(550)); // between the second and the third
-    QVERIFY(!textAround(450)); // none between the first and the third
+    QVERIFY(markPixels(pair->digital, 255, 345) > 20); // between the first and the second
+    QVERIFY(markPixels(pair->digital, 505, 595) > 20); // between the second and the third
+    QCOMPARE(markPixels(pair->digital, 405, 495), 0); // none between the first and the third
 }
 
 void tst_PlotterCursors::timeDifferencesAreNeverNegative()
@@ -192,14 +188,65 @@ void tst_PlotterCursors::theReadoutTakesRoomInAnalogPlotsOnly()
     QCOMPARE(pair->plot->geometryOfView().readoutWidth(), 0);
 }
 
-void tst_PlotterCursors::theReadoutTakesAtMostHalfTheWidth()
+void tst_PlotterCursors::halfOfThePlotStaysPlot()
 {
     for (int i = 0; i < 20; ++i)
         doubleClick(110 + 10 * i);
-    QCOMPARE(pair->plot->geometryOfView().readoutWidth(), 401);
+    QCOMPARE(pair->plot->geometryOfView().readoutWidth(), 301); // 402 left
     pair->plot->resize(400, 301);
     pair->plot->grab();
-    QCOMPARE(pair->plot->geometryOfView().readoutWidth(), 200);
+    QCOMPARE(pair->plot->geometryOfView().readoutWidth(), 100);
+    pair->plot->resize(180, 301);
+    pair->plot->grab();
+    QCOMPARE(pair->plot->geometryOfView().readoutWidth(), 0);
+}
+
+void tst_PlotterCursors::labelsOfCloseCursorsStandApart()
+{
+    for (int i = 0; i < 20; ++i)
+        QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {200 + 7 * i, 250});
+    const QList<CustomLabel *> labels = PlotPair::lineLabels(pair->digital);
+    QCOMPARE(labels.size(), 20);
+    const QRect area = pair->digital->geometryOfView().area();
+    for (int i = 0; i < labels.size(); ++i) {
+        QCOMPARE(labels.at(i)->x(), 200 + 7 * i + 3); // beside its line
+        QVERIFY(area.contains(labels.at(i)->geometry()));
+        for (int k = 0; k < i; ++k)
+            QVERIFY(!labels.at(i)->geometry().intersects(labels.at(k)->geometry()));
+    }
+}
+
+void tst_PlotterCursors::aLabelAtTheRightEdgeStandsLeftOfItsLine()
+{
+    QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {795, 150});
+    const QRect place = PlotPair::lineLabels(pair->digital).first()->geometry();
+    QCOMPARE(place.right(), 795 - 3);
+    QCOMPARE(place.top(), 62);
+}
+
+// The text of the latest pair stays.
+void tst_PlotterCursors::timeDifferencesThatWouldOverlapAreLeftOut()
+{
+    for (const int x : {600, 610, 620, 300})
+        QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {x, 150});
+    QVERIFY(markPixels(pair->digital, 410, 510) > 20); // of 620 and 300
+    const int one = markPixels(pair->digital, 560, 660); // of 610 and 620
+    QVERIFY(one > 20);
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, // removes the cursor at 600
+        PlotPair::lineLabels(pair->digital).first()->geometry().center());
+    QApplication::sendEvent(pair->digital, &event);
+    pair->digital->findChild<QMenu *>()->actions().first()->trigger();
+    QCOMPARE(markPixels(pair->digital, 560, 660), one);
+    QCOMPARE(pair->digital->grab().toImage().pixel(605, 60), qRgb(255, 250, 80));
+}
+
+// The title of a digital plot reaches into the strip of the time differences.
+void tst_PlotterCursors::noTimeDifferenceIsBehindTheTitle()
+{
+    for (const int x : {110, 130})
+        QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {x, 150});
+    QCOMPARE(markPixels(pair->digital, 71, 300), 0);
+    QCOMPARE(pair->digital->grab().toImage().pixel(120, 60), qRgb(255, 250, 80));
 }
 
 void tst_PlotterCursors::aDraggedLabelMovesTheCursorEverywhere()

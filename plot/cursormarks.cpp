@@ -1,0 +1,153 @@
+#include "cursormarks.h"
+
+#include "baselayer.h"
+#include "labeltext.h"
+#include "plotgeometry.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+const QColor markColor(255, 250, 80);
+const QColor shadowColor(80, 80, 80);
+
+// Whether a rectangle touches none of those that are taken; then it is one of them.
+bool take(const QRect &wanted, QVector<QRect> &taken)
+{
+    const bool isFree = std::none_of(
+        taken.cbegin(), taken.cend(), [&](const QRect &other) { return other.intersects(wanted); });
+    if (isFree)
+        taken.append(wanted);
+    return isFree;
+}
+
+} // namespace
+
+QFrame *makePlotLine(QWidget *plot, const QString &name, const QString &color)
+{
+    auto *line = new QFrame(plot);
+    line->setObjectName(name);
+    line->setFrameStyle(QFrame::VLine | QFrame::Plain);
+    line->setLineWidth(1);
+    line->setStyleSheet(QStringLiteral("QFrame{color: %1; border-color: %1;}").arg(color));
+    line->setAttribute(Qt::WA_TransparentForMouseEvents);
+    line->hide();
+    return line;
+}
+
+QRect plotLineAt(int x, const PlotGeometry &geometry)
+{
+    return {QPoint(x, PlotGeometry::top), QPoint(x, geometry.plotHeight())};
+}
+
+QList<double> CursorMarks::times() const
+{
+    QList<double> times;
+    for (const Cursor &cursor : m_cursors)
+        times.append(cursor.time);
+    return times;
+}
+
+int CursorMarks::cursorOf(const QLabel *label) const
+{
+    const auto found = std::find_if(m_cursors.cbegin(), m_cursors.cend(),
+        [&](const Cursor &cursor) { return cursor.label.get() == label; });
+    return found == m_cursors.cend() ? -1 : static_cast<int>(found - m_cursors.cbegin());
+}
+
+void CursorMarks::add(double time)
+{
+    Cursor cursor{time,
+        std::unique_ptr<QFrame>(
+            makePlotLine(m_plot, QStringLiteral("cursorLine"), QStringLiteral("#fffa50"))),
+        std::make_unique<CustomLabel>(m_plot)};
+    CustomLabel *label = cursor.label.get();
+    label->setObjectName(QStringLiteral("lineLabel"));
+    label->setStyleSheet(
+        QStringLiteral("QLabel{color: #fffa50; background-color: #313034; padding: 0px 2px;}"));
+    label->setFont(smallFont(m_plot->font()));
+    label->setCursor(Qt::SizeHorCursor);
+    label->setPlotter(m_plot);
+    m_cursors.push_back(std::move(cursor));
+    number();
+}
+
+void CursorMarks::remove(int cursor)
+{
+    if (cursor < 0 || cursor >= count())
+        return;
+    m_lastPair = {};
+    m_cursors.erase(m_cursors.begin() + cursor);
+    number();
+}
+
+void CursorMarks::clear()
+{
+    m_lastPair = {};
+    m_cursors.clear();
+}
+
+void CursorMarks::number()
+{
+    int i = 0;
+    for (const Cursor &cursor : m_cursors) {
+        cursor.label->setText(QStringLiteral("P%1").arg(++i));
+        cursor.label->adjustSize();
+    }
+}
+
+void CursorMarks::place(const PlotGeometry &geometry)
+{
+    constexpr int gap = 3; // between a line and its label
+    const QRect area = geometry.area();
+    QVector<QRect> taken;
+    for (const Cursor &cursor : m_cursors) {
+        const int x = PlotGeometry::pixel(geometry.cursorX(cursor.time));
+        const bool isInView = x >= area.left() && x <= area.right();
+        cursor.line->setGeometry(plotLineAt(x, geometry));
+        cursor.line->setVisible(isInView);
+        cursor.label->setVisible(isInView);
+        if (!isInView)
+            continue;
+        QRect place(QPoint(x + gap, area.top() + 2), cursor.label->size());
+        if (place.right() > area.right())
+            place.moveRight(x - gap);
+        while (!take(place, taken) && place.bottom() + place.height() < area.bottom())
+            place.translate(0, place.height());
+        cursor.label->move(place.topLeft());
+    }
+}
+
+void CursorMarks::paintDifferences(
+    QPainter &painter, const PlotGeometry &geometry, const QRect &title)
+{
+    const QFontMetrics metrics(painter.font());
+    const QRect area = geometry.area();
+    painter.setClipRect(area.left(), 0, area.width(), geometry.widgetSize().height());
+    QVector<QRect> taken{title};
+    for (size_t i = m_cursors.size(); --i > 0;) {
+        const double from = m_cursors.at(i - 1).time;
+        const double to = m_cursors.at(i).time;
+        const double difference = std::abs(to - from);
+        if (i == m_cursors.size() - 1)
+            m_lastPair = {from, to, difference};
+        const int x1 = PlotGeometry::pixel(geometry.cursorX(from));
+        const int x2 = PlotGeometry::pixel(geometry.cursorX(to));
+        const QString text = QStringLiteral("dT=") + generalText(difference);
+        const QRect box((x1 + x2) / 2 - 50, 40, 100, 20);
+        const int margin = (box.width() - metrics.horizontalAdvance(text)) / 2 - 2;
+        const bool hasText = take(box.adjusted(margin, 0, -margin, 0), taken);
+        const auto drawMark = [&](const QColor &color, int offset) {
+            painter.setPen(QPen(color, 1, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+            painter.drawLine(x1, PlotGeometry::top, x2, PlotGeometry::top);
+            if (hasText)
+                painter.drawText(box.translated(offset, offset), Qt::AlignCenter, text);
+        };
+        drawMark(shadowColor, 1);
+        drawMark(markColor, 0);
+    }
+}

@@ -1,0 +1,152 @@
+#include "plotpair.h"
+
+#include <QFrame>
+
+#include <memory>
+#include <utility>
+
+namespace {
+
+template <typename Plot> class Counted : public Plot {
+public:
+    using Plot::Plot;
+    void drawCurves(QPainter *painter) override
+    {
+        ++baseLayers;
+        Plot::drawCurves(painter);
+    }
+    int baseLayers = 0;
+};
+
+} // namespace
+
+// Eight linked plots over a recording of a million samples.
+class tst_PlotterRedraws : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void aMoveOfThePointerRedrawsNoBaseLayer();
+    void aCursorRedrawsEachPlotOnce();
+    void aDragRedrawsNoBaseLayerUntilItEnds();
+    void aRefreshThatChangesNothingRedrawsNone();
+    void aZoomRedrawsEachPlotOnce();
+
+private:
+    // Of each plot since the last call.
+    QList<int> baseLayers();
+
+    std::unique_ptr<FakePlotHost> host;
+    std::unique_ptr<QWidget> area;
+    QList<Counted<Plotter> *> analog;
+    Counted<plotterDg> *digital = nullptr;
+};
+
+void tst_PlotterRedraws::init()
+{
+    constexpr int samples = 1000000;
+    QVector<double> times(samples);
+    QVector<float> current(samples);
+    QVector<int> trip(samples);
+    for (int i = 0; i < samples; ++i) {
+        times[i] = i;
+        current[i] = float(i % 1999 - 999);
+        trip[i] = i / 50000 % 2;
+    }
+    host = std::make_unique<FakePlotHost>();
+    host->setTimes(times);
+    host->source->durationMs = samples;
+    host->source->sampleRate = 1000;
+    host->addAnalog(QStringLiteral("Ia"), current);
+    host->addDigital(QStringLiteral("Trip"), trip);
+    area = std::make_unique<QWidget>();
+    area->resize(803, 301);
+    QList<Plotter *> plots;
+    analog.clear();
+    const auto add = [&](Plotter *plot) {
+        plot->setMainWindow(host.get());
+        plot->resize(803, 301);
+        plot->addChannel(0);
+        plot->setupPlot();
+        plots.append(plot);
+    };
+    for (int i = 0; i < 7; ++i) {
+        analog.append(new Counted<Plotter>(area.get()));
+        add(analog.last());
+    }
+    digital = new Counted<plotterDg>(area.get());
+    add(digital);
+    for (Plotter *plot : qAsConst(plots)) {
+        QList<Plotter *> others = plots;
+        others.removeAll(plot);
+        plot->setLinkedPlotters(others);
+    }
+    analog.first()->raise();
+    area->show();
+    area->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(area.get()));
+    (void)baseLayers();
+}
+
+void tst_PlotterRedraws::cleanup()
+{
+    area.reset();
+    host.reset();
+}
+
+QList<int> tst_PlotterRedraws::baseLayers()
+{
+    QList<int> counts;
+    for (Counted<Plotter> *plot : qAsConst(analog))
+        counts.append(std::exchange(plot->baseLayers, 0));
+    counts.append(std::exchange(digital->baseLayers, 0));
+    return counts;
+}
+
+void tst_PlotterRedraws::aMoveOfThePointerRedrawsNoBaseLayer()
+{
+    for (int x = 100; x < 800; x += 10)
+        PlotPair::move(analog.first(), {x, 150});
+    QTest::qWait(20);
+    QCOMPARE(baseLayers(), QList<int>({0, 0, 0, 0, 0, 0, 0, 0}));
+    QVERIFY(digital->findChild<QFrame *>(QStringLiteral("timeline"))->isVisibleTo(digital));
+}
+
+// The digital plot has no readout that would grow.
+void tst_PlotterRedraws::aCursorRedrawsEachPlotOnce()
+{
+    QTest::mouseDClick(analog.first(), Qt::LeftButton, {}, {300, 150});
+    QCOMPARE(digital->cursors().size(), 1);
+    QTest::qWait(20);
+    QCOMPARE(baseLayers(), QList<int>({1, 1, 1, 1, 1, 1, 1, 0}));
+}
+
+void tst_PlotterRedraws::aDragRedrawsNoBaseLayerUntilItEnds()
+{
+    QTest::mouseDClick(analog.first(), Qt::LeftButton, {}, {300, 150});
+    (void)baseLayers();
+    const QPoint grip = PlotPair::lineLabels(analog.first()).first()->geometry().center();
+    QTest::mousePress(analog.first(), Qt::LeftButton, {}, grip);
+    for (int x = 310; x < 600; x += 10)
+        PlotPair::move(analog.first(), {x, 80}, Qt::LeftButton);
+    QCOMPARE(baseLayers(), QList<int>({0, 0, 0, 0, 0, 0, 0, 0}));
+    QTest::mouseRelease(analog.first(), Qt::LeftButton, {}, {590, 80});
+    QCOMPARE(baseLayers(), QList<int>({1, 1, 1, 1, 1, 1, 1, 0}));
+}
+
+void tst_PlotterRedraws::aRefreshThatChangesNothingRedrawsNone()
+{
+    analog.first()->zoomIn();
+    QCOMPARE(baseLayers(), QList<int>({0, 0, 0, 0, 0, 0, 0, 0}));
+}
+
+void tst_PlotterRedraws::aZoomRedrawsEachPlotOnce()
+{
+    analog.first()->customZoomIn();
+    QCOMPARE(baseLayers(), QList<int>({1, 1, 1, 1, 1, 1, 1, 1}));
+}
+
+QTEST_MAIN(tst_PlotterRedraws)
+#include "tst_plotter_redraws.moc"
