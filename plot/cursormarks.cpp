@@ -81,6 +81,7 @@ void CursorMarks::remove(int cursor)
     if (cursor < 0 || cursor >= count())
         return;
     m_lastPair = {};
+    m_differences.clear();
     m_cursors.erase(m_cursors.begin() + cursor);
     number();
 }
@@ -88,6 +89,7 @@ void CursorMarks::remove(int cursor)
 void CursorMarks::clear()
 {
     m_lastPair = {};
+    m_differences.clear();
     m_cursors.clear();
 }
 
@@ -123,12 +125,12 @@ void CursorMarks::place(const PlotGeometry &geometry)
 }
 
 void CursorMarks::paintDifferences(
-    QPainter &painter, const PlotGeometry &geometry, const QRect &title)
+    QPainter &painter, const PlotGeometry &geometry, const QVector<QRect> &taken)
 {
     const QFontMetrics metrics(painter.font());
     const QRect area = geometry.area();
-    painter.setClipRect(area.left(), 0, area.width(), geometry.widgetSize().height());
-    QVector<QRect> taken{title};
+    QVector<QRect> notFree = taken;
+    m_differences.clear();
     for (size_t i = m_cursors.size(); --i > 0;) {
         const double from = m_cursors.at(i - 1).time;
         const double to = m_cursors.at(i).time;
@@ -140,14 +142,27 @@ void CursorMarks::paintDifferences(
         const QString text = QStringLiteral("dT=") + generalText(difference);
         const QRect box((x1 + x2) / 2 - 50, 40, 100, 20);
         const int margin = (box.width() - metrics.horizontalAdvance(text)) / 2 - 2;
-        const bool hasText = take(box.adjusted(margin, 0, -margin, 0), taken);
+        const QRect place = box.adjusted(margin, 0, -margin, 0);
+        m_differences.append(place);
+        const int centre = place.center().x();
+        const bool hasText = centre >= area.left() && centre <= area.right()
+            && place.left() >= area.left() && place.right() < geometry.widgetSize().width()
+            && take(place, notFree);
         const auto drawMark = [&](const QColor &color, int offset) {
             painter.setPen(QPen(color, 1, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+            painter.setClipRect(area);
             painter.drawLine(x1, PlotGeometry::top, x2, PlotGeometry::top);
+            painter.setClipping(false);
             if (hasText)
                 painter.drawText(box.translated(offset, offset), Qt::AlignCenter, text);
         };
         drawMark(shadowColor, 1);
         drawMark(markColor, 0);
     }
+}
+
+bool CursorMarks::differencesChange(const QRect &from, const QRect &to) const
+{
+    return std::any_of(m_differences.cbegin(), m_differences.cend(),
+        [&](const QRect &place) { return place.intersects(from) != place.intersects(to); });
 }

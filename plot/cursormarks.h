@@ -4,6 +4,7 @@
 
 #include <QFrame>
 #include <QList>
+#include <QVector>
 
 #include <array>
 #include <memory>
@@ -43,8 +44,12 @@ public:
     void place(const PlotGeometry &geometry);
 
     // Paints the time differences of neighbouring cursors above the plot area. All pairs get their
-    // line; a text that would overlap that of a later pair, or the title, is left out.
-    void paintDifferences(QPainter &painter, const PlotGeometry &geometry, const QRect &title);
+    // line; a text that would be cut off, or overlap that of a later pair or one of the rectangles
+    // that are taken, is left out.
+    void paintDifferences(
+        QPainter &painter, const PlotGeometry &geometry, const QVector<QRect> &taken);
+    // Whether the texts to be left out are others when something moves over them.
+    bool differencesChange(const QRect &from, const QRect &to) const;
 
 private:
     struct Cursor {
@@ -58,4 +63,5 @@ private:
     QWidget *m_plot;
     std::vector<Cursor> m_cursors;
     std::array<double, 3> m_lastPair{}; // both times and their difference, ms
+    QVector<QRect> m_differences; // places of their texts, of those left out as well
 };

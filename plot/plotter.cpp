@@ -61,13 +61,7 @@ Plotter::Plotter(QWidget *parent)
     timeLabel->setObjectName(QStringLiteral("timelabel"));
     timeLabel->setStyleSheet(QStringLiteral("QLabel{color: white;}"));
     timeLabel->setFont(smallFont(font()));
-    // It hides the time differences of cursors that it stands over, but not the frame below them.
-    QPalette opaque(timeLabel->palette());
-    opaque.setColor(QPalette::Window, QColor(0x31, 0x30, 0x34));
-    timeLabel->setPalette(opaque);
-    timeLabel->setAutoFillBackground(true);
     timeLabel->resize(70, 20);
-    timeLabel->setMask(QRect(0, 0, 70, 15));
     timeLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
     timeLabel->hide();
     timeLabel->lower();

@@ -175,6 +175,7 @@ private:
     void hideBand();
 
     void showTimeLine(int x);
+    QRect timeLabelPlace() const;
     void insertCursor(double time);
     void moveCursor(int cursor, double time);
     void removeCursors(int first, int last);

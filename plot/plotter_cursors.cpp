@@ -18,11 +18,22 @@ void Plotter::showTimeLine(int x)
     const PlotGeometry geometry = geometryOfView();
     timeLineTime = geometry.lineTime(x);
     timeLabel->setText(QStringLiteral("t = ") + generalText(timeLineTime));
+    const QRect before = timeLabelPlace();
     timeLabel->move(x + 15, 45);
     timeLabel->show();
     timeLabel->lower();
     timeLine->setGeometry(plotLineAt(x, geometry));
     timeLine->show();
+    if (cursorMarks.differencesChange(before, timeLabelPlace())) {
+        paintOverlay();
+        update();
+    }
+}
+
+// Null while the label is hidden.
+QRect Plotter::timeLabelPlace() const
+{
+    return timeLabel->isHidden() ? QRect() : timeLabel->geometry();
 }
 
 void Plotter::addCursor(int x, int /*y*/)
@@ -95,7 +106,7 @@ void Plotter::paintOverlay()
     overlayPixmap = clearLayer();
     QPainter painter(&overlayPixmap);
     painter.setFont(smallFont(font()));
-    cursorMarks.paintDifferences(painter, geometry, plotterLabel->geometry());
+    cursorMarks.paintDifferences(painter, geometry, {plotterLabel->geometry(), timeLabelPlace()});
 }
 
 // Sets the lines of the cursors and the save markers to their places in the view.

@@ -2,16 +2,20 @@
 
 #include "plotter.h"
 
+#include "baselayer.h"
+#include "labeltext.h"
 #include "plothost.h"
 
 #include <QColorDialog>
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QScrollBar>
+#include <QToolTip>
 #include <QWheelEvent>
 
 namespace {
@@ -35,7 +39,14 @@ bool Plotter::event(QEvent *event)
 {
     if (event->type() == QEvent::WindowDeactivate)
         releaseGrab();
-    return QWidget::event(event);
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    // The cells of the readout are elided where there are many cursors.
+    const auto *help = static_cast<QHelpEvent *>(event);
+    const QString text
+        = drawnContent.readout.textAt(help->pos(), geometryOfView(), smallFont(font()));
+    QToolTip::showText(help->globalPos(), plainToolTip(text), this);
+    return true;
 }
 
 void Plotter::releaseGrab()

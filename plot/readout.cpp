@@ -4,6 +4,7 @@
 
 #include <QFontMetrics>
 #include <QPainter>
+#include <QRect>
 
 #include <algorithm>
 #include <numeric>
@@ -36,14 +37,14 @@ int Readout::neededWidth(const QFont &font) const
     return std::accumulate(widths.cbegin(), widths.cend(), 2 * margin);
 }
 
-void Readout::draw(QPainter &painter, const PlotGeometry &geometry, const QFont &font) const
+Readout::Layout Readout::layout(const PlotGeometry &geometry, const QFont &font) const
 {
+    Layout layout;
     QVector<int> widths = columnWidths(font);
     const int room = geometry.readoutWidth() - 2 * margin;
     if (widths.size() < 2 || room <= 0)
-        return;
-    const int needed = std::accumulate(widths.cbegin(), widths.cend(), 0);
-    if (needed > room) {
+        return layout;
+    if (std::accumulate(widths.cbegin(), widths.cend(), 0) > room) {
         // The columns that ask for less than an equal share keep what they need.
         int left = room;
         int unsettled = widths.size();
@@ -56,30 +57,57 @@ void Readout::draw(QPainter &painter, const PlotGeometry &geometry, const QFont 
             --unsettled;
         }
     }
+    layout.widths = widths;
 
-    // Rows move together before some of them are left out, for which an ellipsis stands.
+    // Rows move together before some of them are left out.
     const QFontMetrics metrics(font);
     const int height = geometry.widgetSize().height() - PlotGeometry::top - margin;
-    const int rowHeight
+    layout.rowHeight
         = std::clamp(height / rows.size(), metrics.height(), metrics.height() + rowPadding);
-    const int fitting = std::max(1, height / rowHeight);
-    QVector<Row> shown = rows.mid(0, fitting);
-    if (rows.size() > fitting) {
+    layout.fitting = std::clamp(height / layout.rowHeight, 1, rows.size());
+    return layout;
+}
+
+QRect Readout::Layout::cell(int row, int column, const PlotGeometry &geometry) const
+{
+    const int left = geometry.widgetSize().width() - geometry.readoutWidth() + margin;
+    return {std::accumulate(widths.cbegin(), widths.cbegin() + column, left),
+        PlotGeometry::top + row * rowHeight, widths.at(column), rowHeight};
+}
+
+void Readout::draw(QPainter &painter, const PlotGeometry &geometry, const QFont &font) const
+{
+    const Layout cells = layout(geometry, font);
+    QVector<Row> shown = rows.mid(0, cells.fitting);
+    if (!shown.isEmpty() && shown.size() < rows.size()) { // an ellipsis stands for those left out
         shown.last().fill(QString());
         shown.last().first() = QChar(0x2026);
     }
-
+    const QFontMetrics metrics(font);
     painter.setFont(font);
     painter.setPen(Qt::white);
-    int y = PlotGeometry::top;
-    for (const Row &row : qAsConst(shown)) {
-        int x = geometry.widgetSize().width() - geometry.readoutWidth() + margin;
-        for (int column = 0; column < row.size(); ++column) {
-            const QRect cell(x, y, widths[column], rowHeight);
+    for (int row = 0; row < shown.size(); ++row) {
+        for (int column = 0; column < cells.widths.size(); ++column) {
+            const QRect cell = cells.cell(row, column, geometry);
             painter.drawText(cell, Qt::AlignCenter,
-                metrics.elidedText(row.at(column), Qt::ElideRight, widths[column] - 2));
-            x += widths[column];
+                metrics.elidedText(shown.at(row).at(column), Qt::ElideRight, cell.width() - 2));
         }
-        y += rowHeight;
     }
+}
+
+QString Readout::textAt(const QPoint &point, const PlotGeometry &geometry, const QFont &font) const
+{
+    const Layout cells = layout(geometry, font);
+    for (int row = 0; row < cells.fitting; ++row) {
+        for (int column = 0; column < cells.widths.size(); ++column) {
+            if (!cells.cell(row, column, geometry).contains(point))
+                continue;
+            const QString text = rows.at(row).at(column);
+            return row == 0 || column == 0 || text.isEmpty()
+                ? text
+                : QStringLiteral("%1, %2: %3")
+                      .arg(rows.at(row).constFirst(), rows.constFirst().at(column), text);
+        }
+    }
+    return {};
 }

@@ -1,8 +1,10 @@
 #include "plotpair.h"
 
 #include <QFrame>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QToolTip>
 
 #include <memory>
 
@@ -38,6 +40,9 @@ private slots:
     void aLabelAtTheRightEdgeStandsLeftOfItsLine();
     void timeDifferencesThatWouldOverlapAreLeftOut();
     void noTimeDifferenceIsBehindTheTitle();
+    void noTimeDifferenceIsBehindTheTimeLabel();
+    void noTimeDifferenceIsCutOff();
+    void theReadoutTellsItsCellsInFull();
     void aDraggedLabelMovesTheCursorEverywhere();
     void aDraggedLabelStopsAtTheEdges_data();
     void aDraggedLabelStopsAtTheEdges();
@@ -247,6 +252,40 @@ void tst_PlotterCursors::noTimeDifferenceIsBehindTheTitle()
         QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {x, 150});
     QCOMPARE(markPixels(pair->digital, 71, 300), 0);
     QCOMPARE(pair->digital->grab().toImage().pixel(120, 60), qRgb(255, 250, 80));
+}
+
+void tst_PlotterCursors::noTimeDifferenceIsBehindTheTimeLabel()
+{
+    for (const int x : {400, 420})
+        QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {x, 150});
+    PlotPair::move(pair->digital, {600, 150});
+    QVERIFY(markPixels(pair->digital, 360, 460) > 20);
+    PlotPair::move(pair->digital, {380, 150}); // the label reaches from 395 to 464
+    QCOMPARE(markPixels(pair->digital, 360, 460), 0);
+    PlotPair::move(pair->digital, {600, 150});
+    QVERIFY(markPixels(pair->digital, 360, 460) > 20);
+}
+
+// The digital plot reaches to the right end of the widget, where no text can follow.
+void tst_PlotterCursors::noTimeDifferenceIsCutOff()
+{
+    for (const int x : {770, 794})
+        QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {x, 150});
+    QCOMPARE(markPixels(pair->digital, 660, 803), 0);
+    const int centre = pair->plot->geometryOfView().area().right() - 15;
+    QVERIFY(markPixels(pair->plot, centre - 40, centre + 40) > 20);
+}
+
+void tst_PlotterCursors::theReadoutTellsItsCellsInFull()
+{
+    doubleClick(450); // the sample of 500 ms is 7
+    const int right = 803 - 10;
+    QHelpEvent event(QEvent::ToolTip, {right, 60 + 26}, pair->plot->mapToGlobal({right, 60 + 26}));
+    QApplication::sendEvent(pair->plot, &event);
+    QCOMPARE(QToolTip::text(), QStringLiteral("Ia, P1 (500): 7"));
+    QHelpEvent beside(QEvent::ToolTip, {300, 150}, pair->plot->mapToGlobal({300, 150}));
+    QApplication::sendEvent(pair->plot, &beside);
+    QTRY_COMPARE(QToolTip::text(), QString());
 }
 
 void tst_PlotterCursors::aDraggedLabelMovesTheCursorEverywhere()

@@ -54,6 +54,7 @@ private slots:
     void rowsThatDoNotFitGiveAnEllipsis_data();
     void rowsThatDoNotFitGiveAnEllipsis();
     void nothingIsDrawnWithoutRoom();
+    void cellsAreToldInFull();
 
 private:
     QFont font = crispFont(10);
@@ -198,6 +199,29 @@ void tst_Readout::nothingIsDrawnWithoutRoom()
     QVERIFY(inkRect(image, image.rect()).isNull());
     const QImage names = draw(table({{QStringLiteral("Name")}}), geometryOf({800, 301}, 100), font);
     QVERIFY(inkRect(names, names.rect()).isNull());
+}
+
+// Two columns of 50 pixels each share the room of 100, from x = 704 on.
+void tst_Readout::cellsAreToldInFull()
+{
+    const Readout readout
+        = table({{QStringLiteral("Parameter of a plot"), QStringLiteral("P1 (123456.789)")},
+            {QStringLiteral("Current of a feeder"), QStringLiteral("-17.25 and more")},
+            {QStringLiteral("Voltage of a feeder"), QString()}});
+    const PlotGeometry geometry = geometryOf({812, 301}, 108);
+    const int rowHeight = metrics.height() + 4;
+    const auto textAt = [&](int x, int row) {
+        return readout.textAt({x, 60 + row * rowHeight + rowHeight / 2}, geometry, font);
+    };
+    QCOMPARE(textAt(710, 0), QStringLiteral("Parameter of a plot"));
+    QCOMPARE(textAt(760, 0), QStringLiteral("P1 (123456.789)"));
+    QCOMPARE(textAt(710, 1), QStringLiteral("Current of a feeder"));
+    QCOMPARE(
+        textAt(760, 1), QStringLiteral("Current of a feeder, P1 (123456.789): -17.25 and more"));
+    QCOMPARE(textAt(760, 2), QString());
+    QCOMPARE(textAt(760, 3), QString());
+    QCOMPARE(textAt(700, 1), QString());
+    QCOMPARE(Readout().textAt({760, 70}, geometry, font), QString());
 }
 
 QTEST_MAIN(tst_Readout)
