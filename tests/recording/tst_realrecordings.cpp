@@ -1,18 +1,12 @@
 #include "cfgproperties.h"
-#include "recordingwriter.h"
-
-#include "recordingbuilder.h"
 
 #include <QtTest>
 
 #include <cmath>
-#include <limits>
 #include <map>
 #include <memory>
 
 namespace {
-
-const double infinite = std::numeric_limits<double>::infinity();
 
 QString pathOf(const QString &name)
 {
@@ -69,10 +63,6 @@ private slots:
     void stampsThatRunBack();
     void marksOfMissingValuesAreNumbers();
     void namesAreTheBytesOfTheFile();
-    void copiesReadAsTheOriginal_data();
-    void copiesReadAsTheOriginal();
-    void copiesInPrimaryValuesOpen_data();
-    void copiesInPrimaryValuesOpen();
 };
 
 void TestRealRecordings::initTestCase()
@@ -284,81 +274,6 @@ void TestRealRecordings::namesAreTheBytesOfTheFile()
         const CFGProperties *const recording = loaded(name);
         const QByteArray header = contents(pathOf(name)).split('\n').constFirst();
         QCOMPARE(recording->stationName.toLatin1(), header.split(',').constFirst());
-    }
-}
-
-void TestRealRecordings::copiesReadAsTheOriginal_data()
-{
-    QTest::addColumn<QString>("name");
-    for (const QString &name : names)
-        QTest::newRow(qPrintable(name)) << name;
-}
-
-void TestRealRecordings::copiesReadAsTheOriginal()
-{
-    QFETCH(QString, name);
-    const CFGProperties *const original = loaded(name);
-    const RecordingFolder folder;
-    const auto outcome
-        = RecordingWriter(*original, {}, {}).write(folder.path("copy"), -infinite, infinite);
-    QVERIFY(!outcome.hasFailed());
-
-    CFGProperties copy;
-    copy.filePath = folder.path("copy.cfg");
-    copy.init();
-    QCOMPARE(copy.loaded, 1);
-    QCOMPARE(copy.sampleCount, original->sampleCount);
-    QCOMPARE(copy.stationName, original->stationName);
-    QCOMPARE(copy.analogIds, original->analogIds);
-    QCOMPARE(copy.toPrimary, original->toPrimary);
-    QCOMPARE(copy.digitalIds, original->digitalIds);
-    QCOMPARE(copy.samplesPerCycle, original->samplesPerCycle);
-    QCOMPARE(copy.digitalChannels.size(), original->digitalChannels.size());
-    QCOMPARE(copy.analogChannels.size(), original->analogChannels.size());
-    for (int i = 0; i < copy.sampleCount; ++i) {
-        // Microseconds are whole.
-        const double time = original->sampleTimes.at(i) - original->sampleTimes.constFirst();
-        QVERIFY(std::abs(copy.sampleTimes.at(i) - time) < 0.00051);
-    }
-    for (int j = 0; j < copy.digitalChannels.size(); ++j)
-        QCOMPARE(copy.digitalChannels.at(j)->values, original->digitalChannels.at(j)->values);
-    for (int k = 0; k < copy.analogChannels.size(); ++k) {
-        const AnalogChannel &one = *original->analogChannels.at(k);
-        const AnalogChannel &other = *copy.analogChannels.at(k);
-        QCOMPARE(other.rawValues, one.rawValues);
-        // Of the multiplier six digits are kept.
-        QVERIFY(isNear(other.a, static_cast<double>(one.a), 5e-6));
-    }
-
-    RecordingWriter(copy, {}, {}).write(folder.path("second"), -infinite, infinite);
-    QCOMPARE(contents(folder.path("second.cfg")), contents(folder.path("copy.cfg")));
-    QVERIFY(contents(folder.path("second.dat")) == contents(folder.path("copy.dat")));
-}
-
-void TestRealRecordings::copiesInPrimaryValuesOpen_data()
-{
-    copiesReadAsTheOriginal_data();
-}
-
-void TestRealRecordings::copiesInPrimaryValuesOpen()
-{
-    QFETCH(QString, name);
-    const CFGProperties *const original = loaded(name);
-    const RecordingFolder folder;
-    QVERIFY(!RecordingWriter(*original, {}, {}).writeAsPrimary(folder.path("copy")).hasFailed());
-    CFGProperties copy;
-    copy.filePath = folder.path("copy.cfg");
-    copy.init();
-    QCOMPARE(copy.loaded, 1);
-    QCOMPARE(copy.sampleCount, original->sampleCount);
-    for (int k = 0; k < copy.analogChannels.size(); ++k) {
-        const AnalogChannel &one = *original->analogChannels.at(k);
-        const AnalogChannel &other = *copy.analogChannels.at(k);
-        QCOMPARE(other.ps, QStringLiteral("P"));
-        QCOMPARE(other.toPrimary, 1.0);
-        // A quiet channel has the smallest magnitude on either side.
-        const double factor = one.maxMagnitude == 0.000001F ? 1 : one.toPrimary;
-        QVERIFY(isNear(other.maxMagnitude, static_cast<double>(one.maxMagnitude) * factor, 1e-5));
     }
 }
 
