@@ -3,6 +3,7 @@
 #include "cfgproperties.h"
 #include "numbers.h"
 
+#include <QFileInfo>
 #include <QSaveFile>
 #include <QTime>
 
@@ -71,6 +72,13 @@ QTime moved(const QTime &time, double milliseconds)
     return time.addMSecs(static_cast<int>(truncatedToInt64(milliseconds) % day));
 }
 
+// Folders and devices, also those behind a link, are not opened: they would be replaced by a file.
+bool openForWriting(QSaveFile &file)
+{
+    const QFileInfo there(file.fileName());
+    return (!there.exists() || there.isFile()) && file.open(QIODevice::WriteOnly);
+}
+
 // Puts the files that were opened in their places, none before all are complete: an old data file
 // beside a new configuration would be neither recording. The flush stands apart because a commit
 // does not notice that its own last bytes could not be written.
@@ -132,11 +140,11 @@ RecordingWriter::Outcome RecordingWriter::writePair(
 
     const QString stem = path.endsWith(extension) ? path.chopped(extension.size()) : path;
     QSaveFile configurationFile(stem + extension);
-    if (configurationFile.open(QIODevice::WriteOnly))
+    if (openForWriting(configurationFile))
         configurationFile.write(encoded(configuration(span, side)));
 
     QSaveFile dataFile(stem + QLatin1String(".dat"));
-    if (dataFile.open(QIODevice::WriteOnly)) {
+    if (openForWriting(dataFile)) {
         const int lineRoom = 2 * mostDigits
             + mostDigitsOfSample
                 * (m_recording.analogChannels.size() + m_recording.digitalChannels.size());

@@ -1,6 +1,7 @@
 #include "cfgproperties.h"
 #include "recordingwriter.h"
 
+#include "ownfilesystem.h"
 #include "writtenpair.h"
 
 #include <QtTest>
@@ -10,6 +11,7 @@
 #ifdef Q_OS_UNIX
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #endif
 
 Q_DECLARE_METATYPE(ConfigurationText)
@@ -29,6 +31,12 @@ private slots:
     void whatWasThereIsReplaced();
     void filesThatCannotBeOpenedAreSilent_data();
     void filesThatCannotBeOpenedAreSilent();
+    void aFolderWithoutPermissionKeepsItsFiles();
+    void aFullFileSystemKeepsItsFiles_data();
+    void aFullFileSystemKeepsItsFiles();
+#ifdef Q_OS_UNIX
+    void linksAreFollowedToFilesAlone();
+#endif
     void aFileThatCannotBeWrittenInFullIsTold_data();
     void aFileThatCannotBeWrittenInFullIsTold();
     void aCopyReadsAsTheOriginalAndCopiesToTheSameBytes_data();
@@ -40,16 +48,21 @@ void TestWrittenFiles::targetNames_data()
     QTest::addColumn<QString>("target");
     QTest::addColumn<QStringList>("files");
     const auto row = [](const char *name, const char *target, const char *files) {
-        QTest::newRow(name) << QString::fromLatin1(target)
-                            << QString::fromLatin1(files).split(QLatin1Char(' '));
+        QTest::newRow(name) << QString::fromUtf8(target)
+                            << QString::fromUtf8(files).split(QLatin1Char('|'));
     };
-    row("no extension", "out", "out.cfg out.dat");
-    row("the extension", "out.cfg", "out.cfg out.dat");
-    row("the extension in capitals", "out.CFG", "out.CFG.cfg out.CFG.dat");
-    row("the extension of the data", "out.dat", "out.dat.cfg out.dat.dat");
-    row("the extension twice", "out.cfg.cfg", "out.cfg.cfg out.cfg.dat");
-    row("the extension inside", "out.cfg.old", "out.cfg.old.cfg out.cfg.old.dat");
-    row("a point at the end", "out.", "out..cfg out..dat");
+    row("no extension", "out", "out.cfg|out.dat");
+    row("the extension", "out.cfg", "out.cfg|out.dat");
+    row("the extension in capitals", "out.CFG", "out.CFG.cfg|out.CFG.dat");
+    row("the extension of the data", "out.dat", "out.dat.cfg|out.dat.dat");
+    row("the extension twice", "out.cfg.cfg", "out.cfg.cfg|out.cfg.dat");
+    row("the extension inside", "out.cfg.old", "out.cfg.old.cfg|out.cfg.old.dat");
+    row("letters of many scripts", "h\u00e4iri\u00f6 \u6545\u969c.cfg",
+        "h\u00e4iri\u00f6 \u6545\u969c.cfg|h\u00e4iri\u00f6 \u6545\u969c.dat");
+    row("blanks", " a b ", " a b .cfg| a b .dat");
+    row("a blank behind the extension", "out.cfg ", "out.cfg .cfg|out.cfg .dat");
+    row("a name of the extension alone", ".cfg", ".cfg|.dat");
+    row("a point at the end", "out.", "out..cfg|out..dat");
 }
 
 void TestWrittenFiles::targetNames()
@@ -62,10 +75,11 @@ void TestWrittenFiles::targetNames()
     const RecordingWriter writer(recording, {}, {});
     const QTemporaryDir folder;
     writer.write(folder.filePath(target), 0, 3);
-    QCOMPARE(QDir(folder.path()).entryList(QDir::Files, QDir::Name), files);
+    const QDir::Filters everyFile = QDir::Files | QDir::Hidden;
+    QCOMPARE(QDir(folder.path()).entryList(everyFile, QDir::Name), files);
     const QTemporaryDir other;
     writer.writeAsPrimary(other.filePath(target));
-    QCOMPARE(QDir(other.path()).entryList(QDir::Files, QDir::Name), files);
+    QCOMPARE(QDir(other.path()).entryList(everyFile, QDir::Name), files);
 }
 
 void TestWrittenFiles::whatWasThereIsReplaced()
@@ -91,8 +105,7 @@ void TestWrittenFiles::filesThatCannotBeOpenedAreSilent_data()
     QTest::newRow("a folder in the configuration's place")
         << QStringLiteral("cfg-taken") << false << true;
     QTest::newRow("a folder in the data's place") << QStringLiteral("dat-taken") << true << false;
-    QTest::newRow("a folder without write permission")
-        << QStringLiteral("locked/out") << false << false;
+    QTest::newRow("a file in the folder's place") << QStringLiteral("file/out") << false << false;
 }
 
 void TestWrittenFiles::filesThatCannotBeOpenedAreSilent()
@@ -104,11 +117,7 @@ void TestWrittenFiles::filesThatCannotBeOpenedAreSilent()
     const QDir dir(folder.path());
     QVERIFY(dir.mkdir(QStringLiteral("cfg-taken.cfg")));
     QVERIFY(dir.mkdir(QStringLiteral("dat-taken.dat")));
-    QVERIFY(dir.mkdir(QStringLiteral("locked")));
-    const QString locked = folder.filePath(QStringLiteral("locked"));
-    QVERIFY(QFile::setPermissions(locked, QFile::ReadOwner | QFile::ExeOwner));
-    if (target.startsWith(QLatin1String("locked")) && QFileInfo(locked).isWritable())
-        QSKIP("This user may write everywhere.");
+    QVERIFY(writeTextFile(folder.filePath(QStringLiteral("file")), "a file"));
     const RecordingFolder source;
     CFGProperties recording;
     source.load(recording, configurationText().text(), dataUpTo(3));
@@ -117,6 +126,102 @@ void TestWrittenFiles::filesThatCannotBeOpenedAreSilent()
     QCOMPARE(QFileInfo(folder.filePath(target + QLatin1String(".cfg"))).isFile(), hasConfiguration);
     QCOMPARE(QFileInfo(folder.filePath(target + QLatin1String(".dat"))).isFile(), hasData);
 }
+
+void TestWrittenFiles::aFolderWithoutPermissionKeepsItsFiles()
+{
+    const OwnFileSystem readOnly(1 << 20);
+    if (!readOnly.isMounted())
+        QSKIP("This system mounts no file system for a test.");
+    const QString configuration = readOnly.path("out.cfg");
+    const QString data = readOnly.path("out.dat");
+    QVERIFY(writeTextFile(configuration, "as before"));
+    QVERIFY(writeTextFile(data, "as before"));
+    QVERIFY(readOnly.makeReadOnly());
+    const RecordingFolder source;
+    CFGProperties recording;
+    source.load(recording, configurationText().text(), dataUpTo(3));
+    const RecordingWriter writer(recording, {}, {});
+    for (const char *name : {"out", "new"}) {
+        const auto outcome = writer.write(readOnly.path(name), 0, 3);
+        QVERIFY2(!outcome.hasFailed(), qPrintable(outcome.error));
+    }
+    QCOMPARE(contents(configuration), QByteArray("as before"));
+    QCOMPARE(contents(data), QByteArray("as before"));
+    QCOMPARE(QDir(readOnly.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+}
+
+void TestWrittenFiles::aFullFileSystemKeepsItsFiles_data()
+{
+    QTest::addColumn<int>("fill"); // bytes of another file, of 64 kB
+    QTest::newRow("no room") << 65536 - 2 * 4096;
+    QTest::newRow("room for the configuration alone") << 65536 - 3 * 4096;
+    QTest::newRow("room for the first part of the data") << 16384;
+}
+
+void TestWrittenFiles::aFullFileSystemKeepsItsFiles()
+{
+    QFETCH(int, fill);
+    const OwnFileSystem full(65536);
+    if (!full.isMounted())
+        QSKIP("This system mounts no file system for a test.");
+    const QString configuration = full.path("out.cfg");
+    const QString data = full.path("out.dat");
+    QVERIFY(writeTextFile(configuration, "as before"));
+    QVERIFY(writeTextFile(data, "as before"));
+    QVERIFY(writeTextFile(full.path("other"), QByteArray(fill, 'x')));
+    const RecordingFolder source;
+    CFGProperties recording;
+    source.load(recording, configurationText().text(), dataUpTo(30000));
+    const RecordingWriter writer(recording, {}, {});
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        const auto outcome = writer.write(configuration, -infinite, infinite);
+        QVERIFY(outcome.hasFailed());
+        QCOMPARE(outcome.failedFile, configuration); // finished first
+        QCOMPARE(outcome.error, QStringLiteral("No space left on device"));
+        QCOMPARE(contents(configuration), QByteArray("as before"));
+        QCOMPARE(contents(data), QByteArray("as before"));
+        QCOMPARE(QDir(full.path()).entryList(QDir::Files | QDir::Hidden).size(), 3);
+    }
+}
+
+#ifdef Q_OS_UNIX
+void TestWrittenFiles::linksAreFollowedToFilesAlone()
+{
+    const QTemporaryDir folder;
+    const QDir dir(folder.path());
+    const auto path = [&dir](const char *name) { return dir.filePath(QLatin1String(name)); };
+    QVERIFY(dir.mkdir(QStringLiteral("folder")));
+    QVERIFY(writeTextFile(path("file"), "as before"));
+    // A pipe stands for the devices: it is none of the machine's own.
+    QCOMPARE(mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
+    for (const char *name : {"file", "missing", "folder", "pipe"}) {
+        const QString link = path("to-") + QLatin1String(name);
+        QVERIFY(QFile::link(path(name), link + QLatin1String(".cfg")));
+        QVERIFY(QFile::link(path(name), link + QLatin1String(".dat")));
+    }
+    const RecordingFolder source;
+    CFGProperties recording;
+    source.load(recording, configurationText().text(), dataUpTo(3));
+    const RecordingWriter writer(recording, {}, {});
+
+    for (const char *name : {"to-file", "to-missing", "to-folder", "to-pipe"}) {
+        QVERIFY(!writer.write(path(name), 1, 1).hasFailed());
+        for (const char *ending : {".cfg", ".dat"})
+            QVERIFY2(QFileInfo(path(name) + QLatin1String(ending)).isSymLink(), name);
+    }
+    // Of the two that point to the same file, the data came last.
+    QCOMPARE(contents(path("file")), QByteArray("2,0,1,-1,1"));
+    QCOMPARE(contents(path("missing")), QByteArray("2,0,1,-1,1"));
+    QVERIFY(QFileInfo(path("folder")).isDir());
+    QVERIFY(QDir(path("folder")).isEmpty());
+    QVERIFY(QFileInfo::exists(path("pipe")) && !QFileInfo(path("pipe")).isFile());
+
+    QVERIFY(!writer.write(path("pipe"), 1, 1).hasFailed()); // as pipe.cfg
+    QVERIFY(QFile::rename(path("pipe"), path("direct.cfg")));
+    QVERIFY(!writer.write(path("direct"), 1, 1).hasFailed());
+    QVERIFY(!QFileInfo(path("direct.cfg")).isFile());
+}
+#endif
 
 void TestWrittenFiles::aFileThatCannotBeWrittenInFullIsTold_data()
 {
