@@ -1,3 +1,4 @@
+#include "cfgproperties.h"
 #include "mainwindow.h"
 #include "plotterdg.h"
 #include "smallrecording.h"
@@ -192,6 +193,41 @@ private slots:
         QCOMPARE(fileText(path("out.dat")),
             QStringLiteral("11,0,-200,10,0\n12,1000,-200,11,0\n13,2000,-200,12,0"));
         QVERIFY(fileText(path("out.cfg")).contains(QLatin1String(",400.000000,1.000000,S\n")));
+    }
+
+    void theOpenRecordingCanBeSavedOver()
+    {
+        window->saveRecording(path("rec.cfg"), 10, 12);
+        QCOMPARE(window->statusBar()->currentMessage(), QStringLiteral("File saved."));
+        // What is open stays whole until it is opened again.
+        QCOMPARE(window->recording()->sampleCount, 40);
+        window->saveRecording(path("copy.cfg"), 0, 39);
+        QCOMPARE(fileText(path("copy.dat")).count(QLatin1Char('\n')), 39);
+        window->open(path("rec.cfg"));
+        QCOMPARE(window->recording()->sampleTimes, QVector<double>({0, 1, 2}));
+        QCOMPARE(window->recording()->analogChannels.at(1)->rawValues,
+            QVector<float>({10.0F, 11.0F, 12.0F}));
+    }
+
+    void saveDialogWritesBothFiles()
+    {
+        const QString name = QString::fromUtf8("h\u00e4iri\u00f6 \u6545\u969c");
+        window->showSaveDialog();
+        const auto *dialog = window->findChild<QDialog *>(QStringLiteral("SaveDialog"));
+        const auto child = [dialog](const char *object) {
+            return dialog->findChild<QWidget *>(QLatin1String(object));
+        };
+        QTest::sendKeyEvent(QTest::Click, child("lineEdit_FilePath"), Qt::Key_unknown,
+            folder->filePath(name), Qt::NoModifier);
+        QTest::keyClick(child("horizontalSlider_StartPoint"), Qt::Key_End);
+        QTest::keyClick(child("horizontalSlider_StartPoint"), Qt::Key_Left);
+        QTest::mouseClick(child("pushButton_Save"), Qt::LeftButton);
+        QVERIFY(!dialog->isVisible());
+        QCOMPARE(window->statusBar()->currentMessage(), QStringLiteral("File saved."));
+        QCOMPARE(fileText(folder->filePath(name + QLatin1String(".dat"))),
+            QStringLiteral("39,0,-200,38,1\n40,1000,-200,39,1"));
+        QVERIFY(fileText(folder->filePath(name + QLatin1String(".cfg")))
+                    .startsWith(QLatin1String("Harju 110/20 kV,Feeder J07,1999\n")));
     }
 
     void pathThatCannotBeOpenedIsReportedSavedAllTheSame()

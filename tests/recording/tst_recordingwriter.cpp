@@ -262,6 +262,13 @@ void TestRecordingWriter::ratings_data()
     QTest::newRow("with decimals")
         << list("0.12345678|1e3") << list("1.5|-2") << QByteArray("0.123457,1.500000")
         << QByteArray("1000.000000,-2.000000");
+    // A 128th and three of them lie in the middle between two sixth decimals.
+    QTest::newRow("halves of the last decimal go away from zero")
+        << list("0.0078125|-0.0078125") << list("0.0234375|-0") << QByteArray("0.007813,0.023438")
+        << QByteArray("-0.007813,0.000000");
+    QTest::newRow("of many digits") << list("123456789012.5|1e22") << list("1e-7|0.000001")
+                                    << QByteArray("123456789012.500000,0.000000")
+                                    << QByteArray("10000000000000000000000.000000,0.000001");
     QTest::newRow("that are no numbers")
         << list("x|") << list("1,5| 7 ") << QByteArray("0.000000,0.000000")
         << QByteArray("0.000000,7.000000");
@@ -332,6 +339,7 @@ void TestRecordingWriter::stampsOfData_data()
     row("a late start moves to 0", "72500 73333 74167", "0 833 1667");
     row("an early start moves to 0", "-77500 -76667 0", "0 833 77500");
     row("parts of a microsecond are rounded", "0 833.4 1666.6", "0 833 1667");
+    row("halves of a microsecond go up", "0 0.5 1.5 2.5", "0 1 2 3");
     row("beyond 32 bits", "0 17258333000", "0 17258333000");
     row("stamps that run back", "5000 4000", "0 -1000");
     row("no stamps", "x x", "0 0");
@@ -393,6 +401,8 @@ void TestRecordingWriter::rateLines_data()
     QTest::newRow("one") << QByteArrayList{"7680.25,3"} << QByteArrayList{"1", "7680.250000,4"};
     QTest::newRow("three become the last one three times") << QByteArrayList{"1000,10", "2000,20",
         "4000,30"} << QByteArrayList{"3", "4000.000000,4", "4000.000000,4", "4000.000000,4"};
+    QTest::newRow("a half of the last decimal")
+        << QByteArrayList{"0.0078125,3"} << QByteArrayList{"1", "0.007813,4"};
     QTest::newRow("none") << QByteArrayList() << QByteArrayList{"0"};
 }
 
