@@ -25,16 +25,28 @@ bool isLightGrey(QRgb pixel)
 
 void recolour(QImage &image, CaptureTarget target)
 {
-    // Straight alpha: the colours of translucent pixels are judged as they are.
-    image = std::move(image).convertToFormat(QImage::Format_ARGB32);
-    const bool clipboard = target == CaptureTarget::Clipboard;
+    const bool isPremultiplied = image.format() == QImage::Format_ARGB32_Premultiplied;
+    if (!isPremultiplied)
+        image = std::move(image).convertToFormat(QImage::Format_ARGB32);
+    // The colours of translucent pixels are judged as they are, without their alpha.
+    const auto recoloured = [isPremultiplied, target](QRgb pixel) {
+        if (isLightGrey(isPremultiplied ? qUnpremultiply(pixel) : pixel))
+            return black;
+        const bool isCleared
+            = target == CaptureTarget::Clipboard && qAlpha(pixel) < nearlyTransparent;
+        return isCleared ? white : pixel;
+    };
+    // Most pixels are like the one before.
+    QRgb before = black;
+    QRgb after = recoloured(before);
     for (int y = 0; y < image.height(); ++y) {
         auto *pixel = reinterpret_cast<QRgb *>(image.scanLine(y));
         for (const QRgb *const end = pixel + image.width(); pixel != end; ++pixel) {
-            if (isLightGrey(*pixel))
-                *pixel = black;
-            else if (clipboard && qAlpha(*pixel) < nearlyTransparent)
-                *pixel = white;
+            if (*pixel != before) {
+                before = *pixel;
+                after = recoloured(before);
+            }
+            *pixel = after;
         }
     }
 }

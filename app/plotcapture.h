@@ -15,5 +15,5 @@ QPixmap printableCapture(const QPixmap &capture, CaptureTarget target, const QSt
 QString captureCaption(const QString &startDate, const QString &startTime);
 
 // Turns white and light grey black; for the clipboard what is then nearly transparent turns white.
-// Leaves the image in the format QImage::Format_ARGB32.
+// An image of the format Format_ARGB32_Premultiplied keeps it, others get Format_ARGB32.
 void recolour(QImage &image, CaptureTarget target);

@@ -11,6 +11,7 @@ Ratio readingPlainlyAgainstReading();
 Ratio readingAgainstConverting();
 Ratio phasorsAgainstTransforms(int samplesPerCycle);
 Ratio writingPlainlyAgainstWriting();
+Ratio recolouringAgainstAPass();
 Ratio redrawingAgainstRedrawing(int samples, int fewerSamples);
 Ratio drawingInFullAgainstThinned();
 // The time that a move of the pointer over one of eight linked plots takes, with the repaints.

@@ -38,6 +38,7 @@ const Figure figures[] = {
     {"phasors of 400, computed / transforms alone", [] { return phasorsAgainstTransforms(400); },
         Goal::AtMost, 1.1},
     {"writing, plain writer / writer", writingPlainlyAgainstWriting, Goal::AtLeast, 10},
+    {"recolouring a picture / a plain pass", recolouringAgainstAPass, Goal::AtMost, 5},
     {"redrawing, 1,000,000 samples / 2,000",
         [] { return redrawingAgainstRedrawing(1000000, 2000); }, Goal::AtMost, 5},
     {"redrawing, 10,000,000 samples / 1,000,000",

@@ -22,16 +22,26 @@ template <typename Work> double milliseconds(Work &&work)
 }
 
 // The time of one piece of work against that of another, in the round of the middle ratio. The two
-// take turns, so that whatever else the machine does meets both.
-template <typename Numerator, typename Denominator>
-Ratio timesInTurn(int rounds, Numerator &&numerator, Denominator &&denominator)
+// take turns, so that whatever else the machine does meets both. What prepares a round is not
+// timed.
+template <typename Numerator, typename Denominator, typename Preparation>
+Ratio timesInTurn(
+    int rounds, Numerator &&numerator, Denominator &&denominator, Preparation &&prepare)
 {
     std::vector<Ratio> ratios;
     ratios.reserve(static_cast<size_t>(rounds));
-    for (int round = 0; round < rounds; ++round)
+    for (int round = 0; round < rounds; ++round) {
+        prepare();
         ratios.push_back({milliseconds(numerator), milliseconds(denominator), "ms"});
+    }
     const auto middle = ratios.begin() + rounds / 2;
     std::nth_element(ratios.begin(), middle, ratios.end(),
         [](const Ratio &left, const Ratio &right) { return left.value() < right.value(); });
     return *middle;
+}
+
+template <typename Numerator, typename Denominator>
+Ratio timesInTurn(int rounds, Numerator &&numerator, Denominator &&denominator)
+{
+    return timesInTurn(rounds, numerator, denominator, [] {});
 }

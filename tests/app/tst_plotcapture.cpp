@@ -14,6 +14,8 @@ private slots:
     void recoloursAPixel();
     void recoloursEveryPixel();
     void judgesTranslucentColoursUnmultiplied();
+    void premultipliedPixels_data();
+    void premultipliedPixels();
     void recolouringKeepsThePixelRatio();
     void emptyImageStaysEmpty();
     void captionGivesTheStartTwice_data();
@@ -148,6 +150,39 @@ void tst_PlotCapture::judgesTranslucentColoursUnmultiplied()
     recolour(image, CaptureTarget::File);
     QCOMPARE(hex(image.pixel(0, 0)), hex(black));
     QCOMPARE(qAlpha(image.pixel(1, 0)), 0);
+}
+
+void tst_PlotCapture::premultipliedPixels_data()
+{
+    QTest::addColumn<QRgb>("before"); // premultiplied, as are the others
+    QTest::addColumn<QRgb>("inFile");
+    QTest::addColumn<QRgb>("onClipboard");
+    QTest::newRow("white") << white << black << black;
+    QTest::newRow("grey of alpha 128") << 0x80404040U << black << black; // (128, 128, 128)
+    QTest::newRow("darker grey of alpha 128") << 0x80303030U << 0x80303030U << 0x80303030U;
+    QTest::newRow("red of alpha 19") << 0x13130000U << 0x13130000U << white;
+    QTest::newRow("red of alpha 20") << 0x14140000U << 0x14140000U << 0x14140000U;
+    QTest::newRow("nothing") << 0U << 0U << white;
+}
+
+void tst_PlotCapture::premultipliedPixels()
+{
+    QFETCH(QRgb, before);
+    QFETCH(QRgb, inFile);
+    QFETCH(QRgb, onClipboard);
+    for (const CaptureTarget target : {CaptureTarget::File, CaptureTarget::Clipboard}) {
+        QImage image(3, 1, QImage::Format_ARGB32_Premultiplied);
+        auto *const pixels = reinterpret_cast<QRgb *>(image.bits());
+        pixels[0] = pixels[1] = before;
+        pixels[2] = 0xff0000ff;
+        recolour(image, target);
+        QCOMPARE(image.format(), QImage::Format_ARGB32_Premultiplied);
+        const QRgb after = target == CaptureTarget::File ? inFile : onClipboard;
+        const auto *const changed = reinterpret_cast<const QRgb *>(image.constBits());
+        QCOMPARE(hex(changed[0]), hex(after));
+        QCOMPARE(hex(changed[1]), hex(after));
+        QCOMPARE(hex(changed[2]), QStringLiteral("ff0000ff"));
+    }
 }
 
 void tst_PlotCapture::recolouringKeepsThePixelRatio()
