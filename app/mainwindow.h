@@ -121,6 +121,7 @@ private:
     void setCurrentFile(const QString &path);
 
     QPixmap capture(CaptureTarget target);
+    void smoothLetters(bool smooth); // of the plots
     void stylePlots(const QString &styleSheet);
     QList<Plotter *> plots() const; // all that exist
     RecordingWriter recordingWriter() const; // with the ratings of the CT/VT dialog

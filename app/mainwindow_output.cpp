@@ -32,6 +32,19 @@ QList<Plotter *> MainWindow::plots() const
     return all;
 }
 
+void MainWindow::smoothLetters(bool smooth)
+{
+    for (Plotter *plot : plots()) {
+        const QList<QWidget *> widgets = plot->findChildren<QWidget *>() << plot;
+        for (QWidget *widget : widgets) {
+            QFont font = widget->font();
+            font.setStyleStrategy(smooth ? QFont::PreferDefault : QFont::NoAntialias);
+            widget->setFont(font);
+        }
+        plot->refreshSlot();
+    }
+}
+
 void MainWindow::stylePlots(const QString &styleSheet)
 {
     for (Plotter *plot : plots())
@@ -41,10 +54,14 @@ void MainWindow::stylePlots(const QString &styleSheet)
 QPixmap MainWindow::capture(CaptureTarget target)
 {
     stylePlots(QLatin1String(captureStyle));
+    // The smooth edges of letters would turn as black as the letters and fill their holes.
+    smoothLetters(false);
     if (digitalPlotter)
         digitalPlotter->repaint();
+    const QPixmap captured = ui->scrollWidget->grab(ui->scrollWidget->rect());
+    smoothLetters(true);
     const CFGProperties *loaded = recording();
-    return printableCapture(ui->scrollWidget->grab(ui->scrollWidget->rect()), target,
+    return printableCapture(captured, target,
         loaded ? captureCaption(loaded->startDate, loaded->startTime)
                : captureCaption(QString(), QString()));
 }

@@ -7,6 +7,7 @@
 #include <QAction>
 #include <QClipboard>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QStatusBar>
 #include <QTemporaryDir>
@@ -158,6 +159,32 @@ private slots:
         QCOMPARE(picture.size(), plotColumn()->size());
         QCOMPARE(picture.pixelColor(2, 2), QColor(Qt::white));
         expectStyle(screenStyle);
+    }
+
+    // Smooth edges would be recoloured as black as the letters.
+    void lettersAreNotSmoothWhileThePictureIsTaken()
+    {
+        class FontWatch : public QObject {
+        public:
+            QList<QFont::StyleStrategy> seen;
+
+        protected:
+            bool eventFilter(QObject *watched, QEvent *event) override
+            {
+                if (event->type() == QEvent::Paint)
+                    seen += static_cast<QWidget *>(watched)->font().styleStrategy();
+                return false;
+            }
+        };
+        FontWatch watch;
+        const QList<QLabel *> labels = plotColumn()->findChildren<QLabel *>();
+        for (QLabel *label : labels)
+            label->installEventFilter(&watch);
+        trigger("&Copy to clipboard");
+        QVERIFY(watch.seen.contains(QFont::NoAntialias));
+        QVERIFY(!watch.seen.contains(QFont::PreferDefault));
+        for (const QLabel *label : labels)
+            QCOMPARE(label->font().styleStrategy(), QFont::PreferDefault);
     }
 
     // The caption is the only black text in the left of the topmost rows.
