@@ -51,6 +51,8 @@ different_pixels() { # of two screenshots
     printf '%.0f' "${pixels%% *}" || fail "$1 and $2 cannot be compared: $pixels"
 }
 
+menu() { xdotool windowfocus "$window" key "alt+$1" sleep 0.4 key "$2"; } # by the letters of a menu and an entry
+
 click() { xdotool mousemove "$1" "$2" click 1; }
 
 double_click() { xdotool mousemove "$1" "$2" click --repeat 2 --delay 60 1; }
