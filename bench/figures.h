@@ -10,6 +10,8 @@ Ratio memoryAgainstSeries();
 Ratio readingPlainlyAgainstReading();
 Ratio readingAgainstConverting();
 Ratio phasorsAgainstTransforms(int samplesPerCycle);
+// The drawing of four phasor panels against the 16 ms that a frame of the screen takes.
+Ratio panelsAgainstFrame();
 Ratio writingPlainlyAgainstWriting();
 Ratio recolouringAgainstAPass();
 Ratio redrawingAgainstRedrawing(int samples, int fewerSamples);

@@ -37,6 +37,7 @@ const Figure figures[] = {
         Goal::AtMost, 1.1},
     {"phasors of 400, computed / transforms alone", [] { return phasorsAgainstTransforms(400); },
         Goal::AtMost, 1.1},
+    {"drawing four phasor panels / a frame", panelsAgainstFrame, Goal::AtMost, 1},
     {"writing, plain writer / writer", writingPlainlyAgainstWriting, Goal::AtLeast, 10},
     {"recolouring a picture / a plain pass", recolouringAgainstAPass, Goal::AtMost, 5},
     {"redrawing, 1,000,000 samples / 2,000",

@@ -207,6 +207,8 @@ void VectorWidget::renderPixmaps()
     const PhasorDiagram diagram(extremeOf(channels), ui->labelVector->size());
     QPainter diagramPainter(&diagramPixmap);
     QPainter magnitudesPainter(&magnitudesPixmap);
+    // Within a clip, the toolkit draws dashed lines several times as fast.
+    diagramPainter.setClipRect(ui->labelVector->rect());
     diagramPainter.setPen(QPen(QColor(200, 200, 200, 50), 1, Qt::DashLine));
     diagramPainter.translate(30, 20);
     drawGrid(diagramPainter, diagram);
@@ -222,16 +224,20 @@ void VectorWidget::drawPhasors(QPainter &diagramPainter, QPainter &magnitudesPai
     magnitudesPainter.setFont(font);
     const QStringList names = recordingNames();
     const int reference = owner ? names.indexOf(owner->referenceName()) + 1 : 0;
+    // Texts that stand on it or lower lie outside the pixmap.
+    const int lowestBaseLine = ui->labelMagnitudes->height() + 2 * font.pixelSize();
     int texts = 0;
-    for (const double time : plotter->cursors()) {
+    const QList<double> times = plotter->cursors();
+    if (!times.isEmpty()) {
         diagramPainter.resetTransform();
         diagramPainter.translate(0, 20);
         setPenColor(diagramPainter, Qt::white);
         drawAxisLabels(diagramPainter, diagram);
-
-        diagramPainter.resetTransform();
-        diagramPainter.translate(diagram.origin());
-        diagramPainter.scale(1, -1);
+    }
+    diagramPainter.resetTransform();
+    diagramPainter.translate(diagram.origin());
+    diagramPainter.scale(1, -1);
+    for (const double time : times) {
         const float referenceAngle = phasorOf(reference, time).angle;
         for (const int channel : channels) {
             // Unsigned, so that channel 0, a name unknown to the recording, has a colour as well.
@@ -242,9 +248,11 @@ void VectorWidget::drawPhasors(QPainter &diagramPainter, QPainter &magnitudesPai
             setPenColor(magnitudesPainter, color);
             const Phasor phasor = phasorOf(channel, time);
             diagramPainter.drawLine(QPoint(0, 0), diagram.lineEnd(phasor, referenceAngle));
-            magnitudesPainter.drawText(magnitudeTextPosition(texts++, ui->labelMagnitudes->width()),
-                names.value(channel - 1) + QStringLiteral(": ")
-                    + QString::number(static_cast<double>(phasor.magnitude), 'g', 6));
+            const QPoint position = magnitudeTextPosition(texts++, ui->labelMagnitudes->width());
+            if (position.y() < lowestBaseLine)
+                magnitudesPainter.drawText(position,
+                    names.value(channel - 1) + QStringLiteral(": ")
+                        + QString::number(static_cast<double>(phasor.magnitude), 'g', 6));
         }
     }
 }
@@ -275,7 +283,11 @@ double VectorWidget::extremeOf(const QList<int> &channels) const
 Phasor VectorWidget::phasorOf(int channel, double time) const
 {
     const AnalogChannel *record = recordOf(channel);
-    return record ? phasorAt(*record, time) : Phasor();
+    if (!record)
+        return {};
+    const TimeAxis &axis = plotter->sampleTimes();
+    int searchFrom = axis.times().isSharedWith(record->times) ? axis.searchStart(time) : 0;
+    return phasorAt(*record, time, searchFrom);
 }
 
 // Not by the recording's own accessor, which wraps numbers beyond the records around.

@@ -41,7 +41,7 @@ public:
     void setChannelNames(const QStringList &names);
     void disableRemoval();
 
-    // Draws again in 10 ms; further requests until then start the wait anew.
+    // Draws again in 10 ms; further requests until then change nothing.
     void requestRedraw();
 
 public slots:

@@ -77,6 +77,9 @@ public:
     double pairDifference() const { return cursorMarks.pairDifference(); }
     void clearCursors();
 
+    // The sample times of the recording as of the last setupPlot().
+    const TimeAxis &sampleTimes() const { return timeAxis; }
+
     virtual void setupPlot();
     virtual void refreshPixmap();
     virtual void drawGrid(QPainter *painter);

@@ -33,9 +33,7 @@ int TimeAxis::firstAtOrAfter(double time) const
 
 int TimeAxis::sampleAt(double sampleRate, double time) const
 {
-    // The lookup searches one by one, from a place on that is found by halving where that may be
-    // done.
-    int searchFrom = m_ascending ? firstAtOrAfter(time) : 0;
+    int searchFrom = searchStart(time);
     return ::sampleAt(m_times, sampleRate, time, searchFrom);
 }
 

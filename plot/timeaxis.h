@@ -28,6 +28,9 @@ public:
     // The first sample at or after a time; the sample count where there is none.
     int firstAtOrAfter(double time) const;
 
+    // From which sample on the phasor lookup may search for a time: 0 where times run back.
+    int searchStart(double time) const { return m_ascending ? firstAtOrAfter(time) : 0; }
+
     // The sample nearest to a time, by the rule of the phasor lookup; -1 outside the recorded span.
     int sampleAt(double sampleRate, double time) const;
 

@@ -43,6 +43,14 @@ void TestPhasorDiagram::roundsTheAxisUpToTwoDigits_data()
     QTest::newRow("two digits before the point") << 70.7 << 75.0; // 74.235
     QTest::newRow("three digits") << 100.0 << 110.0; // 105
     QTest::newRow("the margin of 5 % adds a digit") << 99.9 << 110.0; // 104.895
+    QTest::newRow("just below 1") << 0.952 << 1.0; // 0.9996
+    QTest::newRow("just above 1") << 0.953 << 1.1; // 1.00065
+    QTest::newRow("just below 10") << 9.52 << 10.0; // 9.996
+    QTest::newRow("just above 10") << 9.53 << 11.0; // 10.0065
+    QTest::newRow("just below 100") << 95.2 << 100.0; // 99.96
+    QTest::newRow("just above 100") << 95.3 << 110.0; // 100.065
+    QTest::newRow("just below 1000") << 952.0 << 1000.0; // 999.6
+    QTest::newRow("just above 1000") << 953.0 << 1100.0; // 1000.65
     QTest::newRow("four digits") << 1234.0 << 1300.0; // 1295.7
     QTest::newRow("one digit keeps a decimal") << 3.0 << 3.2; // 3.15
     QTest::newRow("less than 1 rounds up to tenths") << 0.02 << 0.1; // 0.021

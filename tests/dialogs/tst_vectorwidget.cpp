@@ -1,69 +1,13 @@
-#include "cursorplotter.h"
-#include "fakedialoghost.h"
-#include "phasorrecording.h"
-#include "vectordialog.h"
-#include "vectorwidget.h"
+#include "vectorpanel.h"
 
-#include <QCheckBox>
 #include <QColorDialog>
-#include <QComboBox>
 #include <QGridLayout>
-#include <QLabel>
-#include <QPainter>
 #include <QScreen>
 #include <QToolButton>
-#include <QtTest>
-#include <functional>
 
 namespace {
 
-const QColor orange(250, 140, 20); // of channel 1
-const QColor green(0, 255, 0); // of channel 2
-const QPoint origin(182, 172); // of the diagram, in its label
-constexpr float pi = 3.14159265F;
-// For this extreme the axes end at 100, and the grid has 1.525 pixels per unit.
-constexpr float extremeOf100 = 95;
-
-// The pixels of exactly that colour.
-QRect boundsOf(const QImage &image, const QColor &color)
-{
-    QRect bounds;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            if (image.pixelColor(x, y) == color)
-                bounds |= QRect(x, y, 1, 1);
-    return bounds;
-}
-
-bool isTransparent(const QImage &image)
-{
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            if (image.pixelColor(x, y).alpha() != 0)
-                return false;
-    return !image.isNull();
-}
-
-struct Text {
-    QPoint position;
-    QColor color;
-    QString text;
-};
-
-QImage pictureOf(const QList<Text> &texts)
-{
-    QPixmap pixmap(365, 85);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    QFont font;
-    font.setPixelSize(9);
-    painter.setFont(font);
-    for (const Text &each : texts) {
-        painter.setPen(each.color);
-        painter.drawText(each.position, each.text);
-    }
-    return pixmap.toImage();
-}
+using namespace vectorpanel;
 
 // Answers the colour dialog that is about to open; an invalid colour cancels it.
 void answerColorDialog(const QColor &color, QColor *initial = nullptr)
@@ -84,12 +28,12 @@ void answerColorDialog(const QColor &color, QColor *initial = nullptr)
 
 } // namespace
 
-class TestVectorWidget : public QObject {
+class TestVectorWidget : public QObject, private VectorPanelFixture {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { setUp(); }
+    void cleanup() { tearDown(); }
     void showsItsForm();
     void offersThreeCheckBoxesARow();
     void colorsTheCheckBoxes_data();
@@ -101,10 +45,6 @@ private slots:
     void staysTransparentWithoutAPlotter();
     void drawsTheGridAloneWithoutCursors();
     void drawsUnnumberedAxesWithoutAChannel();
-    void drawsAPhasor_data();
-    void drawsAPhasor();
-    void looksUpThePhasorAtTheCursor();
-    void drawsALinePerCursor();
     void turnsByTheReference_data();
     void turnsByTheReference();
     void scalesToTheLargestCheckedChannel();
@@ -120,77 +60,14 @@ private slots:
     void keepsTheSheetOfABoxThatSharesTheColor();
     void asksForAColorOnlyOverACheckBox();
     void drawsOnceForManyRequests();
+    void drawsWhileRequestsKeepComing();
     void drawsLaterWhatIsAskedWhileItWaits();
     void asksToBeRemoved();
     void survivesItsRemovalWhileItWaits_data();
     void survivesItsRemovalWhileItWaits();
     void drawsPanelsOutOfView();
     void drawsAtTheScreensScale();
-
-private:
-    void show();
-    void check(int box) { checkBoxes().at(box)->setChecked(true); }
-    QList<QCheckBox *> checkBoxes() const;
-    QLabel *label(const char *name) const
-    {
-        return panel->findChild<QLabel *>(QLatin1String(name));
-    }
-    QImage diagram() const { return label("labelVector")->pixmap(Qt::ReturnByValue).toImage(); }
-    QImage magnitudes() const
-    {
-        return label("labelMagnitudes")->pixmap(Qt::ReturnByValue).toImage();
-    }
-    void setPlotter(const QList<double> &cursors);
-    void setReference(const QString &name);
-
-    PhasorRecording recording;
-    std::unique_ptr<FakeDialogHost> host;
-    QPointer<VectorDialog> dialog; // the host's
-    QPointer<VectorWidget> panel; // the dialog's first
-    std::unique_ptr<CursorPlotter> plotter;
 };
-
-void TestVectorWidget::init()
-{
-    recording = PhasorRecording();
-    host = std::make_unique<FakeDialogHost>();
-    host->shown = recording.properties.get();
-    dialog = new VectorDialog(host.get());
-    dialog->setMainWindow(host.get());
-    panel = dialog->findChild<VectorWidget *>();
-    setPlotter({50});
-}
-
-void TestVectorWidget::cleanup()
-{
-    plotter.reset();
-    host.reset();
-}
-
-void TestVectorWidget::setPlotter(const QList<double> &cursors)
-{
-    plotter = std::make_unique<CursorPlotter>(cursors, host.get());
-    dialog->setPlotter(plotter.get());
-}
-
-void TestVectorWidget::setReference(const QString &name)
-{
-    dialog->findChild<QComboBox *>(QStringLiteral("comboBox_reference"))->setCurrentText(name);
-}
-
-// Offers the recording's channels and waits for the first drawing.
-void TestVectorWidget::show()
-{
-    dialog->setChannelNames(recording.properties->analogIds);
-    dialog->show();
-    QVERIFY(QTest::qWaitForWindowExposed(dialog));
-    QTRY_VERIFY(!diagram().isNull());
-}
-
-QList<QCheckBox *> TestVectorWidget::checkBoxes() const
-{
-    return panel->findChildren<QCheckBox *>();
-}
 
 void TestVectorWidget::showsItsForm()
 {
@@ -337,65 +214,6 @@ void TestVectorWidget::drawsUnnumberedAxesWithoutAChannel()
     QVERIFY(isTransparent(magnitudes()));
 }
 
-void TestVectorWidget::drawsAPhasor_data()
-{
-    QTest::addColumn<float>("angle");
-    QTest::addColumn<QPoint>("end"); // from the origin, y upwards
-
-    QTest::newRow("to the right") << 0.0F << QPoint(76, 0);
-    QTest::newRow("up") << pi / 2 << QPoint(0, 76);
-    QTest::newRow("to the left") << pi << QPoint(-76, 0);
-    QTest::newRow("down") << -pi / 2 << QPoint(0, -76);
-    QTest::newRow("up and to the right") << pi / 4 << QPoint(53, 53);
-    QTest::newRow("down and to the left") << -3 * pi / 4 << QPoint(-53, -53);
-}
-
-void TestVectorWidget::drawsAPhasor()
-{
-    QFETCH(float, angle);
-    QFETCH(QPoint, end);
-    recording.add(QStringLiteral("I"), angle, 50, extremeOf100);
-    show();
-    check(0);
-    const QRect expected = QRect(origin, origin + QPoint(end.x(), -end.y())).normalized();
-    const QRect actual = boundsOf(diagram(), orange);
-    // The line is dashed, 4 pixels on and 2 off: it may end in a gap.
-    QVERIFY2(expected.adjusted(-1, -1, 1, 1).contains(actual)
-            && actual.adjusted(-3, -3, 3, 3).contains(expected),
-        qPrintable(QStringLiteral("%1,%2 to %3,%4")
-                       .arg(actual.left())
-                       .arg(actual.top())
-                       .arg(actual.right())
-                       .arg(actual.bottom())));
-}
-
-void TestVectorWidget::looksUpThePhasorAtTheCursor()
-{
-    AnalogChannel &channel = recording.add(QStringLiteral("I"), 0, 50, extremeOf100);
-    channel.fftMagnitudes[50] = 20;
-    channel.fftMagnitudes[51] = 30;
-    show();
-    check(0);
-    QCOMPARE(magnitudes(), pictureOf({{{0, 15}, orange, QStringLiteral("I: 20")}}));
-    setPlotter({50.7});
-    panel->drawAll();
-    QCOMPARE(magnitudes(), pictureOf({{{0, 15}, orange, QStringLiteral("I: 30")}}));
-}
-
-void TestVectorWidget::drawsALinePerCursor()
-{
-    AnalogChannel &channel = recording.add(QStringLiteral("I"), 0, 50, extremeOf100);
-    channel.fftAngles[70] = pi / 2;
-    setPlotter({50, 70});
-    show();
-    check(0);
-    const QRect bounds = boundsOf(diagram(), orange);
-    QVERIFY(bounds.right() >= origin.x() + 73);
-    QVERIFY(bounds.top() <= origin.y() - 73);
-    QVERIFY(bounds.left() >= origin.x() - 1);
-    QVERIFY(bounds.bottom() <= origin.y() + 1);
-}
-
 void TestVectorWidget::turnsByTheReference_data()
 {
     QTest::addColumn<QString>("reference");
@@ -458,8 +276,6 @@ void TestVectorWidget::printsMagnitudesInThreeColumns()
     show();
     for (int box = 0; box < 4; ++box)
         check(box);
-    const QColor blue(100, 150, 255);
-    const QColor violet(223, 105, 209);
     QCOMPARE(magnitudes(),
         pictureOf({{{0, 15}, orange, QStringLiteral("A: 1.5")},
             {{121, 15}, green, QStringLiteral("B: 1.23457e+06")},
@@ -612,6 +428,21 @@ void TestVectorWidget::drawsOnceForManyRequests()
             drawings.append(drawing);
     }
     QCOMPARE(drawings.size(), 2);
+}
+
+// As from a cursor that is dragged: the pause between two requests is shorter than the delay.
+void TestVectorWidget::drawsWhileRequestsKeepComing()
+{
+    recording.add(QStringLiteral("A"), 0, 50, extremeOf100);
+    show();
+    QTest::qWait(200); // for the drawing that being shown brings
+    const qint64 before = label("labelVector")->pixmap(Qt::ReturnByValue).cacheKey();
+    QTimer requests;
+    connect(&requests, &QTimer::timeout, panel, &VectorWidget::requestRedraw);
+    requests.start(2);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        label("labelVector")->pixmap(Qt::ReturnByValue).cacheKey() != before, 1000);
+    QVERIFY(requests.isActive());
 }
 
 void TestVectorWidget::drawsLaterWhatIsAskedWhileItWaits()

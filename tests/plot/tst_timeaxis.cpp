@@ -21,6 +21,7 @@ private slots:
     void facts_data();
     void facts();
     void firstAtOrAfter();
+    void searchesMayStartLateWhereTimesAscend();
     void columnsHoldEverySampleOnce_data();
     void columnsHoldEverySampleOnce();
     void columnsEndRightOfTheArea();
@@ -63,6 +64,12 @@ void tst_TimeAxis::firstAtOrAfter()
     QCOMPARE(axis.firstAtOrAfter(1), 1);
     QCOMPARE(axis.firstAtOrAfter(1.5), 3);
     QCOMPARE(axis.firstAtOrAfter(3), 4);
+}
+
+void tst_TimeAxis::searchesMayStartLateWhereTimesAscend()
+{
+    QCOMPARE(TimeAxis({0, 1, 1, 2}).searchStart(1.5), 3);
+    QCOMPARE(TimeAxis({0, 2, 1, 2}).searchStart(1.5), 0);
 }
 
 void tst_TimeAxis::columnsHoldEverySampleOnce_data()
