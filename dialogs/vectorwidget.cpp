@@ -116,7 +116,8 @@ void VectorWidget::disableRemoval()
 
 void VectorWidget::requestRedraw()
 {
-    refreshTimer->start(refreshDelay);
+    if (!refreshTimer->isActive())
+        refreshTimer->start(refreshDelay);
 }
 
 void VectorWidget::drawAll()
