@@ -67,8 +67,8 @@ void CursorMarks::add(double time)
         std::make_unique<CustomLabel>(m_plot)};
     CustomLabel *label = cursor.label.get();
     label->setObjectName(QStringLiteral("lineLabel"));
-    label->setStyleSheet(
-        QStringLiteral("QLabel{color: #fffa50; background-color: #313034; padding: 0px 2px;}"));
+    label->setStyleSheet(QStringLiteral(
+        "QLabel{color: #fffa50; background-color: rgba(49, 48, 52, 70%); padding: 0px 2px;}"));
     label->setFont(smallFont(m_plot->font()));
     label->setCursor(Qt::SizeHorCursor);
     label->setPlotter(m_plot);

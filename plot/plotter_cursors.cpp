@@ -116,6 +116,8 @@ void Plotter::placeMarks()
         return;
     const PlotGeometry geometry = geometryOfView();
     cursorMarks.place(geometry);
+    if (timeLine->isVisible())
+        showTimeLine(timeLine->x()); // at another time now
     const auto placeMarker = [&](QFrame *marker, bool isSet, int time) {
         const int x = PlotGeometry::pixel(geometry.traceX(time));
         marker->setGeometry(plotLineAt(x, geometry));

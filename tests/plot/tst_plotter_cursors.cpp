@@ -26,6 +26,7 @@ private slots:
     void cleanup() { pair.reset(); }
 
     void theTimeLineFollowsThePointerInAllPlots();
+    void theTimeLineTellsItsTimeInAnotherView();
     void theTimeLineLetsTheMouseThrough();
     void aDoubleClickSetsACursorAtOneTimeInAllPlots();
     void atMostTwentyCursors();
@@ -90,6 +91,24 @@ void tst_PlotterCursors::theTimeLineFollowsThePointerInAllPlots()
     PlotPair::move(pair->other, {101, 100});
     QCOMPARE(pair->plot->findChild<QLabel *>(QStringLiteral("timelabel"))->text(),
         QStringLiteral("t = 1.42857"));
+}
+
+void tst_PlotterCursors::theTimeLineTellsItsTimeInAnotherView()
+{
+    const auto text = [](const Plotter *plotter) {
+        return plotter->findChild<QLabel *>(QStringLiteral("timelabel"))->text();
+    };
+    PlotPair::move(pair->plot, {450, 100});
+    pair->plot->customZoomIn(); // 0 to 500 ms
+    QCOMPARE(text(pair->plot), QStringLiteral("t = 250"));
+    QCOMPARE(text(pair->digital), QStringLiteral("t = 250"));
+    for (Plotter *each : {pair->plot, pair->other, static_cast<Plotter *>(pair->digital)})
+        each->customResetZoom();
+    QCOMPARE(text(pair->other), QStringLiteral("t = 500"));
+    doubleClick(450); // the readout leaves the plot less room
+    const int width = 803 - pair->plot->geometryOfView().readoutWidth() - 103;
+    QCOMPARE(text(pair->plot), QStringLiteral("t = ") + QString::number(350000.0 / width, 'g', 6));
+    QCOMPARE(text(pair->digital), QStringLiteral("t = 500"));
 }
 
 void tst_PlotterCursors::theTimeLineLetsTheMouseThrough()
