@@ -232,6 +232,8 @@ void MainWindow::on_listWidget2_clicked(const QModelIndex & /*index*/)
 
 void MainWindow::setAnalogChannels()
 {
+    if (!hasRecording)
+        return;
     QStringList names = analogNames();
     if (hasPhasors()) {
         for (const QString &name : analogNames()) {
@@ -246,7 +248,17 @@ void MainWindow::setAnalogChannels()
 
 void MainWindow::addPlotter(const QList<QString> &AnCheckedChannels)
 {
-    if (AnCheckedChannels.isEmpty() || !analogPlotter)
+    if (!hasRecording)
+        return;
+    const QStringList ids = analogNames();
+    QList<int> numbers;
+    for (const QString &name : AnCheckedChannels) {
+        const bool isSpectrum = name.endsWith(spectrumSuffix);
+        const int number = ids.indexOf(isSpectrum ? name.chopped(spectrumSuffix.size()) : name);
+        if (number >= 0)
+            numbers.append(isSpectrum ? ids.size() + number : number);
+    }
+    if (numbers.isEmpty())
         return;
     removePlotterAct->setEnabled(true);
     const QString given = addPlotterDialog->graphName().trimmed();
@@ -258,13 +270,8 @@ void MainWindow::addPlotter(const QList<QString> &AnCheckedChannels)
     setColumnHeight();
     linkPlots();
 
-    const QStringList ids = analogNames();
-    for (const QString &name : AnCheckedChannels) {
-        const bool isSpectrum = name.endsWith(spectrumSuffix);
-        const int number = ids.indexOf(isSpectrum ? name.chopped(spectrumSuffix.size()) : name);
-        if (number >= 0)
-            plot->addChannel(isSpectrum ? ids.size() + number : number);
-    }
+    for (const int number : qAsConst(numbers))
+        plot->addChannel(number);
     plot->setMinimumHeight(smallestPlotHeight);
     connect(zoomResetAct, &QAction::triggered, plot, &Plotter::customResetZoom);
     connect(vZoomOutAct, &QAction::triggered, plot, &Plotter::customVZoomOut);
@@ -325,7 +332,8 @@ void MainWindow::primSecChanged(int index)
 
 void MainWindow::referenceChanged(int /*index*/)
 {
-    refreshSpectra();
+    if (anglesShown)
+        refreshSpectra();
 }
 
 void MainWindow::showAnglesSlot(bool on)

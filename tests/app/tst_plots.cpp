@@ -1,84 +1,25 @@
-#include "addplotterdialog.h"
 #include "cfgproperties.h"
 #include "ctvtdialog.h"
-#include "mainwindow.h"
+#include "plotswindow.h"
 #include "plotterdg.h"
 #include "savedialog.h"
-#include "smallrecording.h"
 #include "vectordialog.h"
-#include "windowtest.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
-#include <QComboBox>
+#include <QFrame>
 #include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QToolBar>
 
-#include <memory>
-
-namespace {
-
-// A recording of 100 samples, 1 ms apart, with the analog channels named and digital ones that are
-// 1 from sample 50 on, but for those whose names end with "0".
-QString writeRecording(const QString &folder, const QStringList &analog, const QStringList &digital,
-    const QByteArray &flag = "P")
-{
-    QByteArray configuration = "Harju,J07,1999\n"
-        + QByteArray::number(analog.size() + digital.size()) + ','
-        + QByteArray::number(analog.size()) + "A," + QByteArray::number(digital.size()) + "D\n";
-    for (int i = 0; i < analog.size(); ++i)
-        configuration += QByteArray::number(i + 1) + ',' + analog.at(i).toLatin1()
-            + ",A,line,A,1,0,0,-99,99,400,5," + flag + '\n';
-    for (int i = 0; i < digital.size(); ++i)
-        configuration += QByteArray::number(i + 1) + ',' + digital.at(i).toLatin1() + ",,,0\n";
-    configuration
-        += "50\n1\n1000,100\n15/03/2024,10:00:00.000000\n15/03/2024,10:00:00.050000\nASCII\n1\n";
-    QByteArray data;
-    for (int i = 0; i < 100; ++i) {
-        data += QByteArray::number(i + 1) + ',' + QByteArray::number(i * 1000);
-        for (int k = 0; k < analog.size(); ++k)
-            data += ',' + QByteArray::number((i % 20 - 10) * (k + 1));
-        for (const QString &name : digital)
-            data += i >= 50 && !name.endsWith(QLatin1Char('0')) ? ",1" : ",0";
-        data += '\n';
-    }
-    const QString base = folder + QStringLiteral("/recording");
-    const bool isWritten = writeTextFile(base + QStringLiteral(".cfg"), configuration)
-        && writeTextFile(base + QStringLiteral(".dat"), data);
-    return isWritten ? base + QStringLiteral(".cfg") : QString();
-}
-
-QStringList texts(const QListWidget *list)
-{
-    QStringList result;
-    for (int row = 0; row < list->count(); ++row)
-        result.append(list->item(row)->text());
-    return result;
-}
-
-QStringList texts(const QComboBox *combo)
-{
-    QStringList result;
-    for (int i = 0; i < combo->count(); ++i)
-        result.append(combo->itemText(i));
-    return result;
-}
-
-} // namespace
-
-class tst_Plots : public QObject {
+class tst_Plots : public PlotsWindow {
     Q_OBJECT
 
 private slots:
     void initTestCase() { startAsMaker(); }
-    void init();
-    void cleanup();
+    void init() { openWindow(); }
+    void cleanup() { closeWindow(); }
 
     void plotsOfARecording();
     void firstPlotShowsAtMostSixChannels();
@@ -104,116 +45,14 @@ private slots:
     void saveMarkersReachEveryPlot();
     void removeCursorsClearsEveryPlot();
 
-    void namesOfferedForANewPlot_data();
-    void namesOfferedForANewPlot();
-    void aPlotIsComposed();
-    void aPlotOfSpectraOnly();
-    void aCancelledDialogAddsNothing();
-    void nothingChosenAddsNothing();
-    void plotsWithoutANameAreNumbered();
-    void plotsAreRemovedNewestFirst();
-    void plotsOfOneNameAreRemovedOneByOne();
-    void removingWithoutAnAddedPlotDisablesTheAction();
-    void aRemovedPlotHoldsNeitherKeyboardNorBand();
-    void anAddedPlotStartsAtTheFirstPlotsTime();
-    void anAddedPlotScrollsWithTheOthers();
-    void anAddedPlotIsScrolledIntoView();
-
     void spectrumTracesFollowAngleAndReference();
+    void aReferenceWithoutAnglesKeepsTheView();
     void vectorDialogGetsPlotAndNames();
     void aReloadBeginsAnew();
     void manyRowsLeaveRoomForTheAnalogPlot();
     void longNamesFitTheWindowAndAreToldInFull();
     void slotsWithoutARecordingDoNothing();
-
-private:
-    void open(const QStringList &analog, const QStringList &digital, const QByteArray &flag = "P")
-    {
-        window->open(writeRecording(folder->path(), analog, digital, flag));
-        QVERIFY(window->recording());
-    }
-    // In the order in which they stand, the first analog plot first.
-    QList<Plotter *> plots() const
-    {
-        QList<Plotter *> found = window->findChildren<Plotter *>();
-        std::sort(found.begin(), found.end(),
-            [](const Plotter *a, const Plotter *b) { return a->y() < b->y(); });
-        return found;
-    }
-    Plotter *plot(const QString &name) const
-    {
-        for (Plotter *candidate : window->findChildren<Plotter *>()) {
-            if (candidate->name() == name)
-                return candidate;
-        }
-        return nullptr;
-    }
-    Plotter *analog() const { return plot(QStringLiteral("Analog")); }
-    Plotter *digital() const { return plot(QStringLiteral("Digital")); }
-    QAction *action(const char *text) const
-    {
-        for (QAction *candidate : window->findChildren<QAction *>()) {
-            if (candidate->text() == QLatin1String(text))
-                return candidate;
-        }
-        return nullptr;
-    }
-    // Composes a plot through the dialog; without channels, accepts an empty choice.
-    void compose(
-        const QStringList &channels, const QString &name = QString(), bool accepted = true);
-    QListWidget *list(const char *name) const
-    {
-        return window->findChild<QListWidget *>(QLatin1String(name));
-    }
-    void click(QListWidget *widget, int row)
-    {
-        const QRect rect = widget->visualItemRect(widget->item(row));
-        QTest::mouseClick(widget->viewport(), Qt::LeftButton, {}, rect.center());
-    }
-    QComboBox *combo(const char *name) const
-    {
-        return window->findChild<QComboBox *>(QLatin1String(name));
-    }
-
-    std::unique_ptr<QTemporaryDir> folder;
-    std::unique_ptr<MainWindow> window;
-    QStringList offered;
 };
-
-void tst_Plots::init()
-{
-    folder = std::make_unique<QTemporaryDir>();
-    const MissingSignalAlarm alarm;
-    window = std::make_unique<MainWindow>();
-    window->resize(1200, 900);
-    window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-}
-
-void tst_Plots::cleanup()
-{
-    window.reset();
-    folder.reset();
-}
-
-void tst_Plots::compose(const QStringList &channels, const QString &name, bool accepted)
-{
-    QTimer::singleShot(0, window.get(), [&] {
-        auto *dialog = qobject_cast<AddPlotterDialog *>(QApplication::activeModalWidget());
-        QVERIFY(dialog);
-        auto *left = dialog->findChild<QListWidget *>(QStringLiteral("listWidget_unSelected"));
-        offered = texts(left);
-        for (const QString &channel : channels) {
-            left->clearSelection();
-            for (QListWidgetItem *item : left->findItems(channel, Qt::MatchExactly))
-                item->setSelected(true);
-            dialog->findChild<QPushButton *>(QStringLiteral("pushButton_add"))->click();
-        }
-        dialog->findChild<QLineEdit *>(QStringLiteral("lineEdit_graphName"))->setText(name);
-        accepted ? dialog->accept() : dialog->reject();
-    });
-    action("&Add Plotter")->trigger();
-}
 
 void tst_Plots::plotsOfARecording()
 {
@@ -430,11 +269,10 @@ void tst_Plots::zoomActionsReachEveryPlot_data()
 {
     QTest::addColumn<QByteArray>("name");
     QTest::addColumn<double>("maxX");
-    QTest::addColumn<double>("added"); // maxY of the plot added
-    QTest::newRow("in") << QByteArray("Zoom In") << 50.0 << 9.0;
-    QTest::newRow("out") << QByteArray("Zoom Out") << 210.0 << 9.0;
-    QTest::newRow("values in") << QByteArray("Vertical Zoom In") << 100.0 << 4.0;
-    QTest::newRow("values out") << QByteArray("Vertical Zoom Out") << 100.0 << 18.0;
+    QTest::newRow("in") << QByteArray("Zoom In") << 50.0;
+    QTest::newRow("out") << QByteArray("Zoom Out") << 210.0;
+    QTest::newRow("values in") << QByteArray("Vertical Zoom In") << 100.0;
+    QTest::newRow("values out") << QByteArray("Vertical Zoom Out") << 100.0;
 }
 
 void tst_Plots::zoomActionsReachEveryPlot()
@@ -512,8 +350,10 @@ void tst_Plots::saveMarkersReachEveryPlot()
     window->findChild<SaveDialog *>()
         ->findChild<QPushButton *>(QStringLiteral("pushButton_Cancel"))
         ->click();
-    for (const Plotter *each : plots())
+    for (const Plotter *each : plots()) {
         QVERIFY(!each->findChild<QFrame *>(QStringLiteral("startMarker"))->isVisible());
+        QVERIFY(!each->findChild<QFrame *>(QStringLiteral("endMarker"))->isVisible());
+    }
 }
 
 void tst_Plots::removeCursorsClearsEveryPlot()
@@ -530,171 +370,6 @@ void tst_Plots::removeCursorsClearsEveryPlot()
     }
 }
 
-void tst_Plots::namesOfferedForANewPlot_data()
-{
-    QTest::addColumn<QStringList>("channels");
-    QTest::addColumn<QStringList>("names");
-    const auto list
-        = [](const char *names) { return QString::fromLatin1(names).split(QLatin1Char(',')); };
-    QTest::newRow("waveforms first, then spectra") << list("Ia,Ib") << list("Ia,Ib,Ia_FFT,Ib_FFT");
-    QTest::newRow("no spectra of measurements") << list("Ia,MEAS f") << list("Ia,MEAS f,Ia_FFT");
-    QTest::newRow("only measurements") << list("MEAS f,MEASP") << list("MEAS f,MEASP");
-    QTest::newRow("small letters are no measurement")
-        << list("Meas f") << list("Meas f,Meas f_FFT");
-}
-
-void tst_Plots::namesOfferedForANewPlot()
-{
-    QFETCH(QStringList, channels);
-    open(channels, {});
-    compose({}, {}, false);
-    QTEST(offered, "names");
-}
-
-void tst_Plots::aPlotIsComposed()
-{
-    open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {QStringLiteral("D1")});
-    compose({QStringLiteral("Ib"), QStringLiteral("Ia_FFT"), QStringLiteral("Ia")},
-        QStringLiteral("Currents"));
-    Plotter *added = plot(QStringLiteral("Currents"));
-    QVERIFY(added);
-    QCOMPARE(added->channels(), QList<int>({1, 2, 0})); // in the order of the choice
-    QCOMPARE(plots(), QList<Plotter *>({analog(), added, digital()}));
-    QCOMPARE(added->minimumHeight(), 200);
-    QVERIFY(added->isVisible());
-    QVERIFY(action("&Remove Plotter")->isEnabled());
-    QCOMPARE(analog()->linked(), QList<Plotter *>({digital(), added}));
-    QCOMPARE(added->linked(), QList<Plotter *>({digital(), analog()}));
-}
-
-void tst_Plots::aPlotOfSpectraOnly()
-{
-    open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {});
-    compose({QStringLiteral("Ib_FFT")}, QStringLiteral("Spectra"));
-    const Plotter *added = plot(QStringLiteral("Spectra"));
-    QCOMPARE(added->channels(), QList<int>{3});
-    QVERIFY(added->showsSpectrum());
-    QCOMPARE(added->home().minY, 0.0);
-}
-
-void tst_Plots::aCancelledDialogAddsNothing()
-{
-    open({QStringLiteral("Ia")}, {});
-    compose({QStringLiteral("Ia")}, QStringLiteral("Currents"), false);
-    QCOMPARE(plots().size(), 2);
-    QVERIFY(!action("&Remove Plotter")->isEnabled());
-}
-
-void tst_Plots::nothingChosenAddsNothing()
-{
-    open({QStringLiteral("Ia")}, {});
-    compose({}, QStringLiteral("Currents"));
-    QCOMPARE(plots().size(), 2);
-    QVERIFY(!action("&Remove Plotter")->isEnabled());
-}
-
-void tst_Plots::plotsWithoutANameAreNumbered()
-{
-    open({QStringLiteral("Ia")}, {});
-    compose({QStringLiteral("Ia")});
-    compose({QStringLiteral("Ia")}, QStringLiteral("  "));
-    QVERIFY(plot(QStringLiteral("Graph 1")));
-    QVERIFY(plot(QStringLiteral("Graph 2")));
-}
-
-void tst_Plots::plotsAreRemovedNewestFirst()
-{
-    open({QStringLiteral("Ia")}, {QStringLiteral("D1")});
-    compose({QStringLiteral("Ia")}, QStringLiteral("first"));
-    compose({QStringLiteral("Ia")}, QStringLiteral("second"));
-    action("&Remove Plotter")->trigger();
-    QVERIFY(plot(QStringLiteral("first")));
-    QVERIFY(!plot(QStringLiteral("second")));
-    QCOMPARE(analog()->linked(), QList<Plotter *>({digital(), plot(QStringLiteral("first"))}));
-    QVERIFY(action("&Remove Plotter")->isEnabled());
-    action("&Remove Plotter")->trigger();
-    QVERIFY(!action("&Remove Plotter")->isEnabled());
-    QCOMPARE(plots(), QList<Plotter *>({analog(), digital()}));
-    QCOMPARE(analog()->linked(), QList<Plotter *>{digital()});
-    action("Zoom In")->trigger();
-    QCOMPARE(digital()->view().maxX, 50.0);
-}
-
-void tst_Plots::plotsOfOneNameAreRemovedOneByOne()
-{
-    open({QStringLiteral("Ia")}, {QStringLiteral("D1")});
-    for (int i = 0; i < 2; ++i)
-        compose({QStringLiteral("Ia")}, QStringLiteral("Digital"));
-    for (int left = 3; left >= 2; --left) {
-        action("&Remove Plotter")->trigger();
-        QCOMPARE(plots().size(), left);
-        for (const Plotter *each : plots()) {
-            for (const Plotter *linked : each->linked())
-                QVERIFY(plots().contains(const_cast<Plotter *>(linked)));
-        }
-        action("Zoom In")->trigger();
-    }
-}
-
-void tst_Plots::removingWithoutAnAddedPlotDisablesTheAction()
-{
-    open({QStringLiteral("Ia")}, {});
-    action("&Remove Plotter")->setEnabled(true);
-    window->removePlotter();
-    QVERIFY(!action("&Remove Plotter")->isEnabled());
-    QCOMPARE(plots().size(), 2);
-}
-
-void tst_Plots::aRemovedPlotHoldsNeitherKeyboardNorBand()
-{
-    open({QStringLiteral("Ia")}, {QStringLiteral("D1")});
-    compose({QStringLiteral("Ia")}, QStringLiteral("Currents"));
-    Plotter *added = plot(QStringLiteral("Currents"));
-    QApplication::setActiveWindow(window.get());
-    QMouseEvent move(
-        QEvent::MouseMove, QPointF(300, 100), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-    QApplication::sendEvent(added, &move);
-    QCOMPARE(QWidget::keyboardGrabber(), added);
-    QTest::mousePress(
-        analog(), Qt::LeftButton, {}, {300, 100}); // a sibling in the middle of a band
-    action("&Remove Plotter")->trigger();
-    QVERIFY(!QWidget::keyboardGrabber());
-    QTest::mouseRelease(analog(), Qt::LeftButton, {}, {500, 150});
-}
-
-void tst_Plots::anAddedPlotStartsAtTheFirstPlotsTime()
-{
-    open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {});
-    action("Zoom In")->trigger();
-    compose({QStringLiteral("Ib")}, QStringLiteral("Currents"));
-    QCOMPARE(plot(QStringLiteral("Currents"))->view().maxX, 50.0);
-    action("Zoom In")->trigger();
-    QCOMPARE(plot(QStringLiteral("Currents"))->view().maxX, analog()->view().maxX);
-}
-
-// The bar goes to 2, the zoom sets it to 4, and it goes to 2 again, where the older plots were last
-// and so do not move.
-void tst_Plots::anAddedPlotScrollsWithTheOthers()
-{
-    open({QStringLiteral("Ia")}, {QStringLiteral("D1")});
-    action("Zoom In")->trigger();
-    window->horizontalScrollBar()->setValue(2);
-    compose({QStringLiteral("Ia")}, QStringLiteral("Currents"));
-    action("Zoom In")->trigger();
-    window->horizontalScrollBar()->setValue(2);
-    for (const Plotter *each : plots())
-        QCOMPARE(each->view().minX, 20.0);
-}
-
-void tst_Plots::anAddedPlotIsScrolledIntoView()
-{
-    open({QStringLiteral("Ia")}, {QStringLiteral("D1")});
-    for (int i = 0; i < 4; ++i)
-        compose({QStringLiteral("Ia")});
-    const Plotter *newest = plot(QStringLiteral("Graph 4"));
-    QCOMPARE(newest->visibleRegion().boundingRect().size(), newest->size());
-}
-
 void tst_Plots::spectrumTracesFollowAngleAndReference()
 {
     open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {});
@@ -708,6 +383,19 @@ void tst_Plots::spectrumTracesFollowAngleAndReference()
     QVERIFY(added->home().maxY < 10); // radians
     window->findChild<QCheckBox *>(QStringLiteral("checkBox_showAngles"))->setChecked(false);
     QCOMPARE(added->home().maxY, magnitudeAlone);
+}
+
+// Without angles nothing of a spectrum depends on the reference, and its view stays.
+void tst_Plots::aReferenceWithoutAnglesKeepsTheView()
+{
+    open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {});
+    compose({QStringLiteral("Ia_FFT")}, QStringLiteral("Spectra"));
+    const Plotter *added = plot(QStringLiteral("Spectra"));
+    action("Vertical Zoom In")->trigger();
+    const PlotSettings before = added->view();
+    QVERIFY(!(before == added->home()));
+    combo("comboBox_mainReference")->setCurrentIndex(2);
+    QVERIFY(added->view() == before);
 }
 
 void tst_Plots::vectorDialogGetsPlotAndNames()
@@ -745,6 +433,13 @@ void tst_Plots::manyRowsLeaveRoomForTheAnalogPlot()
     QCoreApplication::processEvents();
     QCOMPARE(digital()->minimumHeight(), 60 + 41 + 61 * 16);
     QVERIFY(analog()->height() > 290);
+    const auto *column = analog()->parentWidget();
+    const int heightBefore = column->minimumHeight();
+    compose({QStringLiteral("Ia")});
+    QVERIFY(analog()->height() > 290);
+    QVERIFY(column->minimumHeight() > heightBefore);
+    action("&Remove Plotter")->trigger();
+    QCOMPARE(column->minimumHeight(), heightBefore);
 }
 
 void tst_Plots::longNamesFitTheWindowAndAreToldInFull()
@@ -783,6 +478,12 @@ void tst_Plots::slotsWithoutARecordingDoNothing()
     window->primSecChanged(2);
     QCOMPARE(window->valueMode(), 2);
     QVERIFY(plots().isEmpty());
+
+    open({QStringLiteral("Ia")}, {});
+    window->close(); // the plots stay until the window goes, the recording does not
+    window->setAnalogChannels();
+    window->addPlotter({QStringLiteral("Ia")});
+    QCOMPARE(plots().size(), 2);
 }
 
 QTEST_MAIN(tst_Plots)

@@ -18,6 +18,7 @@ private slots:
     void movesNothingWithoutASelection();
     void movesASelectedItem();
     void movesSeveralItemsAtOnce();
+    void movesSeveralItemsInTheOrderOfTheirSelection();
     void putsAReturnedNameLast();
     void givesTheRightListInItsOrder();
     void givesNamesOfEveryKind();
@@ -116,6 +117,18 @@ void TestAddPlotterDialog::movesSeveralItemsAtOnce()
     add({QStringLiteral("A"), QStringLiteral("C")});
     QCOMPARE(left(), QStringList({QStringLiteral("B")}));
     QCOMPARE(dialog->selectedChannels(), QStringList({QStringLiteral("A"), QStringLiteral("C")}));
+}
+
+void TestAddPlotterDialog::movesSeveralItemsInTheOrderOfTheirSelection()
+{
+    dialog->show();
+    auto *list = child<QListWidget>("listWidget_unSelected");
+    for (const int row : {2, 0}) {
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier,
+            list->visualItemRect(list->item(row)).center());
+    }
+    QTest::mouseClick(child<QPushButton>("pushButton_add"), Qt::LeftButton);
+    QCOMPARE(dialog->selectedChannels(), QStringList({QStringLiteral("C"), QStringLiteral("A")}));
 }
 
 void TestAddPlotterDialog::putsAReturnedNameLast()

@@ -1,0 +1,155 @@
+#pragma once
+
+#include "addplotterdialog.h"
+#include "mainwindow.h"
+#include "plotter.h"
+#include "smallrecording.h"
+#include "windowtest.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <algorithm>
+#include <memory>
+
+// A recording of 100 samples, 1 ms apart, with the analog channels named and digital ones that are
+// 1 from sample 50 on, but for those whose names end with "0".
+inline QString writeRecording(const QString &folder, const QStringList &analog,
+    const QStringList &digital, const QByteArray &flag = "P")
+{
+    QByteArray configuration = "Harju,J07,1999\n"
+        + QByteArray::number(analog.size() + digital.size()) + ','
+        + QByteArray::number(analog.size()) + "A," + QByteArray::number(digital.size()) + "D\n";
+    for (int i = 0; i < analog.size(); ++i)
+        configuration += QByteArray::number(i + 1) + ',' + analog.at(i).toLatin1()
+            + ",A,line,A,1,0,0,-99,99,400,5," + flag + '\n';
+    for (int i = 0; i < digital.size(); ++i)
+        configuration += QByteArray::number(i + 1) + ',' + digital.at(i).toLatin1() + ",,,0\n";
+    configuration
+        += "50\n1\n1000,100\n15/03/2024,10:00:00.000000\n15/03/2024,10:00:00.050000\nASCII\n1\n";
+    QByteArray data;
+    for (int i = 0; i < 100; ++i) {
+        data += QByteArray::number(i + 1) + ',' + QByteArray::number(i * 1000);
+        for (int k = 0; k < analog.size(); ++k)
+            data += ',' + QByteArray::number((i % 20 - 10) * (k + 1));
+        for (const QString &name : digital)
+            data += i >= 50 && !name.endsWith(QLatin1Char('0')) ? ",1" : ",0";
+        data += '\n';
+    }
+    const QString base = folder + QStringLiteral("/recording");
+    const bool isWritten = writeTextFile(base + QStringLiteral(".cfg"), configuration)
+        && writeTextFile(base + QStringLiteral(".dat"), data);
+    return isWritten ? base + QStringLiteral(".cfg") : QString();
+}
+
+inline QStringList texts(const QListWidget *list)
+{
+    QStringList result;
+    for (int row = 0; row < list->count(); ++row)
+        result.append(list->item(row)->text());
+    return result;
+}
+
+inline QStringList texts(const QComboBox *combo)
+{
+    QStringList result;
+    for (int i = 0; i < combo->count(); ++i)
+        result.append(combo->itemText(i));
+    return result;
+}
+
+// For tests of the plots in a window: a window, small recordings, and hands to work with both.
+class PlotsWindow : public QObject {
+protected:
+    void openWindow()
+    {
+        folder = std::make_unique<QTemporaryDir>();
+        const MissingSignalAlarm alarm;
+        window = std::make_unique<MainWindow>();
+        window->resize(1200, 900);
+        window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    }
+    void closeWindow()
+    {
+        window.reset();
+        folder.reset();
+    }
+    void open(const QStringList &analog, const QStringList &digital, const QByteArray &flag = "P")
+    {
+        window->open(writeRecording(folder->path(), analog, digital, flag));
+        QVERIFY(window->recording());
+    }
+    // In the order in which they stand, the first analog plot first.
+    QList<Plotter *> plots() const
+    {
+        QList<Plotter *> found = window->findChildren<Plotter *>();
+        std::sort(found.begin(), found.end(),
+            [](const Plotter *a, const Plotter *b) { return a->y() < b->y(); });
+        return found;
+    }
+    Plotter *plot(const QString &name) const
+    {
+        for (Plotter *candidate : window->findChildren<Plotter *>()) {
+            if (candidate->name() == name)
+                return candidate;
+        }
+        return nullptr;
+    }
+    Plotter *analog() const { return plot(QStringLiteral("Analog")); }
+    Plotter *digital() const { return plot(QStringLiteral("Digital")); }
+    QAction *action(const char *text) const
+    {
+        for (QAction *candidate : window->findChildren<QAction *>()) {
+            if (candidate->text() == QLatin1String(text))
+                return candidate;
+        }
+        return nullptr;
+    }
+    // Composes a plot through the dialog; without channels, accepts an empty choice.
+    void compose(
+        const QStringList &channels, const QString &name = QString(), bool accepted = true);
+    QListWidget *list(const char *name) const
+    {
+        return window->findChild<QListWidget *>(QLatin1String(name));
+    }
+    void click(QListWidget *widget, int row)
+    {
+        const QRect rect = widget->visualItemRect(widget->item(row));
+        QTest::mouseClick(widget->viewport(), Qt::LeftButton, {}, rect.center());
+    }
+    QComboBox *combo(const char *name) const
+    {
+        return window->findChild<QComboBox *>(QLatin1String(name));
+    }
+
+    std::unique_ptr<QTemporaryDir> folder;
+    std::unique_ptr<MainWindow> window;
+    QStringList offered;
+};
+
+inline void PlotsWindow::compose(const QStringList &channels, const QString &name, bool accepted)
+{
+    QTimer::singleShot(0, window.get(), [&] {
+        auto *dialog = qobject_cast<AddPlotterDialog *>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        auto *left = dialog->findChild<QListWidget *>(QStringLiteral("listWidget_unSelected"));
+        offered = texts(left);
+        for (const QString &channel : channels) {
+            left->clearSelection();
+            for (QListWidgetItem *item : left->findItems(channel, Qt::MatchExactly))
+                item->setSelected(true);
+            dialog->findChild<QPushButton *>(QStringLiteral("pushButton_add"))->click();
+        }
+        dialog->findChild<QLineEdit *>(QStringLiteral("lineEdit_graphName"))->setText(name);
+        accepted ? dialog->accept() : dialog->reject();
+    });
+    action("&Add Plotter")->trigger();
+}

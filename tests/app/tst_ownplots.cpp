@@ -1,0 +1,299 @@
+#include "plotswindow.h"
+#include "plotterdg.h"
+
+#include <QLabel>
+#include <QScrollBar>
+
+// Plots that the user composes, and their removal.
+class tst_OwnPlots : public PlotsWindow {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { startAsMaker(); }
+    void init() { openWindow(); }
+    void cleanup() { closeWindow(); }
+
+    void namesOfferedForANewPlot_data();
+    void namesOfferedForANewPlot();
+    void aPlotIsComposed();
+    void aPlotOfSpectraOnly();
+    void namesOfNoChannelAddNothing();
+    void pendingEventsRunBeforeTheColumnIsScrolled();
+    void anotherRecordingEndsTheDialog();
+    void aCancelledDialogAddsNothing();
+    void nothingChosenAddsNothing();
+    void plotsWithoutANameAreNumbered();
+    void plotsAreRemovedNewestFirst();
+    void plotsOfOneNameAreRemovedOneByOne();
+    void removingWithoutAnAddedPlotDisablesTheAction();
+    void aRemovedPlotHoldsTheKeyboardNoMore();
+    void aRemovedPlotTakesItsTitleEditorAlong();
+    void aSiblingGoesOnDraggingACursor();
+    void aSiblingGoesOnWithItsBand();
+    void aSiblingGoesOnEditingItsTitle();
+    void anAddedPlotStartsAtTheFirstPlotsTime();
+    void anAddedPlotScrollsWithTheOthers();
+    void anAddedPlotIsScrolledIntoView();
+
+private:
+    // With a plot "Currents" beside the first one and the digital one.
+    void addToBeRemoved()
+    {
+        open({QStringLiteral("Ia")}, {QStringLiteral("D1")});
+        compose({QStringLiteral("Ia")}, QStringLiteral("Currents"));
+        QApplication::setActiveWindow(window.get());
+    }
+    static void move(Plotter *plot, const QPoint &position)
+    {
+        QMouseEvent event(QEvent::MouseMove, position, Qt::NoButton, Qt::NoButton, {});
+        QApplication::sendEvent(plot, &event);
+    }
+};
+
+void tst_OwnPlots::namesOfferedForANewPlot_data()
+{
+    QTest::addColumn<QStringList>("channels");
+    QTest::addColumn<QStringList>("names");
+    const auto list
+        = [](const char *names) { return QString::fromLatin1(names).split(QLatin1Char(',')); };
+    QTest::newRow("waveforms first, then spectra") << list("Ia,Ib") << list("Ia,Ib,Ia_FFT,Ib_FFT");
+    QTest::newRow("no spectra of measurements") << list("Ia,MEAS f") << list("Ia,MEAS f,Ia_FFT");
+    QTest::newRow("only measurements") << list("MEAS f,MEASP") << list("MEAS f,MEASP");
+    QTest::newRow("small letters are no measurement")
+        << list("Meas f") << list("Meas f,Meas f_FFT");
+}
+
+void tst_OwnPlots::namesOfferedForANewPlot()
+{
+    QFETCH(QStringList, channels);
+    open(channels, {});
+    compose({}, {}, false);
+    QTEST(offered, "names");
+}
+
+void tst_OwnPlots::aPlotIsComposed()
+{
+    open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {QStringLiteral("D1")});
+    compose({QStringLiteral("Ib"), QStringLiteral("Ia_FFT"), QStringLiteral("Ia")},
+        QStringLiteral("Currents"));
+    Plotter *added = plot(QStringLiteral("Currents"));
+    QVERIFY(added);
+    QCOMPARE(added->channels(), QList<int>({1, 2, 0})); // in the order of the choice
+    QCOMPARE(plots(), QList<Plotter *>({analog(), added, digital()}));
+    QCOMPARE(added->minimumHeight(), 200);
+    QVERIFY(added->isVisible());
+    QVERIFY(action("&Remove Plotter")->isEnabled());
+    QCOMPARE(analog()->linked(), QList<Plotter *>({digital(), added}));
+    QCOMPARE(added->linked(), QList<Plotter *>({digital(), analog()}));
+}
+
+void tst_OwnPlots::aPlotOfSpectraOnly()
+{
+    open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {});
+    compose({QStringLiteral("Ib_FFT")}, QStringLiteral("Spectra"));
+    const Plotter *added = plot(QStringLiteral("Spectra"));
+    QCOMPARE(added->channels(), QList<int>{3});
+    QVERIFY(added->showsSpectrum());
+    QCOMPARE(added->home().minY, 0.0);
+}
+
+// A name that ends with "_FFT" is the spectrum of a channel, of which there is none here.
+void tst_OwnPlots::namesOfNoChannelAddNothing()
+{
+    open({QStringLiteral("Ia_FFT"), QStringLiteral("Ib")}, {});
+    compose({QStringLiteral("Ia_FFT")}, QStringLiteral("Currents"));
+    QCOMPARE(plots().size(), 2);
+    QVERIFY(!action("&Remove Plotter")->isEnabled());
+}
+
+void tst_OwnPlots::pendingEventsRunBeforeTheColumnIsScrolled()
+{
+    open({QStringLiteral("Ia")}, {});
+    bool hasRun = false;
+    QTimer::singleShot(0, window.get(), [&] { hasRun = true; });
+    window->addPlotter({QStringLiteral("Ia")});
+    QVERIFY(hasRun);
+}
+
+void tst_OwnPlots::anotherRecordingEndsTheDialog()
+{
+    open({QStringLiteral("Ia")}, {});
+    bool wasShown = false;
+    QTimer::singleShot(0, window.get(), [&] {
+        wasShown = qobject_cast<AddPlotterDialog *>(QApplication::activeModalWidget());
+        open({QStringLiteral("Ib")}, {});
+    });
+    action("&Add Plotter")->trigger();
+    QVERIFY(wasShown);
+    QVERIFY(!QApplication::activeModalWidget());
+    QCOMPARE(plots().size(), 2);
+}
+
+void tst_OwnPlots::aCancelledDialogAddsNothing()
+{
+    open({QStringLiteral("Ia")}, {});
+    compose({QStringLiteral("Ia")}, QStringLiteral("Currents"), false);
+    QCOMPARE(plots().size(), 2);
+    QVERIFY(!action("&Remove Plotter")->isEnabled());
+    compose({QStringLiteral("Ia")}, QStringLiteral("Currents"));
+    compose({QStringLiteral("Ia")}, QStringLiteral("More"), false);
+    QCOMPARE(plots().size(), 3);
+    QVERIFY(action("&Remove Plotter")->isEnabled());
+}
+
+void tst_OwnPlots::nothingChosenAddsNothing()
+{
+    open({QStringLiteral("Ia")}, {});
+    compose({}, QStringLiteral("Currents"));
+    QCOMPARE(plots().size(), 2);
+    QVERIFY(!action("&Remove Plotter")->isEnabled());
+}
+
+void tst_OwnPlots::plotsWithoutANameAreNumbered()
+{
+    open({QStringLiteral("Ia")}, {});
+    compose({QStringLiteral("Ia")});
+    compose({QStringLiteral("Ia")}, QStringLiteral("  "));
+    QVERIFY(plot(QStringLiteral("Graph 1")));
+    QVERIFY(plot(QStringLiteral("Graph 2")));
+}
+
+void tst_OwnPlots::plotsAreRemovedNewestFirst()
+{
+    open({QStringLiteral("Ia")}, {QStringLiteral("D1")});
+    compose({QStringLiteral("Ia")}, QStringLiteral("first"));
+    compose({QStringLiteral("Ia")}, QStringLiteral("second"));
+    action("&Remove Plotter")->trigger();
+    QVERIFY(plot(QStringLiteral("first")));
+    QVERIFY(!plot(QStringLiteral("second")));
+    QCOMPARE(analog()->linked(), QList<Plotter *>({digital(), plot(QStringLiteral("first"))}));
+    QVERIFY(action("&Remove Plotter")->isEnabled());
+    action("&Remove Plotter")->trigger();
+    QVERIFY(!action("&Remove Plotter")->isEnabled());
+    QCOMPARE(plots(), QList<Plotter *>({analog(), digital()}));
+    QCOMPARE(analog()->linked(), QList<Plotter *>{digital()});
+    action("Zoom In")->trigger();
+    QCOMPARE(digital()->view().maxX, 50.0);
+}
+
+void tst_OwnPlots::plotsOfOneNameAreRemovedOneByOne()
+{
+    open({QStringLiteral("Ia")}, {QStringLiteral("D1")});
+    for (int i = 0; i < 2; ++i)
+        compose({QStringLiteral("Ia")}, QStringLiteral("Digital"));
+    for (int left = 3; left >= 2; --left) {
+        action("&Remove Plotter")->trigger();
+        QCOMPARE(plots().size(), left);
+        for (const Plotter *each : plots()) {
+            for (const Plotter *linked : each->linked())
+                QVERIFY(plots().contains(const_cast<Plotter *>(linked)));
+        }
+        action("Zoom In")->trigger();
+    }
+}
+
+void tst_OwnPlots::removingWithoutAnAddedPlotDisablesTheAction()
+{
+    open({QStringLiteral("Ia")}, {});
+    action("&Remove Plotter")->setEnabled(true);
+    window->removePlotter();
+    QVERIFY(!action("&Remove Plotter")->isEnabled());
+    QCOMPARE(plots().size(), 2);
+}
+
+void tst_OwnPlots::aRemovedPlotHoldsTheKeyboardNoMore()
+{
+    addToBeRemoved();
+    move(plot(QStringLiteral("Currents")), {300, 100});
+    QCOMPARE(QWidget::keyboardGrabber(), plot(QStringLiteral("Currents")));
+    action("&Remove Plotter")->trigger();
+    QVERIFY(!QWidget::keyboardGrabber());
+}
+
+void tst_OwnPlots::aRemovedPlotTakesItsTitleEditorAlong()
+{
+    addToBeRemoved();
+    QTest::mouseDClick(plot(QStringLiteral("Currents")), Qt::LeftButton, {}, {90, 25});
+    QVERIFY(qobject_cast<QLineEdit *>(QWidget::keyboardGrabber()));
+    action("&Remove Plotter")->trigger();
+    QVERIFY(!QWidget::keyboardGrabber());
+}
+
+void tst_OwnPlots::aSiblingGoesOnDraggingACursor()
+{
+    addToBeRemoved();
+    QTest::mouseDClick(analog(), Qt::LeftButton, {}, {300, 150});
+    const auto *label = analog()->findChild<QLabel *>(QStringLiteral("lineLabel"));
+    QTest::mousePress(analog(), Qt::LeftButton, {}, label->geometry().center());
+    move(analog(), {330, 100});
+    const double before = analog()->cursors().first();
+    action("&Remove Plotter")->trigger();
+    move(analog(), {400, 100});
+    QTest::mouseRelease(analog(), Qt::LeftButton, {}, {400, 100});
+    QVERIFY(analog()->cursors().first() > before);
+    QCOMPARE(digital()->cursors(), analog()->cursors());
+}
+
+void tst_OwnPlots::aSiblingGoesOnWithItsBand()
+{
+    addToBeRemoved();
+    QTest::mousePress(analog(), Qt::LeftButton, {}, {300, 100});
+    move(analog(), {400, 130});
+    QCOMPARE(QWidget::keyboardGrabber(), analog());
+    action("&Remove Plotter")->trigger();
+    QCOMPARE(QWidget::keyboardGrabber(), analog());
+    move(analog(), {500, 150});
+    QTest::mouseRelease(analog(), Qt::LeftButton, {}, {500, 150});
+    QVERIFY(analog()->view().maxX < 100);
+    QCOMPARE(digital()->view().maxX, analog()->view().maxX);
+}
+
+void tst_OwnPlots::aSiblingGoesOnEditingItsTitle()
+{
+    addToBeRemoved();
+    QTest::mouseDClick(analog(), Qt::LeftButton, {}, {90, 25});
+    QWidget *editor = QWidget::keyboardGrabber();
+    action("&Remove Plotter")->trigger();
+    QCOMPARE(QWidget::keyboardGrabber(), editor);
+    QTest::keyClicks(editor, QStringLiteral("Feeder"));
+    QTest::keyClick(editor, Qt::Key_Return);
+    QCOMPARE(analog()->findChild<QLabel *>(QStringLiteral("Plotter Label"))->text(),
+        QStringLiteral("Feeder"));
+    QVERIFY(!QWidget::keyboardGrabber());
+}
+
+void tst_OwnPlots::anAddedPlotStartsAtTheFirstPlotsTime()
+{
+    open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {});
+    action("Zoom In")->trigger();
+    compose({QStringLiteral("Ib")}, QStringLiteral("Currents"));
+    QCOMPARE(plot(QStringLiteral("Currents"))->view().maxX, 50.0);
+    action("Zoom In")->trigger();
+    QCOMPARE(plot(QStringLiteral("Currents"))->view().maxX, analog()->view().maxX);
+}
+
+// The bar goes to 2, the zoom sets it to 4, and it goes to 2 again, where the older plots were last
+// and so do not move.
+void tst_OwnPlots::anAddedPlotScrollsWithTheOthers()
+{
+    open({QStringLiteral("Ia")}, {QStringLiteral("D1")});
+    action("Zoom In")->trigger();
+    window->horizontalScrollBar()->setValue(2);
+    compose({QStringLiteral("Ia")}, QStringLiteral("Currents"));
+    action("Zoom In")->trigger();
+    window->horizontalScrollBar()->setValue(2);
+    for (const Plotter *each : plots())
+        QCOMPARE(each->view().minX, 20.0);
+}
+
+void tst_OwnPlots::anAddedPlotIsScrolledIntoView()
+{
+    open({QStringLiteral("Ia")}, {QStringLiteral("D1")});
+    for (int i = 0; i < 4; ++i)
+        compose({QStringLiteral("Ia")});
+    const Plotter *newest = plot(QStringLiteral("Graph 4"));
+    QCOMPARE(newest->visibleRegion().boundingRect().size(), newest->size());
+}
+
+QTEST_MAIN(tst_OwnPlots)
+#include "tst_ownplots.moc"
