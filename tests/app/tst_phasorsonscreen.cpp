@@ -1,0 +1,434 @@
+// What the phasor dialog shows of recordings that were opened, against closed forms.
+
+#include "cfgproperties.h"
+#include "customlabel.h"
+#include "mainwindow.h"
+#include "plotter.h"
+#include "smallrecording.h"
+#include "vectorpanel.h"
+#include "windowtest.h"
+
+#include <QAction>
+#include <QTemporaryDir>
+#include <QToolButton>
+
+#include <cmath>
+#include <functional>
+
+namespace {
+
+using namespace vectorpanel;
+
+// Of a sample.
+using Wave = std::function<double(int)>;
+
+constexpr double turn = 6.283185307179586;
+
+Wave cosine(double amplitude, double samplesPerCycle, double degrees = 0)
+{
+    return
+        [=](int i) { return amplitude * std::cos(turn * (i / samplesPerCycle + degrees / 360)); };
+}
+
+struct Signal {
+    QByteArray name;
+    Wave wave;
+};
+
+// 200 samples of primary values; the multiplier is 0.5 and the offset 7, which no phasor shows.
+QString writeSignals(
+    const QString &folder, int frequency, int rate, const QList<Signal> &analogSignals)
+{
+    constexpr int samples = 200;
+    const QByteArray count = QByteArray::number(analogSignals.size());
+    QByteArray configuration = "Harju,J07,1999\n" + count + ',' + count + "A,0D\n";
+    for (int k = 0; k < analogSignals.size(); ++k)
+        configuration += QByteArray::number(k + 1) + ',' + analogSignals.at(k).name
+            + ",,line,A,0.5,7,0,-99999,99999,400,5,P\n";
+    configuration += QByteArray::number(frequency) + "\n1\n" + QByteArray::number(rate) + ','
+        + QByteArray::number(samples)
+        + "\n15/03/2024,10:00:00.000000\n15/03/2024,10:00:00.050000\nASCII\n1\n";
+    QByteArray data;
+    for (int i = 0; i < samples; ++i) {
+        data += QByteArray::number(i + 1) + ',' + QByteArray::number(qRound64(i * 1e6 / rate));
+        for (const Signal &signal : analogSignals)
+            data += ',' + QByteArray::number(2 * signal.wave(i), 'f', 5);
+        data += '\n';
+    }
+    const QString base = folder + QStringLiteral("/signals");
+    const bool isWritten = writeTextFile(base + QStringLiteral(".cfg"), configuration)
+        && writeTextFile(base + QStringLiteral(".dat"), data);
+    return isWritten ? base + QStringLiteral(".cfg") : QString();
+}
+
+// Counts the drawings of a panel: at each event, whether its picture is another than before. A
+// drawing handles events before it ends, so that none is missed.
+class DrawingCounter : public QObject {
+public:
+    explicit DrawingCounter(const QWidget *panel)
+        : m_label(panel->findChild<QLabel *>(QStringLiteral("labelVector"))), m_last(picture())
+    {
+        qApp->installEventFilter(this);
+    }
+
+    int count()
+    {
+        const qint64 now = picture();
+        m_count += now == m_last ? 0 : 1;
+        m_last = now;
+        return m_count;
+    }
+
+    bool eventFilter(QObject * /*watched*/, QEvent * /*event*/) override
+    {
+        count();
+        return false;
+    }
+
+private:
+    qint64 picture() const
+    {
+        return m_label ? m_label->pixmap(Qt::ReturnByValue).cacheKey() : m_last;
+    }
+
+    QPointer<QLabel> m_label;
+    qint64 m_last = 0;
+    int m_count = 0;
+};
+
+} // namespace
+
+class tst_PhasorsOnScreen : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { startAsMaker(); }
+    void init();
+    void cleanup();
+    void balancedPhasesStandAThirdApart_data();
+    void balancedPhasesStandAThirdApart();
+    void harmonicsAloneReadNothing();
+    void aStepReadsBeforeDuringAndAfter();
+    void shortCyclesAreRead_data();
+    void shortCyclesAreRead();
+    void aDraggedCursorDrawsOnceATurn();
+    void phasorsMoveWithTheCursor();
+    void aReloadBeginsAnew();
+    void aReloadDuringADrawingIsSurvived();
+    void closingDuringADrawingIsSurvived_data();
+    void closingDuringADrawingIsSurvived();
+
+private:
+    // Opens the signals and shows the dialog, with every channel of the first panel checked.
+    void open(int frequency, int rate, const QList<Signal> &analogSignals);
+    void checkAll(QWidget *panel) const;
+    void trigger(const char *action) const;
+    // Sets a cursor at the sample by a double-click on the first plot.
+    void setCursor(int sample);
+    Plotter *plot() const;
+    VectorDialog *dialog() const { return window->findChild<VectorDialog *>(); }
+    QList<VectorWidget *> panels() const { return dialog()->findChildren<VectorWidget *>(); }
+    void addPanel() const
+    {
+        QTest::mouseClick(dialog()->findChild<QToolButton *>(
+                              QStringLiteral("toolButton"), Qt::FindDirectChildrenOnly),
+            Qt::LeftButton);
+    }
+    void dragCursor(int x) const;
+
+    std::unique_ptr<QTemporaryDir> folder;
+    std::unique_ptr<MainWindow> window;
+};
+
+void tst_PhasorsOnScreen::init()
+{
+    folder = std::make_unique<QTemporaryDir>();
+    window = std::make_unique<MainWindow>();
+    window->resize(1400, 700);
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+}
+
+void tst_PhasorsOnScreen::cleanup()
+{
+    window.reset();
+    folder.reset();
+}
+
+Plotter *tst_PhasorsOnScreen::plot() const
+{
+    for (Plotter *candidate : window->findChildren<Plotter *>()) {
+        if (candidate->name() == QLatin1String("Analog"))
+            return candidate;
+    }
+    return nullptr;
+}
+
+void tst_PhasorsOnScreen::trigger(const char *action) const
+{
+    for (QAction *candidate : window->findChildren<QAction *>()) {
+        if (candidate->text() == QLatin1String(action))
+            return candidate->trigger();
+    }
+    QFAIL(action);
+}
+
+void tst_PhasorsOnScreen::checkAll(QWidget *panel) const
+{
+    for (QCheckBox *box : panel->findChildren<QCheckBox *>())
+        box->setChecked(true);
+}
+
+void tst_PhasorsOnScreen::open(int frequency, int rate, const QList<Signal> &analogSignals)
+{
+    window->open(writeSignals(folder->path(), frequency, rate, analogSignals));
+    QVERIFY(window->recording());
+    trigger("&Show Vectors");
+    QVERIFY(QTest::qWaitForWindowExposed(dialog()));
+    QTRY_VERIFY(!diagram(panels().first()).isNull());
+    checkAll(panels().first());
+}
+
+void tst_PhasorsOnScreen::setCursor(int sample)
+{
+    const CFGProperties *recording = window->recording();
+    const double step = 1000 / recording->sampleRate;
+    int x = PlotGeometry::left;
+    while (plot()->geometryOfView().lineTime(x) < (sample - 0.1) * step)
+        ++x;
+    QTest::mouseDClick(plot(), Qt::LeftButton, {}, {x, 150});
+    QVERIFY(std::abs(plot()->cursors().last() - sample * step) < 0.45 * step);
+}
+
+void tst_PhasorsOnScreen::dragCursor(int x) const
+{
+    const QPoint position(x, 150);
+    QMouseEvent move(QEvent::MouseMove, position, plot()->mapToGlobal(position), Qt::NoButton,
+        Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(plot(), &move);
+}
+
+void tst_PhasorsOnScreen::balancedPhasesStandAThirdApart_data()
+{
+    QTest::addColumn<int>("frequency");
+    QTest::addColumn<int>("rate");
+    QTest::newRow("50 Hz") << 50 << 600;
+    QTest::newRow("60 Hz") << 60 << 720;
+}
+
+// 100 / root 2 is 70.7107; with 5 % more the axes end at 75, and the lines are 143.8 pixels long,
+// for the others 71.9 in x and 124.5 in y.
+void tst_PhasorsOnScreen::balancedPhasesStandAThirdApart()
+{
+    QFETCH(int, frequency);
+    QFETCH(int, rate);
+    open(frequency, rate,
+        {{"IA", cosine(100, 12, 30)}, {"IB", cosine(100, 12, 30 - 120)},
+            {"IC", cosine(100, 12, 30 + 120)}});
+    dialog()->findChild<QComboBox *>(QStringLiteral("comboBox_reference"))->setCurrentIndex(1);
+    setCursor(77);
+    const VectorWidget *panel = panels().first();
+    QTRY_COMPARE(magnitudes(panel),
+        pictureOf({{{0, 15}, orange, QStringLiteral("IA: 70.7107")},
+            {{121, 15}, green, QStringLiteral("IB: 70.7107")},
+            {{242, 15}, blue, QStringLiteral("IC: 70.7107")}}));
+    const QImage expected
+        = linesPicture({{{143, 0}, orange}, {{-71, -124}, green}, {{-71, 124}, blue}});
+    for (const QColor &color : {orange, green, blue})
+        QCOMPARE(pixelsOf(diagram(panel), color), pixelsOf(expected, color));
+}
+
+// Four samples a cycle, so that sums of the second harmonic and of a constant are exactly 0.
+void tst_PhasorsOnScreen::harmonicsAloneReadNothing()
+{
+    open(50, 200, {{"I1", cosine(100, 4)}, {"I2", cosine(100, 2)}, {"I0", cosine(100, 1)}});
+    setCursor(77);
+    const VectorWidget *panel = panels().first();
+    QTRY_COMPARE(magnitudes(panel),
+        pictureOf({{{0, 15}, orange, QStringLiteral("I1: 70.7107")},
+            {{121, 15}, green, QStringLiteral("I2: 0")},
+            {{242, 15}, blue, QStringLiteral("I0: 0")}}));
+    QVERIFY(boundsOf(diagram(panel), orange).width() > 140
+        || boundsOf(diagram(panel), orange).height() > 140);
+    QVERIFY(boundsOf(diagram(panel), green).width() <= 1);
+    QVERIFY(boundsOf(diagram(panel), blue).width() <= 1);
+}
+
+// The amplitude doubles with sample 100; half of the window of sample 99 is before that.
+void tst_PhasorsOnScreen::aStepReadsBeforeDuringAndAfter()
+{
+    const Wave wave = cosine(100, 20, 40);
+    open(50, 1000, {{"I", [&](int i) { return (i < 100 ? 1 : 2) * wave(i); }}});
+    setCursor(60);
+    setCursor(99);
+    setCursor(150);
+    QTRY_COMPARE(magnitudes(panels().first()),
+        pictureOf({{{0, 15}, orange, QStringLiteral("I: 70.7107")},
+            {{121, 15}, orange, QStringLiteral("I: 106.066")},
+            {{242, 15}, orange, QStringLiteral("I: 141.421")}}));
+}
+
+void tst_PhasorsOnScreen::shortCyclesAreRead_data()
+{
+    QTest::addColumn<int>("rate");
+    QTest::addColumn<QString>("text");
+    // Of a constant 100, the window of three samples holds two and a 0: 100 / root 2.
+    QTest::newRow("three samples a cycle") << 150 << QStringLiteral("I: 70.7107");
+    // Of five, four and a 0: 100 / 2 / root 2.
+    QTest::newRow("five samples a cycle") << 250 << QStringLiteral("I: 35.3553");
+    QTest::newRow("two samples a cycle") << 100 << QStringLiteral("I: 0");
+    QTest::newRow("one sample a cycle") << 50 << QStringLiteral("I: 0");
+    QTest::newRow("less than one sample a cycle") << 20 << QStringLiteral("I: 0");
+}
+
+void tst_PhasorsOnScreen::shortCyclesAreRead()
+{
+    QFETCH(int, rate);
+    QFETCH(QString, text);
+    // The other channel swings from sample to sample: 200 / root 2 for two samples a cycle.
+    open(50, rate, {{"I", cosine(100, 1)}, {"U", cosine(100, 2)}});
+    setCursor(77);
+    const VectorWidget *panel = panels().first();
+    if (rate == 100)
+        QTRY_COMPARE(magnitudes(panel),
+            pictureOf({{{0, 15}, orange, text}, {{121, 15}, green, QStringLiteral("U: 141.421")}}));
+    panel->findChildren<QCheckBox *>().last()->setChecked(false);
+    QTRY_COMPARE(magnitudes(panel), pictureOf({{{0, 15}, orange, text}}));
+}
+
+void tst_PhasorsOnScreen::aDraggedCursorDrawsOnceATurn()
+{
+    open(50, 1000, {{"I", cosine(100, 20)}, {"U", cosine(100, 20, 90)}});
+    addPanel();
+    QTRY_VERIFY(!diagram(panels().last()).isNull());
+    checkAll(panels().last());
+    setCursor(50);
+    QTest::qWait(300);
+
+    DrawingCounter first(panels().first());
+    DrawingCounter second(panels().last());
+    const QPoint label
+        = plot()->findChild<CustomLabel *>(QStringLiteral("lineLabel"))->geometry().center();
+    QTest::mousePress(plot(), Qt::LeftButton, {}, label);
+    int x = label.x();
+    int turns = 0;
+    QElapsedTimer elapsed;
+    for (elapsed.start(); elapsed.elapsed() < 400; ++turns) {
+        const int firstBefore = first.count();
+        const int secondBefore = second.count();
+        for (int move = 0; move < 3; ++move)
+            dragCursor(++x);
+        QCoreApplication::processEvents();
+        QVERIFY(first.count() - firstBefore <= 1);
+        QVERIFY(second.count() - secondBefore <= 1);
+    }
+    QVERIFY(turns >= 3);
+    QVERIFY2(first.count() >= 3, qPrintable(QString::number(first.count())));
+    QVERIFY(second.count() >= 3);
+    QTest::mouseRelease(plot(), Qt::LeftButton, {}, {x, 150});
+    QTest::qWait(200);
+    const int drawn = first.count();
+    QTest::qWait(100);
+    QCOMPARE(first.count(), drawn); // nothing is drawn without need
+}
+
+void tst_PhasorsOnScreen::phasorsMoveWithTheCursor()
+{
+    const Wave wave = cosine(100, 20);
+    open(50, 1000, {{"I", [&](int i) { return (i < 100 ? 1 : 2) * wave(i); }}});
+    setCursor(60);
+    VectorWidget *panel = panels().first();
+    QTRY_COMPARE(magnitudes(panel), pictureOf({{{0, 15}, orange, QStringLiteral("I: 70.7107")}}));
+    QTest::mousePress(plot(), Qt::LeftButton, {},
+        plot()->findChild<CustomLabel *>(QStringLiteral("lineLabel"))->geometry().center());
+    dragCursor(qRound(plot()->geometryOfView().traceX(150)));
+    // The button is still held.
+    QTRY_COMPARE(magnitudes(panel), pictureOf({{{0, 15}, orange, QStringLiteral("I: 141.421")}}));
+    dragCursor(qRound(plot()->geometryOfView().traceX(60)));
+    QTRY_COMPARE(magnitudes(panel), pictureOf({{{0, 15}, orange, QStringLiteral("I: 70.7107")}}));
+    QTest::mouseRelease(plot(), Qt::LeftButton, {}, {300, 150});
+    trigger("&Remove All Cursors");
+    QTRY_VERIFY(isTransparent(magnitudes(panel)));
+}
+
+void tst_PhasorsOnScreen::aReloadBeginsAnew()
+{
+    open(50, 1000, {{"I", cosine(100, 20)}, {"U", cosine(100, 20)}});
+    addPanel();
+    QTRY_VERIFY(!diagram(panels().last()).isNull());
+    checkAll(panels().last());
+    dialog()->findChild<QComboBox *>(QStringLiteral("comboBox_reference"))->setCurrentIndex(2);
+    setCursor(60);
+
+    open(50, 1000, {{"X", cosine(10, 20)}});
+    QVERIFY(dialog()->isVisible());
+    QCOMPARE(panels().size(), 2);
+    for (VectorWidget *panel : panels()) {
+        checkAll(panel);
+        QCOMPARE(panel->findChildren<QCheckBox *>().size(), 1);
+        QTRY_VERIFY(isTransparent(magnitudes(panel))); // no cursor yet
+    }
+    QCOMPARE(dialog()->referenceName(), QStringLiteral("-"));
+    setCursor(60);
+    for (const VectorWidget *panel : panels())
+        QTRY_COMPARE(
+            magnitudes(panel), pictureOf({{{0, 15}, orange, QStringLiteral("X: 7.07107")}}));
+}
+
+void tst_PhasorsOnScreen::aReloadDuringADrawingIsSurvived()
+{
+    open(50, 1000, {{"I", cosine(100, 20)}});
+    addPanel();
+    QTRY_VERIFY(!diagram(panels().last()).isNull());
+    setCursor(60);
+    const QString next = writeSignals(folder->path(), 50, 1000, {{"X", cosine(10, 20)}});
+    bool isReloaded = false;
+    QTimer::singleShot(0, window.get(), [&] {
+        window->open(next);
+        isReloaded = true;
+    });
+    panels().first()->drawAll();
+    QVERIFY(isReloaded);
+    QVERIFY(window->recording());
+    setCursor(60);
+    for (VectorWidget *panel : panels()) {
+        checkAll(panel);
+        QTRY_COMPARE(
+            magnitudes(panel), pictureOf({{{0, 15}, orange, QStringLiteral("X: 7.07107")}}));
+    }
+}
+
+void tst_PhasorsOnScreen::closingDuringADrawingIsSurvived_data()
+{
+    QTest::addColumn<bool>("wholeWindow");
+    QTest::newRow("of the dialog") << false;
+    QTest::newRow("of the window") << true;
+}
+
+void tst_PhasorsOnScreen::closingDuringADrawingIsSurvived()
+{
+    QFETCH(bool, wholeWindow);
+    open(50, 1000, {{"I", cosine(100, 20)}});
+    setCursor(60);
+    bool isGone = false;
+    QTimer::singleShot(0, this, [&] {
+        if (wholeWindow)
+            window.reset();
+        else
+            dialog()->close();
+        isGone = true;
+    });
+    panels().first()->drawAll();
+    QVERIFY(isGone);
+    if (wholeWindow)
+        return;
+    QVERIFY(!dialog()->isVisible());
+    setCursor(90);
+    trigger("&Show Vectors");
+    QTRY_COMPARE(magnitudes(panels().first()),
+        pictureOf({{{0, 15}, orange, QStringLiteral("I: 70.7107")},
+            {{121, 15}, orange, QStringLiteral("I: 70.7107")}}));
+}
+
+QTEST_MAIN(tst_PhasorsOnScreen)
+#include "tst_phasorsonscreen.moc"
