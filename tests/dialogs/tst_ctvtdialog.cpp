@@ -160,6 +160,12 @@ void TestCTVTDialog::setsTheFactors_data()
     row("text counts as 0", "P", "abc", "5", 0, infinity);
     row("an empty field counts as 0", "S", "600", "", infinity, 0);
     row("a decimal comma counts as 0", "S", "600,5", "5", 0, 5);
+    row("a negative primary of secondary samples", "S", "-600", "5", -120, 5);
+    row("a negative secondary of primary samples", "P", "600", "-5", 600, -5.0 / 600);
+    row("huge ratings", "S", "1e308", "1", 1e308, 1);
+    row("a factor beyond all bounds", "S", "1e300", "1e-300", infinity, 1e-300);
+    row("a factor below all bounds", "P", "1e300", "1e-300", 1e300, 0);
+    row("any other flag keeps the factors", "X", "600", "5", 7, 9);
     row("an empty flag keeps the factors", "", "600", "5", 7, 9);
     row("a small letter is another flag", "s", "600", "5", 7, 9);
     row("and so is a small p", "p", "600", "5", 7, 9);
