@@ -30,7 +30,7 @@ struct BaseContent {
     QSize layerSize;
     qreal pixelRatio = 0;
     QFont font;
-    int trigger = 0; // ms
+    QString trigger; // text of its mark, which tells its time
     Readout readout;
     QVector<Trace> traces;
 

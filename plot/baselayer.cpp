@@ -4,6 +4,7 @@
 #include "labeltext.h"
 #include "timeaxis.h"
 
+#include <QCoreApplication>
 #include <QFontMetrics>
 #include <QPainter>
 
@@ -104,6 +105,11 @@ void drawFrame(QPainter &painter, const PlotGeometry &geometry)
     painter.drawRect(geometry.area().adjusted(0, 0, -1, -1));
 }
 
+QString triggerText(int time)
+{
+    return QCoreApplication::translate("Plotter", "Trigger: %1 ms").arg(time);
+}
+
 void drawTriggerMark(QPainter &painter, const PlotGeometry &geometry, const QFont &font, int time)
 {
     const QRect area = geometry.area();
@@ -115,7 +121,7 @@ void drawTriggerMark(QPainter &painter, const PlotGeometry &geometry, const QFon
     painter.setPen(pen);
     painter.drawLine(x, area.top(), x, area.bottom());
 
-    const QString text = QStringLiteral("Trigger: %1 ms").arg(time);
+    const QString text = triggerText(time);
     const QFontMetrics metrics(font);
     QRect box(x + labelGap, 0, metrics.horizontalAdvance(text) + 2, metrics.height());
     box.moveBottom(area.bottom() - 2);

@@ -20,6 +20,9 @@ void drawValueGrid(QPainter &painter, const PlotGeometry &geometry, const QFont 
 
 void drawFrame(QPainter &painter, const PlotGeometry &geometry);
 
+// What stands at the trigger mark of a time (ms).
+QString triggerText(int time);
+
 // The trigger mark at a time (ms), when that lies in view.
 void drawTriggerMark(QPainter &painter, const PlotGeometry &geometry, const QFont &font, int time);
 

@@ -102,8 +102,25 @@ void Plotter::placeTitle(int y)
 {
     plotterLabel->setGeometry(titleX, y, titleWidth, titleHeight);
     if (plotTitle.isEmpty())
-        setTitle(plotName + QStringLiteral(" Plotter"));
+        setTitleByName();
     plotterLabel->show();
+}
+
+void Plotter::setTitleByName()
+{
+    titleByName = tr("%1 Plotter").arg(plotName);
+    setTitle(titleByName);
+}
+
+// A title that someone has typed stays.
+void Plotter::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        if (!plotTitle.isEmpty() && plotTitle == titleByName)
+            setTitleByName();
+        refreshPixmap();
+    }
+    QWidget::changeEvent(event);
 }
 
 // The title's place is fixed: a long text gets a smaller font, and one that is too long even then

@@ -37,7 +37,8 @@ public:
 
     // The object is used through PlotHost; one that is no host counts as none.
     void setMainWindow(QObject *window);
-    void setName(const QString &name); // "Analog" shows as "Analog Plotter"
+    // "Analog" shows as "Analog Plotter", from the next setupPlot() or change of language on.
+    void setName(const QString &name);
     QString name() const { return plotName; }
     // Replaces the text of the title; the name stays.
     void setTitle(const QString &title);
@@ -120,6 +121,7 @@ public slots:
 
 protected:
     bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
@@ -164,6 +166,7 @@ private:
     void paintOverlay();
     void placeChannelLabels();
     void placeMarks();
+    void setTitleByName();
 
     // Each gives false and keeps the view where the zoomed range could not be shown.
     enum class Sharing { Always, UnlessDigital, IfAnalog };
@@ -191,6 +194,7 @@ private:
 
     QString plotName;
     QString plotTitle; // in full; empty before the first setupPlot()
+    QString titleByName; // the latest one that was made from the name
     QLabel *timeLabel;
     QFrame *timeLine;
     QLineEdit *labelEditor;

@@ -60,7 +60,7 @@ BaseContent Plotter::baseContent() const
     content.layerSize = hostWidget ? hostWidget->size() : size();
     content.pixelRatio = devicePixelRatioF();
     content.font = font();
-    content.trigger = recording() ? recording()->triggerOffsetMs : 0;
+    content.trigger = triggerText(recording() ? recording()->triggerOffsetMs : 0);
     content.readout = readout();
     for (const int number : channelOrder) {
         const ShownChannel &shown = *channelMap.constFind(number);
