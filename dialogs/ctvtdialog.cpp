@@ -4,6 +4,7 @@
 #include "dialoghost.h"
 #include "ui_ctvtdialog.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -86,9 +87,15 @@ void CTVTDialog::on_pushButton_Close_clicked()
     close();
 }
 
+void CTVTDialog::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        ui->retranslateUi(this);
+    QDialog::changeEvent(event);
+}
+
 void CTVTDialog::showEvent(QShowEvent *event)
 {
-    ui->retranslateUi(this); // the language may have changed since
     for (int i = 0; i < nameLabels.size(); ++i) {
         primaryEdits.at(i)->setText(appliedPrimaries.value(i));
         secondaryEdits.at(i)->setText(appliedSecondaries.value(i));

@@ -38,6 +38,7 @@ signals:
     void scaleChanged();
 
 protected:
+    void changeEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:

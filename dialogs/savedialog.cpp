@@ -3,6 +3,7 @@
 #include "dialoghost.h"
 #include "ui_savedialog.h"
 
+#include <QEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -95,9 +96,15 @@ void SaveDialog::on_lineEdit_FilePath_textChanged()
     updateExistenceLabel();
 }
 
+void SaveDialog::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        ui->retranslateUi(this);
+    QDialog::changeEvent(event);
+}
+
 void SaveDialog::showEvent(QShowEvent *event)
 {
-    ui->retranslateUi(this); // the language may have changed since
     const int last = sampleTimes.size() - 1;
     filePath.clear();
     ui->lineEdit_FilePath->clear();

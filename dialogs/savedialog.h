@@ -39,6 +39,7 @@ public slots:
     void on_lineEdit_FilePath_textChanged();
 
 protected:
+    void changeEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:

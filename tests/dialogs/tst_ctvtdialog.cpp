@@ -43,7 +43,7 @@ private slots:
     void survivesAStrangerAsParent();
     void clearsItsRows();
     void fitsTheScreenWithAHundredChannels();
-    void showsTheLanguageChosenMeanwhile();
+    void retranslatesOnALanguageChange();
 
 private:
     void addChannel(const QString &flag);
@@ -337,11 +337,12 @@ void TestCTVTDialog::fitsTheScreenWithAHundredChannels()
     QVERIFY(edit(99, 2)->visibleRegion().isEmpty()); // to be scrolled to
 }
 
-void TestCTVTDialog::showsTheLanguageChosenMeanwhile()
+void TestCTVTDialog::retranslatesOnALanguageChange()
 {
     PseudoTranslator translator;
-    QCoreApplication::installTranslator(&translator);
     dialog->show();
+    QCoreApplication::installTranslator(&translator);
+    QCoreApplication::processEvents();
     QCOMPARE(dialog->windowTitle(), QStringLiteral("<CTVTDialog>Rescale CTVT"));
     QCOMPARE(child<QLabel>("label")->text(), QStringLiteral("<CTVTDialog>Signal"));
     QCOMPARE(child<QPushButton>("pushButton_Set")->text(), QStringLiteral("<CTVTDialog>Set"));

@@ -63,7 +63,7 @@ private slots:
     void keepsTheMarkersWhenTheWindowIsClosed();
     void resetsAtEachShowing();
     void survivesAStrangerAsParent();
-    void showsTheLanguageChosenMeanwhile();
+    void retranslatesOnALanguageChange();
 
 private:
     void open(const QVector<double> &times);
@@ -478,11 +478,12 @@ void TestSaveDialog::survivesAStrangerAsParent()
     QCOMPARE(cleared.count(), 1);
 }
 
-void TestSaveDialog::showsTheLanguageChosenMeanwhile()
+void TestSaveDialog::retranslatesOnALanguageChange()
 {
     PseudoTranslator translator;
-    QCoreApplication::installTranslator(&translator);
     open(threeTimes);
+    QCoreApplication::installTranslator(&translator);
+    QCoreApplication::processEvents();
     QCOMPARE(dialog->windowTitle(), QStringLiteral("<SaveDialog>Save File"));
     QCOMPARE(child<QLabel>("label")->text(), QStringLiteral("<SaveDialog>File path:"));
 
