@@ -113,6 +113,7 @@ private:
     bool unpack(QString &path); // path becomes that of the configuration file found
     bool parse(const QString &path); // on the loader thread
     bool showWarning(const QString &text);
+    bool showFileWarning(const QString &text, const QString &path, const QString &error);
     void startUnpacking(const QString &package);
     void clearView();
     void showRecording();
@@ -128,6 +129,7 @@ private:
     void reportSaving(const QString &failedFile, const QString &error); // empty: none failed
 
     void createPlots(); // for the recording just loaded
+    void retranslatePlots(); // their names and the entries of the value modes
     void disposePlots();
     QStringList analogNames() const;
     bool hasPhasors() const; // of the recording on screen; spectra are offered then

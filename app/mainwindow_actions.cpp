@@ -109,7 +109,6 @@ void MainWindow::createToolBarWidgets()
     referenceCombo = new QComboBox(this);
     referenceCombo->setObjectName(QStringLiteral("comboBox_mainReference"));
     referenceCombo->setEnabled(false);
-    referenceCombo->setToolTip(tr("Reference channel of the FFT angles"));
     // Long channel names widen the list, not the tool bar, which just fits the window.
     referenceCombo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     referenceCombo->setMinimumContentsLength(5);
@@ -203,16 +202,18 @@ void MainWindow::retranslateTexts()
         action->setStatusTip(tr(entry.statusTip));
     }
     showAnglesCheckBox->setText(tr("Show FFT Angles"));
+    referenceCombo->setToolTip(tr("Reference channel of the FFT angles"));
     languageMenu->setTitle(tr("Language"));
 }
 
-// Tool-bar titles, the label and the entries of the combo boxes, the languages and the message in
-// the status bar keep the language they were made in.
+// Tool-bar titles, the label in the tool bar, the languages and the message in the status bar keep
+// the language they were made in.
 void MainWindow::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
         retranslateTexts();
+        retranslatePlots();
     }
     QMainWindow::changeEvent(event);
 }

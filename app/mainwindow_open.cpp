@@ -104,7 +104,7 @@ bool MainWindow::load(QString path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return showWarning(tr("Cannot read file %1:\n%2.").arg(path, file.errorString()));
+        return showFileWarning(tr("Cannot read file %1:\n%2."), path, file.errorString());
 
     if (path.contains(QLatin1String(".zip"), Qt::CaseInsensitive) && !unpack(path))
         return false;
@@ -182,6 +182,13 @@ bool MainWindow::showWarning(const QString &text)
     box->exec();
     delete box;
     return self && cfgProperties;
+}
+
+// The toolkit gives the reasons in English alone.
+bool MainWindow::showFileWarning(const QString &text, const QString &path, const QString &error)
+{
+    return showWarning(
+        text.arg(path, QCoreApplication::translate("QIODevice", error.toUtf8().constData())));
 }
 
 void MainWindow::startUnpacking(const QString &package)

@@ -103,7 +103,7 @@ void MainWindow::reportSaving(const QString &failedFile, const QString &error)
     if (failedFile.isEmpty())
         statusBar()->showMessage(tr("File saved."), messageDuration);
     else
-        showWarning(tr("Cannot write file %1:\n%2.").arg(failedFile, error));
+        showFileWarning(tr("Cannot write file %1:\n%2."), failedFile, error);
 }
 
 void MainWindow::saveRecording(const QString &path, double start, double end)

@@ -107,7 +107,6 @@ void MainWindow::createPlots()
     const bool isSecondary = !cfgProperties->analogChannels.isEmpty()
         && cfgProperties->analogChannels.constFirst()->ps == QLatin1String("S");
     mode = isSecondary ? 1 : 0;
-    fill(*primSecCombo, {tr("P"), tr("S"), tr("Per Unit")}, mode);
     fill(*referenceCombo, QStringList(QStringLiteral("-")) + names, 0);
     {
         const QSignalBlocker blocker(showAnglesCheckBox);
@@ -116,7 +115,6 @@ void MainWindow::createPlots()
     }
 
     analogPlotter = new Plotter(ui->scrollWidget);
-    analogPlotter->setName(QStringLiteral("Analog"));
     analogPlotter->setMinimumHeight(smallestPlotHeight);
     analogPlotter->setMaximumHeight(largestPlotHeight);
     connect(zoomResetAct, &QAction::triggered, analogPlotter, &Plotter::customResetZoom);
@@ -128,7 +126,7 @@ void MainWindow::createPlots()
     connectSaveMarkers(analogPlotter);
 
     digitalPlotter = new plotterDg(ui->scrollWidget);
-    digitalPlotter->setName(QStringLiteral("Digital"));
+    retranslatePlots();
     connect(zoomResetAct, &QAction::triggered, digitalPlotter, &Plotter::customResetZoom);
     connectSaveMarkers(digitalPlotter);
 
@@ -152,6 +150,15 @@ void MainWindow::createPlots()
     showChosenChannels();
     vectorDialog->setPlotter(analogPlotter);
     vectorDialog->setChannelNames(names);
+}
+
+void MainWindow::retranslatePlots()
+{
+    if (!analogPlotter)
+        return;
+    analogPlotter->setName(tr("Analog"));
+    digitalPlotter->setName(tr("Digital"));
+    fill(*primSecCombo, {tr("P"), tr("S"), tr("Per Unit")}, mode);
 }
 
 void MainWindow::disposePlots()
