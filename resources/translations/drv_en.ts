@@ -1,0 +1,948 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en_US">
+<context>
+    <name>AddPlotterDialog</name>
+    <message>
+        <source>Add Graph</source>
+        <translation>Add Graph</translation>
+    </message>
+    <message>
+        <source>Graph name: </source>
+        <translation>Graph name: </translation>
+    </message>
+    <message>
+        <source>&gt;&gt;</source>
+        <translation>&gt;&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;&lt;</source>
+        <translation>&lt;&lt;</translation>
+    </message>
+</context>
+<context>
+    <name>CTVTDialog</name>
+    <message>
+        <source>Rescale CTVT</source>
+        <translation>Rescale CTVT</translation>
+    </message>
+    <message>
+        <source>Signal</source>
+        <translation>Signal</translation>
+    </message>
+    <message>
+        <source>Primary</source>
+        <translation>Primary</translation>
+    </message>
+    <message>
+        <source>Secondary</source>
+        <translation>Secondary</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>Set</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Device Information</source>
+        <translation>Device Information</translation>
+    </message>
+    <message>
+        <source>Location:</source>
+        <translation>Location:</translation>
+    </message>
+    <message>
+        <source>Start Date:</source>
+        <translation>Start Date:</translation>
+    </message>
+    <message>
+        <source>Start Time:</source>
+        <translation>Start Time:</translation>
+    </message>
+    <message>
+        <source>Convert To Localtime</source>
+        <translation>Convert To Localtime</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>Device:</translation>
+    </message>
+    <message>
+        <source>Trigger Date:</source>
+        <translation>Trigger Date:</translation>
+    </message>
+    <message>
+        <source>Trigger Time:</source>
+        <translation>Trigger Time:</translation>
+    </message>
+    <message>
+        <source>Analog Channels:</source>
+        <translation>Analog Channels:</translation>
+    </message>
+    <message>
+        <source>Digital Channels:</source>
+        <translation>Digital Channels:</translation>
+    </message>
+    <message>
+        <source>Created by </source>
+        <translation>Created by </translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Ready</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Open...</translation>
+    </message>
+    <message>
+        <source>Open an existing file.</source>
+        <translation>Open an existing file.</translation>
+    </message>
+    <message>
+        <source>&amp;Save As..</source>
+        <translation>&amp;Save As..</translation>
+    </message>
+    <message>
+        <source>Save recording to file.</source>
+        <translation>Save recording to file.</translation>
+    </message>
+    <message>
+        <source>Save As &amp;Primary</source>
+        <translation>Save As &amp;Primary</translation>
+    </message>
+    <message>
+        <source>Save as a primary type.</source>
+        <translation>Save as a primary type.</translation>
+    </message>
+    <message>
+        <source>&amp;Add Plotter</source>
+        <translation>&amp;Add Plotter</translation>
+    </message>
+    <message>
+        <source>Add analog plotter.</source>
+        <translation>Add analog plotter.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Plotter</source>
+        <translation>&amp;Remove Plotter</translation>
+    </message>
+    <message>
+        <source>Remoe analog plotter.</source>
+        <translation>Remoe analog plotter.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove All Cursors</source>
+        <translation>&amp;Remove All Cursors</translation>
+    </message>
+    <message>
+        <source>Remove all cursors.</source>
+        <translation>Remove all cursors.</translation>
+    </message>
+    <message>
+        <source>&amp;Show Vectors</source>
+        <translation>&amp;Show Vectors</translation>
+    </message>
+    <message>
+        <source>Show vectors dialog.</source>
+        <translation>Show vectors dialog.</translation>
+    </message>
+    <message>
+        <source>Rescale CTVT</source>
+        <translation>Rescale CTVT</translation>
+    </message>
+    <message>
+        <source>Set CTVT ratios.</source>
+        <translation>Set CTVT ratios.</translation>
+    </message>
+    <message>
+        <source>&amp;Save screenshot</source>
+        <translation>&amp;Save screenshot</translation>
+    </message>
+    <message>
+        <source>Save screenshot.</source>
+        <translation>Save screenshot.</translation>
+    </message>
+    <message>
+        <source>&amp;Copy to clipboard</source>
+        <translation>&amp;Copy to clipboard</translation>
+    </message>
+    <message>
+        <source>Copy to clipboard.</source>
+        <translation>Copy to clipboard.</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>Zoom In</translation>
+    </message>
+    <message>
+        <source>Zoom in.</source>
+        <translation>Zoom in.</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Zoom Out</translation>
+    </message>
+    <message>
+        <source>Zoom out.</source>
+        <translation>Zoom out.</translation>
+    </message>
+    <message>
+        <source>Zoom Reset</source>
+        <translation>Zoom Reset</translation>
+    </message>
+    <message>
+        <source>Zoom reset.</source>
+        <translation>Zoom reset.</translation>
+    </message>
+    <message>
+        <source>Vertical Zoom In</source>
+        <translation>Vertical Zoom In</translation>
+    </message>
+    <message>
+        <source>Vertical zoom in.</source>
+        <translation>Vertical zoom in.</translation>
+    </message>
+    <message>
+        <source>Vertical Zoom Out</source>
+        <translation>Vertical Zoom Out</translation>
+    </message>
+    <message>
+        <source>Vertical zoom out.</source>
+        <translation>Vertical zoom out.</translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation>E&amp;xit</translation>
+    </message>
+    <message>
+        <source>Exit the application.</source>
+        <translation>Exit the application.</translation>
+    </message>
+    <message>
+        <source>&amp;About Wavorin</source>
+        <translation>&amp;About Wavorin</translation>
+    </message>
+    <message>
+        <source>About Wavorin</source>
+        <translation>About Wavorin</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Tools</translation>
+    </message>
+    <message>
+        <source>FFT</source>
+        <translation>FFT</translation>
+    </message>
+    <message>
+        <source>Prim/Sec</source>
+        <translation>Prim/Sec</translation>
+    </message>
+    <message>
+        <source>Primary/Secondary:</source>
+        <translation>Primary/Secondary:</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edit</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>&amp;Tools</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>Show FFT Angles</source>
+        <translation>Show FFT Angles</translation>
+    </message>
+    <message>
+        <source>Reference channel of the FFT angles</source>
+        <translation>Reference channel of the FFT angles</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation>Open File</translation>
+    </message>
+    <message>
+        <source>DR-files (*.zip *.cfg *.txt)</source>
+        <translation>DR-files (*.zip *.cfg *.txt)</translation>
+    </message>
+    <message>
+        <source>Cannot read file %1:
+%2.</source>
+        <translation>Cannot read file %1:
+%2.</translation>
+    </message>
+    <message>
+        <source>File not supported.</source>
+        <translation>File not supported.</translation>
+    </message>
+    <message>
+        <source>File loaded</source>
+        <translation>File loaded</translation>
+    </message>
+    <message>
+        <source>Application</source>
+        <translation>Application</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>The zip file is not valid.
+Please select another file.</source>
+        <translation>The zip file is not valid.
+Please select another file.</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Save As</translation>
+    </message>
+    <message>
+        <source>%1 Files (*.%2);;All Files (*)</source>
+        <translation>%1 Files (*.%2);;All Files (*)</translation>
+    </message>
+    <message>
+        <source>File saved.</source>
+        <translation>File saved.</translation>
+    </message>
+    <message>
+        <source>Cannot write file %1:
+%2.</source>
+        <translation>Cannot write file %1:
+%2.</translation>
+    </message>
+    <message>
+        <source>Save recording</source>
+        <translation>Save recording</translation>
+    </message>
+    <message>
+        <source>Analog</source>
+        <translation>Analog</translation>
+    </message>
+    <message>
+        <source>Digital</source>
+        <translation>Digital</translation>
+    </message>
+    <message>
+        <source>P</source>
+        <translation>P</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>Per Unit</source>
+        <translation>Per Unit</translation>
+    </message>
+    <message>
+        <source>Graph %1</source>
+        <translation>Graph %1</translation>
+    </message>
+    <message>
+        <source>Start: %1    Trigger: %2</source>
+        <translation>Start: %1    Trigger: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Plotter</name>
+    <message>
+        <source>Trigger: %1 ms</source>
+        <translation>Trigger: %1 ms</translation>
+    </message>
+    <message>
+        <source>%1 Plotter</source>
+        <translation>%1 Plotter</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Remove Cursor</source>
+        <translation>Remove Cursor</translation>
+    </message>
+    <message>
+        <source>Remove All Cursors</source>
+        <translation>Remove All Cursors</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>&amp;Select All</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Step up</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>Step &amp;down</translation>
+    </message>
+</context>
+<context>
+    <name>QColorDialog</name>
+    <message>
+        <source>Select Color</source>
+        <translation>Select Color</translation>
+    </message>
+    <message>
+        <source>&amp;Basic colors</source>
+        <translation>&amp;Basic colors</translation>
+    </message>
+    <message>
+        <source>&amp;Custom colors</source>
+        <translation>&amp;Custom colors</translation>
+    </message>
+    <message>
+        <source>&amp;Add to Custom Colors</source>
+        <translation>&amp;Add to Custom Colors</translation>
+    </message>
+    <message>
+        <source>&amp;Pick Screen Color</source>
+        <translation>&amp;Pick Screen Color</translation>
+    </message>
+    <message>
+        <source>Cursor at %1, %2
+Press ESC to cancel</source>
+        <translation>Cursor at %1, %2
+Press ESC to cancel</translation>
+    </message>
+    <message>
+        <source>Hu&amp;e:</source>
+        <translation>Hu&amp;e:</translation>
+    </message>
+    <message>
+        <source>&amp;Sat:</source>
+        <translation>&amp;Sat:</translation>
+    </message>
+    <message>
+        <source>&amp;Val:</source>
+        <translation>&amp;Val:</translation>
+    </message>
+    <message>
+        <source>&amp;Red:</source>
+        <translation>&amp;Red:</translation>
+    </message>
+    <message>
+        <source>&amp;Green:</source>
+        <translation>&amp;Green:</translation>
+    </message>
+    <message>
+        <source>Bl&amp;ue:</source>
+        <translation>Bl&amp;ue:</translation>
+    </message>
+    <message>
+        <source>A&amp;lpha channel:</source>
+        <translation>A&amp;lpha channel:</translation>
+    </message>
+    <message>
+        <source>&amp;HTML:</source>
+        <translation>&amp;HTML:</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Open</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>&amp;Choose</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>File &amp;name:</translation>
+    </message>
+    <message>
+        <source>Files of type:</source>
+        <translation>Files of type:</translation>
+    </message>
+    <message>
+        <source>Look in:</source>
+        <translation>Look in:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Directory:</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>All Files (*)</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Go back</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Forward</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>Go forward</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Parent Directory</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Go to the parent directory</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Create New Folder</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Create a New Folder</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>New Folder</translation>
+    </message>
+    <message>
+        <source>List View</source>
+        <translation>List View</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Change to list view mode</translation>
+    </message>
+    <message>
+        <source>Detail View</source>
+        <translation>Detail View</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Change to detail view mode</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Sidebar</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>List of places and bookmarks</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Files</translation>
+    </message>
+    <message>
+        <source>Recent Places</source>
+        <translation>Recent Places</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Show </translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Rename</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Delete</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>Show &amp;hidden files</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>&amp;New Folder</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Drive</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Folder</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>%1 File</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unknown</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>Are you sure you want to delete &apos;%1&apos;?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>Could not delete directory.</translation>
+    </message>
+    <message>
+        <source>%1
+File not found.
+Please verify the correct file name was given.</source>
+        <translation>%1
+File not found.
+Please verify the correct file name was given.</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Directory not found.
+Please verify the correct directory name was given.</translation>
+    </message>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 already exists.
+Do you want to replace it?</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Kind</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>Date Modified</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Computer</translation>
+    </message>
+    <message>
+        <source>My Computer</source>
+        <translation>My Computer</translation>
+    </message>
+    <message>
+        <source>Invalid filename</source>
+        <translation>Invalid filename</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
+        <translation>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</translation>
+    </message>
+</context>
+<context>
+    <name>QIODevice</name>
+    <message>
+        <source>Permission denied</source>
+        <translation>Permission denied</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Too many open files</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>No such file or directory</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>No space left on device</translation>
+    </message>
+    <message>
+        <source>file to open is a directory</source>
+        <translation>file to open is a directory</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>Unknown error</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cu&amp;t</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Paste</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Select All</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Yes</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
+    </message>
+</context>
+<context>
+    <name>QSaveFile</name>
+    <message>
+        <source>Existing file %1 is not writable</source>
+        <translation>Existing file %1 is not writable</translation>
+    </message>
+    <message>
+        <source>Filename refers to a directory</source>
+        <translation>Filename refers to a directory</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Scroll here</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Left edge</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Right edge</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Top</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Bottom</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Page left</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Page right</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Page up</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Page down</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Scroll left</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Scroll right</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Scroll up</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Scroll down</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cu&amp;t</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Copy &amp;Link Location</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Paste</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Select All</translation>
+    </message>
+</context>
+<context>
+    <name>SaveDialog</name>
+    <message>
+        <source>Save File</source>
+        <translation>Save File</translation>
+    </message>
+    <message>
+        <source>File path:</source>
+        <translation>File path:</translation>
+    </message>
+    <message>
+        <source>*File aready exists</source>
+        <translation>*File aready exists</translation>
+    </message>
+    <message>
+        <source>Recording start point (ms):</source>
+        <translation>Recording start point (ms):</translation>
+    </message>
+    <message>
+        <source>Recording end point (ms):</source>
+        <translation>Recording end point (ms):</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Save recording</source>
+        <translation>Save recording</translation>
+    </message>
+    <message>
+        <source>Save file</source>
+        <translation>Save file</translation>
+    </message>
+    <message>
+        <source>File already exists. Are you sure you want to overwrite it?</source>
+        <translation>File already exists. Are you sure you want to overwrite it?</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continue</translation>
+    </message>
+</context>
+<context>
+    <name>VectorDialog</name>
+    <message>
+        <source>Vectors</source>
+        <translation>Vectors</translation>
+    </message>
+    <message>
+        <source>Reference: </source>
+        <translation>Reference: </translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,948 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fi_FI" sourcelanguage="en_US">
+<context>
+    <name>AddPlotterDialog</name>
+    <message>
+        <source>Add Graph</source>
+        <translation>Lisää kuvaaja</translation>
+    </message>
+    <message>
+        <source>Graph name: </source>
+        <translation>Kuvaajan nimi: </translation>
+    </message>
+    <message>
+        <source>&gt;&gt;</source>
+        <translation>&gt;&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;&lt;</source>
+        <translation>&lt;&lt;</translation>
+    </message>
+</context>
+<context>
+    <name>CTVTDialog</name>
+    <message>
+        <source>Rescale CTVT</source>
+        <translation>Virta- ja jännitemuuntajien muuntosuhteet</translation>
+    </message>
+    <message>
+        <source>Signal</source>
+        <translation>Signaali</translation>
+    </message>
+    <message>
+        <source>Primary</source>
+        <translation>Ensiö</translation>
+    </message>
+    <message>
+        <source>Secondary</source>
+        <translation>Toisio</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>Aseta</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sulje</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Device Information</source>
+        <translation>Laitteen tiedot</translation>
+    </message>
+    <message>
+        <source>Location:</source>
+        <translation>Sijainti:</translation>
+    </message>
+    <message>
+        <source>Start Date:</source>
+        <translation>Alkupäivä:</translation>
+    </message>
+    <message>
+        <source>Start Time:</source>
+        <translation>Alkuaika:</translation>
+    </message>
+    <message>
+        <source>Convert To Localtime</source>
+        <translation>Muunna paikallisaikaan</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>Laite:</translation>
+    </message>
+    <message>
+        <source>Trigger Date:</source>
+        <translation>Liipaisupäivä:</translation>
+    </message>
+    <message>
+        <source>Trigger Time:</source>
+        <translation>Liipaisuaika:</translation>
+    </message>
+    <message>
+        <source>Analog Channels:</source>
+        <translation>Analogikanavat:</translation>
+    </message>
+    <message>
+        <source>Digital Channels:</source>
+        <translation>Digitaalikanavat:</translation>
+    </message>
+    <message>
+        <source>Created by </source>
+        <translation>Tekijä: </translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>Valmis</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Avaa...</translation>
+    </message>
+    <message>
+        <source>Open an existing file.</source>
+        <translation>Avaa olemassa oleva häiriötallenne.</translation>
+    </message>
+    <message>
+        <source>&amp;Save As..</source>
+        <translation>&amp;Tallenna nimellä..</translation>
+    </message>
+    <message>
+        <source>Save recording to file.</source>
+        <translation>Tallenna häiriötallenne tiedostoon.</translation>
+    </message>
+    <message>
+        <source>Save As &amp;Primary</source>
+        <translation>Tallenna &amp;ensiöarvoina</translation>
+    </message>
+    <message>
+        <source>Save as a primary type.</source>
+        <translation>Tallenna häiriötallenne ensiöarvoina.</translation>
+    </message>
+    <message>
+        <source>&amp;Add Plotter</source>
+        <translation>&amp;Lisää kuvaaja</translation>
+    </message>
+    <message>
+        <source>Add analog plotter.</source>
+        <translation>Lisää analogiakuvaaja.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Plotter</source>
+        <translation>&amp;Poista kuvaaja</translation>
+    </message>
+    <message>
+        <source>Remoe analog plotter.</source>
+        <translation>Poista analogiakuvaaja.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove All Cursors</source>
+        <translation>Poista kaikki &amp;kursorit</translation>
+    </message>
+    <message>
+        <source>Remove all cursors.</source>
+        <translation>Poista kaikki kursorit.</translation>
+    </message>
+    <message>
+        <source>&amp;Show Vectors</source>
+        <translation>Näytä &amp;osoittimet</translation>
+    </message>
+    <message>
+        <source>Show vectors dialog.</source>
+        <translation>Näytä osoitinikkuna.</translation>
+    </message>
+    <message>
+        <source>Rescale CTVT</source>
+        <translation>Muuta muuntosuhteita</translation>
+    </message>
+    <message>
+        <source>Set CTVT ratios.</source>
+        <translation>Aseta virta- ja jännitemuuntajien muuntosuhteet.</translation>
+    </message>
+    <message>
+        <source>&amp;Save screenshot</source>
+        <translation>&amp;Tallenna kuvakaappaus</translation>
+    </message>
+    <message>
+        <source>Save screenshot.</source>
+        <translation>Tallenna kuvakaappaus.</translation>
+    </message>
+    <message>
+        <source>&amp;Copy to clipboard</source>
+        <translation>&amp;Kopioi leikepöydälle</translation>
+    </message>
+    <message>
+        <source>Copy to clipboard.</source>
+        <translation>Kopioi leikepöydälle.</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>Lähennä</translation>
+    </message>
+    <message>
+        <source>Zoom in.</source>
+        <translation>Lähennä.</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Loitonna</translation>
+    </message>
+    <message>
+        <source>Zoom out.</source>
+        <translation>Loitonna.</translation>
+    </message>
+    <message>
+        <source>Zoom Reset</source>
+        <translation>Palauta zoomaus</translation>
+    </message>
+    <message>
+        <source>Zoom reset.</source>
+        <translation>Palauta zoomaus.</translation>
+    </message>
+    <message>
+        <source>Vertical Zoom In</source>
+        <translation>Lähennä pystysuunnassa</translation>
+    </message>
+    <message>
+        <source>Vertical zoom in.</source>
+        <translation>Lähennä pystysuunnassa.</translation>
+    </message>
+    <message>
+        <source>Vertical Zoom Out</source>
+        <translation>Loitonna pystysuunnassa</translation>
+    </message>
+    <message>
+        <source>Vertical zoom out.</source>
+        <translation>Loitonna pystysuunnassa.</translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation>&amp;Lopeta</translation>
+    </message>
+    <message>
+        <source>Exit the application.</source>
+        <translation>Lopeta ohjelma.</translation>
+    </message>
+    <message>
+        <source>&amp;About Wavorin</source>
+        <translation>&amp;Tietoja Wavorinista</translation>
+    </message>
+    <message>
+        <source>About Wavorin</source>
+        <translation>Tietoja Wavorinista</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Tiedosto</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Muokkaa</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Työkalut</translation>
+    </message>
+    <message>
+        <source>FFT</source>
+        <translation>FFT</translation>
+    </message>
+    <message>
+        <source>Prim/Sec</source>
+        <translation>Ensiö/toisio</translation>
+    </message>
+    <message>
+        <source>Primary/Secondary:</source>
+        <translation>Ensiö/toisio:</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Tiedosto</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Muokkaa</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>T&amp;yökalut</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Ohje</translation>
+    </message>
+    <message>
+        <source>Show FFT Angles</source>
+        <translation>Näytä FFT-kulmat</translation>
+    </message>
+    <message>
+        <source>Reference channel of the FFT angles</source>
+        <translation>FFT-kulmien vertailukanava</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Kieli</translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation>Avaa tiedosto</translation>
+    </message>
+    <message>
+        <source>DR-files (*.zip *.cfg *.txt)</source>
+        <translation>Häiriötallenteet (*.zip *.cfg *.txt)</translation>
+    </message>
+    <message>
+        <source>Cannot read file %1:
+%2.</source>
+        <translation>Tiedostoa %1 ei voi lukea:
+%2.</translation>
+    </message>
+    <message>
+        <source>File not supported.</source>
+        <translation>Tiedostoa ei tueta.</translation>
+    </message>
+    <message>
+        <source>File loaded</source>
+        <translation>Tiedosto ladattu</translation>
+    </message>
+    <message>
+        <source>Application</source>
+        <translation>Sovellus</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Virhe</translation>
+    </message>
+    <message>
+        <source>The zip file is not valid.
+Please select another file.</source>
+        <translation>Zip-tiedosto ei kelpaa.
+Valitse toinen tiedosto.</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Tallenna nimellä</translation>
+    </message>
+    <message>
+        <source>%1 Files (*.%2);;All Files (*)</source>
+        <translation>%1-tiedostot (*.%2);;Kaikki tiedostot (*)</translation>
+    </message>
+    <message>
+        <source>File saved.</source>
+        <translation>Tiedosto tallennettu.</translation>
+    </message>
+    <message>
+        <source>Cannot write file %1:
+%2.</source>
+        <translation>Tiedostoa %1 ei voi kirjoittaa:
+%2.</translation>
+    </message>
+    <message>
+        <source>Save recording</source>
+        <translation>Tallenna häiriötallenne</translation>
+    </message>
+    <message>
+        <source>Analog</source>
+        <translation>Analogia</translation>
+    </message>
+    <message>
+        <source>Digital</source>
+        <translation>Digitaali</translation>
+    </message>
+    <message>
+        <source>P</source>
+        <translation>Ensiö</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>Toisio</translation>
+    </message>
+    <message>
+        <source>Per Unit</source>
+        <translation>p.u.</translation>
+    </message>
+    <message>
+        <source>Graph %1</source>
+        <translation>Kuvaaja %1</translation>
+    </message>
+    <message>
+        <source>Start: %1    Trigger: %2</source>
+        <translation>Alku: %1    Liipaisu: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Plotter</name>
+    <message>
+        <source>Trigger: %1 ms</source>
+        <translation>Liipaisu: %1 ms</translation>
+    </message>
+    <message>
+        <source>%1 Plotter</source>
+        <translation>%1-kuvaaja</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Suure</translation>
+    </message>
+    <message>
+        <source>Remove Cursor</source>
+        <translation>Poista kursori</translation>
+    </message>
+    <message>
+        <source>Remove All Cursors</source>
+        <translation>Poista kaikki kursorit</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>V&amp;alitse kaikki</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>&amp;Suurenna</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>&amp;Pienennä</translation>
+    </message>
+</context>
+<context>
+    <name>QColorDialog</name>
+    <message>
+        <source>Select Color</source>
+        <translation>Valitse väri</translation>
+    </message>
+    <message>
+        <source>&amp;Basic colors</source>
+        <translation>&amp;Perusvärit</translation>
+    </message>
+    <message>
+        <source>&amp;Custom colors</source>
+        <translation>&amp;Omat värit</translation>
+    </message>
+    <message>
+        <source>&amp;Add to Custom Colors</source>
+        <translation>&amp;Lisää omiin väreihin</translation>
+    </message>
+    <message>
+        <source>&amp;Pick Screen Color</source>
+        <translation>Poimi väri &amp;näytöltä</translation>
+    </message>
+    <message>
+        <source>Cursor at %1, %2
+Press ESC to cancel</source>
+        <translation>Osoitin kohdassa %1, %2
+Peruuta painamalla Esc</translation>
+    </message>
+    <message>
+        <source>Hu&amp;e:</source>
+        <translation>Säv&amp;y:</translation>
+    </message>
+    <message>
+        <source>&amp;Sat:</source>
+        <translation>&amp;Kylläisyys:</translation>
+    </message>
+    <message>
+        <source>&amp;Val:</source>
+        <translation>K&amp;irkkaus:</translation>
+    </message>
+    <message>
+        <source>&amp;Red:</source>
+        <translation>P&amp;unainen:</translation>
+    </message>
+    <message>
+        <source>&amp;Green:</source>
+        <translation>&amp;Vihreä:</translation>
+    </message>
+    <message>
+        <source>Bl&amp;ue:</source>
+        <translation>&amp;Sininen:</translation>
+    </message>
+    <message>
+        <source>A&amp;lpha channel:</source>
+        <translation>Al&amp;fakanava:</translation>
+    </message>
+    <message>
+        <source>&amp;HTML:</source>
+        <translation>&amp;HTML:</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Avaa</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Tallenna</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>&amp;Valitse</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>Tiedoston &amp;nimi:</translation>
+    </message>
+    <message>
+        <source>Files of type:</source>
+        <translation>Tiedostotyyppi:</translation>
+    </message>
+    <message>
+        <source>Look in:</source>
+        <translation>Kansio:</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>Kansio:</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>Kaikki tiedostot (*)</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Takaisin</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Siirry takaisin</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Eteenpäin</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>Siirry eteenpäin</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>Yläkansio</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>Siirry yläkansioon</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>Luo uusi kansio</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>Luo uusi kansio</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>Uusi kansio</translation>
+    </message>
+    <message>
+        <source>List View</source>
+        <translation>Luettelonäkymä</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>Vaihda luettelonäkymään</translation>
+    </message>
+    <message>
+        <source>Detail View</source>
+        <translation>Yksityiskohtanäkymä</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>Vaihda yksityiskohtanäkymään</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>Sivupalkki</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>Sijaintien ja kirjanmerkkien luettelo</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Tiedostot</translation>
+    </message>
+    <message>
+        <source>Recent Places</source>
+        <translation>Viimeisimmät sijainnit</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Poista</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>Näytä </translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>Nimeä &amp;uudelleen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Poista</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>Näytä &amp;piilotiedostot</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>Uusi &amp;kansio</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>Asema</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Kansio</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>%1-tiedosto</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Tiedosto</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Tuntematon</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Poista</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>Haluatko varmasti poistaa kohteen ”%1”?</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>”%1” on kirjoitussuojattu.
+Poistetaanko se silti?</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>Kansiota ei voi poistaa.</translation>
+    </message>
+    <message>
+        <source>%1
+File not found.
+Please verify the correct file name was given.</source>
+        <translation>%1
+Tiedostoa ei löydy.
+Tarkista tiedoston nimi.</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+Kansiota ei löydy.
+Tarkista kansion nimi.</translation>
+    </message>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 on jo olemassa.
+Korvataanko se?</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nimi</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Koko</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tyyppi</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tyyppi</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>Muokattu</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>Tietokone</translation>
+    </message>
+    <message>
+        <source>My Computer</source>
+        <translation>Oma tietokone</translation>
+    </message>
+    <message>
+        <source>Invalid filename</source>
+        <translation>Virheellinen tiedostonimi</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
+        <translation>&lt;b&gt;Nimeä ”%1” ei voi käyttää.&lt;/b&gt;&lt;p&gt;Kokeile toista nimeä, jossa on vähemmän merkkejä tai ei välimerkkejä.</translation>
+    </message>
+</context>
+<context>
+    <name>QIODevice</name>
+    <message>
+        <source>Permission denied</source>
+        <translation>Käyttöoikeus puuttuu</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Liian monta avointa tiedostoa</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Tiedostoa tai kansiota ei ole</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>Levytila on lopussa</translation>
+    </message>
+    <message>
+        <source>file to open is a directory</source>
+        <translation>kohde on kansio</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>Tuntematon virhe</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Kumoa</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Tee uudelleen</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Leikkaa</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>K&amp;opioi</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>L&amp;iitä</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Poista</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Valitse kaikki</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Tallenna</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Avaa</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Peruuta</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sulje</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Kyllä</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Ei</translation>
+    </message>
+</context>
+<context>
+    <name>QSaveFile</name>
+    <message>
+        <source>Existing file %1 is not writable</source>
+        <translation>Tiedostoon %1 ei voi kirjoittaa</translation>
+    </message>
+    <message>
+        <source>Filename refers to a directory</source>
+        <translation>Tiedostonimi viittaa kansioon</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Vieritä tähän</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Vasen reuna</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Oikea reuna</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Alkuun</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Loppuun</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Sivu vasemmalle</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Sivu oikealle</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Sivu ylös</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Sivu alas</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Vieritä vasemmalle</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Vieritä oikealle</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Vieritä ylös</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Vieritä alas</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Kumoa</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Tee uudelleen</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Leikkaa</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>K&amp;opioi</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>Kopioi li&amp;nkin osoite</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>L&amp;iitä</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Poista</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Valitse kaikki</translation>
+    </message>
+</context>
+<context>
+    <name>SaveDialog</name>
+    <message>
+        <source>Save File</source>
+        <translation>Tallenna tiedosto</translation>
+    </message>
+    <message>
+        <source>File path:</source>
+        <translation>Tiedostopolku:</translation>
+    </message>
+    <message>
+        <source>*File aready exists</source>
+        <translation>*Tiedosto on jo olemassa</translation>
+    </message>
+    <message>
+        <source>Recording start point (ms):</source>
+        <translation>Tallenteen alkukohta (ms):</translation>
+    </message>
+    <message>
+        <source>Recording end point (ms):</source>
+        <translation>Tallenteen loppukohta (ms):</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Tallenna</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Peruuta</translation>
+    </message>
+    <message>
+        <source>Save recording</source>
+        <translation>Tallenna häiriötallenne</translation>
+    </message>
+    <message>
+        <source>Save file</source>
+        <translation>Tallenna tiedosto</translation>
+    </message>
+    <message>
+        <source>File already exists. Are you sure you want to overwrite it?</source>
+        <translation>Tiedosto on jo olemassa. Haluatko varmasti korvata sen?</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Jatka</translation>
+    </message>
+</context>
+<context>
+    <name>VectorDialog</name>
+    <message>
+        <source>Vectors</source>
+        <translation>Osoittimet</translation>
+    </message>
+    <message>
+        <source>Reference: </source>
+        <translation>Vertailu: </translation>
+    </message>
+</context>
+</TS>

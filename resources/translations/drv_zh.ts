@@ -1,0 +1,948 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en_US">
+<context>
+    <name>AddPlotterDialog</name>
+    <message>
+        <source>Add Graph</source>
+        <translation>添加曲线图</translation>
+    </message>
+    <message>
+        <source>Graph name: </source>
+        <translation>曲线图名称： </translation>
+    </message>
+    <message>
+        <source>&gt;&gt;</source>
+        <translation>&gt;&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;&lt;</source>
+        <translation>&lt;&lt;</translation>
+    </message>
+</context>
+<context>
+    <name>CTVTDialog</name>
+    <message>
+        <source>Rescale CTVT</source>
+        <translation>电流互感器和电压互感器变比</translation>
+    </message>
+    <message>
+        <source>Signal</source>
+        <translation>信号</translation>
+    </message>
+    <message>
+        <source>Primary</source>
+        <translation>一次侧</translation>
+    </message>
+    <message>
+        <source>Secondary</source>
+        <translation>二次侧</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>设置</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Device Information</source>
+        <translation>装置信息</translation>
+    </message>
+    <message>
+        <source>Location:</source>
+        <translation>厂站：</translation>
+    </message>
+    <message>
+        <source>Start Date:</source>
+        <translation>起始日期：</translation>
+    </message>
+    <message>
+        <source>Start Time:</source>
+        <translation>起始时间：</translation>
+    </message>
+    <message>
+        <source>Convert To Localtime</source>
+        <translation>转换为本地时间</translation>
+    </message>
+    <message>
+        <source>Device:</source>
+        <translation>装置：</translation>
+    </message>
+    <message>
+        <source>Trigger Date:</source>
+        <translation>触发日期：</translation>
+    </message>
+    <message>
+        <source>Trigger Time:</source>
+        <translation>触发时间：</translation>
+    </message>
+    <message>
+        <source>Analog Channels:</source>
+        <translation>模拟量通道：</translation>
+    </message>
+    <message>
+        <source>Digital Channels:</source>
+        <translation>开关量通道：</translation>
+    </message>
+    <message>
+        <source>Created by </source>
+        <translation>开发者： </translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>就绪</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>打开(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>Open an existing file.</source>
+        <translation>打开已有的故障录波文件。</translation>
+    </message>
+    <message>
+        <source>&amp;Save As..</source>
+        <translation>另存为(&amp;S)..</translation>
+    </message>
+    <message>
+        <source>Save recording to file.</source>
+        <translation>将故障录波保存到文件。</translation>
+    </message>
+    <message>
+        <source>Save As &amp;Primary</source>
+        <translation>另存为一次值(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Save as a primary type.</source>
+        <translation>以一次值保存故障录波。</translation>
+    </message>
+    <message>
+        <source>&amp;Add Plotter</source>
+        <translation>添加曲线图(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Add analog plotter.</source>
+        <translation>添加模拟量曲线图。</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Plotter</source>
+        <translation>删除曲线图(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Remoe analog plotter.</source>
+        <translation>删除模拟量曲线图。</translation>
+    </message>
+    <message>
+        <source>&amp;Remove All Cursors</source>
+        <translation>清除所有游标(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Remove all cursors.</source>
+        <translation>清除所有游标。</translation>
+    </message>
+    <message>
+        <source>&amp;Show Vectors</source>
+        <translation>显示相量图(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Show vectors dialog.</source>
+        <translation>显示相量图窗口。</translation>
+    </message>
+    <message>
+        <source>Rescale CTVT</source>
+        <translation>修改互感器变比</translation>
+    </message>
+    <message>
+        <source>Set CTVT ratios.</source>
+        <translation>设置电流互感器和电压互感器变比。</translation>
+    </message>
+    <message>
+        <source>&amp;Save screenshot</source>
+        <translation>保存截图(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save screenshot.</source>
+        <translation>保存截图。</translation>
+    </message>
+    <message>
+        <source>&amp;Copy to clipboard</source>
+        <translation>复制到剪贴板(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy to clipboard.</source>
+        <translation>复制到剪贴板。</translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Zoom in.</source>
+        <translation>放大。</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>Zoom out.</source>
+        <translation>缩小。</translation>
+    </message>
+    <message>
+        <source>Zoom Reset</source>
+        <translation>复位缩放</translation>
+    </message>
+    <message>
+        <source>Zoom reset.</source>
+        <translation>复位缩放。</translation>
+    </message>
+    <message>
+        <source>Vertical Zoom In</source>
+        <translation>垂直放大</translation>
+    </message>
+    <message>
+        <source>Vertical zoom in.</source>
+        <translation>垂直放大。</translation>
+    </message>
+    <message>
+        <source>Vertical Zoom Out</source>
+        <translation>垂直缩小</translation>
+    </message>
+    <message>
+        <source>Vertical zoom out.</source>
+        <translation>垂直缩小。</translation>
+    </message>
+    <message>
+        <source>E&amp;xit</source>
+        <translation>退出(&amp;X)</translation>
+    </message>
+    <message>
+        <source>Exit the application.</source>
+        <translation>退出程序。</translation>
+    </message>
+    <message>
+        <source>&amp;About Wavorin</source>
+        <translation>关于 Wavorin(&amp;A)</translation>
+    </message>
+    <message>
+        <source>About Wavorin</source>
+        <translation>关于 Wavorin</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>工具</translation>
+    </message>
+    <message>
+        <source>FFT</source>
+        <translation>FFT</translation>
+    </message>
+    <message>
+        <source>Prim/Sec</source>
+        <translation>一次/二次</translation>
+    </message>
+    <message>
+        <source>Primary/Secondary:</source>
+        <translation>一次/二次：</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>文件(&amp;F)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>编辑(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>工具(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Show FFT Angles</source>
+        <translation>显示 FFT 相角</translation>
+    </message>
+    <message>
+        <source>Reference channel of the FFT angles</source>
+        <translation>FFT 相角的参考通道</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>Open File</source>
+        <translation>打开文件</translation>
+    </message>
+    <message>
+        <source>DR-files (*.zip *.cfg *.txt)</source>
+        <translation>故障录波文件 (*.zip *.cfg *.txt)</translation>
+    </message>
+    <message>
+        <source>Cannot read file %1:
+%2.</source>
+        <translation>无法读取文件 %1：
+%2。</translation>
+    </message>
+    <message>
+        <source>File not supported.</source>
+        <translation>不支持该文件。</translation>
+    </message>
+    <message>
+        <source>File loaded</source>
+        <translation>文件已加载</translation>
+    </message>
+    <message>
+        <source>Application</source>
+        <translation>应用程序</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>The zip file is not valid.
+Please select another file.</source>
+        <translation>ZIP 文件无效。
+请选择其他文件。</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>另存为</translation>
+    </message>
+    <message>
+        <source>%1 Files (*.%2);;All Files (*)</source>
+        <translation>%1 文件 (*.%2);;所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>File saved.</source>
+        <translation>文件已保存。</translation>
+    </message>
+    <message>
+        <source>Cannot write file %1:
+%2.</source>
+        <translation>无法写入文件 %1：
+%2。</translation>
+    </message>
+    <message>
+        <source>Save recording</source>
+        <translation>保存故障录波</translation>
+    </message>
+    <message>
+        <source>Analog</source>
+        <translation>模拟量</translation>
+    </message>
+    <message>
+        <source>Digital</source>
+        <translation>开关量</translation>
+    </message>
+    <message>
+        <source>P</source>
+        <translation>一次值</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>二次值</translation>
+    </message>
+    <message>
+        <source>Per Unit</source>
+        <translation>标幺值</translation>
+    </message>
+    <message>
+        <source>Graph %1</source>
+        <translation>曲线图 %1</translation>
+    </message>
+    <message>
+        <source>Start: %1    Trigger: %2</source>
+        <translation>起始：%1    触发：%2</translation>
+    </message>
+</context>
+<context>
+    <name>Plotter</name>
+    <message>
+        <source>Trigger: %1 ms</source>
+        <translation>触发：%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 Plotter</source>
+        <translation>%1曲线图</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <source>Remove Cursor</source>
+        <translation>删除游标</translation>
+    </message>
+    <message>
+        <source>Remove All Cursors</source>
+        <translation>清除所有游标</translation>
+    </message>
+</context>
+<context>
+    <name>QAbstractSpinBox</name>
+    <message>
+        <source>&amp;Select All</source>
+        <translation>全选(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Step up</source>
+        <translation>增加(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Step &amp;down</source>
+        <translation>减少(&amp;D)</translation>
+    </message>
+</context>
+<context>
+    <name>QColorDialog</name>
+    <message>
+        <source>Select Color</source>
+        <translation>选择颜色</translation>
+    </message>
+    <message>
+        <source>&amp;Basic colors</source>
+        <translation>基本颜色(&amp;B)</translation>
+    </message>
+    <message>
+        <source>&amp;Custom colors</source>
+        <translation>自定义颜色(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Add to Custom Colors</source>
+        <translation>添加到自定义颜色(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Pick Screen Color</source>
+        <translation>从屏幕取色(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Cursor at %1, %2
+Press ESC to cancel</source>
+        <translation>光标位于 %1, %2
+按 Esc 键取消</translation>
+    </message>
+    <message>
+        <source>Hu&amp;e:</source>
+        <translation>色调(&amp;E)：</translation>
+    </message>
+    <message>
+        <source>&amp;Sat:</source>
+        <translation>饱和度(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>&amp;Val:</source>
+        <translation>亮度(&amp;V)：</translation>
+    </message>
+    <message>
+        <source>&amp;Red:</source>
+        <translation>红(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>&amp;Green:</source>
+        <translation>绿(&amp;G)：</translation>
+    </message>
+    <message>
+        <source>Bl&amp;ue:</source>
+        <translation>蓝(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>A&amp;lpha channel:</source>
+        <translation>透明度(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>&amp;HTML:</source>
+        <translation>&amp;HTML：</translation>
+    </message>
+</context>
+<context>
+    <name>QFileDialog</name>
+    <message>
+        <source>&amp;Open</source>
+        <translation>打开(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Choose</source>
+        <translation>选择(&amp;C)</translation>
+    </message>
+    <message>
+        <source>File &amp;name:</source>
+        <translation>文件名(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>Files of type:</source>
+        <translation>文件类型：</translation>
+    </message>
+    <message>
+        <source>Look in:</source>
+        <translation>查找范围：</translation>
+    </message>
+    <message>
+        <source>Directory:</source>
+        <translation>目录：</translation>
+    </message>
+    <message>
+        <source>All Files (*)</source>
+        <translation>所有文件 (*)</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>后退</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>后退</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>前进</translation>
+    </message>
+    <message>
+        <source>Go forward</source>
+        <translation>前进</translation>
+    </message>
+    <message>
+        <source>Parent Directory</source>
+        <translation>上级目录</translation>
+    </message>
+    <message>
+        <source>Go to the parent directory</source>
+        <translation>转到上级目录</translation>
+    </message>
+    <message>
+        <source>Create New Folder</source>
+        <translation>新建文件夹</translation>
+    </message>
+    <message>
+        <source>Create a New Folder</source>
+        <translation>新建文件夹</translation>
+    </message>
+    <message>
+        <source>New Folder</source>
+        <translation>新文件夹</translation>
+    </message>
+    <message>
+        <source>List View</source>
+        <translation>列表视图</translation>
+    </message>
+    <message>
+        <source>Change to list view mode</source>
+        <translation>切换到列表视图</translation>
+    </message>
+    <message>
+        <source>Detail View</source>
+        <translation>详细视图</translation>
+    </message>
+    <message>
+        <source>Change to detail view mode</source>
+        <translation>切换到详细视图</translation>
+    </message>
+    <message>
+        <source>Sidebar</source>
+        <translation>侧边栏</translation>
+    </message>
+    <message>
+        <source>List of places and bookmarks</source>
+        <translation>位置和书签列表</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Recent Places</source>
+        <translation>最近访问的位置</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Show </source>
+        <translation>显示 </translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>重命名(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Show &amp;hidden files</source>
+        <translation>显示隐藏文件(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;New Folder</source>
+        <translation>新建文件夹(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Drive</source>
+        <translation>驱动器</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>%1 File</source>
+        <translation>%1 文件</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete &apos;%1&apos;?</source>
+        <translation>确定要删除“%1”吗？</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is write protected.
+Do you want to delete it anyway?</source>
+        <translation>“%1”是写保护的。
+仍要删除它吗？</translation>
+    </message>
+    <message>
+        <source>Could not delete directory.</source>
+        <translation>无法删除目录。</translation>
+    </message>
+    <message>
+        <source>%1
+File not found.
+Please verify the correct file name was given.</source>
+        <translation>%1
+找不到文件。
+请检查文件名是否正确。</translation>
+    </message>
+    <message>
+        <source>%1
+Directory not found.
+Please verify the correct directory name was given.</source>
+        <translation>%1
+找不到目录。
+请检查目录名是否正确。</translation>
+    </message>
+    <message>
+        <source>%1 already exists.
+Do you want to replace it?</source>
+        <translation>%1 已存在。
+要替换它吗？</translation>
+    </message>
+</context>
+<context>
+    <name>QFileSystemModel</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Date Modified</source>
+        <translation>修改日期</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>计算机</translation>
+    </message>
+    <message>
+        <source>My Computer</source>
+        <translation>我的电脑</translation>
+    </message>
+    <message>
+        <source>Invalid filename</source>
+        <translation>文件名无效</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;The name &quot;%1&quot; cannot be used.&lt;/b&gt;&lt;p&gt;Try using another name, with fewer characters or no punctuation marks.</source>
+        <translation>&lt;b&gt;不能使用名称“%1”。&lt;/b&gt;&lt;p&gt;请换一个更短或不含标点符号的名称。</translation>
+    </message>
+</context>
+<context>
+    <name>QIODevice</name>
+    <message>
+        <source>Permission denied</source>
+        <translation>权限不足</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>打开的文件过多</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>文件或目录不存在</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>磁盘空间不足</translation>
+    </message>
+    <message>
+        <source>file to open is a directory</source>
+        <translation>要打开的是目录</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>未知错误</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>剪切(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>粘贴(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>是(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>否(&amp;N)</translation>
+    </message>
+</context>
+<context>
+    <name>QSaveFile</name>
+    <message>
+        <source>Existing file %1 is not writable</source>
+        <translation>文件 %1 不可写</translation>
+    </message>
+    <message>
+        <source>Filename refers to a directory</source>
+        <translation>文件名指向一个目录</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>滚动到此处</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>左边缘</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>右边缘</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>顶部</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>底部</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>向左翻页</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>向右翻页</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>向上翻页</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>向下翻页</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>向左滚动</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>向右滚动</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>向上滚动</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>向下滚动</translation>
+    </message>
+</context>
+<context>
+    <name>QWidgetTextControl</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>剪切(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Link Location</source>
+        <translation>复制链接地址(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>粘贴(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>全选</translation>
+    </message>
+</context>
+<context>
+    <name>SaveDialog</name>
+    <message>
+        <source>Save File</source>
+        <translation>保存文件</translation>
+    </message>
+    <message>
+        <source>File path:</source>
+        <translation>文件路径：</translation>
+    </message>
+    <message>
+        <source>*File aready exists</source>
+        <translation>*文件已存在</translation>
+    </message>
+    <message>
+        <source>Recording start point (ms):</source>
+        <translation>录波起始点 (ms)：</translation>
+    </message>
+    <message>
+        <source>Recording end point (ms):</source>
+        <translation>录波结束点 (ms)：</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Save recording</source>
+        <translation>保存故障录波</translation>
+    </message>
+    <message>
+        <source>Save file</source>
+        <translation>保存文件</translation>
+    </message>
+    <message>
+        <source>File already exists. Are you sure you want to overwrite it?</source>
+        <translation>文件已存在。确定要覆盖它吗？</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>继续</translation>
+    </message>
+</context>
+<context>
+    <name>VectorDialog</name>
+    <message>
+        <source>Vectors</source>
+        <translation>相量图</translation>
+    </message>
+    <message>
+        <source>Reference: </source>
+        <translation>参考： </translation>
+    </message>
+</context>
+</TS>
