@@ -204,7 +204,7 @@ private:
     {
         long long number = 0;
         long long time = -1;
-        const auto values = static_cast<size_t>(m_analog + m_digital);
+        const auto values = static_cast<size_t>(m_analog) + static_cast<size_t>(m_digital);
         while (static_cast<size_t>(m_line) < m_lines.size()) {
             Fields fields = next();
             if (m_digital == 0 && fields.size() == values + 3 && fields.back().empty())
