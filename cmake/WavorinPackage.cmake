@@ -14,7 +14,8 @@ set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://www.norvale.example")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # One of the three kinds of recordings cannot be opened without an archiver.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "7zip | p7zip-full")
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS "fonts-noto-cjk")
+# The Chinese face needs letters that a bare system lacks.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-noto-cjk")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "viewer for disturbance recordings of protection relays")
 set(CPACK_PACKAGE_DESCRIPTION
 "Wavorin shows what happened in a power system, when, and how large it was.
