@@ -1,4 +1,5 @@
 #include "cursorplotter.h"
+#include "drawingcounter.h"
 #include "fakedialoghost.h"
 #include "phasorrecording.h"
 #include "pseudotranslator.h"
@@ -257,13 +258,18 @@ void TestVectorDialog::redrawsEveryPanelWhenTheReferenceChanges()
     addPanel();
     addPanel();
     show();
-    QTRY_VERIFY(!isWaiting(panels().at(0)) && !isWaiting(panels().at(2)));
+    QTest::qWait(200); // for the drawings that being shown brings
+    std::vector<std::unique_ptr<DrawingCounter>> counters;
+    for (const VectorWidget *panel : panels())
+        counters.push_back(std::make_unique<DrawingCounter>(panel));
     references()->setCurrentIndex(1);
     for (const VectorWidget *panel : panels())
         QVERIFY(isWaiting(panel));
-    QTest::qWait(200);
-    for (const VectorWidget *panel : panels())
-        QVERIFY(!isWaiting(panel)); // each has drawn, and once
+    for (const auto &counter : counters)
+        QTRY_COMPARE(counter->count(), 1);
+    QTest::qWait(100);
+    for (const auto &counter : counters)
+        QCOMPARE(counter->count(), 1);
 }
 
 void TestVectorDialog::turnsEveryPanelByTheReference()
