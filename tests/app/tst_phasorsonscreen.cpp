@@ -151,6 +151,7 @@ void tst_PhasorsOnScreen::open(int frequency, int rate, const QList<Signal> &ana
     QVERIFY(window->recording());
     trigger("&Show Vectors");
     QVERIFY(QTest::qWaitForWindowExposed(dialog()));
+    QVERIFY(!panels().isEmpty());
     QTRY_VERIFY(!diagram(panels().first()).isNull());
     checkAll(panels().first());
 }
