@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -138,11 +139,15 @@ void drawDigitalRow(QPainter &painter, const PlotGeometry &geometry, const TimeA
     const QRect area = geometry.area();
     const auto xOf
         = [&](int sample) { return PlotGeometry::pixel(geometry.traceX(times[sample])); };
+    if (runs.end(runs.count() - 1) >= times.size())
+        return;
     const int first = axis.isAscending()
         ? runs.runOf(std::max(0, axis.firstAtOrAfter(geometry.view().minX) - 1))
         : 0;
     painter.setPen(rowColor);
     painter.setBrush(bandColor);
+    int drawnX = std::numeric_limits<int>::min(); // of the last stretch within one pixel column
+    bool drawnOn = false;
     for (int run = first; run < runs.count(); ++run) {
         const int from = xOf(runs.start(run));
         const int to = xOf(runs.end(run));
@@ -156,6 +161,12 @@ void drawDigitalRow(QPainter &painter, const PlotGeometry &geometry, const TimeA
             const int last = runs.runOf(static_cast<int>(next - times.cbegin()) - 1);
             isOn = isOn || last > run + 1;
             run = std::max(run, last - 1);
+        }
+        if (from == to) {
+            if (from == drawnX && isOn == drawnOn)
+                continue;
+            drawnX = from;
+            drawnOn = isOn;
         }
         if (!isOn)
             painter.drawLine(from, y, to, y);

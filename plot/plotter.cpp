@@ -387,5 +387,5 @@ void Plotter::showEvent(QShowEvent * /*event*/)
 
 void Plotter::hideEvent(QHideEvent * /*event*/)
 {
-    releaseGrab();
+    letGo();
 }

@@ -121,6 +121,7 @@ public slots:
 
 protected:
     bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
@@ -187,6 +188,7 @@ private:
     void removeCursors(int first, int last);
     void dragCursor(int x);
     void releaseGrab();
+    void letGo();
     void closeTitleEditor();
     void takePress(const QPoint &position);
     void editTitle();

@@ -6,6 +6,7 @@
 #include "labeltext.h"
 #include "plothost.h"
 
+#include <QApplication>
 #include <QColorDialog>
 #include <QContextMenuEvent>
 #include <QHelpEvent>
@@ -38,7 +39,7 @@ int caught(int position, int from, int to)
 bool Plotter::event(QEvent *event)
 {
     if (event->type() == QEvent::WindowDeactivate)
-        releaseGrab();
+        letGo();
     if (event->type() != QEvent::ToolTip)
         return QWidget::event(event);
     // The cells of the readout are elided where there are many cursors.
@@ -56,6 +57,26 @@ void Plotter::releaseGrab()
     pressedKey = -1;
 }
 
+// Neither keys nor buttons are told of any more.
+void Plotter::letGo()
+{
+    releaseGrab();
+    draggingTimeLine = false;
+    draggedLabel = nullptr;
+    if (rubberBandShown)
+        hideBand();
+}
+
+// Sees the release of a key wherever it goes: it may reach another widget than the press did.
+bool Plotter::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyRelease) {
+        pressedKey = -1;
+        qApp->removeEventFilter(this);
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
 void Plotter::mousePressEvent(QMouseEvent *event)
 {
     auto *label = qobject_cast<CustomLabel *>(childAt(event->pos()));
@@ -68,6 +89,7 @@ void Plotter::mousePressEvent(QMouseEvent *event)
     const QPoint point(caught(event->pos().x(), area.left(), area.right()),
         caught(event->pos().y(), area.top(), area.bottom()));
     if (event->button() == Qt::LeftButton && area.contains(point)) {
+        hideBand(); // one whose end was not told
         rubberBandRect = QRect(point, point);
         rubberBandShown = true;
         updateBand();
@@ -88,7 +110,9 @@ void Plotter::takePress(const QPoint &position)
 
 void Plotter::mouseMoveEvent(QMouseEvent *event)
 {
-    if (!labelEditor->isVisible() && isActiveWindow())
+    // A title editor, of this plot or another, keeps the keyboard while it is shown.
+    if (QWidget::keyboardGrabber() != this && isActiveWindow()
+        && !qobject_cast<QLineEdit *>(QWidget::keyboardGrabber()))
         grabKeyboard();
     const QPoint point = event->pos();
     if (draggingTimeLine)
@@ -137,6 +161,8 @@ void Plotter::mouseDoubleClickEvent(QMouseEvent *event)
     if (qobject_cast<CustomLabel *>(label))
         return;
     hideBand();
+    if (cursorMarks.isFull())
+        return;
     addCursor(event->pos().x(), event->pos().y());
     if (mainWindow)
         mainWindow->refreshVectors();
@@ -205,7 +231,12 @@ void Plotter::wheelEvent(QWheelEvent *event)
 
 void Plotter::keyPressEvent(QKeyEvent *event)
 {
+    if (labelEditor->isVisible()) { // a key that the editor has no use for
+        QWidget::keyPressEvent(event);
+        return;
+    }
     pressedKey = event->key();
+    qApp->installEventFilter(this);
     QScrollBar *bar = mainWindow ? mainWindow->horizontalScrollBar() : nullptr;
     const auto turnBar = [&](int steps) {
         if (bar)
@@ -248,7 +279,8 @@ void Plotter::keyReleaseEvent(QKeyEvent * /*event*/)
 
 void Plotter::leaveEvent(QEvent * /*event*/)
 {
-    releaseGrab();
+    if (QWidget::keyboardGrabber() == this)
+        releaseKeyboard();
 }
 
 void Plotter::contextMenuEvent(QContextMenuEvent *event)
@@ -259,9 +291,7 @@ void Plotter::contextMenuEvent(QContextMenuEvent *event)
         event->ignore();
         return;
     }
-    draggingTimeLine = false;
-    draggedLabel = nullptr;
-    releaseGrab();
+    letGo();
     auto *menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     connect(menu->addAction(tr("Remove Cursor")), &QAction::triggered, this,

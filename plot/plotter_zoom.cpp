@@ -225,9 +225,13 @@ bool Plotter::zoomToBand(bool withValues)
     if (zoomStack.isEmpty() || band.right() - band.left() <= 2 || band.bottom() - band.top() <= 2)
         return false;
     PlotSettings zoomed = bandView(band, withValues);
-    if (!PlotSettings::isUsable(zoomed.minX, zoomed.maxX)
-        || !PlotSettings::isUsable(zoomed.minY, zoomed.maxY))
+    if (!PlotSettings::isUsable(zoomed.minX, zoomed.maxX))
         return false;
+    // A range of values too narrow to be shown stays, and the time is zoomed alone.
+    if (!PlotSettings::isUsable(zoomed.minY, zoomed.maxY)) {
+        withValues = false;
+        zoomed = bandView(band, withValues);
+    }
     horizontalZoom = zoomed.spanX() / homeSettings.spanX();
     sharedHorizontalZoom = horizontalZoom;
     PlotSettings::adjustAxis(zoomed.minX, zoomed.maxX, zoomed.numXTicks);

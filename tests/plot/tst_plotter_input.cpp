@@ -3,8 +3,10 @@
 #include <QColorDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QTimer>
 
+#include <functional>
 #include <memory>
 
 namespace {
@@ -43,6 +45,11 @@ private slots:
     void theBandIsDrawnWhileItGrows();
     void otherButtonsDrawNoBand();
     void aPressElsewhereGivesUpTheBandsOfLinkedPlots();
+    void aPressElsewhereClosesTheEditorsOfLinkedPlots();
+    void aBandTooNarrowInValuesZoomsTime();
+    void aBandEndsWithTheWindowsActivation();
+    void aDragEndsWhenThePlotIsHidden();
+    void aDoubleClickHidesABand();
     void afterABandTheScrollBarIsRanged();
     void afterABandANewPlotIsInStep();
 
@@ -61,6 +68,10 @@ private slots:
     void theGrabEndsWithTheWindowsActivation();
     void theGrabEndsWhenThePlotIsHidden();
     void noGrabWhileTheTitleIsEdited();
+    void noGrabInAnInactiveWindow();
+    void noGrabWhileAMenuIsOpen();
+    void keysOfTheTitleEditorStayThere();
+    void aKeyStaysHeldWhileThePointerIsAway();
 
     void returnCommitsTheTitle();
     void leavingTheEditorKeepsTheTitle();
@@ -68,6 +79,7 @@ private slots:
 
     void aChannelLabelOffersColours_data();
     void aChannelLabelOffersColours();
+    void aChosenColourStays();
     void otherLabelsOfferNone();
 
 private:
@@ -114,6 +126,14 @@ void tst_PlotterInput::smallBandsDoNotZoom_data()
     QTest::newRow("3 pixels wide") << QPoint(3, 100) << true;
     QTest::newRow("2 pixels high") << QPoint(100, 2) << false;
     QTest::newRow("3 pixels high") << QPoint(100, 3) << true;
+    QTest::newRow("2 pixels wide, up to the left") << QPoint(-2, -50) << false;
+    QTest::newRow("3 pixels wide, up to the left") << QPoint(-3, -50) << true;
+    QTest::newRow("2 pixels wide, down to the left") << QPoint(-2, 50) << false;
+    QTest::newRow("3 pixels wide, down to the left") << QPoint(-3, 50) << true;
+    QTest::newRow("2 pixels high, up to the right") << QPoint(50, -2) << false;
+    QTest::newRow("3 pixels high, up to the right") << QPoint(50, -3) << true;
+    QTest::newRow("2 pixels high, up to the left") << QPoint(-50, -2) << false;
+    QTest::newRow("3 pixels high, up to the left") << QPoint(-50, -3) << true;
     QTest::newRow("a click") << QPoint(0, 0) << false;
 }
 
@@ -138,6 +158,7 @@ void tst_PlotterInput::aBandBegunBesideTheAreaBeginsOnItsEdge_data()
     QTest::newRow("20 pixels left") << QPoint(80, 150) << QPoint() << false;
     QTest::newRow("19 pixels below") << QPoint(400, 279) << QPoint(400, 260) << true;
     QTest::newRow("20 pixels below") << QPoint(400, 280) << QPoint() << false;
+    QTest::newRow("beside a corner") << QPoint(85, 45) << QPoint(100, 60) << true;
     QTest::newRow("right of the edge") << QPoint(802, 150) << QPoint(800, 150) << true;
 }
 
@@ -196,6 +217,73 @@ void tst_PlotterInput::aPressElsewhereGivesUpTheBandsOfLinkedPlots()
     QCOMPARE(pair->other->cursor().shape(), Qt::CrossCursor);
     QTest::mousePress(pair->plot, Qt::RightButton, {}, {400, 100});
     QVERIFY(pair->other->cursor().shape() != Qt::CrossCursor);
+}
+
+void tst_PlotterInput::aPressElsewhereClosesTheEditorsOfLinkedPlots()
+{
+    QTest::mouseDClick(pair->other, Qt::LeftButton, {}, {100, 30});
+    QVERIFY(pair->other->findChild<QLineEdit *>()->isVisible());
+    QTest::mousePress(pair->plot, Qt::LeftButton, {}, {50, 150}); // left of the plot area
+    QVERIFY(!pair->other->findChild<QLineEdit *>()->isVisible());
+    QVERIFY(!QWidget::keyboardGrabber());
+}
+
+// A digital plot does not show its range of values, and nothing but Zoom Reset widens it.
+void tst_PlotterInput::aBandTooNarrowInValuesZoomsTime()
+{
+    for (int i = 0; i < 20; ++i) {
+        const double before = pair->digital->view().spanX();
+        PlotPair::drag(pair->digital, {300, 120}, {500, 130});
+        QVERIFY(pair->digital->view().spanX() < before);
+        pair->digital->customZoomOut();
+    }
+}
+
+void tst_PlotterInput::aBandEndsWithTheWindowsActivation()
+{
+    QTest::mousePress(pair->plot, Qt::LeftButton, {}, {300, 100});
+    PlotPair::move(pair->plot, {400, 150}, Qt::LeftButton);
+    QEvent deactivate(QEvent::WindowDeactivate);
+    QApplication::sendEvent(pair->plot, &deactivate);
+    QCOMPARE(pair->plot->cursor().shape(), Qt::ArrowCursor);
+    PlotPair::move(pair->plot, {500, 200});
+    const QRgb light = pair->plot->palette().light().color().rgb();
+    QVERIFY(pair->plot->grab().toImage().pixel(300, 150) != light);
+    QTest::mouseRelease(pair->plot, Qt::LeftButton, {}, {500, 200});
+    QCOMPARE(ends(pair->plot->view()), Ends({0, 1000, -12, 12}));
+}
+
+void tst_PlotterInput::aDragEndsWhenThePlotIsHidden()
+{
+    QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {300, 150});
+    const double time = pair->plot->cursors().first();
+    QTest::mousePress(pair->plot, Qt::LeftButton, {},
+        PlotPair::lineLabels(pair->plot).first()->geometry().center());
+    pair->plot->hide();
+    pair->plot->show();
+    PlotPair::move(pair->plot, {400, 150});
+    QCOMPARE(pair->plot->cursors().first(), time);
+}
+
+void tst_PlotterInput::aDoubleClickHidesABand()
+{
+    for (const int cursors : {1, 20}) {
+        while (pair->plot->cursors().size() < cursors - 1)
+            pair->plot->addCursor(150 + 20 * pair->plot->cursors().size(), 150);
+        QTest::mousePress(pair->plot, Qt::LeftButton, {}, {300, 180});
+        QCOMPARE(pair->plot->cursor().shape(), Qt::CrossCursor);
+        QMouseEvent event(QEvent::MouseButtonDblClick, QPointF(350, 200), Qt::RightButton,
+            Qt::LeftButton | Qt::RightButton, {});
+        QApplication::sendEvent(pair->plot, &event);
+        QCOMPARE(pair->plot->cursor().shape(), Qt::ArrowCursor);
+        QCOMPARE(pair->plot->cursors().size(), cursors);
+    }
+    const int refreshes = pair->host.vectorRefreshes;
+    QTest::mousePress(pair->plot, Qt::LeftButton, {}, {300, 180});
+    QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {350, 200});
+    QCOMPARE(pair->plot->cursors().size(), 20);
+    QCOMPARE(pair->plot->cursor().shape(), Qt::ArrowCursor);
+    QCOMPARE(pair->host.vectorRefreshes, refreshes);
 }
 
 void tst_PlotterInput::afterABandTheScrollBarIsRanged()
@@ -367,6 +455,60 @@ void tst_PlotterInput::noGrabWhileTheTitleIsEdited()
     QCOMPARE(QWidget::keyboardGrabber(), pair->plot->findChild<QLineEdit *>());
 }
 
+void tst_PlotterInput::noGrabInAnInactiveWindow()
+{
+    QWidget window;
+    window.show();
+    QApplication::setActiveWindow(&window);
+    PlotPair::move(pair->plot, {300, 100});
+    QVERIFY(!QWidget::keyboardGrabber());
+}
+
+void tst_PlotterInput::noGrabWhileAMenuIsOpen()
+{
+    QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {300, 150});
+    PlotPair::move(pair->plot, {350, 150});
+    QCOMPARE(QWidget::keyboardGrabber(), pair->plot);
+    QContextMenuEvent event(
+        QContextMenuEvent::Keyboard, PlotPair::lineLabels(pair->plot).first()->geometry().center());
+    QApplication::sendEvent(pair->plot, &event);
+    QVERIFY(pair->plot->findChild<QMenu *>());
+    QVERIFY(QWidget::keyboardGrabber() != pair->plot);
+}
+
+void tst_PlotterInput::keysOfTheTitleEditorStayThere()
+{
+    QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {100, 30});
+    auto *editor = pair->plot->findChild<QLineEdit *>();
+    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Control})
+        QTest::keyPress(editor, key);
+    PlotPair::wheel(pair->other, {0, 60});
+    QCOMPARE(ends(pair->plot->view()), Ends({0, 1000, -12, 12}));
+    QCOMPARE(ends(pair->other->view()), Ends({0, 1000, -12, 12}));
+    PlotPair::move(pair->other, {300, 100}); // the plot beside it leaves the keyboard to it
+    QCOMPARE(QWidget::keyboardGrabber(), editor);
+    QTest::keyClick(editor, Qt::Key_Return);
+    PlotPair::wheel(pair->plot, {0, 120});
+    QCOMPARE(ends(pair->plot->view()), Ends({0, 1000, -9, 15}));
+}
+
+void tst_PlotterInput::aKeyStaysHeldWhileThePointerIsAway()
+{
+    const auto awayAndBack = [&](const std::function<void()> &meanwhile) {
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(pair->plot, &leave);
+        meanwhile();
+        PlotPair::move(pair->plot, {300, 100});
+        PlotPair::wheel(pair->plot, {0, 120});
+    };
+    PlotPair::move(pair->plot, {300, 100});
+    hold(Qt::Key_Control);
+    awayAndBack([] {});
+    QCOMPARE(ends(pair->plot->view()), Ends({0, 500, -12, 12}));
+    awayAndBack([&] { QTest::keyRelease(&pair->area, Qt::Key_Control); });
+    QCOMPARE(ends(pair->plot->view()), Ends({0, 500, -9, 15}));
+}
+
 void tst_PlotterInput::returnCommitsTheTitle()
 {
     auto *editor = pair->plot->findChild<QLineEdit *>();
@@ -429,6 +571,38 @@ void tst_PlotterInput::aChannelLabelOffersColours()
     QCOMPARE(initial, QColor(Qt::white));
     QTEST(label->palette().color(label->foregroundRole()), "color");
     QVERIFY(pair->plot->cursors().isEmpty());
+}
+
+void tst_PlotterInput::aChosenColourStays()
+{
+    const QColor chosen(1, 250, 3);
+    const auto traces = [&] {
+        const QImage image = pair->plot->grab().toImage();
+        int found = 0;
+        for (int x = 101; x < 800; ++x) {
+            for (int y = 61; y < 260; ++y)
+                found += image.pixel(x, y) == chosen.rgb();
+        }
+        return found;
+    };
+    QCOMPARE(traces(), 0);
+    QTimer::singleShot(0, this, [&] {
+        auto *dialog = qobject_cast<QColorDialog *>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        QVERIFY(QWidget::keyboardGrabber() != pair->plot);
+        dialog->setCurrentColor(chosen);
+        dialog->accept();
+    });
+    PlotPair::move(pair->plot, {300, 100});
+    QTest::mouseDClick(pair->plot, Qt::LeftButton, {},
+        pair->plot->findChild<QLabel *>(QStringLiteral("channelLabel"))->geometry().center());
+    QVERIFY(traces() > 700);
+    pair->plot->showChannels({1});
+    pair->plot->refreshPixmap();
+    QCOMPARE(traces(), 0);
+    pair->plot->showChannels({0});
+    pair->plot->refreshPixmap();
+    QVERIFY(traces() > 700);
 }
 
 void tst_PlotterInput::otherLabelsOfferNone()

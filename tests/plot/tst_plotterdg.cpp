@@ -19,6 +19,11 @@ private slots:
     void rowsShowTheStates();
     void aChannelThatNeverChangesIsOneStretch();
     void denseChangesAreDrawnAsOne();
+    void oneChangeAmongManyIsSeen();
+    void rowsShowTheStatesInAnotherView();
+    void rowsShowTheStatesOfUnorderedTimes();
+    void rowsStayWithinThePlotArea();
+    void rowsHaveTheirNamesInTheMargin();
     void triggerAndGrid();
     void verticalZoomWithoutPropagationDoesNothing();
     void neverKeepsRoomForAReadout();
@@ -131,6 +136,105 @@ void tst_plotterDg::denseChangesAreDrawnAsOne()
         QVERIFY(pixel(time, 177) != background);
     QCOMPARE(pixel(750, 177), background);
     QCOMPARE(pixel(750, 180), line);
+}
+
+// 2000 samples for a pixel column, of which one differs from all others.
+void tst_plotterDg::oneChangeAmongManyIsSeen()
+{
+    QVector<double> times(1400001);
+    for (int i = 0; i < times.size(); ++i)
+        times[i] = i;
+    QVector<int> rare(times.size(), 0);
+    rare[700000] = 1; // at x = 450
+    QVector<int> mostly(times.size(), 1);
+    mostly[280000] = 0; // at x = 240
+    host->setTimes(times);
+    host->addDigital(QStringLiteral("Rare"), rare);
+    host->addDigital(QStringLiteral("Mostly"), mostly);
+    plot->resetPlot();
+    plot->showChannels({3, 4});
+    plot->setupPlot();
+    plot->refreshPixmap();
+    const QImage image = plot->grab().toImage();
+    const PlotGeometry geometry = plot->geometryOfView();
+    const int first = geometry.rowY(0, 2);
+    const int second = geometry.rowY(1, 2);
+    const int x = PlotGeometry::pixel(geometry.traceX(700000));
+    QCOMPARE(image.pixel(x, first - 3), line);
+    QCOMPARE(image.pixel(x - 2, first - 3), background);
+    QCOMPARE(image.pixel(x + 2, first - 3), background);
+    QCOMPARE(image.pixel(PlotGeometry::pixel(geometry.traceX(100000)), second - 3), band);
+}
+
+// From 300 to 800 ms, the band of 200 to 400 ms begins left of the view.
+void tst_plotterDg::rowsShowTheStatesInAnotherView()
+{
+    plot->customZoomIn();
+    plot->scrolling(3);
+    QCOMPARE(plot->view().minX, 300.0);
+    QCOMPARE(plot->view().maxX, 800.0);
+    const QImage image = plot->grab().toImage();
+    const auto at = [&](double time, int y) {
+        return image.pixel(100 + qRound((time - 300) * 700 / 500), y);
+    };
+    QCOMPARE(at(310, 100), band);
+    QCOMPARE(at(395, 100), band);
+    QCOMPARE(at(405, 97), background);
+    QCOMPARE(at(405, 100), line);
+    QCOMPARE(at(550, 140), band);
+}
+
+// The times go back to 0 half way: the second half is drawn over the first.
+void tst_plotterDg::rowsShowTheStatesOfUnorderedTimes()
+{
+    QVector<double> times(1000);
+    QVector<int> states(1000, 0);
+    for (int i = 0; i < times.size(); ++i) {
+        times[i] = i % 500 * 2;
+        states[i] = i >= 600 && i < 700 ? 1 : 0; // 200 to 400 ms
+    }
+    host->setTimes(times);
+    host->addDigital(QStringLiteral("Back"), states);
+    plot->showChannels({3});
+    plot->setupPlot();
+    plot->refreshPixmap();
+    const int y = plot->geometryOfView().rowY(0, 1);
+    QCOMPARE(pixel(300, y - 3), band);
+    QCOMPARE(pixel(150, y - 3), background);
+    QCOMPARE(pixel(150, y), line);
+    QCOMPARE(pixel(450, y - 3), background);
+}
+
+void tst_plotterDg::rowsStayWithinThePlotArea()
+{
+    plot->customZoomIn();
+    plot->scrolling(3);
+    const QImage image = plot->grab().toImage();
+    QCOMPARE(image.pixel(99, 140), background); // left of a band that goes on there
+    QVERIFY(image.pixel(101, 140) != background);
+}
+
+void tst_plotterDg::rowsHaveTheirNamesInTheMargin()
+{
+    const QImage image = plot->grab().toImage();
+    const auto ink = [&](int y) {
+        QRect found;
+        for (int x = 3; x < 99; ++x) {
+            for (int row = y - 7; row <= y + 7; ++row) {
+                if (qGray(image.pixel(x, row)) > 150)
+                    found |= QRect(x, row, 1, 1);
+            }
+        }
+        return found;
+    };
+    for (const int y : {100, 140, 180}) {
+        const QRect name = ink(y);
+        QVERIFY(!name.isNull());
+        QVERIFY(name.right() > 85); // right-aligned
+        QVERIFY(std::abs(name.center().y() - y) <= 3);
+    }
+    QVERIFY(ink(120).isNull());
+    QVERIFY(ink(100).width() != ink(180).width()); // another name
 }
 
 void tst_plotterDg::triggerAndGrid()
