@@ -14,6 +14,7 @@
 #include <QIcon>
 #include <QLabel>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QToolBar>
 
 namespace {
@@ -28,6 +29,13 @@ QIcon actionIcon(QLatin1String name)
     if (QFile::exists(grey))
         icon.addFile(grey, QSize(), QIcon::Disabled);
     return icon;
+}
+
+// For the tool tip: "Open" of "&Open...", and of "Open(&O)...", as menus of Chinese have it.
+QString withoutMnemonic(QString text)
+{
+    static const QRegularExpression pattern(QStringLiteral("\\(&\\w\\)|&|\\.+$"));
+    return text.remove(pattern);
 }
 
 } // namespace
@@ -198,7 +206,9 @@ void MainWindow::retranslateTexts()
     helpMenu->setTitle(tr("&Help"));
     for (const ActionEntry &entry : actionEntries()) {
         QAction *action = this->*entry.action;
-        action->setText(tr(entry.text));
+        const QString text = tr(entry.text);
+        action->setText(text);
+        action->setToolTip(withoutMnemonic(text));
         action->setStatusTip(tr(entry.statusTip));
     }
     showAnglesCheckBox->setText(tr("Show FFT Angles"));

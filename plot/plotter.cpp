@@ -118,6 +118,7 @@ void Plotter::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange) {
         if (!plotTitle.isEmpty() && plotTitle == titleByName)
             setTitleByName();
+        colorDialog->setWindowTitle(QColorDialog::tr("Select Color"));
         refreshPixmap();
     }
     QWidget::changeEvent(event);
