@@ -1,59 +1,17 @@
-#include <QFile>
-#include <QPair>
+#include "translationfile.h"
+
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTranslator>
-#include <QXmlStreamReader>
 #include <QtTest>
 
 namespace {
 
-struct Message {
-    QString context;
-    QString source;
-    QString translation;
-    QString type; // empty when finished
-};
-
-QList<Message> readMessages(const QString &path)
-{
-    QList<Message> messages;
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return messages;
-    QXmlStreamReader xml(&file);
-    QString context;
-    Message message;
-    while (!xml.atEnd()) {
-        const QXmlStreamReader::TokenType token = xml.readNext();
-        if (token == QXmlStreamReader::EndElement && xml.name() == QLatin1String("message"))
-            messages.append(message);
-        if (token != QXmlStreamReader::StartElement)
-            continue;
-        if (xml.name() == QLatin1String("name")) {
-            context = xml.readElementText();
-        } else if (xml.name() == QLatin1String("message")) {
-            message = Message{context, QString(), QString(), QString()};
-        } else if (xml.name() == QLatin1String("source")) {
-            message.source = xml.readElementText();
-        } else if (xml.name() == QLatin1String("translation")) {
-            message.type = xml.attributes().value(QLatin1String("type")).toString();
-            message.translation = xml.readElementText();
-        }
-    }
-    return xml.hasError() ? QList<Message>() : messages;
-}
-
-QString committedFile(const QString &language)
-{
-    return QStringLiteral(SOURCE_DIR "/resources/translations/drv_%1.ts").arg(language);
-}
-
-QStringList keysOf(const QList<Message> &messages)
+QStringList keysOf(const QList<TranslatedText> &messages)
 {
     QStringList keys;
-    for (const Message &message : messages)
+    for (const TranslatedText &message : messages)
         keys.append(message.context + QStringLiteral(": ") + message.source);
     keys.sort();
     return keys;
@@ -197,25 +155,25 @@ void TestTranslations::filesHoldTheTextsOfTheProgram()
             QStringLiteral("-ts"), fresh});
     QVERIFY(lupdate.waitForFinished());
     QCOMPARE(lupdate.exitCode(), 0);
-    const QStringList wanted = keysOf(readMessages(fresh));
+    const QStringList wanted = keysOf(readTranslations(fresh));
     QVERIFY(wanted.contains(QStringLiteral("MainWindow: &Open...")));
-    QCOMPARE(keysOf(readMessages(committedFile(language))), wanted);
+    QCOMPARE(keysOf(translationsInto(language)), wanted);
 }
 
 void TestTranslations::everyTextIsTranslated()
 {
     QFETCH(QString, language);
-    const QList<Message> messages = readMessages(committedFile(language));
+    const QList<TranslatedText> messages = translationsInto(language);
     QVERIFY(!messages.isEmpty());
-    for (const Message &message : messages)
+    for (const TranslatedText &message : messages)
         QVERIFY2(message.type.isEmpty(), qPrintable(message.context + message.source));
 }
 
 void TestTranslations::nothingOfATextIsLost()
 {
     QFETCH(QString, language);
-    const QList<Message> messages = readMessages(committedFile(language));
-    for (const Message &message : messages) {
+    const QList<TranslatedText> messages = translationsInto(language);
+    for (const TranslatedText &message : messages) {
         const QString fault = faultOf(message.source, message.translation);
         QVERIFY2(fault.isEmpty(),
             qPrintable(QStringLiteral("%1: %2: %3").arg(message.context, message.source, fault)));
@@ -236,16 +194,16 @@ void TestTranslations::noTextIsLeftInEnglish()
 {
     QFETCH(QString, language);
     QFETCH(QStringList, same);
-    const QList<Message> messages = readMessages(committedFile(language));
-    for (const Message &message : messages)
+    const QList<TranslatedText> messages = translationsInto(language);
+    for (const TranslatedText &message : messages)
         QVERIFY2((message.source != message.translation) != same.contains(message.source),
             qPrintable(message.source));
 }
 
 void TestTranslations::englishHoldsTheSourceTexts()
 {
-    const QList<Message> messages = readMessages(committedFile(QStringLiteral("en")));
-    for (const Message &message : messages)
+    const QList<TranslatedText> messages = translationsInto(QStringLiteral("en"));
+    for (const TranslatedText &message : messages)
         QCOMPARE(message.translation, message.source);
 }
 
