@@ -40,8 +40,8 @@ char *writeWhole(char *at, qint64 value)
     return at + 1;
 }
 
-// A value without decimals, rounded as the toolkit does. Nearly all are small enough to need no
-// string.
+// A value without decimals, rounded as the toolkit does, but for the sign of a value that rounds to
+// zero: read again, "-0" would be written as "0". Nearly all are small enough to need no string.
 char *writeWhole(char *at, double value)
 {
     constexpr double exact = 1e15;
@@ -49,9 +49,7 @@ char *writeWhole(char *at, double value)
         const auto truncated = static_cast<qint64>(value);
         const double rest = value - static_cast<double>(truncated);
         const qint64 whole = truncated + (rest >= 0.5 ? 1 : 0) - (rest <= -0.5 ? 1 : 0);
-        const bool isNegativeZero = whole == 0 && value < 0;
-        if (!isNegativeZero)
-            return writeWhole(at, whole);
+        return writeWhole(at, whole);
     }
     const QByteArray digits = QByteArray::number(value, 'f', 0);
     return std::copy(digits.cbegin(), digits.cend(), at);
@@ -76,6 +74,7 @@ QTime moved(const QTime &time, double milliseconds)
 bool openForWriting(QSaveFile &file)
 {
     const QFileInfo there(file.fileName());
+    file.setDirectWriteFallback(true); // a file may be replaced where its folder takes no new one
     return (!there.exists() || there.isFile()) && file.open(QIODevice::WriteOnly);
 }
 

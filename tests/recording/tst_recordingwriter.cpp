@@ -306,7 +306,7 @@ void TestRecordingWriter::valuesOfData_data()
     row("below and above a half", "2.4,2.6,-2.6,0", "2,3,-3,0");
     row("halves go away from zero", "0.5,1.5,-2.5,0", "1,2,-3,0");
     row("the half below zero too", "-0.5,-1.5,2.5,0", "-1,-2,3,0");
-    row("a little below zero keeps its sign", "-0.4,0.4,-0,0", "-0,0,0,0");
+    row("a little below zero is zero", "-0.4,0.4,-0,0", "0,0,0,0");
     row("beyond whole floats", "16777217,1e15,-1e15,0",
         "16777216,999999986991104,-999999986991104,0");
     row("beyond 64 bits", "1e20,-1e20,0,0", "100000002004087734272,-100000002004087734272,0,0");

@@ -12,6 +12,7 @@
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 #endif
 
 Q_DECLARE_METATYPE(ConfigurationText)
@@ -35,6 +36,7 @@ private slots:
     void aFullFileSystemKeepsItsFiles_data();
     void aFullFileSystemKeepsItsFiles();
 #ifdef Q_OS_UNIX
+    void aFolderThatTakesNoNewFilesHasItsFilesReplaced();
     void linksAreFollowedToFilesAlone();
 #endif
     void aFileThatCannotBeWrittenInFullIsTold_data();
@@ -185,6 +187,40 @@ void TestWrittenFiles::aFullFileSystemKeepsItsFiles()
 }
 
 #ifdef Q_OS_UNIX
+void TestWrittenFiles::aFolderThatTakesNoNewFilesHasItsFilesReplaced()
+{
+    const RecordingFolder source;
+    CFGProperties recording;
+    source.load(recording, configurationText().text(), dataUpTo(3));
+    QTemporaryDir folder(QDir::temp().filePath(QStringLiteral("replaced-XXXXXX")));
+    for (const char *name : {"out.cfg", "out.dat"}) {
+        const QString path = folder.filePath(QLatin1String(name));
+        QVERIFY(writeTextFile(path, "as before"));
+        QCOMPARE(chmod(qPrintable(path), 0666), 0);
+    }
+    QCOMPARE(chmod(qPrintable(folder.path()), 0555), 0);
+    // What a folder does not allow, it does not allow to ordinary users alone.
+    constexpr uid_t nobody = 65534;
+    const bool isRoot = geteuid() == 0;
+    if (isRoot)
+        QCOMPARE(seteuid(nobody), 0);
+    const bool isReached
+        = QFile(folder.filePath(QStringLiteral("out.cfg"))).open(QIODevice::ReadWrite);
+    const auto outcome
+        = RecordingWriter(recording, {}, {}).write(folder.filePath(QStringLiteral("out")), 0, 3);
+    if (isRoot)
+        QCOMPARE(seteuid(0), 0);
+    QCOMPARE(chmod(qPrintable(folder.path()), 0755), 0);
+    if (!isReached)
+        QSKIP("The folder for tests cannot be entered by an ordinary user.");
+    QVERIFY2(!outcome.hasFailed(), qPrintable(outcome.error));
+    for (const char *name : {"out.cfg", "out.dat"}) {
+        QFile file(folder.filePath(QLatin1String(name)));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QVERIFY(!file.readAll().startsWith("as before"));
+    }
+}
+
 void TestWrittenFiles::linksAreFollowedToFilesAlone()
 {
     const QTemporaryDir folder;
