@@ -140,7 +140,7 @@ void CursorMarks::paintDifferences(
         const int x1 = PlotGeometry::pixel(geometry.cursorX(from));
         const int x2 = PlotGeometry::pixel(geometry.cursorX(to));
         const QString text = QStringLiteral("dT=") + generalText(difference);
-        const QRect box((x1 + x2) / 2 - 50, 40, 100, 20);
+        const QRect box((x1 + x2) / 2 - 50, differencesTop, 100, 20);
         const int margin = (box.width() - metrics.horizontalAdvance(text)) / 2 - 2;
         const QRect place = box.adjusted(margin, 0, -margin, 0);
         m_differences.append(place);

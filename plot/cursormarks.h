@@ -23,6 +23,9 @@ QRect plotLineAt(int x, const PlotGeometry &geometry);
 class CursorMarks {
 public:
     static constexpr int most = 20;
+    // The strip that holds all that is painted of the differences, in widget pixels.
+    static constexpr int differencesTop = 40;
+    static constexpr int differencesHeight = 24;
 
     explicit CursorMarks(QWidget *plot) : m_plot(plot) { }
 
@@ -43,9 +46,9 @@ public:
     // would overlap stand below each other.
     void place(const PlotGeometry &geometry);
 
-    // Paints the time differences of neighbouring cursors above the plot area. All pairs get their
-    // line; a text that would be cut off, or overlap that of a later pair or one of the rectangles
-    // that are taken, is left out.
+    // Paints the time differences of neighbouring cursors above the plot area; there must be two or
+    // more. All pairs get their line; a text that would be cut off, or overlap that of a later pair
+    // or one of the rectangles that are taken, is left out.
     void paintDifferences(
         QPainter &painter, const PlotGeometry &geometry, const QVector<QRect> &taken);
     // Whether the texts to be left out are others when something moves over them.

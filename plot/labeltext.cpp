@@ -1,11 +1,21 @@
 #include "labeltext.h"
 
+#include <QFont>
+#include <QFontInfo>
 #include <QFontMetrics>
 #include <QTextDocument>
 
 QString plainToolTip(const QString &text)
 {
     return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
+}
+
+QFont fittingFont(QFont font, const QString &text, int width, int smallest)
+{
+    font.setPixelSize(QFontInfo(font).pixelSize());
+    while (font.pixelSize() > smallest && QFontMetrics(font).horizontalAdvance(text) > width)
+        font.setPixelSize(font.pixelSize() - 1);
+    return font;
 }
 
 QString generalText(double value)

@@ -2,10 +2,14 @@
 
 #include <QString>
 
+class QFont;
 class QFontMetrics;
 
 // A text of a file as tool tip, shown as it stands whatever it looks like.
 QString plainToolTip(const QString &text);
+
+// A font, made smaller, down to a pixel size, until a text fits a width.
+QFont fittingFont(QFont font, const QString &text, int width, int smallest);
 
 // A time or value in the general format, six significant digits; never "-0".
 QString generalText(double value);

@@ -129,11 +129,7 @@ void Plotter::changeEvent(QEvent *event)
 void Plotter::setTitle(const QString &title)
 {
     constexpr int room = titleWidth - 6;
-    QFont titleFont(font());
-    titleFont.setPixelSize(QFontInfo(titleFont).pixelSize());
-    while (titleFont.pixelSize() > smallestTitleFont
-        && QFontMetrics(titleFont).horizontalAdvance(title) > room)
-        titleFont.setPixelSize(titleFont.pixelSize() - 1);
+    const QFont titleFont = fittingFont(font(), title, room, smallestTitleFont);
     const bool fits = QFontMetrics(titleFont).horizontalAdvance(title) <= room;
     plotterLabel->setFont(titleFont);
     plotterLabel->setText(title);

@@ -162,6 +162,7 @@ private:
     QColor colorOf(int number) const;
     Readout readout() const;
     BaseContent baseContent() const;
+    QSize layerSize() const;
     QPixmap clearLayer() const;
     void paintBase();
     void paintOverlay();

@@ -11,13 +11,21 @@
 
 #include <algorithm>
 
+namespace {
+
+constexpr int smallestTimeFont = 7; // pixels
+
+} // namespace
+
 void Plotter::showTimeLine(int x)
 {
     if (zoomStack.isEmpty())
         return;
     const PlotGeometry geometry = geometryOfView();
     timeLineTime = geometry.lineTime(x);
-    timeLabel->setText(QStringLiteral("t = ") + generalText(timeLineTime));
+    const QString text = QStringLiteral("t = ") + generalText(timeLineTime);
+    timeLabel->setFont(fittingFont(smallFont(font()), text, timeLabel->width(), smallestTimeFont));
+    timeLabel->setText(text);
     const QRect before = timeLabelPlace();
     timeLabel->move(x + 15, 45);
     timeLabel->show();
@@ -99,12 +107,18 @@ void Plotter::clearCursors()
 
 void Plotter::paintOverlay()
 {
-    overlayPixmap = QPixmap();
     const PlotGeometry geometry = geometryOfView();
-    if (zoomStack.isEmpty() || cursorMarks.count() < 2 || !geometry.isDrawable())
+    if (zoomStack.isEmpty() || cursorMarks.count() < 2 || !geometry.isDrawable()) {
+        overlayPixmap = QPixmap();
         return;
-    overlayPixmap = clearLayer();
+    }
+    if (overlayPixmap.size() != layerSize() * devicePixelRatioF())
+        overlayPixmap = clearLayer();
     QPainter painter(&overlayPixmap);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(0, CursorMarks::differencesTop, layerSize().width(),
+        CursorMarks::differencesHeight, Qt::transparent);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     painter.setFont(smallFont(font()));
     cursorMarks.paintDifferences(painter, geometry, {plotterLabel->geometry(), timeLabelPlace()});
 }

@@ -25,11 +25,16 @@ constexpr int labelHeight = 20;
 
 } // namespace
 
-// Of the size of the widget that holds the plots.
+// That of the widget that holds the plots.
+QSize Plotter::layerSize() const
+{
+    return hostWidget ? hostWidget->size() : size();
+}
+
 QPixmap Plotter::clearLayer() const
 {
     const qreal ratio = devicePixelRatioF();
-    QPixmap layer((hostWidget ? hostWidget->size() : size()) * ratio);
+    QPixmap layer(layerSize() * ratio);
     layer.setDevicePixelRatio(ratio);
     layer.fill(Qt::transparent);
     return layer;
@@ -57,7 +62,7 @@ BaseContent Plotter::baseContent() const
     BaseContent content;
     content.view = view();
     content.size = size();
-    content.layerSize = hostWidget ? hostWidget->size() : size();
+    content.layerSize = layerSize();
     content.pixelRatio = devicePixelRatioF();
     content.font = font();
     content.trigger = triggerText(recording() ? recording()->triggerOffsetMs : 0);
@@ -169,8 +174,9 @@ void Plotter::placeChannelLabels()
     while (channelLabels.size() > channelMap.size())
         delete channelLabels.takeLast();
     while (channelLabels.size() < channelMap.size()) {
-        auto *label = new QLabel(this);
+        auto *label = new CustomLabel(this);
         label->setObjectName(QStringLiteral("channelLabel"));
+        label->setPlotter(this);
         label->setTextFormat(Qt::PlainText);
         channelLabels.append(label);
     }

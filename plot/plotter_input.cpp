@@ -19,6 +19,8 @@
 #include <QToolTip>
 #include <QWheelEvent>
 
+#include <utility>
+
 namespace {
 
 constexpr int notch = 120; // of a wheel
@@ -61,8 +63,9 @@ void Plotter::releaseGrab()
 void Plotter::letGo()
 {
     releaseGrab();
-    draggingTimeLine = false;
     draggedLabel = nullptr;
+    if (std::exchange(draggingTimeLine, false))
+        zoomIn(); // the readouts follow the end of a drag
     if (rubberBandShown)
         hideBand();
 }

@@ -89,8 +89,11 @@ void Readout::draw(QPainter &painter, const PlotGeometry &geometry, const QFont 
     for (int row = 0; row < shown.size(); ++row) {
         for (int column = 0; column < cells.widths.size(); ++column) {
             const QRect cell = cells.cell(row, column, geometry);
-            painter.drawText(cell, Qt::AlignCenter,
-                metrics.elidedText(shown.at(row).at(column), Qt::ElideRight, cell.width() - 2));
+            QString text = shown.at(row).at(column);
+            if (row == 0 && column > 0 && metrics.horizontalAdvance(text) > cell.width() - 2)
+                text = text.section(QLatin1Char(' '), 0, 0); // the cursor without its time
+            painter.drawText(
+                cell, Qt::AlignCenter, metrics.elidedText(text, Qt::ElideRight, cell.width() - 2));
         }
     }
 }

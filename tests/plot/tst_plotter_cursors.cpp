@@ -27,6 +27,8 @@ private slots:
 
     void theTimeLineFollowsThePointerInAllPlots();
     void theTimeLineTellsItsTimeInAnotherView();
+    void theTimeLineFollowsThePointerOverChannelLabels();
+    void aLongTimeFitsItsLabel();
     void theTimeLineLetsTheMouseThrough();
     void aDoubleClickSetsACursorAtOneTimeInAllPlots();
     void atMostTwentyCursors();
@@ -45,6 +47,7 @@ private slots:
     void noTimeDifferenceIsCutOff();
     void theReadoutTellsItsCellsInFull();
     void aDraggedLabelMovesTheCursorEverywhere();
+    void aDragCutShortIsInTheReadout();
     void aDraggedLabelStopsAtTheEdges_data();
     void aDraggedLabelStopsAtTheEdges();
     void aNewPlotTakesOverCursorsAndMarkers();
@@ -111,6 +114,31 @@ void tst_PlotterCursors::theTimeLineTellsItsTimeInAnotherView()
     QCOMPARE(text(pair->digital), QStringLiteral("t = 500"));
 }
 
+void tst_PlotterCursors::theTimeLineFollowsThePointerOverChannelLabels()
+{
+    auto *label = pair->plot->findChild<QLabel *>(QStringLiteral("channelLabel"));
+    PlotPair::move(label, {12, 5});
+    QCOMPARE(pair->plot->findChild<QFrame *>(QStringLiteral("timeline"))->x(), label->x() + 12);
+    QCOMPARE(pair->digital->findChild<QFrame *>(QStringLiteral("timeline"))->x(), label->x() + 12);
+}
+
+void tst_PlotterCursors::aLongTimeFitsItsLabel()
+{
+    const auto *label = pair->plot->findChild<QLabel *>(QStringLiteral("timelabel"));
+    PlotPair::move(pair->plot, {450, 100});
+    const int usual = label->font().pixelSize();
+    PlotPair::move(pair->plot, {101, 100});
+    for (int i = 0; i < 16; ++i) // to hundredths of a millisecond
+        pair->plot->customZoomIn();
+    PlotPair::move(pair->plot, {117, 100});
+    QVERIFY(label->text().size() > 12);
+    QVERIFY(label->font().pixelSize() < usual);
+    QVERIFY(QFontMetrics(label->font()).horizontalAdvance(label->text()) <= 70);
+    pair->plot->customResetZoom();
+    PlotPair::move(pair->plot, {450, 100});
+    QCOMPARE(label->font().pixelSize(), usual);
+}
+
 void tst_PlotterCursors::theTimeLineLetsTheMouseThrough()
 {
     PlotPair::move(pair->plot, {450, 100});
@@ -161,6 +189,9 @@ void tst_PlotterCursors::timeDifferencesOfNeighbours()
     const QImage image = pair->digital->grab().toImage();
     QCOMPARE(image.pixel(250, 60), qRgb(255, 250, 80));
     QCOMPARE(image.pixel(650, 60), qRgb(255, 250, 80));
+    QCOMPARE(image.pixel(699, 60), qRgb(255, 250, 80));
+    QVERIFY(!isYellow(image.pixel(702, 60))); // where a trace would have the time
+    QCOMPARE(pair->digital->pairDifference(), 3000.0 / 7); // of the last pair
     QVERIFY(markPixels(pair->digital, 255, 345) > 20); // between the first and the second
     QVERIFY(markPixels(pair->digital, 505, 595) > 20); // between the second and the third
     QCOMPARE(markPixels(pair->digital, 405, 495), 0); // none between the first and the third
@@ -267,10 +298,10 @@ void tst_PlotterCursors::timeDifferencesThatWouldOverlapAreLeftOut()
 // The title of a digital plot reaches into the strip of the time differences.
 void tst_PlotterCursors::noTimeDifferenceIsBehindTheTitle()
 {
-    for (const int x : {110, 130})
+    for (const int x : {110, 190}) // the text would stand from about 120 to 180
         QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {x, 150});
     QCOMPARE(markPixels(pair->digital, 71, 300), 0);
-    QCOMPARE(pair->digital->grab().toImage().pixel(120, 60), qRgb(255, 250, 80));
+    QCOMPARE(pair->digital->grab().toImage().pixel(150, 60), qRgb(255, 250, 80));
 }
 
 void tst_PlotterCursors::noTimeDifferenceIsBehindTheTimeLabel()
@@ -326,6 +357,19 @@ void tst_PlotterCursors::aDraggedLabelMovesTheCursorEverywhere()
     QCOMPARE(pair->other->cursors(), pair->digital->cursors());
 }
 
+void tst_PlotterCursors::aDragCutShortIsInTheReadout()
+{
+    QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {200, 150});
+    QTest::mousePress(pair->digital, Qt::LeftButton, {},
+        PlotPair::lineLabels(pair->digital).first()->geometry().center());
+    PlotPair::move(pair->digital, {450, 150}, Qt::LeftButton);
+    QEvent deactivate(QEvent::WindowDeactivate);
+    QApplication::sendEvent(pair->digital, &deactivate);
+    QHelpEvent event(QEvent::ToolTip, {793, 86}, pair->plot->mapToGlobal({793, 86}));
+    QApplication::sendEvent(pair->plot, &event);
+    QCOMPARE(QToolTip::text(), QStringLiteral("Ia, P1 (500): 7"));
+}
+
 void tst_PlotterCursors::aDraggedLabelStopsAtTheEdges_data()
 {
     QTest::addColumn<int>("x");
@@ -373,8 +417,10 @@ void tst_PlotterCursors::theMenuRemovesOneCursor()
     const QList<QMenu *> menus = pair->digital->findChildren<QMenu *>();
     QCOMPARE(menus.size(), 1);
     QCOMPARE(menus.first()->actions().first()->text(), QStringLiteral("Remove Cursor"));
+    const int readout = pair->plot->geometryOfView().readoutWidth();
     menus.first()->actions().first()->trigger();
-    QCOMPARE(pair->digital->cursors().size(), 2);
+    QVERIFY(pair->plot->geometryOfView().readoutWidth() < readout);
+    QCOMPARE(pair->digital->cursors(), QList<double>({1000.0 / 7, 5000.0 / 7}));
     QCOMPARE(pair->plot->cursors(), pair->digital->cursors());
     QCOMPARE(pair->other->cursors(), pair->digital->cursors());
     QCOMPARE(PlotPair::lineLabels(pair->digital).at(1)->text(), QStringLiteral("P2"));

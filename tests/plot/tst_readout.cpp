@@ -123,12 +123,11 @@ void tst_Readout::columnsShareTheRoomWhenTooWide()
     QVERIFY(columns.at(1).contains(findText(image, QStringLiteral("17"), font)));
     QVERIFY(columns.at(0).contains(findText(image, QStringLiteral("Ia"), font)));
     QVERIFY(columns.at(2).contains(findText(image, QStringLiteral("25"), font)));
-    for (const QString &text : {longName, longHead}) {
-        const QRect column = columns.at(text == longName ? 0 : 2);
-        const QString cut = metrics.elidedText(text, Qt::ElideRight, share - 2);
-        QVERIFY(cut != text && cut.size() > 3);
-        QVERIFY2(column.contains(findText(image, cut, font)), qPrintable(cut));
-    }
+    const QString cut = metrics.elidedText(longName, Qt::ElideRight, share - 2);
+    QVERIFY(cut != longName && cut.size() > 3);
+    QVERIFY2(columns.at(0).contains(findText(image, cut, font)), qPrintable(cut));
+    // A cursor keeps its name before its time.
+    QVERIFY(columns.at(2).contains(findText(image, QStringLiteral("P2"), font)));
     const QRect ink = inkRect(image, image.rect());
     QVERIFY(ink.left() >= 624);
     QVERIFY(ink.right() < 796);
