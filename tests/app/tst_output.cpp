@@ -1,4 +1,5 @@
 #include "cfgproperties.h"
+#include "ctvtdialog.h"
 #include "mainwindow.h"
 #include "plotterdg.h"
 #include "smallrecording.h"
@@ -9,6 +10,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
@@ -145,6 +147,16 @@ private slots:
         expectStyle(screenStyle);
     }
 
+    void aScreenshotThatCannotBeSavedIsNotReported()
+    {
+        BoxReader boxes;
+        answerFileDialog(path("rec.cfg/shot.png")); // a file stands in the folder's place
+        trigger("&Save screenshot");
+        QVERIFY(boxes.count() == 0);
+        QVERIFY(window->statusBar()->currentMessage().isEmpty());
+        expectStyle(screenStyle);
+    }
+
     void cancelledScreenshotLeavesTheCaptureStyle()
     {
         answerFileDialog(QString());
@@ -220,6 +232,27 @@ private slots:
         QCOMPARE(fileText(path("out.dat")),
             QStringLiteral("11,0,-200,10,0\n12,1000,-200,11,0\n13,2000,-200,12,0"));
         QVERIFY(fileText(path("out.cfg")).contains(QLatin1String(",400.000000,1.000000,S\n")));
+    }
+
+    // Those that were set, not those that were typed.
+    void ratingsOfTheDialogAreSaved()
+    {
+        auto *dialog = window->findChild<CTVTDialog *>();
+        const auto type = [&](int row, const char *text) {
+            const QList<QLineEdit *> edits = dialog->findChildren<QLineEdit *>();
+            edits.at(row)->setText(QLatin1String(text));
+        };
+        const auto ratings = [&] {
+            window->saveRecording(path("out"), 0, 39);
+            const QStringList lines = fileText(path("out.cfg")).split(QLatin1Char('\n'));
+            return lines.at(2).section(QLatin1Char(','), 10, 11);
+        };
+        trigger("Rescale CTVT");
+        type(0, "600");
+        QCOMPARE(ratings(), QStringLiteral("400.000000,1.000000"));
+        dialog->findChild<QPushButton *>(QStringLiteral("pushButton_Set"))->click();
+        QCOMPARE(ratings(), QStringLiteral("600.000000,1.000000"));
+        dialog->close();
     }
 
     void theOpenRecordingCanBeSavedOver()

@@ -347,9 +347,20 @@ void tst_Plots::saveMarkersReachEveryPlot()
         QVERIFY(each->findChild<QFrame *>(QStringLiteral("startMarker"))->isVisible());
         QVERIFY(each->findChild<QFrame *>(QStringLiteral("endMarker"))->isVisible());
     }
-    window->findChild<SaveDialog *>()
-        ->findChild<QPushButton *>(QStringLiteral("pushButton_Cancel"))
-        ->click();
+    auto *dialog = window->findChild<SaveDialog *>();
+    const auto *start = analog()->findChild<QFrame *>(QStringLiteral("startMarker"));
+    const auto *end = analog()->findChild<QFrame *>(QStringLiteral("endMarker"));
+    const int firstX = start->x();
+    const int lastX = end->x();
+    auto *slider = dialog->findChild<QWidget *>(QStringLiteral("horizontalSlider_StartPoint"));
+    QTest::keyClick(slider, Qt::Key_End);
+    QCOMPARE(start->x(), lastX);
+    QCOMPARE(end->x(), lastX);
+    slider = dialog->findChild<QWidget *>(QStringLiteral("horizontalSlider_EndPoint"));
+    QTest::keyClick(slider, Qt::Key_Home);
+    QCOMPARE(start->x(), lastX);
+    QCOMPARE(end->x(), firstX);
+    dialog->findChild<QPushButton *>(QStringLiteral("pushButton_Cancel"))->click();
     for (const Plotter *each : plots()) {
         QVERIFY(!each->findChild<QFrame *>(QStringLiteral("startMarker"))->isVisible());
         QVERIFY(!each->findChild<QFrame *>(QStringLiteral("endMarker"))->isVisible());
