@@ -256,6 +256,7 @@ void MainWindow::clearView()
     ctvtDialog->close();
     ctvtDialog->clearChannels();
     vectorDialog->setPlotter(nullptr);
+    vectorDialog->setChannelNames({});
     if (disposes)
         disposePlots();
 }

@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QShowEvent>
 
 namespace {
 
@@ -96,7 +97,8 @@ void CTVTDialog::changeEvent(QEvent *event)
 
 void CTVTDialog::showEvent(QShowEvent *event)
 {
-    for (int i = 0; i < nameLabels.size(); ++i) {
+    // A window that is only uncovered or restored keeps what is being typed.
+    for (int i = 0; !event->spontaneous() && i < nameLabels.size(); ++i) {
         primaryEdits.at(i)->setText(appliedPrimaries.value(i));
         secondaryEdits.at(i)->setText(appliedSecondaries.value(i));
     }

@@ -6,6 +6,7 @@
 #include "vectorwidget.h"
 
 #include <QEvent>
+#include <QSignalBlocker>
 
 VectorDialog::VectorDialog(QWidget *parent)
     : QDialog(parent), ui(std::make_unique<Ui::VectorDialog>())
@@ -35,11 +36,15 @@ void VectorDialog::setPlotter(Plotter *source)
 void VectorDialog::setChannelNames(const QStringList &names)
 {
     channelNames = names;
-    ui->comboBox_reference->clear();
-    ui->comboBox_reference->addItem(QStringLiteral("-"));
-    ui->comboBox_reference->addItems(names);
+    {
+        const QSignalBlocker blocker(ui->comboBox_reference);
+        ui->comboBox_reference->clear();
+        ui->comboBox_reference->addItem(QStringLiteral("-"));
+        ui->comboBox_reference->addItems(names);
+    }
     for (VectorWidget *panel : panels())
         panel->setChannelNames(names);
+    refresh();
 }
 
 QString VectorDialog::referenceName() const

@@ -38,13 +38,28 @@ void drawGrid(QPainter &painter, const PhasorDiagram &diagram)
     }
 }
 
+// A text that is too wide for its place is drawn narrower: it would lose its sign at the edge of
+// the picture or run into the next one.
+void drawAxisLabel(QPainter &painter, const QRect &place, int alignment, const QString &text)
+{
+    const QFont usual = painter.font();
+    const int width = painter.fontMetrics().horizontalAdvance(text);
+    if (width > place.width()) {
+        QFont narrow(usual);
+        narrow.setStretch(100 * place.width() / width);
+        painter.setFont(narrow);
+    }
+    painter.drawText(place, alignment | Qt::TextDontClip, text);
+    painter.setFont(usual);
+}
+
 void drawAxisLabels(QPainter &painter, const PhasorDiagram &diagram)
 {
     for (int k = 0; k < PhasorDiagram::lineCount; ++k) {
-        painter.drawText(diagram.verticalTextRect(k), Qt::AlignRight | Qt::TextDontClip,
-            diagram.verticalText(k));
-        painter.drawText(diagram.horizontalTextRect(k), Qt::AlignCenter | Qt::TextDontClip,
-            diagram.horizontalText(k));
+        drawAxisLabel(
+            painter, diagram.verticalTextRect(k), Qt::AlignRight, diagram.verticalText(k));
+        drawAxisLabel(
+            painter, diagram.horizontalTextRect(k), Qt::AlignCenter, diagram.horizontalText(k));
     }
 }
 

@@ -286,7 +286,8 @@ void Plotter::setupPlot()
             widen(reference ? fullTurnRadians : fullTurnDegrees);
         }
     }
-    valueExtent = std::max(-minY, maxY);
+    lowestValue = minY;
+    highestValue = maxY;
     setHome(minY, maxY);
     placeTitle(20);
 }
@@ -325,16 +326,26 @@ void Plotter::rescaleValues()
     if (zoomStack.isEmpty())
         return;
     const PlotSettings before = view();
-    const double extentBefore = valueExtent;
+    const bool wasWhole = before.minY == homeSettings.minY && before.maxY == homeSettings.maxY;
+    const double lowestBefore = lowestValue;
+    const double heightBefore = highestValue - lowestValue;
     const double zoomBefore = verticalZoom;
     setupPlot();
-    const double ratio = valueExtent / extentBefore;
-    if (!PlotSettings::isUsable(before.minY * ratio, before.maxY * ratio))
+    const double ratio = (highestValue - lowestValue) / heightBefore;
+    const double shift = lowestValue - lowestBefore * ratio;
+    const double minY = before.minY * ratio + shift;
+    const double maxY = before.maxY * ratio + shift;
+    // Channels whose factors differ, or turn them upside down, take other places. A whole view
+    // stays a whole one then.
+    const bool isInPlace = std::abs(shift) <= (highestValue - lowestValue) * 1e-9;
+    if (!PlotSettings::isUsable(minY, maxY) || (wasWhole && !isInPlace))
         return;
-    zoomStack[0].minY = before.minY * ratio;
-    zoomStack[0].maxY = before.maxY * ratio;
+    zoomStack[0].minY = minY;
+    zoomStack[0].maxY = maxY;
     zoomStack[0].numYTicks = before.numYTicks;
     verticalZoom = zoomBefore;
+    if (!isInPlace)
+        PlotSettings::adjustAxis(zoomStack[0].minY, zoomStack[0].maxY, zoomStack[0].numYTicks);
 }
 
 void Plotter::resetPlot()

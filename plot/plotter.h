@@ -221,7 +221,8 @@ private:
     bool skipBaseLayer = false;
     double horizontalZoom = 1.0; // fraction of the full time span shown
     double verticalZoom = 1.0; // fraction of the full value range shown
-    double valueExtent = 0; // largest absolute value shown, under the factors of the last set-up
+    double lowestValue = 0; // shown, at most 0, under the factors of the last set-up
+    double highestValue = 0; // at least 0
     QColorDialog *colorDialog;
     QList<QColor> channelColors;
     QMap<int, QColor> chosenColors; // by channel number

@@ -37,6 +37,7 @@ private slots:
     void announcesTheScaleBeforeThePlotsAreRefreshed();
     void keepsAppliedTexts();
     void dropsEditsThatWereNotSet();
+    void keepsEditsWhileItIsOnlyUncovered();
     void onlyAnnouncesWithoutChannels();
     void survivesARecordingWithFewerChannels();
     void survivesAMissingRecording();
@@ -255,6 +256,18 @@ void TestCTVTDialog::dropsEditsThatWereNotSet()
     QCOMPARE(edit(0, 1)->text(), QStringLiteral("600"));
     QCOMPARE(edit(0, 2)->text(), QStringLiteral("5"));
     QCOMPARE(channels[0]->toPrimary, 7.0);
+}
+
+void TestCTVTDialog::keepsEditsWhileItIsOnlyUncovered()
+{
+    addChannel(QStringLiteral("S"));
+    dialog->setChannels({QStringLiteral("I")}, {QStringLiteral("600")}, {QStringLiteral("5")});
+    dialog->show();
+    setRow(0, QStringLiteral("800"), QStringLiteral("1"));
+    QShowEvent event;
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(dialog, &event); // which leaves the event as it is
+    QCOMPARE(edit(0, 1)->text(), QStringLiteral("800"));
 }
 
 void TestCTVTDialog::onlyAnnouncesWithoutChannels()

@@ -306,6 +306,8 @@ void TestVectorDialog::refreshesNothingWhileHidden()
 {
     dialog->refresh();
     QVERIFY(!isWaiting(panels().at(0)));
+    dialog->setChannelNames({QStringLiteral("A"), QStringLiteral("B")});
+    QVERIFY(!isWaiting(panels().at(0)));
 }
 
 void TestVectorDialog::retranslatesOnALanguageChange()
