@@ -94,8 +94,6 @@ private slots:
     void plotsAreTakenOutByName();
     void aNewPlotTakesOverTheTimeRange();
     void changedFactorsKeepTheTraceInPlace();
-    void aWholeViewStaysWholeUnderFactorsThatDiffer();
-    void aNegativeFactorKeepsASpectrumInView();
     void resetPlotEmptiesThePlot();
     void aPlotWithoutHostSurvivesEverything();
 
@@ -551,48 +549,6 @@ void tst_Plotter::changedFactorsKeepTheTraceInPlace()
     QCOMPARE(plot->view().maxY, 1500.0);
     plot->customResetZoom();
     QCOMPARE(ends(plot->view()), Ends({0, 1000, 10, -1200, 1200, 8}));
-}
-
-// A current from -250 to 125 A and a voltage of 80 V: it is the voltage that is high afterwards.
-void tst_Plotter::aWholeViewStaysWholeUnderFactorsThatDiffer()
-{
-    AnalogChannel *current = host->addAnalog(QStringLiteral("I"), {-250, 125, -250});
-    AnalogChannel *voltage = host->addAnalog(QStringLiteral("U"), {-80, 80, -80});
-    current->toPrimary = 200;
-    voltage->toPrimary = 1000;
-    plot->showChannels({2, 3});
-    host->mode = 1;
-    plot->setupPlot();
-    plot->customResetZoom();
-    QCOMPARE(plot->view().minY, -250.0);
-    QCOMPARE(plot->view().maxY, 150.0);
-    host->mode = 0;
-    plot->rescaleValues();
-    QCOMPARE(plot->view().minY, -90000.0);
-    QCOMPARE(plot->view().maxY, 90000.0);
-    host->mode = 1;
-    plot->rescaleValues();
-    plot->customVZoomIn(); // -170 to 70, of -250 to 125
-    host->mode = 0;
-    plot->rescaleValues(); // -45867 to 56533, of -80000 to 80000, and to steps of 10000
-    QCOMPARE(plot->view().minY, -50000.0);
-    QCOMPARE(plot->view().maxY, 60000.0);
-}
-
-void tst_Plotter::aNegativeFactorKeepsASpectrumInView()
-{
-    AnalogChannel *channel = host->addAnalog(QStringLiteral("I"), {1, 2, 1});
-    channel->fftMagnitudes = QVector<float>(3, 70);
-    channel->maxMagnitude = 70;
-    host->mode = 1;
-    plot->showChannels({5}); // of three channels the last one's spectrum
-    plot->setupPlot();
-    plot->customResetZoom();
-    QCOMPARE(plot->view().minY, 0.0);
-    channel->toSecondary = -100;
-    plot->rescaleValues();
-    QVERIFY(plot->view().minY <= -7000);
-    QVERIFY(plot->view().maxY >= 0);
 }
 
 void tst_Plotter::resetPlotEmptiesThePlot()
