@@ -1,0 +1,6 @@
+// Linked into the viewer that the sanitizers watch: libraries stay loaded until the end, so that a
+// leak is reported with the name of the library it came from.
+extern "C" int dlclose(void *)
+{
+    return 0;
+}
