@@ -19,7 +19,6 @@ constexpr int blockSize = 1 << 18; // bytes read at once
 // same few lines of the processor's cache.
 constexpr size_t mostBlockRows = 240;
 constexpr size_t mostGathered = 1 << 20; // samples gathered, in perhaps very many channels
-constexpr qint64 mostChannels = 999999; // of a recording, clause 5.3.2
 constexpr int largestLine = 1 << 30; // bytes; a file with a longer one holds no data lines
 
 // The end of the field that begins at a place: its comma, or the end of the line.
@@ -182,10 +181,10 @@ private:
     {
         const qint64 fields = std::count(begin, end, ',') + 1 - 2;
         const qint64 promised = std::max(m_recording.analogChannelCount, 0);
-        const qint64 analog = std::min(
+        const qint64 analog = std::min<qint64>(
             {promised, mostChannels, std::max<qint64>(fields, m_recording.analogIndexes.size())});
         const qint64 digital
-            = std::min({m_recording.totalChannelCount - promised, mostChannels - analog,
+            = std::min<qint64>({m_recording.totalChannelCount - promised, mostChannels - analog,
                 std::max<qint64>(fields - promised, m_recording.digitalIndexes.size())});
         for (int k = m_recording.analogChannels.size(); k < analog; ++k)
             m_recording.analogChannels.append(newAnalogChannel(m_recording, k));

@@ -2,6 +2,7 @@
 
 #include <QtGlobal>
 
+constexpr int mostChannels = 999999; // of a recording, clause 5.3.2
 constexpr qint64 mostRows = 1 << 27; // of samples in a recording
 
 // Whether a reader may take this many rows of samples after so many bytes. A full line has a byte

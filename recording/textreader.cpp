@@ -27,9 +27,10 @@ void readHeader(CFGProperties &recording, QString line)
 {
     if (line.startsWith(QLatin1Char('#')))
         line.remove(0, 1);
-    const QStringList fields = line.split(QLatin1Char(','));
-    for (int k = 0; k < fields.size(); ++k) {
-        const QString &field = fields.at(k);
+    const QVector<QStringRef> names = line.splitRef(QLatin1Char(','));
+    const int count = qMin(names.size(), mostChannels);
+    for (int k = 0; k < count; ++k) {
+        const QString field = names.at(k).toString();
         const int bracket = field.lastIndexOf(QLatin1Char('['));
         const QString unit
             = bracket < 0 ? field : field.mid(bracket + 1).section(QLatin1Char(']'), 0, 0);
@@ -49,8 +50,8 @@ void readHeader(CFGProperties &recording, QString line)
         recording.toSecondary.append(1);
         recording.psFlags.append(QStringLiteral("P"));
     }
-    recording.totalChannelCount = fields.size();
-    recording.analogChannelCount = fields.size();
+    recording.totalChannelCount = count;
+    recording.analogChannelCount = count;
     recording.rateCount = 1;
     recording.lineFrequency = 1;
     recording.sampleRate = 1;
@@ -91,7 +92,10 @@ bool isBlank(const QByteArray &line)
 
 class TextReader {
 public:
-    explicit TextReader(CFGProperties &recording) : m_recording(recording) { }
+    TextReader(CFGProperties &recording, qint64 lettersOfHeader)
+        : m_recording(recording), m_letters(lettersOfHeader)
+    {
+    }
 
     // False, with nothing read, where the lines so far are not worth another row of samples.
     bool readLine(const QString &line)
@@ -136,7 +140,7 @@ public:
 
 private:
     CFGProperties &m_recording;
-    qint64 m_letters = 0; // of the lines read
+    qint64 m_letters; // of the lines read, the header among them
     qint64 m_reference = 0; // ms since the epoch
 };
 
@@ -151,9 +155,10 @@ void readTextExport(QIODevice &device, CFGProperties &recording)
     };
     if (device.atEnd())
         return;
-    readHeader(recording, text(device.readLine()));
+    const QString header = text(device.readLine());
+    readHeader(recording, header);
     readTimeStamps(recording);
-    TextReader reader(recording);
+    TextReader reader(recording, header.size());
     qint64 blankLines = 0;
     bool goesOn = true;
     while (goesOn && !device.atEnd()) {

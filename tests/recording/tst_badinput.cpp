@@ -254,6 +254,9 @@ void TestBadInput::aBadExportTakesAMomentAndLittleMemory_data()
     QTest::newRow("a long value") << "a[A]\n" + stamp + ',' + QByteArray(4000000, '9') << 80;
     QTest::newRow("a long line of commas") << "a[A]\n" + stamp + QByteArray(1000000, ',') << 80;
     QTest::newRow("many names") << QByteArray(100000, ',') + '\n' + stamp + ",1\n" << 200;
+    QTest::newRow("two short lines under very many names") << QByteArray(199999, ',') + '\n' + stamp
+            + ",1\n" + stamp + ",2\n" << 200;
+    QTest::newRow("millions of names") << QByteArray(3000000, ',') + '\n' + stamp + ",1\n" << 600;
     QTest::newRow("names and lines of hardly a byte")
         << QByteArray(4000, ',') + '\n' + QByteArray("x\n").repeated(2000) << 16;
     QTest::newRow("many empty lines and then one") << QByteArray(1000, ',')

@@ -35,6 +35,8 @@ private slots:
     void valuesOfALine_data();
     void valuesOfALine();
     void recordsCarryTheirDefinitions();
+    void manyNames_data();
+    void manyNames();
     void emptyLines_data();
     void emptyLines();
     void lettersOfTheHeader_data();
@@ -145,7 +147,8 @@ void TestTextReader::headerNamesChannels()
 
 void TestTextReader::stampsGiveTimes_data()
 {
-    QTest::addColumn<QByteArray>("stamps"); // separated by blanks
+    QTest::addColumn<QByteArray>(
+        "stamps"); // separated by blanks, with "_" for a blank of their own
     QTest::addColumn<QVector<double>>("times");
     QTest::addColumn<qint64>("duration");
     QTest::addColumn<QString>("start");
@@ -179,6 +182,14 @@ void TestTextReader::stampsGiveTimes_data()
     row("no stamp at all", "x y", Times{0, 0}, 0, " ");
     row("a point before the milliseconds is no stamp", "01/02/2020-10:00:00.000", Times{0}, 0, " ");
     row("digits too few are no stamp", "1/2/2020-10:00:00:000", Times{0}, 0, " ");
+    row("one digit of milliseconds is no stamp", "01/02/2020-10:00:00:5", Times{0}, 0, " ");
+    row("two digits of milliseconds are no stamp", "01/02/2020-10:00:00:05", Times{0}, 0, " ");
+    row("no digit of milliseconds is no stamp", "01/02/2020-10:00:00:", Times{0}, 0, " ");
+    row("four digits of milliseconds are no stamp", "01/02/2020-10:00:00:0005", Times{0}, 0, " ");
+    row("blanks around are no stamp",
+        "_01/02/2020-10:00:00:005 01/02/2020-10:00:00:006_ _01/02/2020-10:00:00:007_",
+        Times{0, 0, 0}, 0, " ");
+    row("a blank for a digit is no stamp", "01/02/2020-_9:00:00:000", Times{0}, 0, " ");
     row("a day that is none is no stamp", "30/02/2020-10:00:00:000", Times{0}, 0, " ");
     row("a date without a time is no stamp", "01/02/2020", Times{0}, 0, " ");
     row("before the epoch", "01/01/1969-00:00:00:000 01/01/1969-00:00:00:001", Times{0, 1}, 1,
@@ -196,7 +207,7 @@ void TestTextReader::stampsGiveTimes()
     QFETCH(QString, start);
     QByteArray text = "#Ua[kV]\n";
     for (const QByteArray &stamp : stamps.split(' '))
-        text += stamp + ",5\n";
+        text += QByteArray(stamp).replace('_', ' ') + ",5\n";
     CFGProperties recording;
     read(recording, text);
     QCOMPARE(recording.sampleTimes, times);
@@ -280,6 +291,38 @@ void TestTextReader::recordsCarryTheirDefinitions()
     QCOMPARE(channel.primary, 1.0);
     QCOMPARE(channel.secondary, 1.0);
     QCOMPARE(channel.ps, QStringLiteral("P"));
+}
+
+void TestTextReader::manyNames_data()
+{
+    QTest::addColumn<int>("commas");
+    QTest::addColumn<int>("lines"); // of one letter
+    QTest::addColumn<int>("channels");
+    QTest::addColumn<int>("samples");
+    QTest::newRow("as many as a recording may have") << 999998 << 0 << 999999 << 0;
+    QTest::newRow("one more is left out") << 999999 << 0 << 999999 << 0;
+    QTest::newRow("millions are left out") << 3000000 << 0 << 999999 << 0;
+    QTest::newRow("missing values are 0") << 19999 << 2 << 20000 << 2;
+    // Behind the first line they may be 16384 and 8 a letter, those of the names included.
+    QTest::newRow("missing values beyond all measure end the reading") << 19999 << 99 << 20000 << 9;
+}
+
+void TestTextReader::manyNames()
+{
+    QFETCH(int, commas);
+    QFETCH(int, lines);
+    QFETCH(int, channels);
+    QFETCH(int, samples);
+    CFGProperties recording;
+    read(recording, QByteArray(commas, ',') + '\n' + QByteArray("x\n").repeated(lines));
+    QCOMPARE(recording.analogChannelCount, channels);
+    QCOMPARE(recording.totalChannelCount, channels);
+    QCOMPARE(recording.analogIds.size(), channels);
+    QCOMPARE(recording.analogIndexes.constLast(), channels - 1);
+    QCOMPARE(recording.sampleCount, samples);
+    QCOMPARE(recording.analogChannels.size(), samples > 0 ? channels : 0);
+    if (samples > 0)
+        QCOMPARE(recording.analogChannels.constLast()->rawValues, QVector<float>(samples, 0.0F));
 }
 
 void TestTextReader::emptyLines_data()
