@@ -12,6 +12,8 @@
 #include <cmath>
 #include <initializer_list>
 #include <limits>
+#include <memory>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -70,25 +72,39 @@ QTime moved(const QTime &time, double milliseconds)
     return time.addMSecs(static_cast<int>(truncatedToInt64(milliseconds) % day));
 }
 
-// Folders and devices, also those behind a link, are not opened: they would be replaced by a file.
-bool openForWriting(QSaveFile &file)
+// A file that takes its place when it is complete. Where its folder takes no new file, or its name
+// leaves no room for a temporary one, it is the file itself. Null where it cannot be opened;
+// folders and devices, also those behind a link, are not: they would be replaced by a file.
+std::unique_ptr<QFileDevice> openForWriting(const QString &path)
 {
-    const QFileInfo there(file.fileName());
-    file.setDirectWriteFallback(true); // a file may be replaced where its folder takes no new one
-    return (!there.exists() || there.isFile()) && file.open(QIODevice::WriteOnly);
+    constexpr int longestName = 255; // bytes, on most systems
+    constexpr int temporaryEnding = 7; // of the toolkit: a point and six letters
+    const QFileInfo there(path);
+    if (there.exists() && !there.isFile())
+        return nullptr;
+    std::unique_ptr<QFileDevice> file;
+    if (QFile::encodeName(there.fileName()).size() + temporaryEnding > longestName) {
+        file = std::make_unique<QFile>(path);
+    } else {
+        auto replacement = std::make_unique<QSaveFile>(path);
+        replacement->setDirectWriteFallback(true);
+        file = std::move(replacement);
+    }
+    return file->open(QIODevice::WriteOnly) ? std::move(file) : nullptr;
 }
 
 // Puts the files that were opened in their places, none before all are complete: an old data file
 // beside a new configuration would be neither recording. The flush stands apart because a commit
 // does not notice that its own last bytes could not be written.
-RecordingWriter::Outcome finish(const std::initializer_list<QSaveFile *> &files)
+RecordingWriter::Outcome finish(const std::initializer_list<QFileDevice *> &files)
 {
-    for (QSaveFile *file : files) {
-        if (file->isOpen() && (!file->flush() || file->error() != QFileDevice::NoError))
+    for (QFileDevice *file : files) {
+        if (file && (!file->flush() || file->error() != QFileDevice::NoError))
             return {file->fileName(), file->errorString()};
     }
-    for (QSaveFile *file : files) {
-        if (file->isOpen() && !file->commit())
+    for (QFileDevice *file : files) {
+        auto *replacement = qobject_cast<QSaveFile *>(file);
+        if (replacement && !replacement->commit())
             return {file->fileName(), file->errorString()};
     }
     return {};
@@ -138,12 +154,12 @@ RecordingWriter::Outcome RecordingWriter::writePair(
     });
 
     const QString stem = path.endsWith(extension) ? path.chopped(extension.size()) : path;
-    QSaveFile configurationFile(stem + extension);
-    if (openForWriting(configurationFile))
-        configurationFile.write(encoded(configuration(span, side)));
+    const auto configurationFile = openForWriting(stem + extension);
+    if (configurationFile)
+        configurationFile->write(encoded(configuration(span, side)));
 
-    QSaveFile dataFile(stem + QLatin1String(".dat"));
-    if (openForWriting(dataFile)) {
+    const auto dataFile = openForWriting(stem + QLatin1String(".dat"));
+    if (dataFile) {
         const int lineRoom = 2 * mostDigits
             + mostDigitsOfSample
                 * (m_recording.analogChannels.size() + m_recording.digitalChannels.size());
@@ -156,13 +172,13 @@ RecordingWriter::Outcome RecordingWriter::writePair(
             isFirst = false;
             at = writeDataLine(at, sample, span.start);
             if (at - text.data() >= blockSize) {
-                dataFile.write(text.data(), at - text.data());
+                dataFile->write(text.data(), at - text.data());
                 at = text.data();
             }
         });
-        dataFile.write(text.data(), at - text.data());
+        dataFile->write(text.data(), at - text.data());
     }
-    return finish({&configurationFile, &dataFile});
+    return finish({configurationFile.get(), dataFile.get()});
 }
 
 QString RecordingWriter::configuration(const Span &span, Side side) const

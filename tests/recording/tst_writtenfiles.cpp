@@ -30,6 +30,8 @@ private slots:
     void targetNames_data();
     void targetNames();
     void whatWasThereIsReplaced();
+    void longNames_data();
+    void longNames();
     void filesThatCannotBeOpenedAreSilent_data();
     void filesThatCannotBeOpenedAreSilent();
     void aFolderWithoutPermissionKeepsItsFiles();
@@ -96,6 +98,36 @@ void TestWrittenFiles::whatWasThereIsReplaced()
     QCOMPARE(contents(folder.path("out.dat")), QByteArray("2,0,1,-1,1"));
     QVERIFY(contents(folder.path("out.cfg")).startsWith("Harju,"));
     QVERIFY(contents(folder.path("out.cfg")).endsWith("\nASCII\n1"));
+}
+
+void TestWrittenFiles::longNames_data()
+{
+    QTest::addColumn<int>("length"); // of the files' names, letters of one byte
+    QTest::addColumn<bool>("isWritten");
+    QTest::newRow("that leave room for a temporary name") << 248 << true;
+    QTest::newRow("that leave none") << 249 << true;
+    QTest::newRow("as long as may be") << 255 << true;
+    QTest::newRow("too long") << 256 << false;
+}
+
+void TestWrittenFiles::longNames()
+{
+    QFETCH(int, length);
+    QFETCH(bool, isWritten);
+    const RecordingFolder source;
+    CFGProperties recording;
+    source.load(recording, configurationText().text(), dataUpTo(3));
+    const RecordingWriter writer(recording, {}, {});
+    const QTemporaryDir folder;
+    const QString target = folder.filePath(QString(length - 4, QLatin1Char('n')));
+    for (const QByteArray &data : QByteArrayList{"2,0,1,-1,1", "3,0,2,-2,0"}) {
+        const double time = data.left(1).toDouble() - 1;
+        const auto outcome = writer.write(target, time, time);
+        QVERIFY2(!outcome.hasFailed(), qPrintable(outcome.error));
+        QCOMPARE(contents(target + QLatin1String(".dat")), isWritten ? data : "no file");
+        QCOMPARE(contents(target + QLatin1String(".cfg")).startsWith("Harju,"), isWritten);
+    }
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), isWritten ? 2 : 0);
 }
 
 void TestWrittenFiles::filesThatCannotBeOpenedAreSilent_data()
