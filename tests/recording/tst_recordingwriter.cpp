@@ -37,7 +37,9 @@ private slots:
     void channelsOfOneKind();
     void rateLines_data();
     void rateLines();
+    void aRateLineWhereNoneIsCountedStandsForTheStart();
     void shortDefinitionsAreFilledWithEmptyTexts();
+    void fieldsBehindAShortDigitalLineMoveUpToIt();
     void recordsWithoutDefinitionsHaveLines();
     void lettersGoOutAsTheyCameIn();
     void lettersBeyondLatin1GoOutAsUtf8();
@@ -422,6 +424,21 @@ void TestRecordingWriter::rateLines()
     QVERIFY2(lines.at(6 + written.size()).startsWith("15/03/2024,"), lines.at(7).constData());
 }
 
+// Clause 5.3.6 has such a line; the reader goes by the count alone.
+void TestRecordingWriter::aRateLineWhereNoneIsCountedStandsForTheStart()
+{
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(
+        recording, configurationText().text().replace("\n1\n1000,40\n", "\n0\n0,4\n"), dataUpTo(3));
+    QCOMPARE(recording.sampleRate, 0.0);
+    QCOMPARE(recording.samplesPerCycle, 0);
+    QCOMPARE(recording.analogChannels.at(0)->fftMagnitudes, QVector<float>(4, 0.0F));
+    const QByteArray configuration = written(recording, 0, 3).configuration;
+    QCOMPARE(configuration.mid(configuration.indexOf("50.000000")),
+        QByteArray("50.000000\n0\n0,\n15/03/2024,\n15/03/2024,10:00:00.020000\n0"));
+}
+
 void TestRecordingWriter::shortDefinitionsAreFilledWithEmptyTexts()
 {
     ConfigurationText text = configurationText();
@@ -435,6 +452,19 @@ void TestRecordingWriter::shortDefinitionsAreFilledWithEmptyTexts()
     // The phase was kept with the line end behind it, which must not start a line here.
     QCOMPARE(copy.line(6), QByteArray("2,CLOSE,0,,"));
     QCOMPARE(copy.line(7), QByteArray("50.000000"));
+}
+
+void TestRecordingWriter::fieldsBehindAShortDigitalLineMoveUpToIt()
+{
+    ConfigurationText text = configurationText();
+    text.digital = QByteArrayList{"1,TRIP", "2,CLOSE,x,y,1", "3,OPEN,u,v,0"};
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, text.text(), "1,0,5,6,1,0,1\n");
+    const Written copy = written(recording, 0, 3);
+    QCOMPARE(copy.line(5), QByteArray("1,TRIP,x,y,1"));
+    QCOMPARE(copy.line(6), QByteArray("2,CLOSE,u,v,0"));
+    QCOMPARE(copy.line(7), QByteArray("3,OPEN,,,"));
 }
 
 void TestRecordingWriter::recordsWithoutDefinitionsHaveLines()
