@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSlider>
+#include <QStyleOptionSlider>
 #include <QTemporaryDir>
 #include <QToolButton>
 #include <QtTest>
@@ -41,12 +42,17 @@ class TestSaveDialog : public QObject {
 private slots:
     void init();
     void showsItsTexts();
+    void looksAsItsStyleSheetsSay_data();
+    void looksAsItsStyleSheetsSay();
+    void handlesOfSlidersAre13Wide();
+    void signalsStandInTheirOrder();
     void startsWithTheWholeSpan();
     void acceptsASingleSample();
     void survivesNoSamples();
     void keepsItsOwnTimes();
     void followsADraggedSlider_data();
     void followsADraggedSlider();
+    void stepsThroughTheTimesUnderTheMouse();
     void followsKeyboardAndWheel();
     void keepsNoOrderBetweenStartAndEnd();
     void tellsOfAnExistingFile_data();
@@ -69,6 +75,8 @@ private:
     void open(const QVector<double> &times);
     void type(const QString &path);
     QString makeFile(const QString &name) const;
+    static QRect handleOf(const QSlider *slider);
+    void drag(const char *name, double way);
     template <typename T> T *child(const char *name) const
     {
         return dialog->findChild<T *>(QLatin1String(name));
@@ -114,6 +122,35 @@ QString TestSaveDialog::makeFile(const QString &name) const
     return file.open(QIODevice::WriteOnly) ? file.fileName() : QString();
 }
 
+QRect TestSaveDialog::handleOf(const QSlider *slider)
+{
+    QStyleOptionSlider option;
+    option.initFrom(slider);
+    option.orientation = Qt::Horizontal;
+    option.minimum = slider->minimum();
+    option.maximum = slider->maximum();
+    option.sliderPosition = slider->sliderPosition();
+    return slider->style()->subControlRect(
+        QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, slider);
+}
+
+// Takes the handle of a slider and moves it, pixel by pixel, along a part of the groove.
+void TestSaveDialog::drag(const char *name, double way)
+{
+    auto *slider = child<QSlider>(name);
+    const QRect handle = handleOf(slider);
+    const int pixels = qRound(way * (slider->width() - handle.width()));
+    QPoint at = handle.center();
+    QTest::mousePress(slider, Qt::LeftButton, {}, at);
+    for (int moved = 0; moved < qAbs(pixels); ++moved) {
+        at.rx() += pixels > 0 ? 1 : -1;
+        QMouseEvent move(QEvent::MouseMove, at, slider->mapToGlobal(at), Qt::NoButton,
+            Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(slider, &move);
+    }
+    QTest::mouseRelease(slider, Qt::LeftButton, {}, at);
+}
+
 void TestSaveDialog::showsItsTexts()
 {
     QCOMPARE(dialog->windowTitle(), QStringLiteral("Save File"));
@@ -128,6 +165,74 @@ void TestSaveDialog::showsItsTexts()
     QVERIFY(!child<QLineEdit>("lineEdit_End")->isEnabled());
     QCOMPARE(child<QSlider>("horizontalSlider_StartPoint")->orientation(), Qt::Horizontal);
     QCOMPARE(child<QSlider>("horizontalSlider_EndPoint")->orientation(), Qt::Horizontal);
+}
+
+void TestSaveDialog::looksAsItsStyleSheetsSay_data()
+{
+    QTest::addColumn<QString>("widget");
+    QTest::addColumn<QString>("selector");
+    QTest::addColumn<QStringList>("declarations");
+    const auto row
+        = [](const char *name, const char *widget, const char *selector, const char *declarations) {
+              QTest::newRow(name) << QString::fromLatin1(widget) << QString::fromLatin1(selector)
+                                  << QString::fromLatin1(declarations).split(QLatin1Char('|'));
+          };
+    row("browse button", "toolButton_Browse", "QToolButton",
+        "background: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 #616064, stop: 1 #414044)|"
+        "font: bold|border: 1px outset #00b9f2|color: #00b9f2|padding: 4px|min-width: 2em|"
+        "max-height: 11px");
+    row("browse button with the pointer or the keys on it", "toolButton_Browse",
+        "QToolButton:hover, QToolButton:focus",
+        "background: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 #717074, stop: 1 "
+        "#515054)");
+    row("pressed browse button", "toolButton_Browse", "QToolButton:pressed",
+        "background: qradialgradient(cx: 0.5, cy: 0.5, radius: 0.5, fx: 0.5, fy: 0.5, "
+        "stop: 0 #FFFFFF, stop: 1 #00b9f2)|border-style: inset|color: #717074");
+    row("note of an existing file", "label_FileExists", "QLabel", "color: rgba(200,100,100,255)");
+    for (const char *slider : {"horizontalSlider_StartPoint", "horizontalSlider_EndPoint"}) {
+        row(qPrintable(QLatin1String("groove of ") + QLatin1String(slider)), slider,
+            "QSlider::groove:horizontal",
+            "height: 10px|background: transparent|border: 1px solid #00b9f2|border-radius: 4px");
+        row(qPrintable(QLatin1String("handle of ") + QLatin1String(slider)), slider,
+            "QSlider::handle:horizontal",
+            "width: 13px|background: qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 #FFFFFF, "
+            "stop: 1 #00b9f2)|border: 1px solid #00b9f2|margin: -2px 0px|border-radius: 4px");
+    }
+}
+
+void TestSaveDialog::looksAsItsStyleSheetsSay()
+{
+    QFETCH(QString, widget);
+    QFETCH(QString, selector);
+    QFETCH(QStringList, declarations);
+    QString block;
+    const QString sheet = dialog->findChild<QWidget *>(widget)->styleSheet();
+    for (const QString &rule : sheet.split(QLatin1Char('}'))) {
+        if (rule.section(QLatin1Char('{'), 0, 0).trimmed() == selector)
+            block = rule.section(QLatin1Char('{'), 1);
+    }
+    QStringList found;
+    for (const QString &declaration : block.split(QLatin1Char(';'), Qt::SkipEmptyParts))
+        found += declaration.trimmed();
+    QCOMPARE(found, declarations);
+}
+
+// The width of the style sheet and a border at either side.
+void TestSaveDialog::handlesOfSlidersAre13Wide()
+{
+    open(threeTimes);
+    for (const char *name : {"horizontalSlider_StartPoint", "horizontalSlider_EndPoint"})
+        QCOMPARE(handleOf(child<QSlider>(name)).width(), 13 + 2);
+}
+
+void TestSaveDialog::signalsStandInTheirOrder()
+{
+    const QMetaObject &meta = SaveDialog::staticMetaObject;
+    const int first = meta.indexOfSignal("setStartPoint(double)");
+    QCOMPARE(first, meta.methodOffset());
+    QCOMPARE(meta.indexOfSignal("setEndPoint(double)"), first + 1);
+    QCOMPARE(meta.indexOfSignal("clearPoints()"), first + 2);
+    QVERIFY(meta.method(first + 3).methodType() != QMetaMethod::Signal);
 }
 
 void TestSaveDialog::startsWithTheWholeSpan()
@@ -156,6 +261,11 @@ void TestSaveDialog::acceptsASingleSample()
     QCOMPARE(child<QSlider>("horizontalSlider_EndPoint")->maximum(), 0);
     QCOMPARE(text("lineEdit_Start"), QStringLiteral("3"));
     QCOMPARE(text("lineEdit_End"), QStringLiteral("3"));
+    drag("horizontalSlider_StartPoint", 1);
+    drag("horizontalSlider_EndPoint", -1);
+    click("pushButton_Save");
+    QCOMPARE(host->savings.at(0).start, 3.0);
+    QCOMPARE(host->savings.at(0).end, 3.0);
 }
 
 void TestSaveDialog::survivesNoSamples()
@@ -168,6 +278,11 @@ void TestSaveDialog::survivesNoSamples()
     end.clear();
 
     open({});
+    for (const char *name : {"horizontalSlider_StartPoint", "horizontalSlider_EndPoint"}) {
+        QCOMPARE(child<QSlider>(name)->minimum(), 0);
+        QCOMPARE(child<QSlider>(name)->maximum(), 0); // as the toolkit takes -1
+        drag(name, 1);
+    }
     QTest::keyClick(child<QSlider>("horizontalSlider_EndPoint"), Qt::Key_Right);
     dialog->on_horizontalSlider_StartPoint_sliderMoved(0);
     dialog->on_horizontalSlider_EndPoint_sliderMoved(0);
@@ -190,37 +305,69 @@ void TestSaveDialog::keepsItsOwnTimes()
 
 void TestSaveDialog::followsADraggedSlider_data()
 {
-    QTest::addColumn<QString>("slider");
-    QTest::addColumn<QString>("edit");
-    QTest::addColumn<int>("starts");
-    QTest::addColumn<int>("ends");
-
-    QTest::newRow("start slider") << QStringLiteral("horizontalSlider_StartPoint")
-                                  << QStringLiteral("lineEdit_Start") << 1 << 0;
-    QTest::newRow("end slider") << QStringLiteral("horizontalSlider_EndPoint")
-                                << QStringLiteral("lineEdit_End") << 0 << 1;
+    QTest::addColumn<QByteArray>("slider");
+    QTest::addColumn<double>("way"); // part of the groove
+    QTest::addColumn<QString>("start");
+    QTest::addColumn<QString>("end");
+    QTest::addColumn<double>("time"); // of the last signal
+    const auto row = [](const char *name, const char *slider, double way, const char *start,
+                         const char *end, double time) {
+        QTest::newRow(name) << QByteArray(slider) << way << QString::fromLatin1(start)
+                            << QString::fromLatin1(end) << time;
+    };
+    row("the start to the middle", "horizontalSlider_StartPoint", 0.5, "2", "13", 1.6);
+    row("the start to the end", "horizontalSlider_StartPoint", 1, "13", "13", 12.75);
+    row("the start beyond the end", "horizontalSlider_StartPoint", 2, "13", "13", 12.75);
+    row("the end to the middle", "horizontalSlider_EndPoint", -0.5, "0", "2", 1.6);
+    row("the end to the start", "horizontalSlider_EndPoint", -1, "0", "0", 0.4);
 }
 
 void TestSaveDialog::followsADraggedSlider()
 {
-    QFETCH(QString, slider);
-    QFETCH(QString, edit);
-    QFETCH(int, starts);
-    QFETCH(int, ends);
+    QFETCH(QByteArray, slider);
+    QFETCH(double, way);
+    QFETCH(QString, start);
+    QFETCH(QString, end);
+    QFETCH(double, time);
     open(threeTimes);
-    QSignalSpy start(dialog, &SaveDialog::setStartPoint);
-    QSignalSpy end(dialog, &SaveDialog::setEndPoint);
+    QSignalSpy starts(dialog, &SaveDialog::setStartPoint);
+    QSignalSpy ends(dialog, &SaveDialog::setEndPoint);
 
-    auto *moved = dialog->findChild<QSlider *>(slider);
-    moved->setSliderDown(true);
-    moved->setSliderPosition(1);
-    moved->setSliderDown(false);
+    drag(slider.constData(), way);
 
-    QCOMPARE(dialog->findChild<QLineEdit *>(edit)->text(), QStringLiteral("2"));
-    QCOMPARE(start.count(), starts);
-    QCOMPARE(end.count(), ends);
-    const QSignalSpy &spy = starts ? start : end;
-    QCOMPARE(spy.at(0).at(0).toDouble(), 1.6);
+    QCOMPARE(text("lineEdit_Start"), start);
+    QCOMPARE(text("lineEdit_End"), end);
+    const bool isStart = slider.contains("Start");
+    const QSignalSpy &moved = isStart ? starts : ends;
+    QCOMPARE(moved.constLast().at(0).toDouble(), time);
+    QCOMPARE((isStart ? ends : starts).count(), 0);
+}
+
+void TestSaveDialog::stepsThroughTheTimesUnderTheMouse()
+{
+    open({0, 0.25, 1, 1.5, 20});
+    QSignalSpy starts(dialog, &SaveDialog::setStartPoint);
+    QSignalSpy ends(dialog, &SaveDialog::setEndPoint);
+    QStringList shown;
+    connect(child<QLineEdit>("lineEdit_Start"), &QLineEdit::textChanged, this,
+        [&shown](const QString &now) { shown += now; });
+    const auto times = [](const QSignalSpy &spy) {
+        QVector<double> result;
+        for (const QList<QVariant> &arguments : spy)
+            result += arguments.at(0).toDouble();
+        return result;
+    };
+
+    drag("horizontalSlider_StartPoint", 1);
+    QCOMPARE(times(starts), QVector<double>({0.25, 1, 1.5, 20}));
+    QCOMPARE(shown, QStringList({QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("20")}));
+    QCOMPARE(ends.count(), 0);
+
+    drag("horizontalSlider_EndPoint", -1);
+    QCOMPARE(times(ends), QVector<double>({1.5, 1, 0.25, 0}));
+    QCOMPARE(starts.count(), 4);
+    QCOMPARE(text("lineEdit_Start"), QStringLiteral("20"));
+    QCOMPARE(text("lineEdit_End"), QStringLiteral("0"));
 }
 
 void TestSaveDialog::followsKeyboardAndWheel()
