@@ -10,6 +10,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTemporaryDir>
@@ -107,6 +108,32 @@ class TestOutput : public QObject {
         (*found)->trigger();
     }
 
+    QImage savedPicture()
+    {
+        answerFileDialog(path("shot.png"));
+        trigger("&Save screenshot");
+        return QImage(path("shot.png"), "png");
+    }
+
+    QImage copiedPicture() const
+    {
+        trigger("&Copy to clipboard");
+        return QGuiApplication::clipboard()->image();
+    }
+
+    // Saves what the dialog offers.
+    void saveByDialog(const QString &name) const
+    {
+        trigger("&Save As..");
+        const auto *dialog = window->findChild<QDialog *>(QStringLiteral("SaveDialog"));
+        QVERIFY(dialog->isVisible());
+        dialog->findChild<QLineEdit *>(QStringLiteral("lineEdit_FilePath"))->setText(name);
+        QTest::mouseClick(
+            dialog->findChild<QWidget *>(QStringLiteral("pushButton_Save")), Qt::LeftButton);
+        QVERIFY(!dialog->isVisible());
+        QCOMPARE(window->statusBar()->currentMessage(), QStringLiteral("File saved."));
+    }
+
 private slots:
     void init()
     {
@@ -199,17 +226,70 @@ private slots:
             QCOMPARE(label->font().styleStrategy(), QFont::PreferDefault);
     }
 
-    // The caption is the only black text in the left of the topmost rows.
-    void captionStandsInTheTopLeftCorner()
+    void captionGivesTheStartTwice_data()
     {
-        trigger("&Copy to clipboard");
-        const QImage picture = QGuiApplication::clipboard()->image();
-        int black = 0;
-        for (int y = 8; y < 21; ++y) {
-            for (int x = 10; x < 300; ++x)
-                black += qGray(picture.pixel(x, y)) < 60 ? 1 : 0;
+        QTest::addColumn<bool>("isFile");
+        QTest::addColumn<QByteArray>("startDate");
+        QTest::addColumn<QString>("caption");
+        const QString twice
+            = QStringLiteral("Start: 15/03/2024 10:00:00.000    Trigger: 15/03/2024 10:00:00.000");
+        for (const bool isFile : {true, false}) {
+            const auto row = [isFile](const char *name, const char *date, const QString &caption) {
+                const QByteArray place = isFile ? " in a file" : " on the clipboard";
+                QTest::newRow(name + place) << isFile << QByteArray(date) << caption;
+            };
+            row("a start 20 ms before the trigger", "15/03/2024", twice);
+            row("a start that is none", "2024-03-15", QStringLiteral("Start:     Trigger: "));
         }
-        QVERIFY2(black > 100, qPrintable(QString::number(black)));
+    }
+
+    // Nothing but the caption stands in the topmost rows.
+    void captionGivesTheStartTwice()
+    {
+        QFETCH(bool, isFile);
+        QFETCH(QByteArray, startDate);
+        QFETCH(QString, caption);
+        window->open(writeSmallRecording(folder->path(), QStringLiteral("dated"),
+            smallConfiguration("Harju", startDate, "10:00:00.000000")));
+        const QImage picture = isFile ? savedPicture() : copiedPicture();
+        const auto top = [](const QImage &image) {
+            return image.copy(0, 0, image.width(), 26).convertToFormat(QImage::Format_RGB32);
+        };
+        const auto drawn = [&](const QString &text) {
+            QPixmap sheet(picture.size());
+            sheet.fill(Qt::white);
+            QPainter(&sheet).drawText(10, 20, text);
+            return top(sheet.toImage());
+        };
+        QVERIFY(drawn(caption)
+            != drawn(QStringLiteral(
+                "Start: 15/03/2024 10:00:00.000    Trigger: 15/03/2024 10:00:00.020")));
+        QCOMPARE(top(picture), drawn(caption));
+    }
+
+    // Two patches over the plots, which themselves have no colours so faint.
+    void nearlyTransparentColoursShowInAFileAlone()
+    {
+        QLabel faint(plotColumn());
+        faint.setStyleSheet(QStringLiteral("background-color: rgba(0, 0, 200, 19);"));
+        faint.setGeometry(0, 0, 8, 4);
+        faint.show();
+        QLabel visible(plotColumn());
+        visible.setStyleSheet(QStringLiteral("background-color: rgba(0, 0, 200, 20);"));
+        visible.setGeometry(8, 0, 8, 4);
+        visible.show();
+        const QImage saved = savedPicture().convertToFormat(QImage::Format_RGB32);
+        QImage copied = copiedPicture().convertToFormat(QImage::Format_RGB32);
+        // 255 - 19 and 255 - 20, with 200 * 19 / 255 and 200 * 20 / 255 of blue.
+        QCOMPARE(saved.pixelColor(4, 2), QColor(236, 236, 251));
+        QCOMPARE(saved.pixelColor(12, 2), QColor(235, 235, 251));
+        for (int y = 0; y < 4; ++y) {
+            for (int x = 0; x < 8; ++x) {
+                QCOMPARE(copied.pixelColor(x, y), QColor(Qt::white));
+                copied.setPixel(x, y, saved.pixel(x, y));
+            }
+        }
+        QCOMPARE(copied, saved); // everywhere else
     }
 
     void withoutRecordingThePictureIsStillMade()
@@ -288,6 +368,53 @@ private slots:
             QStringLiteral("39,0,-200,38,1\n40,1000,-200,39,1"));
         QVERIFY(fileText(folder->filePath(name + QLatin1String(".cfg")))
                     .startsWith(QLatin1String("Harju 110/20 kV,Feeder J07,1999\n")));
+    }
+
+    // Both ends are those that the dialog shows: 1 and 39.
+    void samplesBeyondTheRoundedEndsAreLeftOut()
+    {
+        QByteArray data = smallData();
+        data.replace("1,0,200", "1,600,200").replace("40,39000,", "40,39400,");
+        const QString recording = writeSmallRecording(folder->path(), QStringLiteral("rounded"));
+        QVERIFY(writeTextFile(path("rounded.dat"), data));
+        window->open(recording);
+        QCOMPARE(window->recording()->sampleTimes.constFirst(), 0.6);
+        QCOMPARE(window->recording()->sampleTimes.constLast(), 39.4);
+        saveByDialog(path("out"));
+        const QStringList lines = fileText(path("out.dat")).split(QLatin1Char('\n'));
+        QCOMPARE(lines.size(), 38);
+        QCOMPARE(lines.constFirst(), QStringLiteral("2,0,200,1,0"));
+        QCOMPARE(lines.constLast(), QStringLiteral("39,37000,-200,38,1"));
+        const QString configuration = fileText(path("out.cfg"));
+        QVERIFY(
+            configuration.contains(QLatin1String("\n1000.000000,38\n15/03/2024,10:00:00.001\n")));
+    }
+
+    void anEmptyExportCanBeSaved_data()
+    {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("configuration");
+        QTest::newRow("names alone")
+            << QByteArray("#Ua[kV],Freq\n")
+            << QStringLiteral(",,\n2,2A,0D\n"
+                              "0,Ua,,,kV,1,0,0,-99999,99999,1.000000,1.000000,P\n"
+                              "1,Freq,,,Freq,1,0,0,-99999,99999,1.000000,1.000000,P\n"
+                              "1.000000\n1\n1.000000,0\n,\n,\n\n1");
+        QTest::newRow("nothing") << QByteArray()
+                                 << QStringLiteral(",,\n0,0A,0D\n0.000000\n0\n,\n,\n\n1");
+    }
+
+    void anEmptyExportCanBeSaved()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, configuration);
+        QVERIFY(writeTextFile(path("export.txt"), text));
+        window->open(path("export.txt"));
+        QVERIFY(window->recording());
+        saveByDialog(path("out"));
+        QCOMPARE(fileText(path("out.cfg")), configuration);
+        QVERIFY(QFile::exists(path("out.dat")));
+        QCOMPARE(fileText(path("out.dat")), QString());
     }
 
     void pathThatCannotBeOpenedIsReportedSavedAllTheSame()
