@@ -51,6 +51,7 @@ class TestOutput : public QObject {
         "Plotter{background-color: #313034; border: 2px outset qlineargradient(x1: 0, y1: 0, x2: 0,"
         " y2: 1, stop: 0 #616064, stop: 1 #313034);}");
     const QString captureStyle = QStringLiteral("Plotter{background-color: transparent;}");
+    static constexpr int captionHeight = 26;
 
     std::unique_ptr<QTemporaryDir> folder;
     std::unique_ptr<MainWindow> window;
@@ -119,6 +120,21 @@ class TestOutput : public QObject {
     {
         trigger("&Copy to clipboard");
         return QGuiApplication::clipboard()->image();
+    }
+
+    // The topmost rows of a picture, in which nothing but the caption stands.
+    static QImage topOf(const QImage &picture)
+    {
+        return picture.copy(0, 0, picture.width(), captionHeight)
+            .convertToFormat(QImage::Format_RGB32);
+    }
+
+    static QImage drawnTop(const QString &caption, int width)
+    {
+        QPixmap sheet(width, captionHeight);
+        sheet.fill(Qt::white);
+        QPainter(&sheet).drawText(10, 20, caption);
+        return topOf(sheet.toImage());
     }
 
     // Saves what the dialog offers.
@@ -243,7 +259,6 @@ private slots:
         }
     }
 
-    // Nothing but the caption stands in the topmost rows.
     void captionGivesTheStartTwice()
     {
         QFETCH(bool, isFile);
@@ -252,19 +267,11 @@ private slots:
         window->open(writeSmallRecording(folder->path(), QStringLiteral("dated"),
             smallConfiguration("Harju", startDate, "10:00:00.000000")));
         const QImage picture = isFile ? savedPicture() : copiedPicture();
-        const auto top = [](const QImage &image) {
-            return image.copy(0, 0, image.width(), 26).convertToFormat(QImage::Format_RGB32);
-        };
-        const auto drawn = [&](const QString &text) {
-            QPixmap sheet(picture.size());
-            sheet.fill(Qt::white);
-            QPainter(&sheet).drawText(10, 20, text);
-            return top(sheet.toImage());
-        };
-        QVERIFY(drawn(caption)
-            != drawn(QStringLiteral(
-                "Start: 15/03/2024 10:00:00.000    Trigger: 15/03/2024 10:00:00.020")));
-        QCOMPARE(top(picture), drawn(caption));
+        QVERIFY(drawnTop(caption, 600)
+            != drawnTop(QStringLiteral("Start: 15/03/2024 10:00:00.000"
+                                       "    Trigger: 15/03/2024 10:00:00.020"),
+                600));
+        QCOMPARE(topOf(picture), drawnTop(caption, picture.width()));
     }
 
     // Two patches over the plots, which themselves have no colours so faint.
@@ -299,8 +306,10 @@ private slots:
         empty.show();
         QVERIFY(QTest::qWaitForWindowExposed(&empty));
         empty.copyToClipboard();
-        QCOMPARE(QGuiApplication::clipboard()->image().size(),
-            empty.findChild<QWidget *>(QStringLiteral("scrollWidget"))->size());
+        const QImage picture = QGuiApplication::clipboard()->image();
+        QCOMPARE(
+            picture.size(), empty.findChild<QWidget *>(QStringLiteral("scrollWidget"))->size());
+        QCOMPARE(topOf(picture), drawnTop(QStringLiteral("Start:     Trigger: "), picture.width()));
     }
 
     // Saving
