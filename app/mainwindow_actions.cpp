@@ -183,6 +183,14 @@ void MainWindow::createToolBars()
     sideLabel->setStyleSheet(QStringLiteral("QLabel{color:white;}"));
     sideBar->addWidget(sideLabel);
     sideBar->addWidget(primSecCombo);
+
+    // The Tab key goes from the tool bars through the form, then on to the plots. The group box
+    // comes last here: the form's first widget follows the last one anyway, and would not be moved.
+    const QList<QWidget *> stops{primSecCombo, ui->checkBox_convertToLocal, ui->listWidget,
+        ui->listWidget2, ui->scrollWidget};
+    for (int i = 1; i < stops.size(); ++i)
+        setTabOrder(stops.at(i - 1), stops.at(i));
+    setTabOrder(primSecCombo, ui->groupBox);
 }
 
 void MainWindow::enableRecordingActions(bool enabled)

@@ -273,6 +273,7 @@ void MainWindow::addPlotter(const QList<QString> &AnCheckedChannels)
     plot->setName(given.isEmpty() ? tr("Graph %1").arg(++graphCount) : given);
     plot->setMainWindow(this);
     plotLayout->insertWidget(plotLayout->indexOf(digitalPlotter), plot);
+    setTabOrder(addedPlotters.isEmpty() ? analogPlotter : addedPlotters.constLast(), plot);
     addedPlotters.append(plot);
     setColumnHeight();
     linkPlots();

@@ -51,6 +51,10 @@ void CTVTDialog::setChannels(
         ui->gridLayout->addWidget(primaryEdits.last(), i + 1, 1);
         ui->gridLayout->addWidget(secondaryEdits.last(), i + 1, 2);
     }
+    if (!secondaryEdits.isEmpty()) {
+        setTabOrder(secondaryEdits.last(), ui->pushButton_Close);
+        setTabOrder(secondaryEdits.last(), ui->pushButton_Set);
+    }
 }
 
 void CTVTDialog::clearChannels()

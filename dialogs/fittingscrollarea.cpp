@@ -7,6 +7,7 @@
 FittingScrollArea::FittingScrollArea(QWidget *parent) : QScrollArea(parent)
 {
     viewport()->setAutoFillBackground(false);
+    setFocusPolicy(Qt::NoFocus); // what stands inside takes it, and is scrolled to
 }
 
 QSize FittingScrollArea::sizeHint() const

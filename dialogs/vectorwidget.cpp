@@ -109,6 +109,7 @@ void VectorWidget::setChannelNames(const QStringList &names)
     channelNames = names;
     qDeleteAll(checkBoxes);
     checkBoxes.clear();
+    QWidget *previous = ui->toolButton; // for the Tab key
     for (int i = 0; i < names.size(); ++i) {
         auto *checkBox = new QCheckBox(this);
         connect(checkBox, &QCheckBox::toggled, this, &VectorWidget::drawAll);
@@ -120,6 +121,8 @@ void VectorWidget::setChannelNames(const QStringList &names)
         // The panel's width is fixed, however long the names are.
         checkBox->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         checkBoxes.append(checkBox);
+        setTabOrder(previous, checkBox);
+        previous = checkBox;
     }
 }
 
