@@ -1,3 +1,4 @@
+#include "contrast.h"
 #include "mainwindow.h"
 #include "smallrecording.h"
 #include "windowtest.h"
@@ -5,10 +6,10 @@
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QTemporaryDir>
 #include <QToolButton>
 
-#include <cmath>
 #include <memory>
 
 namespace {
@@ -103,6 +104,35 @@ private slots:
         for (const QWidget *stop : tabStops(*shown))
             names.append(nameOf(stop));
         QTEST(names.join(QLatin1Char(' ')), "stops");
+    }
+
+    void focusIsSeen_data() { tabFollowsTheReadingOrder_data(); }
+    void focusIsSeen()
+    {
+        QFETCH(QString, dialog);
+        QWidget *shown = window.get();
+        if (!dialog.isEmpty())
+            shown = window->findChild<QDialog *>(dialog);
+        shown->show();
+        QVERIFY(QTest::qWaitForWindowActive(shown));
+        for (QWidget *stop : tabStops(*shown)) {
+            if (stop->objectName() == QLatin1String("toolButton_Browse"))
+                continue; // grows lighter by its own style sheet
+            window->findChild<QScrollArea *>(QStringLiteral("scrollArea"))
+                ->ensureWidgetVisible(stop);
+            const QRect place(stop->mapTo(shown, QPoint()), stop->size());
+            stop->setFocus(Qt::TabFocusReason);
+            QCoreApplication::processEvents();
+            const QImage with = shown->grab(place).toImage();
+            stop->clearFocus();
+            QCoreApplication::processEvents();
+            const QImage without = shown->grab(place).toImage();
+            // The toolkit's frame of a plot tints it all; other frames stand out.
+            const bool isPlot = stop->inherits("Plotter");
+            const int seen = differentPixels(with, without, isPlot ? 1.1 : 2);
+            QVERIFY2(seen >= (isPlot ? with.width() * with.height() / 2 : 80),
+                qPrintable(nameOf(stop) + QStringLiteral(": %1").arg(seen)));
+        }
     }
 };
 

@@ -1,0 +1,290 @@
+#include "contrast.h"
+#include "mainwindow.h"
+#include "smallrecording.h"
+#include "stylerules.h"
+#include "windowtest.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QFileDialog>
+#include <QGroupBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QStatusBar>
+#include <QStyleOptionSlider>
+#include <QTemporaryDir>
+#include <QToolBar>
+#include <QToolButton>
+
+#include <memory>
+
+namespace {
+
+const char *const windowGradient
+    = "qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 #717074, stop: 1 #515054)";
+const char *const buttonGradient
+    = "qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 #616064, stop: 1 #414044)";
+
+// Whether a pixel has a colour, but for the rounding of a gradient.
+bool isAlmost(QRgb pixel, const char *name)
+{
+    const QColor color = QLatin1String(name);
+    return qAbs(qRed(pixel) - color.red()) <= 4 && qAbs(qGreen(pixel) - color.green()) <= 4
+        && qAbs(qBlue(pixel) - color.blue()) <= 4;
+}
+
+} // namespace
+
+// The look of the main window and of what belongs to it.
+class TestLook : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<MainWindow> window;
+    std::unique_ptr<QDialog> dialog; // an empty one
+    QTemporaryDir folder;
+
+    template <class T> T *child(const char *name) const
+    {
+        return window->findChild<T *>(QLatin1String(name));
+    }
+
+    // A widget of the dialog, which is shown anew with it.
+    template <class T> T *added(T *widget)
+    {
+        widget->setParent(dialog.get());
+        widget->move(20, 20);
+        dialog->resize(300, 200);
+        dialog->show();
+        widget->show();
+        QCoreApplication::processEvents();
+        return widget;
+    }
+
+private slots:
+    void init()
+    {
+        startAsMaker();
+        window = std::make_unique<MainWindow>();
+        window->show();
+        dialog = std::make_unique<QDialog>(window.get());
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    }
+
+    void cleanup()
+    {
+        dialog.reset();
+        window.reset();
+    }
+
+    void rules_data()
+    {
+        QTest::addColumn<QString>("selector");
+        QTest::addColumn<QString>("property");
+        QTest::addColumn<QString>("value");
+        const auto row = [](const char *selector, const char *property, const char *value) {
+            QTest::addRow("%s: %s", selector, property)
+                << QString::fromLatin1(selector) << QString::fromLatin1(property)
+                << QString::fromLatin1(value);
+        };
+        for (const char *selector : {"QMainWindow", "QDialog", "QMessageBox"})
+            row(selector, "background", windowGradient);
+        for (const char *selector : {"QPushButton", "QComboBox", "QFileDialog"})
+            row(selector, "background", buttonGradient);
+        row("QHeaderView::section", "background",
+            "qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 #616161, stop: 0.5 #505050, "
+            "stop: 0.6 #434343, stop: 1 #656565)");
+        row("QListView", "background-color", "#313034");
+        row("QListView", "border", "1px inset #00b9f2");
+
+        for (const char *selector : {"QLineEdit", "QAbstractSpinBox", "QComboBox", "QGroupBox",
+                 "QTabWidget::pane", "QMenu"})
+            row(selector, "border", "1px solid #00b9f2");
+        for (const char *selector : {"QPushButton:hover", "QPushButton:focus",
+                 "QMenu::item:selected", "QMenuBar::item:selected"})
+            row(selector, "color", "#00b9f2");
+        row("QComboBox QAbstractItemView", "selection-background-color", "#00b9f2");
+        row("QMenu::separator", "background-color", "#00b9f2");
+        row("QToolBar", "background",
+            "qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 #00b9f2, stop: 0.5 transparent)");
+
+        for (const char *selector : {"QMenuBar", "QMenu", "QStatusBar", "QPushButton", "QLineEdit",
+                 "QAbstractSpinBox", "QTextBrowser", "QListView", "QHeaderView::section",
+                 "QGroupBox", "QGroupBox::title", "QTabBar::tab", "QProgressBar"})
+            row(selector, "color", "white");
+        row("QCheckBox", "color", "#79d7ff");
+        row("QCheckBox", "font-size", "12px");
+        row("QCheckBox", "font-weight", "bold");
+        row("QCheckBox#checkBox_Meas", "color", "white");
+        row("QCheckBox:disabled", "color", "#aaaaaa");
+        row("QCheckBox#checkBox_Meas:disabled", "color", "#aaaaaa");
+        row("QComboBox", "color", "#79d7ff");
+        row("QComboBox:disabled", "color", "#aaaaaa");
+        row("QComboBox:disabled", "border-color", "#8a8a8e");
+        row("QComboBox", "max-width", "150px");
+        row("QMenu::item:disabled", "color", "#505050");
+        row("QGroupBox", "font-size", "20px");
+        row("QGroupBox::title", "subcontrol-position", "top left");
+        row("QStatusBar", "font-weight", "bold");
+        row("QMenuBar", "font-weight", "bold");
+
+        row("QScrollBar", "border", "1px outset #00b9f2");
+        row("QScrollBar:horizontal", "height", "15px");
+        row("QScrollBar:vertical", "width", "15px");
+        row("QScrollBar::handle", "background",
+            "qradialgradient(cx: 0.5, cy: 0.5, radius: 0.5, fx: 0.5, fy: 0.5, stop: 0 white, "
+            "stop: 1 #00b9f2)");
+        row("QScrollBar::handle:horizontal", "min-width", "20px");
+        row("QScrollBar::handle:vertical", "min-height", "20px");
+        for (const char *selector :
+            {"QScrollBar::add-line:horizontal", "QScrollBar::sub-line:horizontal"})
+            row(selector, "width", "16px");
+        for (const char *selector :
+            {"QScrollBar::add-line:vertical", "QScrollBar::sub-line:vertical"})
+            row(selector, "height", "16px");
+        row("QScrollBar::up-arrow", "image", "url(:/images/uparrow.png)");
+        row("QScrollBar::down-arrow", "image", "url(:/images/downarrow.png)");
+        row("QScrollBar::left-arrow", "image", "url(:/images/leftarrow.png)");
+        row("QScrollBar::right-arrow", "image", "url(:/images/rightarrow.png)");
+        row("QComboBox::down-arrow", "image", "url(:/images/downarrow.png)");
+        row("QComboBox::down-arrow:disabled", "image", "url(:/images/downarrowdisabled.png)");
+
+        for (const char *selector :
+            {"#V_listWidget QLabel", "QGroupBox QLabel", "QDialog QLabel"}) {
+            row(selector, "color", "white");
+            row(selector, "padding", "0px");
+        }
+    }
+
+    void rules()
+    {
+        QFETCH(QString, selector);
+        QFETCH(QString, property);
+        QTEST(StyleRules(window->styleSheet()).value(selector, property), "value");
+    }
+
+    // Drawn
+
+    void windowsAreDrawnWithTheirGradient()
+    {
+        dialog->resize(200, 300);
+        dialog->show();
+        const QImage picture = dialog->grab().toImage();
+        QVERIFY(isAlmost(picture.pixel(100, 0), "#717074"));
+        QVERIFY(isAlmost(picture.pixel(100, picture.height() / 2), "#616064"));
+        QVERIFY(isAlmost(picture.pixel(100, picture.height() - 1), "#515054"));
+    }
+
+    void listsAreFlatInsideTheirBorder()
+    {
+        const QImage picture = child<QListWidget>("listWidget")->grab().toImage();
+        QVERIFY(isAlmost(picture.pixel(50, 100), "#313034"));
+        QVERIFY(isAlmost(picture.pixel(0, 100), "#00b9f2"));
+    }
+
+    void accentFadesOverTheUpperHalfOfTheToolBar()
+    {
+        const auto *bar = window->findChild<QToolBar *>();
+        const QRect place(bar->pos(), bar->size());
+        const QImage picture = window->grab(place).toImage();
+        const int x = picture.width() - 1; // right of the button
+        QVERIFY(isAlmost(picture.pixel(x, 0), "#00b9f2"));
+        for (const int y : {picture.height() / 2 + 1, picture.height() - 1}) {
+            const QRgb pixel = picture.pixel(x, y); // the window's grey
+            QVERIFY2(qBlue(pixel) - qRed(pixel) <= 4, qPrintable(QString::number(pixel, 16)));
+        }
+    }
+
+    void checkBoxes()
+    {
+        const auto *free = added(new QCheckBox(QStringLiteral("Free")));
+        QCOMPARE(free->font().pixelSize(), 12);
+        QVERIFY(free->font().bold());
+        QCOMPARE(free->palette().color(QPalette::Active, QPalette::WindowText).name(),
+            QStringLiteral("#79d7ff"));
+        auto *measured = new QCheckBox(QStringLiteral("Measured"));
+        measured->setObjectName(QStringLiteral("checkBox_Meas"));
+        added(measured);
+        QCOMPARE(measured->palette().color(QPalette::Active, QPalette::WindowText).name(),
+            QStringLiteral("#ffffff"));
+        QCOMPARE(measured->palette().color(QPalette::Disabled, QPalette::WindowText).name(),
+            QStringLiteral("#aaaaaa"));
+    }
+
+    void comboBoxes()
+    {
+        auto *combo = added(new QComboBox);
+        combo->addItem(QString(80, QLatin1Char('W')));
+        combo->adjustSize();
+        QVERIFY2(combo->width() <= 180, qPrintable(QString::number(combo->width())));
+        QCOMPARE(combo->maximumWidth(), child<QComboBox>("comboBox_primSec")->maximumWidth());
+        QCOMPARE(combo->palette().color(QPalette::Active, QPalette::Text).name(),
+            QStringLiteral("#79d7ff"));
+        QCOMPARE(combo->palette().color(QPalette::Disabled, QPalette::Text).name(),
+            QStringLiteral("#aaaaaa"));
+    }
+
+    void boldBarsAndLargeTitles()
+    {
+        QVERIFY(window->menuBar()->font().bold());
+        QVERIFY(window->statusBar()->font().bold());
+        QCOMPARE(child<QGroupBox>("groupBox")->font().pixelSize(), 20);
+    }
+
+    void labelsAreWhite_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("beside the lists") << QStringLiteral("label_4");
+        QTest::newRow("in the group box") << QStringLiteral("label4");
+        QTest::newRow("in a dialog") << QStringLiteral("GraphNameLabel");
+    }
+
+    void labelsAreWhite()
+    {
+        QFETCH(QString, name);
+        auto *label = window->findChild<QLabel *>(name);
+        label->window()->show();
+        QCOMPARE(label->palette().color(QPalette::Active, QPalette::WindowText).name(),
+            QStringLiteral("#ffffff"));
+        QCOMPARE(label->contentsMargins(), QMargins());
+    }
+
+    void scrollBars_data()
+    {
+        QTest::addColumn<Qt::Orientation>("orientation");
+        QTest::newRow("horizontal") << Qt::Horizontal;
+        QTest::newRow("vertical") << Qt::Vertical;
+    }
+
+    void scrollBars()
+    {
+        QFETCH(Qt::Orientation, orientation);
+        const bool flat = orientation == Qt::Horizontal;
+        auto *bar = added(new QScrollBar(orientation));
+        bar->setRange(0, 100000);
+        bar->resize(
+            flat ? QSize(200, bar->sizeHint().height()) : QSize(bar->sizeHint().width(), 150));
+        QStyleOptionSlider option;
+        option.initFrom(bar);
+        option.orientation = orientation;
+        option.state.setFlag(QStyle::State_Horizontal, flat);
+        option.maximum = bar->maximum();
+        option.pageStep = bar->pageStep();
+        const auto part = [&](QStyle::SubControl control) {
+            const QSize size
+                = bar->style()->subControlRect(QStyle::CC_ScrollBar, &option, control, bar).size();
+            return flat ? size : size.transposed();
+        };
+        QCOMPARE(flat ? bar->height() : bar->width(), 15);
+        QCOMPARE(part(QStyle::SC_ScrollBarAddLine).width(), 16);
+        QCOMPARE(part(QStyle::SC_ScrollBarSubLine).width(), 16);
+        QCOMPARE(part(QStyle::SC_ScrollBarSlider).width(), 20);
+    }
+};
+
+QTEST_MAIN(TestLook)
+#include "tst_look.moc"
