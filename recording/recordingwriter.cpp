@@ -90,16 +90,26 @@ std::unique_ptr<QFileDevice> openForWriting(const QString &path)
         replacement->setDirectWriteFallback(true);
         file = std::move(replacement);
     }
-    return file->open(QIODevice::WriteOnly) ? std::move(file) : nullptr;
+    return file->open(QIODevice::WriteOnly | QIODevice::Unbuffered) ? std::move(file) : nullptr;
+}
+
+// Writes a text, but nothing behind one that did not fit. A file that took a part of a text has no
+// error until the rest is tried.
+void writeAll(QFileDevice &file, const char *text, qint64 size)
+{
+    while (size > 0 && file.error() == QFileDevice::NoError) {
+        const qint64 count = std::max<qint64>(file.write(text, size), 0);
+        text += count;
+        size -= count;
+    }
 }
 
 // Puts the files that were opened in their places, none before all are complete: an old data file
-// beside a new configuration would be neither recording. The flush stands apart because a commit
-// does not notice that its own last bytes could not be written.
+// beside a new configuration would be neither recording.
 RecordingWriter::Outcome finish(const std::initializer_list<QFileDevice *> &files)
 {
-    for (QFileDevice *file : files) {
-        if (file && (!file->flush() || file->error() != QFileDevice::NoError))
+    for (const QFileDevice *file : files) {
+        if (file && file->error() != QFileDevice::NoError)
             return {file->fileName(), file->errorString()};
     }
     for (QFileDevice *file : files) {
@@ -155,8 +165,10 @@ RecordingWriter::Outcome RecordingWriter::writePair(
 
     const QString stem = path.endsWith(extension) ? path.chopped(extension.size()) : path;
     const auto configurationFile = openForWriting(stem + extension);
-    if (configurationFile)
-        configurationFile->write(encoded(configuration(span, side)));
+    if (configurationFile) {
+        const QByteArray text = encoded(configuration(span, side));
+        writeAll(*configurationFile, text.constData(), text.size());
+    }
 
     const auto dataFile = openForWriting(stem + QLatin1String(".dat"));
     if (dataFile) {
@@ -172,11 +184,11 @@ RecordingWriter::Outcome RecordingWriter::writePair(
             isFirst = false;
             at = writeDataLine(at, sample, span.start);
             if (at - text.data() >= blockSize) {
-                dataFile->write(text.data(), at - text.data());
+                writeAll(*dataFile, text.data(), at - text.data());
                 at = text.data();
             }
         });
-        dataFile->write(text.data(), at - text.data());
+        writeAll(*dataFile, text.data(), at - text.data());
     }
     return finish({configurationFile.get(), dataFile.get()});
 }

@@ -1,5 +1,6 @@
 #include "cfgproperties.h"
 #include "ctvtdialog.h"
+#include "filesizelimit.h"
 #include "mainwindow.h"
 #include "plotterdg.h"
 #include "smallrecording.h"
@@ -17,32 +18,7 @@
 #include <QTest>
 
 #include <algorithm>
-#include <csignal>
 #include <memory>
-#include <sys/resource.h>
-
-// While it lives, this process can write no file beyond so many bytes.
-class FileSizeLimit {
-public:
-    explicit FileSizeLimit(rlim_t bytes)
-    {
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    FileSizeLimit(const FileSizeLimit &) = delete;
-    FileSizeLimit &operator=(const FileSizeLimit &) = delete;
-
-private:
-    rlimit m_before{};
-    void (*m_handler)(int) = SIG_DFL;
-};
 
 class TestOutput : public QObject {
     Q_OBJECT

@@ -9,8 +9,8 @@
 #include <limits>
 
 #ifdef Q_OS_UNIX
-#include <csignal>
-#include <sys/resource.h>
+#include "filesizelimit.h"
+
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -40,9 +40,10 @@ private slots:
 #ifdef Q_OS_UNIX
     void aFolderThatTakesNoNewFilesHasItsFilesReplaced();
     void linksAreFollowedToFilesAlone();
-#endif
     void aFileThatCannotBeWrittenInFullIsTold_data();
     void aFileThatCannotBeWrittenInFullIsTold();
+    void aFileThatIsWrittenInPlaceAndDoesNotFitIsTold();
+#endif
     void aCopyReadsAsTheOriginalAndCopiesToTheSameBytes_data();
     void aCopyReadsAsTheOriginalAndCopiesToTheSameBytes();
 };
@@ -187,14 +188,20 @@ void TestWrittenFiles::aFolderWithoutPermissionKeepsItsFiles()
 void TestWrittenFiles::aFullFileSystemKeepsItsFiles_data()
 {
     QTest::addColumn<int>("fill"); // bytes of another file, of 64 kB
-    QTest::newRow("no room") << 65536 - 2 * 4096;
-    QTest::newRow("room for the configuration alone") << 65536 - 3 * 4096;
-    QTest::newRow("room for the first part of the data") << 16384;
+    QTest::addColumn<int>("last");
+    QTest::addColumn<QString>("failed");
+    const QString data = QStringLiteral("out.dat");
+    QTest::newRow("no room") << 65536 - 2 * 4096 << 30000 << QStringLiteral("out.cfg");
+    QTest::newRow("room for the configuration alone") << 65536 - 3 * 4096 << 30000 << data;
+    QTest::newRow("room for the first part of the data") << 16384 << 30000 << data;
+    QTest::newRow("room for all but the end of the data") << 16384 << 2500 << data;
 }
 
 void TestWrittenFiles::aFullFileSystemKeepsItsFiles()
 {
     QFETCH(int, fill);
+    QFETCH(int, last);
+    QFETCH(QString, failed);
     const OwnFileSystem full(65536);
     if (!full.isMounted())
         QSKIP("This system mounts no file system for a test.");
@@ -205,12 +212,12 @@ void TestWrittenFiles::aFullFileSystemKeepsItsFiles()
     QVERIFY(writeTextFile(full.path("other"), QByteArray(fill, 'x')));
     const RecordingFolder source;
     CFGProperties recording;
-    source.load(recording, configurationText().text(), dataUpTo(30000));
+    source.load(recording, configurationText().text(), dataUpTo(last));
     const RecordingWriter writer(recording, {}, {});
     for (int attempt = 0; attempt < 2; ++attempt) {
         const auto outcome = writer.write(configuration, -infinite, infinite);
         QVERIFY(outcome.hasFailed());
-        QCOMPARE(outcome.failedFile, configuration); // finished first
+        QCOMPARE(outcome.failedFile, full.path(qPrintable(failed)));
         QCOMPARE(outcome.error, QStringLiteral("No space left on device"));
         QCOMPARE(contents(configuration), QByteArray("as before"));
         QCOMPARE(contents(data), QByteArray("as before"));
@@ -289,7 +296,6 @@ void TestWrittenFiles::linksAreFollowedToFilesAlone()
     QVERIFY(!writer.write(path("direct"), 1, 1).hasFailed());
     QVERIFY(!QFileInfo(path("direct.cfg")).isFile());
 }
-#endif
 
 void TestWrittenFiles::aFileThatCannotBeWrittenInFullIsTold_data()
 {
@@ -299,13 +305,16 @@ void TestWrittenFiles::aFileThatCannotBeWrittenInFullIsTold_data()
     QTest::newRow("the configuration does not fit") << 3 << 50 << QStringLiteral("out.cfg");
     QTest::newRow("the last bytes of the data do not fit")
         << 300 << 1000 << QStringLiteral("out.dat");
+    QTest::newRow("the only block of the data does not fit")
+        << 2000 << 20000 << QStringLiteral("out.dat");
+    QTest::newRow("the last block of the data does not fit")
+        << 20000 << 300000 << QStringLiteral("out.dat");
     QTest::newRow("data of several blocks do not fit")
         << 60000 << 700000 << QStringLiteral("out.dat");
 }
 
 void TestWrittenFiles::aFileThatCannotBeWrittenInFullIsTold()
 {
-#ifdef Q_OS_UNIX
     QFETCH(int, samples);
     QFETCH(int, room);
     QFETCH(QString, failed);
@@ -318,27 +327,35 @@ void TestWrittenFiles::aFileThatCannotBeWrittenInFullIsTold()
     CFGProperties recording;
     source.load(recording, configurationText().text(), dataUpTo(samples));
 
-    rlimit before{};
-    QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limited{static_cast<rlim_t>(room), before.rlim_max};
-    QCOMPARE(setrlimit(RLIMIT_FSIZE, &limited), 0);
     const RecordingWriter writer(recording, {}, {});
-    const auto outcome = writer.write(configuration, -infinite, infinite);
-    setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
-
+    RecordingWriter::Outcome outcome;
+    {
+        const FileSizeLimit limit(static_cast<rlim_t>(room));
+        outcome = writer.write(configuration, -infinite, infinite);
+    }
     QVERIFY(outcome.hasFailed());
     QCOMPARE(outcome.failedFile, folder.filePath(failed));
-    QVERIFY(!outcome.error.isEmpty());
+    QCOMPARE(outcome.error, QStringLiteral("File too large"));
     // What was there stays, both of it, and nothing half-written is left beside it.
     QCOMPARE(contents(configuration), QByteArray("as before"));
     QCOMPARE(contents(data), QByteArray("as before"));
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
-#else
-    QSKIP("Only where a process can limit its own files.");
-#endif
 }
+
+void TestWrittenFiles::aFileThatIsWrittenInPlaceAndDoesNotFitIsTold()
+{
+    const QTemporaryDir folder;
+    const RecordingFolder source;
+    CFGProperties recording;
+    source.load(recording, configurationText().text(), dataUpTo(300));
+    const RecordingWriter writer(recording, {}, {});
+    const QString target = folder.filePath(QString(250, QLatin1Char('n')));
+    const FileSizeLimit limit(1000);
+    const auto outcome = writer.write(target, -infinite, infinite);
+    QCOMPARE(outcome.failedFile, target + QLatin1String(".dat"));
+    QCOMPARE(outcome.error, QStringLiteral("File too large"));
+}
+#endif
 
 void TestWrittenFiles::aCopyReadsAsTheOriginalAndCopiesToTheSameBytes_data()
 {
