@@ -53,6 +53,7 @@ private slots:
     void followsADraggedSlider_data();
     void followsADraggedSlider();
     void stepsThroughTheTimesUnderTheMouse();
+    void followsClicksOnTheGroove();
     void followsKeyboardAndWheel();
     void keepsNoOrderBetweenStartAndEnd();
     void tellsOfAnExistingFile_data();
@@ -368,6 +369,21 @@ void TestSaveDialog::stepsThroughTheTimesUnderTheMouse()
     QCOMPARE(starts.count(), 4);
     QCOMPARE(text("lineEdit_Start"), QStringLiteral("20"));
     QCOMPARE(text("lineEdit_End"), QStringLiteral("0"));
+}
+
+void TestSaveDialog::followsClicksOnTheGroove()
+{
+    QVector<double> times;
+    for (int i = 0; i < 30; ++i)
+        times += i * 1.5;
+    open(times);
+    QSignalSpy start(dialog, &SaveDialog::setStartPoint);
+    auto *slider = child<QSlider>("horizontalSlider_StartPoint");
+    QTest::mouseClick(slider, Qt::LeftButton, {}, slider->rect().center());
+    QCOMPARE(slider->value(), 10); // a page
+    QCOMPARE(text("lineEdit_Start"), QStringLiteral("15"));
+    QCOMPARE(start.count(), 1);
+    QCOMPARE(start.at(0).at(0).toDouble(), 15.0);
 }
 
 void TestSaveDialog::followsKeyboardAndWheel()
