@@ -65,7 +65,7 @@ QString aboutText(const QString &applicationName, int brand)
         + QStringLiteral("</font> v1.5.4-1-g56f75d81<br/>")
         + details.aboutPrefix
         // The palette's link colour is too dark for the grey box.
-        + QStringLiteral("<a style=\"color:#79d7ff\" href=\"%1\">%2</a>")
+        + QStringLiteral("<a style=\"color:#c4eeff\" href=\"%1\">%2</a>")
               .arg(details.webSite, details.linkText)
         + QStringLiteral("</font></p>"); // closes what was never opened; the renderer tolerates it
 }

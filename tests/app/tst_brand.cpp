@@ -98,31 +98,31 @@ void tst_Brand::aboutBox_data()
     QTest::addColumn<QString>("text");
     const QString maker = QStringLiteral(
         "<font size=4>Wavorin</font> v1.5.4-1-g56f75d81<br/>Created by "
-        "<a style=\"color:#79d7ff\" href=\"https://www.norvale.example\">Norvale</a></font></p>");
+        "<a style=\"color:#c4eeff\" href=\"https://www.norvale.example\">Norvale</a></font></p>");
     QTest::newRow("the maker's line names the maker") << 0 << maker;
     QTest::newRow("Vanta's line shows the address")
         << 1
         << QStringLiteral(
                "<font size=4>Wavorin</font> v1.5.4-1-g56f75d81<br/>Vanta: "
-               "<a style=\"color:#79d7ff\" "
+               "<a style=\"color:#c4eeff\" "
                "href=\"https://www.vanta.example\">https://www.vanta.example</a></font></p>");
     QTest::newRow("Orlo's line shows the address")
         << 2
         << QStringLiteral(
                "<font size=4>Wavorin</font> v1.5.4-1-g56f75d81<br/>Orlo: "
-               "<a style=\"color:#79d7ff\" "
+               "<a style=\"color:#c4eeff\" "
                "href=\"https://www.orlo.example\">https://www.orlo.example</a></font></p>");
     QTest::newRow("Quill's line shows the address")
         << 3
         << QStringLiteral(
                "<font size=4>Wavorin</font> v1.5.4-1-g56f75d81<br/>Quill: "
-               "<a style=\"color:#79d7ff\" "
+               "<a style=\"color:#c4eeff\" "
                "href=\"https://www.quill.example\">https://www.quill.example</a></font></p>");
     QTest::newRow("Mervic's line shows the address")
         << 4
         << QStringLiteral(
                "<font size=4>Wavorin</font> v1.5.4-1-g56f75d81<br/>Mervic: "
-               "<a style=\"color:#79d7ff\" "
+               "<a style=\"color:#c4eeff\" "
                "href=\"https://www.mervic.example\">https://www.mervic.example</a></font></p>");
     QTest::newRow("a brand above the table keeps the maker's line") << 5 << maker;
     QTest::newRow("a brand below the table keeps the maker's line") << -1 << maker;

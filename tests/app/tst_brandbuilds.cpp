@@ -27,7 +27,7 @@ private slots:
         QTest::addColumn<QString>("about");
         QTest::addColumn<QString>("kept"); // language in the settings after it was closed
         const auto link = [](const char *address, const char *text) {
-            return QStringLiteral("<a style=\"color:#79d7ff\" href=\"%1\">%2</a></font></p>")
+            return QStringLiteral("<a style=\"color:#c4eeff\" href=\"%1\">%2</a></font></p>")
                 .arg(QLatin1String(address), QLatin1String(text));
         };
         const auto ownLink = [&](const char *address) { return link(address, address); };

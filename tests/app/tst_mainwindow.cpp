@@ -406,7 +406,7 @@ private slots:
         QCOMPARE(boxes[0].title, QStringLiteral("About Wavorin"));
         QCOMPARE(boxes[0].text,
             QStringLiteral("<font size=4>Wavorin</font> v1.5.4-1-g56f75d81<br/>Created by "
-                           "<a style=\"color:#79d7ff\" href=\"https://www.norvale.example\">"
+                           "<a style=\"color:#c4eeff\" href=\"https://www.norvale.example\">"
                            "Norvale</a></font></p>"));
     }
 
