@@ -16,6 +16,7 @@ class CTVTDialog;
 class Plotter;
 class QCheckBox;
 class QComboBox;
+class QLabel;
 class QMenu;
 class QProcess;
 class QTranslator;
@@ -187,6 +188,7 @@ private:
     QMenu *languageMenu = nullptr;
     QCheckBox *showAnglesCheckBox = nullptr;
     QComboBox *referenceCombo = nullptr;
+    QLabel *primSecLabel = nullptr;
     QComboBox *primSecCombo = nullptr;
 
     QScrollBar *horizontalScroll = nullptr;

@@ -123,6 +123,9 @@ void MainWindow::createToolBarWidgets()
     connect(referenceCombo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
         &MainWindow::referenceChanged);
 
+    primSecLabel = new QLabel(tr("Primary/Secondary:"), this);
+    primSecLabel->setStyleSheet(QStringLiteral("QLabel{color:white;}"));
+
     primSecCombo = new QComboBox(this);
     primSecCombo->setObjectName(QStringLiteral("comboBox_primSec"));
     connect(primSecCombo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
@@ -179,9 +182,7 @@ void MainWindow::createToolBars()
     spectrumBar->addWidget(referenceCombo);
 
     QToolBar *sideBar = addToolBar(tr("Prim/Sec"));
-    auto *sideLabel = new QLabel(tr("Primary/Secondary:"), this);
-    sideLabel->setStyleSheet(QStringLiteral("QLabel{color:white;}"));
-    sideBar->addWidget(sideLabel);
+    sideBar->addWidget(primSecLabel);
     sideBar->addWidget(primSecCombo);
 
     // The Tab key goes from the tool bars through the form, then on to the plots. The group box
@@ -220,7 +221,10 @@ void MainWindow::retranslateTexts()
         action->setStatusTip(tr(entry.statusTip));
     }
     showAnglesCheckBox->setText(tr("Show FFT Angles"));
+    showAnglesCheckBox->setToolTip(tr("Draw the angles of spectrum traces, too"));
     referenceCombo->setToolTip(tr("Reference channel of the FFT angles"));
+    primSecLabel->setToolTip(tr("Values of the primary or the secondary side, or per unit"));
+    primSecCombo->setToolTip(primSecLabel->toolTip());
     languageMenu->setTitle(tr("Language"));
 }
 

@@ -214,6 +214,13 @@ void VectorWidget::showEvent(QShowEvent *)
 
 void VectorWidget::resizeEvent(QResizeEvent *) { }
 
+void VectorWidget::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        ui->retranslateUi(this);
+    QWidget::changeEvent(event);
+}
+
 void VectorWidget::renderPixmaps()
 {
     renderPending = false;

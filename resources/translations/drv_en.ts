@@ -19,6 +19,14 @@
         <source>&lt;&lt;</source>
         <translation>&lt;&lt;</translation>
     </message>
+    <message>
+        <source>Add to the plot</source>
+        <translation>Add to the plot</translation>
+    </message>
+    <message>
+        <source>Remove from the plot</source>
+        <translation>Remove from the plot</translation>
+    </message>
 </context>
 <context>
     <name>CTVTDialog</name>
@@ -370,6 +378,14 @@ Please select another file.</translation>
     <message>
         <source>Start: %1    Trigger: %2</source>
         <translation>Start: %1    Trigger: %2</translation>
+    </message>
+    <message>
+        <source>Draw the angles of spectrum traces, too</source>
+        <translation>Draw the angles of spectrum traces, too</translation>
+    </message>
+    <message>
+        <source>Values of the primary or the secondary side, or per unit</source>
+        <translation>Values of the primary or the secondary side, or per unit</translation>
     </message>
 </context>
 <context>
@@ -933,6 +949,10 @@ Do you want to replace it?</translation>
         <source>Continue</source>
         <translation>Continue</translation>
     </message>
+    <message>
+        <source>Choose the file</source>
+        <translation>Choose the file</translation>
+    </message>
 </context>
 <context>
     <name>VectorDialog</name>
@@ -943,6 +963,17 @@ Do you want to replace it?</translation>
     <message>
         <source>Reference: </source>
         <translation>Reference: </translation>
+    </message>
+    <message>
+        <source>Add a diagram</source>
+        <translation>Add a diagram</translation>
+    </message>
+</context>
+<context>
+    <name>VectorWidget</name>
+    <message>
+        <source>Remove this diagram</source>
+        <translation>Remove this diagram</translation>
     </message>
 </context>
 </TS>

@@ -19,6 +19,14 @@
         <source>&lt;&lt;</source>
         <translation>&lt;&lt;</translation>
     </message>
+    <message>
+        <source>Add to the plot</source>
+        <translation>Lisää kuvaajaan</translation>
+    </message>
+    <message>
+        <source>Remove from the plot</source>
+        <translation>Poista kuvaajasta</translation>
+    </message>
 </context>
 <context>
     <name>CTVTDialog</name>
@@ -370,6 +378,14 @@ Valitse toinen tiedosto.</translation>
     <message>
         <source>Start: %1    Trigger: %2</source>
         <translation>Alku: %1    Liipaisu: %2</translation>
+    </message>
+    <message>
+        <source>Draw the angles of spectrum traces, too</source>
+        <translation>Piirrä myös spektrikäyrien kulmat</translation>
+    </message>
+    <message>
+        <source>Values of the primary or the secondary side, or per unit</source>
+        <translation>Ensiö- tai toisiopuolen arvot tai suhteellisarvot</translation>
     </message>
 </context>
 <context>
@@ -933,6 +949,10 @@ Korvataanko se?</translation>
         <source>Continue</source>
         <translation>Jatka</translation>
     </message>
+    <message>
+        <source>Choose the file</source>
+        <translation>Valitse tiedosto</translation>
+    </message>
 </context>
 <context>
     <name>VectorDialog</name>
@@ -943,6 +963,17 @@ Korvataanko se?</translation>
     <message>
         <source>Reference: </source>
         <translation>Vertailu: </translation>
+    </message>
+    <message>
+        <source>Add a diagram</source>
+        <translation>Lisää osoitinpiirros</translation>
+    </message>
+</context>
+<context>
+    <name>VectorWidget</name>
+    <message>
+        <source>Remove this diagram</source>
+        <translation>Poista tämä osoitinpiirros</translation>
     </message>
 </context>
 </TS>

@@ -19,6 +19,14 @@
         <source>&lt;&lt;</source>
         <translation>&lt;&lt;</translation>
     </message>
+    <message>
+        <source>Add to the plot</source>
+        <translation>添加到曲线图</translation>
+    </message>
+    <message>
+        <source>Remove from the plot</source>
+        <translation>从曲线图中移除</translation>
+    </message>
 </context>
 <context>
     <name>CTVTDialog</name>
@@ -370,6 +378,14 @@ Please select another file.</source>
     <message>
         <source>Start: %1    Trigger: %2</source>
         <translation>起始：%1    触发：%2</translation>
+    </message>
+    <message>
+        <source>Draw the angles of spectrum traces, too</source>
+        <translation>同时绘制频谱曲线的相角</translation>
+    </message>
+    <message>
+        <source>Values of the primary or the secondary side, or per unit</source>
+        <translation>一次侧值、二次侧值或标幺值</translation>
     </message>
 </context>
 <context>
@@ -933,6 +949,10 @@ Do you want to replace it?</source>
         <source>Continue</source>
         <translation>继续</translation>
     </message>
+    <message>
+        <source>Choose the file</source>
+        <translation>选择文件</translation>
+    </message>
 </context>
 <context>
     <name>VectorDialog</name>
@@ -943,6 +963,17 @@ Do you want to replace it?</source>
     <message>
         <source>Reference: </source>
         <translation>参考： </translation>
+    </message>
+    <message>
+        <source>Add a diagram</source>
+        <translation>添加相量图</translation>
+    </message>
+</context>
+<context>
+    <name>VectorWidget</name>
+    <message>
+        <source>Remove this diagram</source>
+        <translation>移除此相量图</translation>
     </message>
 </context>
 </TS>

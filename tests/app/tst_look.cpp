@@ -253,6 +253,54 @@ private slots:
         QCOMPARE(label->contentsMargins(), QMargins());
     }
 
+    // Tool tips
+
+    void controlsTellWhatTheyAreFor_data()
+    {
+        QTest::addColumn<QString>("path"); // of object names
+        QTest::addColumn<QString>("tip");
+        const auto row = [](const char *path, const char *tip) {
+            QTest::newRow(path) << QString::fromLatin1(path) << QString::fromLatin1(tip);
+        };
+        row("checkBox_showAngles", "Draw the angles of spectrum traces, too");
+        row("comboBox_mainReference", "Reference channel of the FFT angles");
+        row("comboBox_primSec", "Values of the primary or the secondary side, or per unit");
+        row("SaveDialog toolButton_Browse", "Choose the file");
+        row("AddPlotterDialog pushButton_add", "Add to the plot");
+        row("AddPlotterDialog pushButton_remove", "Remove from the plot");
+        row("VectorDialog toolButton", "Add a diagram");
+        row("VectorDialog VectorWidget toolButton", "Remove this diagram");
+    }
+
+    void controlsTellWhatTheyAreFor()
+    {
+        QFETCH(QString, path);
+        const QStringList names = path.split(QLatin1Char(' '));
+        const QWidget *widget = window.get();
+        for (const QString &name : names) {
+            const bool isButton = name == QLatin1String("toolButton");
+            widget = widget->findChild<QWidget *>(
+                name, isButton ? Qt::FindDirectChildrenOnly : Qt::FindChildrenRecursively);
+            QVERIFY2(widget, qPrintable(name));
+        }
+        QTEST(widget->toolTip(), "tip");
+    }
+
+    void everythingInTheToolBarsHasAToolTip()
+    {
+        int count = 0;
+        for (const QToolBar *bar : window->findChildren<QToolBar *>()) {
+            for (QAction *action : bar->actions()) {
+                QVERIFY2(
+                    !bar->widgetForAction(action)->toolTip().isEmpty(), qPrintable(action->text()));
+                ++count;
+            }
+        }
+        QCOMPARE(count, 16);
+    }
+
+    // Scroll bars
+
     void scrollBars_data()
     {
         QTest::addColumn<Qt::Orientation>("orientation");
