@@ -21,6 +21,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QMovie>
+#include <QPainter>
 #include <QPointer>
 #include <QProcess>
 #include <QThread>
@@ -32,12 +33,24 @@ namespace {
 
 constexpr int animationSize = 100;
 
+// Draws the frames of its movie as large as itself, however many pixels of the screen that are.
+class MovieLabel : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent * /*event*/) override
+    {
+        QPainter(this).drawPixmap(rect(), movie()->currentPixmap());
+    }
+};
+
 QLabel *newLoadingAnimation(QWidget *window)
 {
-    auto *label = new QLabel(window);
+    auto *label = new MovieLabel(window);
     label->setAttribute(Qt::WA_DeleteOnClose);
     auto *movie = new QMovie(QStringLiteral(":/images/loading.gif"), QByteArray(), label);
-    movie->setScaledSize(QSize(animationSize, animationSize));
+    movie->setScaledSize(QSize(animationSize, animationSize) * label->devicePixelRatioF());
     label->setFixedSize(animationSize, animationSize);
     label->move(window->width() / 2 - animationSize / 2, window->height() / 2 - animationSize / 2);
     label->setMovie(movie);

@@ -428,8 +428,16 @@ private slots:
                 QVERIFY(label->testAttribute(Qt::WA_DeleteOnClose));
                 QCOMPARE(movie->fileName(), QStringLiteral(":/images/loading.gif"));
                 QVERIFY(movie->isValid());
-                QCOMPARE(movie->scaledSize(), QSize(100, 100));
+                const int size = qRound(100 * window->devicePixelRatioF()); // on the screen
+                QCOMPARE(movie->scaledSize(), QSize(size, size));
                 QCOMPARE(movie->state(), QMovie::Running);
+                // Pixel by pixel; the corners are transparent.
+                const QRect middle(size / 4, size / 4, size / 2, size / 2);
+                const auto format = QImage::Format_RGB32;
+                QImage picture = label->grab().toImage();
+                picture.setDevicePixelRatio(1);
+                QCOMPARE(picture.copy(middle).convertToFormat(format),
+                    movie->currentImage().copy(middle).convertToFormat(format));
             }
         });
         window->open(goodRecording());
