@@ -19,15 +19,19 @@
 
 namespace {
 
-// The images of actions that start disabled have a grey one beside them: the toolkit's own greying
-// follows a light palette and would leave them almost white.
+// In 24 and, for large icons and sharp screens, in 48 pixels. The images of actions that start
+// disabled have grey ones beside them: the toolkit's own greying follows a light palette and would
+// leave them almost white.
 QIcon actionIcon(QLatin1String name)
 {
-    const QString path = QStringLiteral(":/images/%1%2.png");
-    QIcon icon(path.arg(name, QString()));
-    const QString grey = path.arg(name, QLatin1String("disabled"));
-    if (QFile::exists(grey))
-        icon.addFile(grey, QSize(), QIcon::Disabled);
+    QIcon icon;
+    for (const char *size : {"", "@2x"}) {
+        const QString path = QStringLiteral(":/images/%1%2%3.png");
+        icon.addFile(path.arg(name, QString(), QLatin1String(size)));
+        const QString grey = path.arg(name, QLatin1String("disabled"), QLatin1String(size));
+        if (QFile::exists(grey))
+            icon.addFile(grey, QSize(), QIcon::Disabled);
+    }
     return icon;
 }
 

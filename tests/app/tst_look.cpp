@@ -13,6 +13,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStatusBar>
@@ -29,6 +30,8 @@ const char *const windowGradient
     = "qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 #717074, stop: 1 #515054)";
 const char *const buttonGradient
     = "qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 #616064, stop: 1 #414044)";
+
+constexpr QRgb plate = 0xff29282c; // of tool buttons
 
 // Whether a pixel has a colour, but for the rounding of a gradient.
 bool isAlmost(QRgb pixel, const char *name)
@@ -251,6 +254,50 @@ private slots:
         QCOMPARE(label->palette().color(QPalette::Active, QPalette::WindowText).name(),
             QStringLiteral("#ffffff"));
         QCOMPARE(label->contentsMargins(), QMargins());
+    }
+
+    // Icons
+
+    void iconsAreToldApart_data()
+    {
+        QTest::addColumn<int>("size");
+        for (const int size : {16, 24, 48})
+            QTest::addRow("%d pixels", size) << size;
+    }
+
+    void iconsAreToldApart()
+    {
+        QFETCH(int, size);
+        QMap<QString, QImage> pictures; // on the dark plate of a tool button
+        for (const QAction *action : window->findChildren<QAction *>()) {
+            if (action->icon().isNull() || action->text() == QLatin1String("Save As &Primary"))
+                continue; // which has the icon of the other saving
+            for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Disabled}) {
+                if (mode == QIcon::Disabled && action->isEnabled())
+                    continue;
+                QImage picture(size, size, QImage::Format_RGB32);
+                picture.fill(plate);
+                const QPixmap icon = action->icon().pixmap(size, mode);
+                QCOMPARE(icon.size(), picture.size());
+                QPainter(&picture).drawPixmap(0, 0, icon);
+                pictures.insert(
+                    action->text() + QLatin1String(mode == QIcon::Normal ? "" : ", disabled"),
+                    picture);
+            }
+        }
+        QImage empty(size, size, QImage::Format_RGB32);
+        empty.fill(plate);
+        pictures.insert(QStringLiteral("nothing"), empty);
+        QCOMPARE(pictures.size(), 18);
+        for (auto a = pictures.cbegin(); a != pictures.cend(); ++a) {
+            for (auto b = std::next(a); b != pictures.cend(); ++b) {
+                // Plus and minus in one frame differ least.
+                const int least = size * size / (b.key() == QLatin1String("nothing") ? 5 : 50);
+                const int different = differentPixels(a.value(), b.value(), 1.5);
+                QVERIFY2(different >= least,
+                    qPrintable(QStringLiteral("%1, %2: %3").arg(a.key(), b.key()).arg(different)));
+            }
+        }
     }
 
     // Tool tips
