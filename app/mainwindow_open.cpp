@@ -248,8 +248,9 @@ void MainWindow::clearView()
 {
     const bool disposes = std::exchange(hasRecording, false);
     enableRecordingActions(false);
-    for (QLabel *label :
-        {ui->label4, ui->label5, ui->label9, ui->label10, ui->label11, ui->label12})
+    const QList<QLabel *> values{
+        ui->label4, ui->label5, ui->label9, ui->label10, ui->label11, ui->label12};
+    for (QLabel *label : values)
         label->clear();
     for (QListWidget *list : {ui->listWidget, ui->listWidget2}) {
         const QSignalBlocker blocker(list);

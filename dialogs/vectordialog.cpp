@@ -5,6 +5,7 @@
 #include "ui_vectordialog.h"
 #include "vectorwidget.h"
 
+#include <QAbstractItemView>
 #include <QEvent>
 #include <QSignalBlocker>
 
@@ -42,6 +43,9 @@ void VectorDialog::setChannelNames(const QStringList &names)
         ui->comboBox_reference->addItem(QStringLiteral("-"));
         ui->comboBox_reference->addItems(names);
     }
+    // Long names widen the list, not the box.
+    QAbstractItemView &list = *ui->comboBox_reference->view();
+    list.setMinimumWidth(list.sizeHintForColumn(0) + 30); // a scroll bar, too
     for (VectorWidget *panel : panels())
         panel->setChannelNames(names);
     refresh();

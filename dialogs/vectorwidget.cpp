@@ -13,6 +13,8 @@
 #include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyleOptionButton>
+#include <QStylePainter>
 #include <QTimer>
 
 namespace {
@@ -20,6 +22,25 @@ namespace {
 constexpr int refreshDelay = 10; // ms
 constexpr int firstDrawDelay = 100; // ms, from being shown
 constexpr int checkBoxesPerRow = 3;
+
+// A check box that ends a text too long for it with an ellipsis.
+class ElidingCheckBox : public QCheckBox {
+public:
+    using QCheckBox::QCheckBox;
+
+protected:
+    void paintEvent(QPaintEvent * /*event*/) override
+    {
+        QStylePainter painter(this);
+        QStyleOptionButton option;
+        initStyleOption(&option);
+        const int room
+            = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, this).width();
+        option.text
+            = fontMetrics().elidedText(option.text, Qt::ElideRight, room, Qt::TextShowMnemonic);
+        painter.drawControl(QStyle::CE_CheckBox, option);
+    }
+};
 
 QString colorSheet(const QColor &color)
 {
@@ -111,7 +132,7 @@ void VectorWidget::setChannelNames(const QStringList &names)
     checkBoxes.clear();
     QWidget *previous = ui->toolButton; // for the Tab key
     for (int i = 0; i < names.size(); ++i) {
-        auto *checkBox = new QCheckBox(this);
+        auto *checkBox = new ElidingCheckBox(this);
         connect(checkBox, &QCheckBox::toggled, this, &VectorWidget::drawAll);
         ui->gridLayout->addWidget(checkBox, i / checkBoxesPerRow, i % checkBoxesPerRow);
         checkBox->setStyleSheet(colorSheet(channelColors.at(i % channelColors.size())));

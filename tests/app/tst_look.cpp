@@ -300,6 +300,47 @@ private slots:
         }
     }
 
+    // Long names
+
+    void namesTooLongForTheirPlaceEndInAnEllipsis_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("location") << QStringLiteral("label4");
+        QTest::newRow("device") << QStringLiteral("label5");
+        QTest::newRow("channel of a phasor diagram") << QStringLiteral("VectorWidget");
+    }
+
+    void namesTooLongForTheirPlaceEndInAnEllipsis()
+    {
+        QFETCH(QString, path);
+        const QByteArray name(200, 'W');
+        QByteArray configuration = smallConfiguration(name).replace("Feeder J07", name);
+        window->open(writeSmallRecording(
+            folder.path(), QStringLiteral("long"), configuration.replace("IL1", name)));
+        child<QDialog>("VectorDialog")->show();
+        QWidget *widget = path.startsWith(QLatin1String("Vector"))
+            ? child<QWidget>("VectorWidget")->findChild<QCheckBox *>()
+            : child<QWidget>(path.toLatin1().constData());
+        QCoreApplication::processEvents();
+        const QImage picture
+            = widget->window()
+                  ->grab({widget->mapTo(widget->window(), QPoint()), widget->size()})
+                  .toImage();
+        // Of an ellipsis there is ink at the foot of the line alone.
+        const int middle = picture.height() / 2;
+        int above = 0;
+        int below = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = picture.width() - 12; x < picture.width(); ++x) {
+                if (contrast(picture.pixel(x, y), picture.pixel(picture.width() - 1, 0)) > 2)
+                    ++(y < middle ? above : below);
+            }
+        }
+        QCOMPARE(above, 0);
+        QVERIFY2(below >= 2, qPrintable(QString::number(below)));
+        QCOMPARE(widget->property("text").toByteArray(), name);
+    }
+
     // Tool tips
 
     void controlsTellWhatTheyAreFor_data()

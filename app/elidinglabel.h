@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QLabel>
+
+// A label of one line of plain text that ends a text too long for it with an ellipsis.
+class ElidingLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
