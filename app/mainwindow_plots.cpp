@@ -26,6 +26,7 @@ constexpr int smallestPlotHeight = 200;
 constexpr int largestPlotHeight = 1000;
 // What an analog plot gets where the column is taller than the window, so that it scrolls anyway.
 constexpr int scrolledPlotHeight = 320;
+constexpr char numberOfUnnamed[] = "numberOfUnnamed"; // property of a plot that was given no name
 const QString spectrumSuffix = QStringLiteral("_FFT");
 
 void fill(QComboBox &combo, const QStringList &items, int current)
@@ -158,6 +159,11 @@ void MainWindow::retranslatePlots()
         return;
     analogPlotter->setName(tr("Analog"));
     digitalPlotter->setName(tr("Digital"));
+    for (Plotter *plot : qAsConst(addedPlotters)) {
+        const int number = plot->property(numberOfUnnamed).toInt();
+        if (number > 0)
+            plot->setName(tr("Graph %1").arg(number));
+    }
     fill(*primSecCombo, {tr("P"), tr("S"), tr("Per Unit")}, mode);
 }
 
@@ -270,7 +276,9 @@ void MainWindow::addPlotter(const QList<QString> &AnCheckedChannels)
     removePlotterAct->setEnabled(true);
     const QString given = addPlotterDialog->graphName().trimmed();
     const QPointer<Plotter> plot = new Plotter(ui->scrollWidget);
-    plot->setName(given.isEmpty() ? tr("Graph %1").arg(++graphCount) : given);
+    if (given.isEmpty())
+        plot->setProperty(numberOfUnnamed, ++graphCount);
+    plot->setName(given.isEmpty() ? tr("Graph %1").arg(graphCount) : given);
     plot->setMainWindow(this);
     plotLayout->insertWidget(plotLayout->indexOf(digitalPlotter), plot);
     setTabOrder(addedPlotters.isEmpty() ? analogPlotter : addedPlotters.constLast(), plot);

@@ -75,7 +75,7 @@
     </message>
     <message>
         <source>Convert To Localtime</source>
-        <translation>Muunna paikallisaikaan</translation>
+        <translation>Muunna paikallisajaksi</translation>
     </message>
     <message>
         <source>Device:</source>
@@ -373,7 +373,7 @@ Valitse toinen tiedosto.</translation>
     </message>
     <message>
         <source>Graph %1</source>
-        <translation>Kuvaaja %1</translation>
+        <translation>%1</translation>
     </message>
     <message>
         <source>Start: %1    Trigger: %2</source>
@@ -396,7 +396,7 @@ Valitse toinen tiedosto.</translation>
     </message>
     <message>
         <source>%1 Plotter</source>
-        <translation>%1-kuvaaja</translation>
+        <translation>Kuvaaja: %1</translation>
     </message>
     <message>
         <source>Parameter</source>
@@ -451,7 +451,7 @@ Valitse toinen tiedosto.</translation>
     <message>
         <source>Cursor at %1, %2
 Press ESC to cancel</source>
-        <translation>Osoitin kohdassa %1, %2
+        <translation>Kursori kohdassa %1, %2
 Peruuta painamalla Esc</translation>
     </message>
     <message>
@@ -607,7 +607,7 @@ Peruuta painamalla Esc</translation>
     </message>
     <message>
         <source>Show &amp;hidden files</source>
-        <translation>Näytä &amp;piilotiedostot</translation>
+        <translation>Näytä piilo&amp;tiedostot</translation>
     </message>
     <message>
         <source>&amp;New Folder</source>
@@ -962,7 +962,7 @@ Korvataanko se?</translation>
     </message>
     <message>
         <source>Reference: </source>
-        <translation>Vertailu: </translation>
+        <translation>Vertailukanava: </translation>
     </message>
     <message>
         <source>Add a diagram</source>

@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Graph name: </source>
-        <translation>曲线图名称： </translation>
+        <translation>曲线图名称：</translation>
     </message>
     <message>
         <source>&gt;&gt;</source>
@@ -99,7 +99,7 @@
     </message>
     <message>
         <source>Created by </source>
-        <translation>开发者： </translation>
+        <translation>开发者：</translation>
     </message>
     <message>
         <source>Ready</source>
@@ -147,11 +147,11 @@
     </message>
     <message>
         <source>&amp;Remove All Cursors</source>
-        <translation>清除所有游标(&amp;C)</translation>
+        <translation>删除所有游标(&amp;C)</translation>
     </message>
     <message>
         <source>Remove all cursors.</source>
-        <translation>清除所有游标。</translation>
+        <translation>删除所有游标。</translation>
     </message>
     <message>
         <source>&amp;Show Vectors</source>
@@ -203,11 +203,11 @@
     </message>
     <message>
         <source>Zoom Reset</source>
-        <translation>复位缩放</translation>
+        <translation>重置缩放</translation>
     </message>
     <message>
         <source>Zoom reset.</source>
-        <translation>复位缩放。</translation>
+        <translation>重置缩放。</translation>
     </message>
     <message>
         <source>Vertical Zoom In</source>
@@ -373,7 +373,7 @@ Please select another file.</source>
     </message>
     <message>
         <source>Graph %1</source>
-        <translation>曲线图 %1</translation>
+        <translation>%1</translation>
     </message>
     <message>
         <source>Start: %1    Trigger: %2</source>
@@ -396,7 +396,7 @@ Please select another file.</source>
     </message>
     <message>
         <source>%1 Plotter</source>
-        <translation>%1曲线图</translation>
+        <translation>曲线图：%1</translation>
     </message>
     <message>
         <source>Parameter</source>
@@ -408,7 +408,7 @@ Please select another file.</source>
     </message>
     <message>
         <source>Remove All Cursors</source>
-        <translation>清除所有游标</translation>
+        <translation>删除所有游标</translation>
     </message>
 </context>
 <context>
@@ -419,7 +419,7 @@ Please select another file.</source>
     </message>
     <message>
         <source>&amp;Step up</source>
-        <translation>增加(&amp;U)</translation>
+        <translation>增加(&amp;I)</translation>
     </message>
     <message>
         <source>Step &amp;down</source>
@@ -515,7 +515,7 @@ Press ESC to cancel</source>
     </message>
     <message>
         <source>Directory:</source>
-        <translation>目录：</translation>
+        <translation>文件夹：</translation>
     </message>
     <message>
         <source>All Files (*)</source>
@@ -539,11 +539,11 @@ Press ESC to cancel</source>
     </message>
     <message>
         <source>Parent Directory</source>
-        <translation>上级目录</translation>
+        <translation>上级文件夹</translation>
     </message>
     <message>
         <source>Go to the parent directory</source>
-        <translation>转到上级目录</translation>
+        <translation>转到上级文件夹</translation>
     </message>
     <message>
         <source>Create New Folder</source>
@@ -649,7 +649,7 @@ Do you want to delete it anyway?</source>
     </message>
     <message>
         <source>Could not delete directory.</source>
-        <translation>无法删除目录。</translation>
+        <translation>无法删除文件夹。</translation>
     </message>
     <message>
         <source>%1
@@ -664,8 +664,8 @@ Please verify the correct file name was given.</source>
 Directory not found.
 Please verify the correct directory name was given.</source>
         <translation>%1
-找不到目录。
-请检查目录名是否正确。</translation>
+找不到文件夹。
+请检查文件夹名是否正确。</translation>
     </message>
     <message>
         <source>%1 already exists.
@@ -725,7 +725,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>No such file or directory</source>
-        <translation>文件或目录不存在</translation>
+        <translation>文件或文件夹不存在</translation>
     </message>
     <message>
         <source>No space left on device</source>
@@ -733,7 +733,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>file to open is a directory</source>
-        <translation>要打开的是目录</translation>
+        <translation>要打开的是文件夹</translation>
     </message>
     <message>
         <source>Unknown error</source>
@@ -810,7 +810,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>Filename refers to a directory</source>
-        <translation>文件名指向一个目录</translation>
+        <translation>文件名指向一个文件夹</translation>
     </message>
 </context>
 <context>
@@ -962,7 +962,7 @@ Do you want to replace it?</source>
     </message>
     <message>
         <source>Reference: </source>
-        <translation>参考： </translation>
+        <translation>参考通道：</translation>
     </message>
     <message>
         <source>Add a diagram</source>

@@ -337,7 +337,7 @@ private slots:
         QCOMPARE(action("&Open...")->toolTip(), QStringLiteral("Open"));
         choose(chinese.entry);
         QCOMPARE(action("&Open...")->toolTip(), QStringLiteral("打开"));
-        QCOMPARE(action("&Remove All Cursors")->toolTip(), QStringLiteral("清除所有游标"));
+        QCOMPARE(action("&Remove All Cursors")->toolTip(), QStringLiteral("删除所有游标"));
         choose(finnish.entry);
         QCOMPARE(action("&Open...")->toolTip(), QStringLiteral("Avaa"));
     }
@@ -352,13 +352,18 @@ private slots:
             texts.sort();
             return texts.join(QLatin1Char('|'));
         };
-        QCOMPARE(titles(), QStringLiteral("Analog Plotter|Digital Plotter|Graph 1 Plotter"));
+        child<QLineEdit>("lineEdit_graphName")->setText(QStringLiteral("Bay 2"));
+        window->addPlotter({QStringLiteral("IL1")});
+        const QString english
+            = QStringLiteral("Analog Plotter|Bay 2 Plotter|Digital Plotter|Graph 1 Plotter");
+        QCOMPARE(titles(), english);
         choose(finnish.entry);
-        QCOMPARE(titles(), QStringLiteral("Analogia-kuvaaja|Digitaali-kuvaaja|Graph 1-kuvaaja"));
+        QCOMPARE(titles(),
+            QStringLiteral("Kuvaaja: 1|Kuvaaja: Analogia|Kuvaaja: Bay 2|Kuvaaja: Digitaali"));
         choose(chinese.entry);
-        QCOMPARE(titles(), QStringLiteral("Graph 1曲线图|开关量曲线图|模拟量曲线图"));
+        QCOMPARE(titles(), QStringLiteral("曲线图：1|曲线图：Bay 2|曲线图：开关量|曲线图：模拟量"));
         choose("English");
-        QCOMPARE(titles(), QStringLiteral("Analog Plotter|Digital Plotter|Graph 1 Plotter"));
+        QCOMPARE(titles(), english);
     }
 
     void switchingKeepsValuesAndChoices()

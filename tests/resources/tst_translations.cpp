@@ -55,8 +55,9 @@ QString faultOf(const QString &source, const QString &translation)
         return QStringLiteral("text");
     if (allMatches(source, "%\\d") != allMatches(translation, "%\\d"))
         return QStringLiteral("placeholders");
-    if (blanksBefore(source) != blanksBefore(translation)
-        || blanksAfter(source) != blanksAfter(translation))
+    // A full-width colon brings its own room.
+    const int after = translation.trimmed().endsWith(QChar(0xff1a)) ? 0 : blanksAfter(source);
+    if (blanksBefore(source) != blanksBefore(translation) || after != blanksAfter(translation))
         return QStringLiteral("blanks");
     if (!ending(source).isEmpty() && ending(source) != ending(translation))
         return QStringLiteral("ending");
@@ -88,6 +89,8 @@ private slots:
     void nothingOfATextIsLost();
     void noTextIsLeftInEnglish_data();
     void noTextIsLeftInEnglish();
+    void menusOfTheToolkitHaveNoClashes_data();
+    void menusOfTheToolkitHaveNoClashes();
     void englishHoldsTheSourceTexts();
     void everyBrandFindsItsFiles_data();
     void everyBrandFindsItsFiles();
@@ -119,6 +122,8 @@ void TestTranslations::faultsAreNoticed_data()
     row("placeholders may change places", "%1 of %2", "%2 / %1", "");
     row("the trailing blank is missing", "Reference: ", "Vertailu:", "blanks");
     row("a trailing blank too many", "Device:", "Laite: ", "blanks");
+    row("a full-width colon needs no blank", "Reference: ", "参考通道：", "");
+    row("a blank after a full-width colon", "Reference: ", "参考通道： ", "blanks");
     row("the colon is missing", "Device:", "Laite", "ending");
     row("a full-width colon is one", "Device:", "装置：", "");
     row("the full stop is missing", "File saved.", "Tiedosto tallennettu", "ending");
@@ -198,6 +203,41 @@ void TestTranslations::noTextIsLeftInEnglish()
     for (const TranslatedText &message : messages)
         QVERIFY2((message.source != message.translation) != same.contains(message.source),
             qPrintable(message.source));
+}
+
+void TestTranslations::menusOfTheToolkitHaveNoClashes_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QStringList>("entries");
+    const QStringList editing{QStringLiteral("&Undo"), QStringLiteral("&Redo"),
+        QStringLiteral("Cu&t"), QStringLiteral("&Copy"), QStringLiteral("&Paste")};
+    const QStringList files{QStringLiteral("&Rename"), QStringLiteral("&Delete"),
+        QStringLiteral("Show &hidden files"), QStringLiteral("&New Folder")};
+    const QStringList stepping{
+        QStringLiteral("&Select All"), QStringLiteral("&Step up"), QStringLiteral("Step &down")};
+    for (const char *language : {"fi", "zh"}) {
+        const QString code = QLatin1String(language);
+        QTest::addRow("files, %s", language) << code << files;
+        QTest::addRow("a number, %s", language) << code << editing + stepping;
+        QTest::addRow("a text with links, %s", language)
+            << code << editing + QStringList{QStringLiteral("Copy &Link Location")};
+    }
+}
+
+void TestTranslations::menusOfTheToolkitHaveNoClashes()
+{
+    QFETCH(QString, language);
+    QFETCH(QStringList, entries);
+    QMap<QString, QString> mnemonics; // by source; the contexts that share a text agree in it
+    const QList<TranslatedText> messages = translationsInto(language);
+    for (const TranslatedText &message : messages) {
+        if (message.context.startsWith(QLatin1Char('Q')) && entries.contains(message.source))
+            mnemonics.insert(
+                message.source, allMatches(message.translation, "&\\w").value(0).toUpper());
+    }
+    QCOMPARE(mnemonics.size(), entries.size());
+    QStringList letters = mnemonics.values();
+    QCOMPARE(letters.removeDuplicates(), 0);
 }
 
 void TestTranslations::englishHoldsTheSourceTexts()
