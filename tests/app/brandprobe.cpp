@@ -5,7 +5,9 @@
 
 #include <QApplication>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
+#include <QSplashScreen>
 #include <QThread>
 #include <QTimer>
 
@@ -28,18 +30,48 @@ MainWindow *shownWindow()
     return nullptr;
 }
 
+// The entries of the Language menu, each with the title of the first menu that it leads to.
 void tellLanguages(const MainWindow &window)
 {
     for (const QMenu *menu : window.findChildren<QMenu *>()) {
         if (menu->title() != QLatin1String("Language"))
             continue;
-        for (const QAction *entry : menu->actions()) {
+        const QList<QAction *> entries = menu->actions();
+        for (QAction *entry : entries) {
+            if (!entry->isVisible())
+                continue;
             const QString mark = entry->isChecked() ? QStringLiteral("*") : QString();
-            if (entry->isVisible())
-                tell(
-                    "language", entry->text() + QLatin1Char(' ') + entry->data().toString() + mark);
+            entry->trigger();
+            QCoreApplication::processEvents();
+            const QString title = window.menuBar()->actions().first()->text();
+            tell("language",
+                QStringList{entry->text(), entry->data().toString() + mark, title}.join(
+                    QLatin1Char(' ')));
         }
+        entries.first()->trigger();
+        return;
     }
+}
+
+void tellSplash()
+{
+    const QImage image(QStringLiteral(":/images/waveform.png"));
+    for (const QWidget *widget : QApplication::topLevelWidgets()) {
+        const auto *splash = qobject_cast<const QSplashScreen *>(widget);
+        if (splash && splash->isVisible())
+            tell("splash",
+                splash->pixmap().toImage().convertToFormat(image.format()) == image
+                    ? QStringLiteral("the maker's")
+                    : QStringLiteral("another"));
+    }
+}
+
+void tellIcon(const MainWindow &window)
+{
+    QStringList widths;
+    for (const QSize &size : window.windowIcon().availableSizes())
+        widths.append(QString::number(size.width()));
+    tell("icon", widths.join(QLatin1Char(' ')));
 }
 
 void tellAbout(MainWindow &window)
@@ -55,16 +87,23 @@ void tellAbout(MainWindow &window)
 void probe()
 {
     auto *timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer] {
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, splashSeen = false]() mutable {
         MainWindow *window = shownWindow();
-        // Start-up processes events, too; the program ends only from its own loop.
-        if (!window || QThread::currentThread()->loopLevel() == 0)
+        // Start-up processes events, too; with a recording it may be over before that.
+        const bool starting = QThread::currentThread()->loopLevel() == 0;
+        if (starting && !splashSeen && QCoreApplication::arguments().size() == 1) {
+            splashSeen = true;
+            tellSplash();
+        }
+        // The program ends only from its own loop.
+        if (!window || starting)
             return;
         timer->stop();
         tell("title", window->windowTitle());
-        tellLanguages(*window);
+        tellIcon(*window);
         tell("recordings", window->recordingsFolder());
         tellAbout(*window);
+        tellLanguages(*window);
         window->close();
     });
     timer->start(10);

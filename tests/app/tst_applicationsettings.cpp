@@ -96,42 +96,40 @@ private slots:
         settings.clear();
     }
 
-    void translationIsFoundInTheWorkingDirectoryFirst()
+    void unknownBrandHasNoCompanionFolder()
     {
-        const QTemporaryDir folder;
+        QSettings ofTheMaker(QStringLiteral("Norvale"), QStringLiteral("Setterra"));
+        ofTheMaker.setValue(
+            QStringLiteral("SettingsDialog/DRFilesPath"), QStringLiteral("/home/me/records"));
+        ofTheMaker.sync();
+        ApplicationIdentity::setBrand(5);
+        const QString folder = companionRecordingsFolder();
+        ofTheMaker.clear();
+        QCOMPARE(folder, QString());
+    }
+
+    // One name in every place: the place that is taken is removed, and the next one has its turn.
+    void translationsAreLookedForInThisOrder()
+    {
+        const QTemporaryDir workingFolder;
         const QString before = QDir::currentPath();
-        QVERIFY(QDir::setCurrent(folder.path()));
-        writeFile(folder.filePath(QStringLiteral("drv_test.qm")), emptyTranslation);
-        QTranslator translator;
-        loadTranslation(translator, QStringLiteral("drv_test"));
+        QVERIFY(QDir::setCurrent(workingFolder.path()));
+        const QString beside
+            = QCoreApplication::applicationDirPath() + QLatin1String("/translations/");
+        const QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
+            + QLatin1String("/translations/");
+        for (const QString &folder : {QString(), beside, data}) {
+            if (!folder.isEmpty())
+                QVERIFY(QDir().mkpath(folder));
+            writeFile(folder + QLatin1String("drv_test.qm"), emptyTranslation);
+        }
+        for (const QString &folder : {QString(), beside, data}) {
+            QTranslator translator;
+            loadTranslation(translator, QStringLiteral("drv_test"));
+            QCOMPARE(translator.filePath(), folder + QLatin1String("drv_test.qm"));
+            QVERIFY(QFile::remove(folder + QLatin1String("drv_test.qm")));
+        }
         QDir::setCurrent(before);
-        QCOMPARE(translator.filePath(), QStringLiteral("drv_test.qm"));
-    }
-
-    void translationIsFoundBesideTheExecutable()
-    {
-        const QString folder
-            = QCoreApplication::applicationDirPath() + QLatin1String("/translations");
-        QVERIFY(QDir().mkpath(folder));
-        const QString path = folder + QLatin1String("/drv_beside.qm");
-        writeFile(path, emptyTranslation);
-        QTranslator translator;
-        loadTranslation(translator, QStringLiteral("drv_beside"));
-        QFile::remove(path);
-        QCOMPARE(translator.filePath(), path);
-    }
-
-    void translationIsFoundInTheDataFolder()
-    {
-        const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
-            + QLatin1String("/translations");
-        QVERIFY(QDir().mkpath(folder));
-        const QString path = folder + QLatin1String("/drv_data.qm");
-        writeFile(path, emptyTranslation);
-        QTranslator translator;
-        loadTranslation(translator, QStringLiteral("drv_data"));
-        QFile::remove(path);
-        QCOMPARE(translator.filePath(), path);
     }
 
     void translationsLieInTheResourcesLast()

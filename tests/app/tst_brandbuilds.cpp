@@ -3,6 +3,23 @@
 #include <QSettings>
 #include <QTest>
 
+namespace {
+
+// What the program of a brand tells of itself, line by line.
+QStringList toldBy(int brand, const QStringList &arguments)
+{
+    QProcess program;
+    program.start(
+        QCoreApplication::applicationDirPath() + QStringLiteral("/wavorin_brand%1").arg(brand),
+        arguments);
+    if (!program.waitForFinished() || program.exitCode() != 0)
+        return {QStringLiteral("failed")};
+    return QString::fromUtf8(program.readAllStandardOutput())
+        .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+} // namespace
+
 // The program itself, built for each brand.
 class TestBrandBuilds : public QObject {
     Q_OBJECT
@@ -33,28 +50,28 @@ private slots:
         const auto ownLink = [&](const char *address) { return link(address, address); };
         QTest::newRow("the maker")
             << 0
-            << QStringList{QStringLiteral("English drv_en*"), QStringLiteral("Suomi drv_fi"),
-                   QStringLiteral("中文 drv_zh")}
+            << QStringList{QStringLiteral("English drv_en* &File"),
+                   QStringLiteral("Suomi drv_fi &Tiedosto"), QStringLiteral("中文 drv_zh 文件(&F)")}
             << "Setterra"
             << QStringLiteral("Created by ") + link("https://www.norvale.example", "Norvale")
             << "drv_en";
         QTest::newRow("Vanta") << 1
-                               << QStringList{QStringLiteral("English drv_vanta_en*"),
-                                      QStringLiteral("中文 drv_vanta_zh")}
+                               << QStringList{QStringLiteral("English drv_vanta_en* &File"),
+                                      QStringLiteral("中文 drv_vanta_zh 文件(&F)")}
                                << "Tolvik"
                                << QStringLiteral("Vanta: ") + ownLink("https://www.vanta.example")
                                << "drv_vanta_en";
         QTest::newRow("Orlo") << 2
-                              << QStringList{QStringLiteral("English drv_orlo_en*"),
-                                     QStringLiteral("中文 drv_orlo_zh")}
+                              << QStringList{QStringLiteral("English drv_orlo_en* &File"),
+                                     QStringLiteral("中文 drv_orlo_zh 文件(&F)")}
                               << "Kesto Utility Software"
                               << QStringLiteral("Orlo: ") + ownLink("https://www.orlo.example")
                               << "drv_orlo_en";
-        QTest::newRow("Quill") << 3 << QStringList{QStringLiteral("English drv_quill_en*")}
+        QTest::newRow("Quill") << 3 << QStringList{QStringLiteral("English drv_quill_en* &File")}
                                << "Quill Lab"
                                << QStringLiteral("Quill: ") + ownLink("https://www.quill.example")
                                << "drv_quill_en";
-        QTest::newRow("Mervic") << 4 << QStringList{QStringLiteral("English drv_mervic_en*")}
+        QTest::newRow("Mervic") << 4 << QStringList{QStringLiteral("English drv_mervic_en* &File")}
                                 << "Ostrel"
                                 << QStringLiteral("Mervic: ")
                 + ownLink("https://www.mervic.example")
@@ -67,23 +84,28 @@ private slots:
         QFETCH(QStringList, languages);
         QFETCH(QString, companion);
         QFETCH(QString, about);
-        QProcess program;
-        program.start(
-            QCoreApplication::applicationDirPath() + QStringLiteral("/wavorin_brand%1").arg(brand),
-            {QStringLiteral(SOURCE_DIR "/examples/earth-fault.cfg")});
-        QVERIFY(program.waitForFinished());
-        QCOMPARE(program.exitCode(), 0);
-
-        QStringList expected{QStringLiteral("title: Wavorin")};
+        QStringList expected{QStringLiteral("title: Wavorin"),
+            QStringLiteral("icon: 256 16 24 32 48 64 128"),
+            QLatin1String("recordings: /records/of/") + companion,
+            QLatin1String("about: ") + about};
         for (const QString &language : languages)
             expected.append(QLatin1String("language: ") + language);
-        expected.append(QLatin1String("recordings: /records/of/") + companion);
-        expected.append(QLatin1String("about: ") + about);
-        expected.append(QString());
-        QCOMPARE(
-            QString::fromUtf8(program.readAllStandardOutput()), expected.join(QLatin1Char('\n')));
+        QCOMPARE(toldBy(brand, {QStringLiteral(SOURCE_DIR "/examples/earth-fault.cfg")}), expected);
         const QSettings settings(QStringLiteral("Norvale"), QStringLiteral("Wavorin"));
         QTEST(settings.value(QStringLiteral("language")).toString(), "kept");
+    }
+
+    void showsTheMakersSplashWithoutARecording_data()
+    {
+        QTest::addColumn<int>("brand");
+        QTest::newRow("the maker") << 0;
+        QTest::newRow("Vanta") << 1;
+    }
+
+    void showsTheMakersSplashWithoutARecording()
+    {
+        QFETCH(int, brand);
+        QCOMPARE(toldBy(brand, {}).first(), QStringLiteral("splash: the maker's"));
     }
 };
 

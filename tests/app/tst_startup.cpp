@@ -23,6 +23,25 @@ private slots:
             QFile::encodeName(QCoreApplication::applicationDirPath()) + ":/usr/bin");
     }
 
+    void everyBrandHasImagesOfItsOwn_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::newRow("splash") << QStringLiteral("waveform");
+        QTest::newRow("logo") << QStringLiteral("logo");
+    }
+
+    void everyBrandHasImagesOfItsOwn()
+    {
+        QFETCH(QString, kind);
+        QList<QImage> seen;
+        for (const char *brand : {"", "_vanta", "_orlo", "_quill", "_mervic"}) {
+            const QImage image(QStringLiteral(":/images/%1%2.png").arg(kind, QLatin1String(brand)));
+            QVERIFY2(!image.isNull(), brand);
+            QVERIFY2(!seen.contains(image), brand);
+            seen.append(image);
+        }
+    }
+
     void splashWait_data()
     {
         QTest::addColumn<QString>("argument"); // below the folder; null for none
