@@ -3,9 +3,11 @@
 #include "commandline.h"
 #include "mainwindow.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFont>
+#include <QFontInfo>
 
 void preferApplicationFolder()
 {
@@ -17,6 +19,13 @@ void preferApplicationFolder()
         QFile::encodeName(QCoreApplication::applicationDirPath()) + ':'
             + (path.isEmpty() ? QByteArray("/usr/local/bin:/usr/bin:/bin") : path));
 #endif
+}
+
+void preferSimplifiedLetters()
+{
+    const QFont font = QApplication::font();
+    QFont::insertSubstitutions(
+        font.family(), {QFontInfo(font).family(), QStringLiteral("Noto Sans CJK SC")});
 }
 
 void openOrWait(MainWindow &window, const QString &path)

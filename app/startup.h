@@ -7,6 +7,10 @@ class QString;
 // lies beside the program.
 void preferApplicationFolder();
 
+// Has Chinese letters shown in their simplified shapes: which ones a system falls back to goes by
+// its own language. To be called before any text is laid out.
+void preferSimplifiedLetters();
+
 // Opens the recording named on the command line. Without one that is opened at start-up, processes
 // events for two seconds, so that the splash can be seen.
 void openOrWait(MainWindow &window, const QString &path);

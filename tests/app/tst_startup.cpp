@@ -4,10 +4,13 @@
 #include "windowtest.h"
 
 #include <QElapsedTimer>
+#include <QFontDatabase>
+#include <QGlyphRun>
 #include <QProcess>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextLayout>
 
 class TestStartup : public QObject {
     Q_OBJECT
@@ -21,6 +24,24 @@ private slots:
         preferApplicationFolder();
         QCOMPARE(qgetenv("PATH"),
             QFile::encodeName(QCoreApplication::applicationDirPath()) + ":/usr/bin");
+    }
+
+    void chineseLettersHaveTheirSimplifiedShapes()
+    {
+        const QString wanted = QStringLiteral("Noto Sans CJK SC");
+        if (!QFontDatabase().families().contains(wanted))
+            QSKIP("fonts-noto-cjk is not installed");
+        preferSimplifiedLetters();
+        QTextLayout layout(QStringLiteral("R门"), QApplication::font());
+        layout.beginLayout();
+        layout.createLine();
+        layout.endLayout();
+        QStringList families;
+        for (const QGlyphRun &run : layout.glyphRuns())
+            families.append(run.rawFont().familyName());
+        QCOMPARE(families.size(), 2);
+        QVERIFY(families.contains(QFontInfo(QApplication::font()).family()));
+        QVERIFY(families.contains(wanted));
     }
 
     void everyBrandHasImagesOfItsOwn_data()
