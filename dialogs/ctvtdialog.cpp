@@ -59,9 +59,12 @@ void CTVTDialog::setChannels(
 
 void CTVTDialog::clearChannels()
 {
-    qDeleteAll(primaryEdits);
-    qDeleteAll(secondaryEdits);
-    qDeleteAll(nameLabels);
+    // In the order of their making: each is the first that its parent finds.
+    for (int i = 0; i < nameLabels.size(); ++i) {
+        delete nameLabels.at(i);
+        delete primaryEdits.at(i);
+        delete secondaryEdits.at(i);
+    }
     primaryEdits.clear();
     secondaryEdits.clear();
     nameLabels.clear();
