@@ -27,5 +27,9 @@ install(FILES "${PROJECT_SOURCE_DIR}/resources/svg/logo.svg"
     DESTINATION "${icons}/scalable/apps" RENAME wavorin.svg)
 
 install(FILES "${linux}/copyright" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+install(FILES "${PROJECT_SOURCE_DIR}/docs/manual.md" "${PROJECT_SOURCE_DIR}/docs/formats.md"
+    DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/pictures" DESTINATION "${CMAKE_INSTALL_DOCDIR}"
+    FILES_MATCHING PATTERN "*.png")
 file(GLOB examples "${PROJECT_SOURCE_DIR}/examples/earth-fault.*")
 install(FILES ${examples} DESTINATION "${CMAKE_INSTALL_DOCDIR}/examples")
