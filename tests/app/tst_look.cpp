@@ -20,8 +20,8 @@
 #include <QStyleOptionSlider>
 #include <QTemporaryDir>
 #include <QToolBar>
-#include <QToolButton>
 
+#include <functional>
 #include <memory>
 
 namespace {
@@ -41,7 +41,11 @@ bool isAlmost(QRgb pixel, const char *name)
         && qAbs(qBlue(pixel) - color.blue()) <= 4;
 }
 
+using Maker = std::function<QWidget *()>;
+
 } // namespace
+
+Q_DECLARE_METATYPE(Maker)
 
 // The look of the main window and of what belongs to it.
 class TestLook : public QObject {
@@ -254,6 +258,48 @@ private slots:
         QCOMPARE(label->palette().color(QPalette::Active, QPalette::WindowText).name(),
             QStringLiteral("#ffffff"));
         QCOMPARE(label->contentsMargins(), QMargins());
+    }
+
+    // States
+
+    void statesAreToldApart_data()
+    {
+        QTest::addColumn<Maker>("make");
+        const auto row = [](const char *name, const Maker &make) { QTest::newRow(name) << make; };
+        row("button", [] { return new QPushButton(QStringLiteral("Button")); });
+        row("check box", [] { return new QCheckBox(QStringLiteral("Check box")); });
+        row("combo box", [] { return new QComboBox; });
+        row("button of a tool bar", [] {
+            auto *bar = new QToolBar;
+            QIcon icon(QStringLiteral(":/images/save.png"));
+            icon.addFile(QStringLiteral(":/images/savedisabled.png"), QSize(), QIcon::Disabled);
+            bar->addAction(icon, QStringLiteral("Save"));
+            return bar;
+        });
+    }
+
+    void statesAreToldApart()
+    {
+        QFETCH(Maker, make);
+        QWidget *widget = added(make());
+        const auto picture = [&] {
+            QCoreApplication::processEvents();
+            return dialog->grab({widget->pos(), widget->size()}).toImage();
+        };
+        QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
+        widget->clearFocus();
+        QWidget *hovered = widget;
+        if (const auto *bar = qobject_cast<QToolBar *>(widget))
+            hovered = bar->widgetForAction(bar->actions().first());
+        const QImage normal = picture();
+        hovered->setAttribute(Qt::WA_UnderMouse); // as the toolkit does
+        const int changed = differentPixels(normal, picture(), 1.2);
+        QVERIFY2(changed >= 50, qPrintable(QString::number(changed)));
+        hovered->setAttribute(Qt::WA_UnderMouse, false);
+        QCOMPARE(picture(), normal);
+        widget->setEnabled(false);
+        const int greyed = differentPixels(normal, picture(), 1.2);
+        QVERIFY2(greyed >= 250, qPrintable(QString::number(greyed)));
     }
 
     // Icons
