@@ -58,7 +58,13 @@ QPixmap MainWindow::capture(CaptureTarget target)
     smoothLetters(false);
     if (digitalPlotter)
         digitalPlotter->repaint();
+    // The frame of the plot that takes the keys belongs to the screen.
+    auto *focused = qobject_cast<Plotter *>(focusWidget());
+    if (focused)
+        focused->clearFocus();
     const QPixmap captured = ui->scrollWidget->grab(ui->scrollWidget->rect());
+    if (focused)
+        focused->setFocus();
     smoothLetters(true);
     const CFGProperties *loaded = recording();
     return printableCapture(captured, target,

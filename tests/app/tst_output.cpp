@@ -193,6 +193,21 @@ private slots:
     }
 
     // Smooth edges would be recoloured as black as the letters.
+    void aPlotWithTheFocusLooksLikeTheOthersInPictures()
+    {
+        const QImage copied = copiedPicture();
+        const QImage saved = savedPicture();
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        auto *plot = window->findChild<Plotter *>();
+        plot->setFocus(Qt::TabFocusReason);
+        QVERIFY(plot->hasFocus());
+        QCOMPARE(copiedPicture(), copied);
+        QVERIFY(plot->hasFocus());
+        QVERIFY(QFile::remove(path("shot.png")));
+        QCOMPARE(savedPicture(), saved);
+    }
+
     void lettersAreNotSmoothWhileThePictureIsTaken()
     {
         class FontWatch : public QObject {
