@@ -10,6 +10,7 @@
 #include <QFileDialog>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
@@ -70,6 +71,12 @@ QStringList textsOf(const QList<QAction *> &actions)
     for (const QAction *action : actions)
         texts.append(action->text());
     return texts;
+}
+
+QString nameOf(const QWidget *widget)
+{
+    return QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ')
+        + widget->objectName();
 }
 
 // Labels and buttons that stand side by side in a dialog.
@@ -211,6 +218,30 @@ class TestLanguages : public QObject {
         for (const QWidget *widget : window->findChildren<QWidget *>()) {
             if (widget->isVisible())
                 found.insert(widget, widget->geometry());
+        }
+        return found;
+    }
+
+    // Widgets of the window's own layouts and dialogs that lie over a neighbour or leave their
+    // parent.
+    QStringList overlaps() const
+    {
+        QStringList found;
+        const QList<QWidget *> widgets = window->findChildren<QWidget *>();
+        for (const QWidget *one : widgets) {
+            const QWidget *parent = one->parentWidget();
+            if (!one->isVisible() || one->isWindow() || !parent->layout()
+                || parent->layout()->indexOf(const_cast<QWidget *>(one)) < 0)
+                continue;
+            // The labels above the lists are wider than their column, by its minimum widths.
+            if (!parent->rect().contains(one->geometry())
+                && parent->objectName() != QLatin1String("V_listWidget"))
+                found.append(nameOf(one) + QStringLiteral(" leaves ") + nameOf(parent));
+            for (const QWidget *other : widgets) {
+                if (other > one && other->parentWidget() == parent && other->isVisible()
+                    && !other->isWindow() && one->geometry().intersects(other->geometry()))
+                    found.append(nameOf(one) + QStringLiteral(" lies over ") + nameOf(other));
+            }
         }
         return found;
     }
@@ -392,6 +423,7 @@ private slots:
             choose(entry);
             QCoreApplication::sendPostedEvents();
             QCOMPARE(window->size(), size);
+            QCOMPARE(overlaps().join(QLatin1Char('\n')), QString());
         }
         const QMap<const QWidget *, QRect> after = places();
         for (auto it = before.cbegin(); it != before.cend(); ++it) {
