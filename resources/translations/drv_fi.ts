@@ -373,7 +373,7 @@ Valitse toinen tiedosto.</translation>
     </message>
     <message>
         <source>Graph %1</source>
-        <translation>%1</translation>
+        <translation>Kuvaaja %1</translation>
     </message>
     <message>
         <source>Start: %1    Trigger: %2</source>
@@ -396,7 +396,7 @@ Valitse toinen tiedosto.</translation>
     </message>
     <message>
         <source>%1 Plotter</source>
-        <translation>Kuvaaja: %1</translation>
+        <translation>%1</translation>
     </message>
     <message>
         <source>Parameter</source>
