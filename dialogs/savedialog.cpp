@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QShowEvent>
 
 namespace {
 
@@ -105,6 +106,13 @@ void SaveDialog::changeEvent(QEvent *event)
 
 void SaveDialog::showEvent(QShowEvent *event)
 {
+    if (!event->spontaneous()) // a window that is only restored keeps what was chosen
+        reset();
+    QDialog::showEvent(event);
+}
+
+void SaveDialog::reset()
+{
     const int last = sampleTimes.size() - 1;
     filePath.clear();
     ui->lineEdit_FilePath->clear();
@@ -120,7 +128,6 @@ void SaveDialog::showEvent(QShowEvent *event)
         emit setStartPoint(*sampleTimes.first());
         emit setEndPoint(*sampleTimes.last());
     }
-    QDialog::showEvent(event);
 }
 
 // sliderMoved is the mouse's alone; the other ways to move a slider show up as actions.

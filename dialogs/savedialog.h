@@ -44,6 +44,7 @@ protected:
 
 private:
     void followKeyboardAndWheel(QSlider *slider, void (SaveDialog::*moved)(int));
+    void reset();
     void updateExistenceLabel();
     bool mayWrite();
 

@@ -192,7 +192,6 @@ private slots:
         expectStyle(screenStyle);
     }
 
-    // Smooth edges would be recoloured as black as the letters.
     void aPlotWithTheFocusLooksLikeTheOthersInPictures()
     {
         const QImage copied = copiedPicture();
@@ -208,6 +207,62 @@ private slots:
         QCOMPARE(savedPicture(), saved);
     }
 
+    void addedPlotsAreStyledForPicturesToo()
+    {
+        window->addPlotter({QStringLiteral("IL1")});
+        QCOMPARE(window->findChildren<Plotter *>().size(), 3);
+        answerFileDialog(QString());
+        trigger("&Save screenshot");
+        expectStyle(captureStyle);
+        trigger("&Copy to clipboard");
+        expectStyle(screenStyle);
+        QVERIFY(!savedPicture().isNull());
+        expectStyle(screenStyle);
+    }
+
+    void whatIsScrolledOutOfSightIsInThePicture()
+    {
+        for (int i = 0; i < 3; ++i)
+            window->addPlotter({QStringLiteral("IL1")});
+        QVERIFY(plotColumn()->height() > plotColumn()->visibleRegion().boundingRect().height());
+        const QImage picture = copiedPicture();
+        QCOMPARE(picture.size(), plotColumn()->size());
+        const QRect lowest = window->findChild<plotterDg *>()->geometry();
+        int dark = 0; // pixels of the time axis, at the bottom of the lowest plot
+        for (int x = lowest.left(); x < lowest.right(); ++x)
+            dark += picture.pixelColor(x, lowest.bottom() - 40).value() < 50 ? 1 : 0;
+        QVERIFY2(dark > lowest.width() / 2, qPrintable(QString::number(dark)));
+    }
+
+    void screenshotIsAPngWhateverItsName_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("without an ending") << QStringLiteral("shot");
+        QTest::newRow("with another ending") << QStringLiteral("shot.jpg");
+    }
+
+    void screenshotIsAPngWhateverItsName()
+    {
+        QFETCH(QString, name);
+        answerFileDialog(folder->filePath(name));
+        trigger("&Save screenshot");
+        QCOMPARE(QImage(folder->filePath(name), "png").size(), plotColumn()->size());
+    }
+
+    // Their smooth edges, too, would be recoloured as black as the letters.
+    void lettersOfTheAxesAreNotSmoothWhileThePictureIsTaken()
+    {
+        const QImage picture = copiedPicture();
+        for (Plotter *plot : window->findChildren<Plotter *>()) {
+            QFont font = plot->font();
+            font.setStyleStrategy(QFont::NoAntialias);
+            plot->setFont(font);
+            plot->refreshSlot();
+        }
+        QCOMPARE(copiedPicture(), picture);
+    }
+
+    // Smooth edges would be recoloured as black as the letters.
     void lettersAreNotSmoothWhileThePictureIsTaken()
     {
         class FontWatch : public QObject {
@@ -329,10 +384,16 @@ private slots:
         };
         trigger("Rescale CTVT");
         type(0, "600");
+        type(1, "5");
         QCOMPARE(ratings(), QStringLiteral("400.000000,1.000000"));
         dialog->findChild<QPushButton *>(QStringLiteral("pushButton_Set"))->click();
-        QCOMPARE(ratings(), QStringLiteral("600.000000,1.000000"));
+        QCOMPARE(ratings(), QStringLiteral("600.000000,5.000000"));
         dialog->close();
+        answerFileDialog(path("primary"));
+        trigger("Save As &Primary");
+        // 0.5 times 600/5.
+        QCOMPARE(fileText(path("primary.cfg")).split(QLatin1Char('\n')).value(2),
+            QStringLiteral("1,IL1,A,,A,60,0,0,-32767,32767,600.000000,5.000000,P"));
     }
 
     void theOpenRecordingCanBeSavedOver()
@@ -465,6 +526,40 @@ private slots:
         trigger("Save As &Primary");
         QCOMPARE(window->statusBar()->currentMessage(), QString());
         QCOMPARE(QDir(folder->path()).entryList(QDir::Files).size(), 2);
+    }
+
+    void saveAsPrimaryStartsInTheRecordingsFolder()
+    {
+        QSettings(QStringLiteral("Norvale"), QStringLiteral("Setterra"))
+            .setValue(QStringLiteral("SettingsDialog/DRFilesPath"), folder->path());
+        window = std::make_unique<MainWindow>();
+        window->open(path("rec.cfg"));
+        QStringList filters;
+        QString proposal;
+        answerFileDialog(QString(), nullptr, &filters, &proposal);
+        trigger("Save As &Primary");
+        QCOMPARE(proposal, folder->path());
+        QCOMPARE(filters, QStringList(QStringLiteral("All Files (*)")));
+    }
+
+    void withoutARecordingThereIsNothingToSave()
+    {
+        MainWindow empty;
+        empty.showSaveDialog();
+        QVERIFY(!empty.findChild<QDialog *>(QStringLiteral("SaveDialog"))->isVisible());
+        empty.saveRecording(path("nothing"), 0, 1);
+        answerFileDialog(path("nothing"));
+        empty.saveAsPrimary();
+        QCOMPARE(empty.statusBar()->currentMessage(), QStringLiteral("Ready"));
+        QVERIFY(!QFile::exists(path("nothing.cfg")));
+    }
+
+    void savingIsToldForTwoSeconds()
+    {
+        window->saveRecording(path("out"), 10, 12);
+        QTest::qWait(1500);
+        QCOMPARE(window->statusBar()->currentMessage(), QStringLiteral("File saved."));
+        QTRY_COMPARE_WITH_TIMEOUT(window->statusBar()->currentMessage(), QString(), 2500);
     }
 
     void saveDialogOffersTheWholeRecording()

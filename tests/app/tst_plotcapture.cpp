@@ -223,6 +223,7 @@ void tst_PlotCapture::captionGivesTheStartTwice_data()
         << QStringLiteral("29/02/2023") << goodTime << empty;
     QTest::newRow("month first") << QStringLiteral("12/31/2023") << goodTime << empty;
     QTest::newRow("a year of two digits") << QStringLiteral("15/03/24") << goodTime << empty;
+    QTest::newRow("a blank before the date") << QStringLiteral(" 15/03/2024") << goodTime << empty;
     QTest::newRow("no date") << QString() << goodTime << empty;
     QTest::newRow("no time") << goodDate << QString() << empty;
     QTest::newRow("neither, as without a recording") << QString() << QString() << empty;

@@ -47,6 +47,8 @@ private slots:
     void handlesOfSlidersAre13Wide();
     void signalsStandInTheirOrder();
     void startsWithTheWholeSpan();
+    void tellsWholeMilliseconds_data();
+    void tellsWholeMilliseconds();
     void acceptsASingleSample();
     void survivesNoSamples();
     void keepsItsOwnTimes();
@@ -68,7 +70,10 @@ private slots:
     void passesOnWhatIsTyped();
     void clearsTheMarkersOnCancel();
     void keepsTheMarkersWhenTheWindowIsClosed();
+    void closesOnKeys_data();
+    void closesOnKeys();
     void resetsAtEachShowing();
+    void keepsWhatWasChosenWhenItIsRestored();
     void survivesAStrangerAsParent();
     void retranslatesOnALanguageChange();
 
@@ -240,6 +245,7 @@ void TestSaveDialog::startsWithTheWholeSpan()
 {
     QSignalSpy start(dialog, &SaveDialog::setStartPoint);
     QSignalSpy end(dialog, &SaveDialog::setEndPoint);
+    connect(dialog, &SaveDialog::setEndPoint, this, [&] { QCOMPARE(start.count(), 1); });
     open(threeTimes);
     for (const char *name : {"horizontalSlider_StartPoint", "horizontalSlider_EndPoint"}) {
         QCOMPARE(child<QSlider>(name)->minimum(), 0);
@@ -253,6 +259,24 @@ void TestSaveDialog::startsWithTheWholeSpan()
     QCOMPARE(start.at(0).at(0).toDouble(), 0.4);
     QCOMPARE(end.count(), 1);
     QCOMPARE(end.at(0).at(0).toDouble(), 12.75);
+}
+
+void TestSaveDialog::tellsWholeMilliseconds_data()
+{
+    QTest::addColumn<double>("time");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("a half") << 2.5 << QStringLiteral("3");
+    QTest::newRow("a little below zero") << -0.3 << QStringLiteral("-0");
+    QTest::newRow("half below zero") << -0.5 << QStringLiteral("-1");
+    QTest::newRow("thirty days") << 2592000000.0 << QStringLiteral("2592000000");
+}
+
+void TestSaveDialog::tellsWholeMilliseconds()
+{
+    QFETCH(double, time);
+    open({time});
+    QTEST(text("lineEdit_Start"), "text");
+    QTEST(text("lineEdit_End"), "text");
 }
 
 void TestSaveDialog::acceptsASingleSample()
@@ -430,6 +454,7 @@ void TestSaveDialog::tellsOfAnExistingFile_data()
     QTest::newRow("another file") << QStringLiteral("b.cfg") << false;
     QTest::newRow("another extension") << QStringLiteral("a.txt") << false;
     QTest::newRow("a folder") << QStringLiteral("sub") << false;
+    QTest::newRow("a folder with .cfg appended") << QStringLiteral("odd") << false;
     QTest::newRow("a folder beside a .cfg of its name") << QStringLiteral("both") << false;
 }
 
@@ -440,6 +465,7 @@ void TestSaveDialog::tellsOfAnExistingFile()
     makeFile(QStringLiteral("both.cfg"));
     QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("sub")));
     QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("both")));
+    QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("odd.cfg")));
     open(threeTimes);
 
     type(folder->filePath(typed));
@@ -459,8 +485,11 @@ void TestSaveDialog::takesThePathFromTheFileDialog()
         caption = files->windowTitle();
         start = files->directory().path();
         QCOMPARE(files->parentWidget(), dialog);
-        files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))
-            ->setText(QStringLiteral("old"));
+        QCOMPARE(files->nameFilters(), QStringList(QStringLiteral("All Files (*)")));
+        QVERIFY(!files->testOption(QFileDialog::DontConfirmOverwrite));
+        auto *name = files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        QCOMPARE(name->text(), QString());
+        name->setText(QStringLiteral("old"));
         files->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save)->click();
     });
 
@@ -594,6 +623,7 @@ void TestSaveDialog::clearsTheMarkersOnCancel()
 {
     open(threeTimes);
     QSignalSpy cleared(dialog, &SaveDialog::clearPoints);
+    connect(dialog, &SaveDialog::clearPoints, this, [this] { QVERIFY(dialog->isVisible()); });
     click("pushButton_Cancel");
     QCOMPARE(cleared.count(), 1);
     QVERIFY(host->savings.isEmpty());
@@ -606,6 +636,42 @@ void TestSaveDialog::keepsTheMarkersWhenTheWindowIsClosed()
     QSignalSpy cleared(dialog, &SaveDialog::clearPoints);
     QVERIFY(dialog->close());
     QCOMPARE(cleared.count(), 0);
+}
+
+void TestSaveDialog::closesOnKeys_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("savings");
+    QTest::newRow("Escape leaves the markers") << int(Qt::Key_Escape) << 0;
+    QTest::newRow("Enter in the path saves") << int(Qt::Key_Return) << 1;
+}
+
+void TestSaveDialog::closesOnKeys()
+{
+    QFETCH(int, key);
+    QFETCH(int, savings);
+    open(threeTimes);
+    QSignalSpy cleared(dialog, &SaveDialog::clearPoints);
+    type(folder->filePath(QStringLiteral("new")));
+    QTest::keyClick(child<QLineEdit>("lineEdit_FilePath"), Qt::Key(key));
+    QVERIFY(!dialog->isVisible());
+    QCOMPARE(host->savings.size(), savings);
+    QCOMPARE(cleared.count(), savings);
+}
+
+void TestSaveDialog::keepsWhatWasChosenWhenItIsRestored()
+{
+    open(threeTimes);
+    type(folder->filePath(QStringLiteral("new")));
+    QTest::keyClick(child<QSlider>("horizontalSlider_StartPoint"), Qt::Key_Right);
+    QSignalSpy start(dialog, &SaveDialog::setStartPoint);
+    dialog->setWindowState(Qt::WindowMinimized);
+    QCoreApplication::processEvents();
+    dialog->setWindowState(Qt::WindowNoState);
+    QCoreApplication::processEvents();
+    QCOMPARE(start.count(), 0);
+    QCOMPARE(text("lineEdit_FilePath"), folder->filePath(QStringLiteral("new")));
+    QCOMPARE(text("lineEdit_Start"), QStringLiteral("2"));
 }
 
 void TestSaveDialog::resetsAtEachShowing()
