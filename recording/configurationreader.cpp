@@ -2,6 +2,7 @@
 
 #include "cfgproperties.h"
 #include "numbers.h"
+#include "textlines.h"
 
 #include <QIODevice>
 #include <QTime>
@@ -11,21 +12,6 @@ namespace {
 QString withoutLast(const QString &text, int count = 1)
 {
     return text.chopped(qMin(count, text.size()));
-}
-
-// The first fields of a line, no more than a line has any use for.
-QStringList firstFields(const QString &line)
-{
-    constexpr int most = 13;
-    QStringList fields;
-    for (int from = 0; fields.size() < most;) {
-        const int comma = line.indexOf(QLatin1Char(','), from);
-        fields.append(line.mid(from, comma < 0 ? -1 : comma - from));
-        if (comma < 0)
-            break;
-        from = comma + 1;
-    }
-    return fields;
 }
 
 // The factors are written as a reciprocal and a product, which rounds twice.
@@ -84,7 +70,10 @@ void readLine(CFGProperties &recording, const QString &line)
     // From the rate lines on, the places follow the total count, which may differ.
     const qint64 total = recording.totalChannelCount;
     const qint64 rates = recording.rateCount;
-    const QStringList fields = firstFields(line);
+    constexpr int mostFields = 13; // that a line has any use for
+    QStringList fields;
+    for (const QStringRef &field : firstFields(line, mostFields))
+        fields += field.toString();
 
     if (number == 1) {
         recording.stationName = fields.value(0);
@@ -136,10 +125,7 @@ void readTimeStamps(CFGProperties &recording)
 
 void readConfiguration(QIODevice &device, CFGProperties &recording)
 {
-    while (!device.atEnd()) {
-        QByteArray line = device.readLine();
-        if (line.isEmpty())
-            return; // the device failed
+    for (QByteArray line; !(line = nextLine(device)).isEmpty();) {
         // A text-mode device would drop other carriage returns too, by the state of its buffer.
         if (line.endsWith("\r\n"))
             line.remove(line.size() - 2, 1);

@@ -19,7 +19,6 @@ constexpr int blockSize = 1 << 18; // bytes read at once
 // same few lines of the processor's cache.
 constexpr size_t mostBlockRows = 240;
 constexpr size_t mostGathered = 1 << 20; // samples gathered, in perhaps very many channels
-constexpr int largestLine = 1 << 30; // bytes; a file with a longer one holds no data lines
 
 // The end of the field that begins at a place: its comma, or the end of the line.
 const char *fieldEnd(const char *begin, const char *end)
@@ -102,7 +101,7 @@ public:
         bool goesOn = true;
         int kept = 0; // bytes of a line begun in the block before
         while (goesOn) {
-            if (kept > largestLine)
+            if (kept > mostLineBytes)
                 break;
             buffer.resize(kept + blockSize);
             const qint64 count = m_device.read(buffer.data() + kept, blockSize);

@@ -4,6 +4,7 @@
 
 constexpr int mostChannels = 999999; // of a recording, clause 5.3.2
 constexpr qint64 mostRows = 1 << 27; // of samples in a recording
+constexpr int mostLineBytes = 1 << 26; // of a line; a longer one ends the reading of its file
 
 // Whether a reader may take this many rows of samples after so many bytes. A full line has a byte
 // for every sample, so only the samples that stand in for missing fields can use the budget up. The

@@ -5,6 +5,7 @@
 #include "numbers.h"
 #include "recordregistry.h"
 #include "samplebudget.h"
+#include "textlines.h"
 
 #include <QDateTime>
 #include <QIODevice>
@@ -27,8 +28,8 @@ void readHeader(CFGProperties &recording, QString line)
 {
     if (line.startsWith(QLatin1Char('#')))
         line.remove(0, 1);
-    const QVector<QStringRef> names = line.splitRef(QLatin1Char(','));
-    const int count = qMin(names.size(), mostChannels);
+    const QVector<QStringRef> names = firstFields(line, mostChannels);
+    const int count = names.size();
     for (int k = 0; k < count; ++k) {
         const QString field = names.at(k).toString();
         const int bracket = field.lastIndexOf(QLatin1Char('['));
@@ -103,7 +104,7 @@ public:
         m_letters += line.size();
         if (!isWithinBudget(m_recording.sampleCount + 1, m_recording.analogChannelCount, m_letters))
             return false;
-        const QVector<QStringRef> fields = line.splitRef(QLatin1Char(','));
+        const QVector<QStringRef> fields = firstFields(line, m_recording.analogChannelCount + 1);
         const QDateTime stamp = parsedStamp(fields.constFirst());
         if (m_recording.startDate.isEmpty())
             m_recording.startDate = stamp.toString(QStringLiteral("dd/MM/yyyy"));
@@ -153,18 +154,16 @@ void readTextExport(QIODevice &device, CFGProperties &recording)
             line.chop(1);
         return decoded(line);
     };
-    if (device.atEnd())
+    const QByteArray firstLine = nextLine(device);
+    if (firstLine.isEmpty())
         return;
-    const QString header = text(device.readLine());
+    const QString header = text(firstLine);
     readHeader(recording, header);
     readTimeStamps(recording);
     TextReader reader(recording, header.size());
     qint64 blankLines = 0;
     bool goesOn = true;
-    while (goesOn && !device.atEnd()) {
-        const QByteArray line = device.readLine();
-        if (line.isEmpty())
-            break; // the device failed
+    for (QByteArray line; goesOn && !(line = nextLine(device)).isEmpty();) {
         if (isBlank(line)) {
             ++blankLines;
             continue;

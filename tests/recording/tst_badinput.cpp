@@ -111,6 +111,8 @@ private slots:
     void oddFilesTakeAMomentAndLittleMemory();
     void aBadExportTakesAMomentAndLittleMemory_data();
     void aBadExportTakesAMomentAndLittleMemory();
+    void aLineWithoutEndEndsTheReading_data();
+    void aLineWithoutEndEndsTheReading();
     void aPairCutOffAnywhereIsSurvived();
     void aPairWithBytesChangedIsSurvived();
     void anExportWithBytesChangedIsSurvived();
@@ -253,10 +255,14 @@ void TestBadInput::aBadExportTakesAMomentAndLittleMemory_data()
     QTest::newRow("a long stamp") << "a[A]\n" + QByteArray(4000000, '1') + ",5\n" << 80;
     QTest::newRow("a long value") << "a[A]\n" + stamp + ',' + QByteArray(4000000, '9') << 80;
     QTest::newRow("a long line of commas") << "a[A]\n" + stamp + QByteArray(1000000, ',') << 80;
+    QTest::newRow("a very long line of commas")
+        << "a[A]\n" + stamp + QByteArray(60000000, ',') << 400;
+    QTest::newRow("a longer line of names than there may be")
+        << QByteArray(70000000, ',') + '\n' + stamp << 200;
     QTest::newRow("many names") << QByteArray(100000, ',') + '\n' + stamp + ",1\n" << 200;
     QTest::newRow("two short lines under very many names") << QByteArray(199999, ',') + '\n' + stamp
             + ",1\n" + stamp + ",2\n" << 200;
-    QTest::newRow("millions of names") << QByteArray(3000000, ',') + '\n' + stamp + ",1\n" << 600;
+    QTest::newRow("millions of names") << QByteArray(60000000, ',') + '\n' + stamp + ",1\n" << 600;
     QTest::newRow("names and lines of hardly a byte")
         << QByteArray(4000, ',') + '\n' + QByteArray("x\n").repeated(2000) << 16;
     QTest::newRow("many empty lines and then one") << QByteArray(1000, ',')
@@ -289,6 +295,56 @@ void TestBadInput::aBadExportTakesAMomentAndLittleMemory()
     for (const AnalogChannel *channel : qAsConst(recording.analogChannels))
         QCOMPARE(channel->values.size(), recording.sampleCount);
     use(recording);
+}
+
+void TestBadInput::aLineWithoutEndEndsTheReading_data()
+{
+    QTest::addColumn<QString>("longFile");
+    QTest::addColumn<QByteArray>("text"); // before NULs up to 1.1 GB
+    QTest::addColumn<int>("loaded");
+    QTest::addColumn<int>("channels");
+    QTest::addColumn<int>("samples");
+    const QString configuration = QStringLiteral("rec.cfg");
+    const QString data = QStringLiteral("rec.dat");
+    const QString text = QStringLiteral("rec.txt");
+    const QByteArray sample = "01/02/2020-10:00:00:000,5,6\n";
+    QTest::newRow("the names of an export") << text << QByteArray("a[A],b[A]") << 1 << 0 << 0;
+    QTest::newRow("the second sample of an export")
+        << text << "a[A],b[A]\n" + sample + sample.chopped(1) << 1 << 2 << 1;
+    QTest::newRow("the station") << configuration << QByteArray("Harju") << 1 << 0 << 3;
+    QTest::newRow("behind the time factor") << configuration << twoAndOne().text() << 1 << 2 << 3;
+    QTest::newRow("the first sample") << data << QByteArray("1,0,5,6,0") << 0 << 0 << 0;
+    QTest::newRow("behind the samples") << data << threeLines << 1 << 2 << 3;
+}
+
+void TestBadInput::aLineWithoutEndEndsTheReading()
+{
+    QFETCH(QString, longFile);
+    QFETCH(QByteArray, text);
+    QFETCH(int, loaded);
+    QFETCH(int, channels);
+    QFETCH(int, samples);
+    const RecordingFolder folder;
+    QVERIFY(writeTextFile(folder.path("rec.cfg"), twoAndOne().text()));
+    QVERIFY(writeTextFile(folder.path("rec.dat"), threeLines));
+    QFile file(folder.path(qPrintable(longFile)));
+    QVERIFY(writeTextFile(file.fileName(), text));
+    QVERIFY(file.resize(1100000000)); // takes no room on the disk
+    CFGProperties recording;
+    recording.filePath
+        = folder.path(longFile.endsWith(QLatin1String(".txt")) ? "rec.txt" : "rec.cfg");
+    forgetPeakOfMemory();
+    const int before = memory("VmRSS:");
+    const double start = processorSeconds();
+    recording.init();
+    const double taken = processorSeconds() - start;
+    const int peak = memory("VmHWM:");
+    QCOMPARE(recording.loaded, loaded);
+    QCOMPARE(recording.analogChannels.size(), channels);
+    QCOMPARE(recording.sampleCount, samples);
+    QVERIFY2(taken < mostSeconds, qPrintable(QString::number(taken)));
+    if (isMemoryMeasured)
+        QVERIFY2(peak - before < 400 * 1024, qPrintable(QString::number(peak - before)));
 }
 
 void TestBadInput::aPairCutOffAnywhereIsSurvived()

@@ -1,0 +1,33 @@
+#include "textlines.h"
+
+#include "samplebudget.h"
+
+#include <QIODevice>
+
+QByteArray nextLine(QIODevice &device)
+{
+    constexpr qint64 mostAtOnce = 1 << 14; // bytes
+    QByteArray line;
+    while (!line.endsWith('\n')) {
+        const QByteArray part = device.readLine(mostAtOnce);
+        if (part.isEmpty())
+            break;
+        line += part;
+        if (line.size() > mostLineBytes)
+            return {};
+    }
+    return line;
+}
+
+QVector<QStringRef> firstFields(const QString &line, int most)
+{
+    QVector<QStringRef> fields;
+    for (int from = 0; fields.size() < most;) {
+        const int comma = line.indexOf(QLatin1Char(','), from);
+        fields.append(line.midRef(from, comma < 0 ? -1 : comma - from));
+        if (comma < 0)
+            break;
+        from = comma + 1;
+    }
+    return fields;
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QByteArray>
+#include <QStringRef>
+#include <QVector>
+
+class QIODevice;
+
+// The next line with its line end. Empty at the end of the device, where the device fails, and
+// where the line is longer than mostLineBytes.
+QByteArray nextLine(QIODevice &device);
+
+// The first fields of a line that is split at its commas, at most so many. They refer to the line.
+QVector<QStringRef> firstFields(const QString &line, int most);
