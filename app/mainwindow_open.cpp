@@ -4,6 +4,7 @@
 #include "applicationidentity.h"
 #include "cfgproperties.h"
 #include "ctvtdialog.h"
+#include "filekind.h"
 #include "labeltext.h"
 #include "plotvalues.h"
 #include "savedialog.h"
@@ -70,16 +71,24 @@ QDateTime toLocalTime(const QString &date, const QString &time, const QString &d
     return QDateTime(day, timeOfDay, Qt::UTC).toLocalTime();
 }
 
+// A name as it is shown. The standard allows 64 letters; millions would keep the window from its
+// work.
+QString shownName(const QString &name)
+{
+    constexpr int mostLetters = 1000;
+    return name.trimmed().left(mostLetters);
+}
+
 // Names may be longer than the room for them, so each tells itself in full in a tool tip.
 void addName(QListWidget &list, const QString &name)
 {
-    auto *item = new QListWidgetItem(name.trimmed(), &list);
+    auto *item = new QListWidgetItem(shownName(name), &list);
     item->setToolTip(plainToolTip(item->text()));
 }
 
 void showName(QLabel &label, const QString &name)
 {
-    label.setText(name.trimmed());
+    label.setText(shownName(name));
     label.setToolTip(plainToolTip(label.text()));
 }
 
@@ -116,6 +125,9 @@ void MainWindow::open(const QString &path)
 bool MainWindow::load(QString path)
 {
     QFile file(path);
+    if (isPipeOrDevice(path))
+        return showFileWarning(
+            tr("Cannot read file %1:\n%2."), path, tr("It is a pipe or a device"));
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return showFileWarning(tr("Cannot read file %1:\n%2."), path, file.errorString());
 

@@ -116,6 +116,7 @@ void SaveDialog::reset()
     const int last = sampleTimes.size() - 1;
     filePath.clear();
     ui->lineEdit_FilePath->clear();
+    ui->lineEdit_FilePath->setFocus();
     ui->horizontalSlider_StartPoint->setRange(0, last);
     ui->horizontalSlider_EndPoint->setRange(0, last);
     ui->horizontalSlider_StartPoint->setValue(0);

@@ -2,6 +2,7 @@
 
 #include "configurationreader.h"
 #include "datareader.h"
+#include "filekind.h"
 #include "numbers.h"
 #include "phasors.h"
 #include "textreader.h"
@@ -89,7 +90,7 @@ void CFGProperties::init()
 void CFGProperties::readConfgFile()
 {
     QFile file(filePath);
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (isPipeOrDevice(filePath) || !file.open(QIODevice::ReadOnly)) {
         qDebug("CANNOT OPEN CFG FILE");
         return;
     }
@@ -100,7 +101,7 @@ bool CFGProperties::readDatFile()
 {
     filePath.replace(QLatin1String(".cfg"), QLatin1String(".dat"), Qt::CaseInsensitive);
     QFile file(existingPath(filePath));
-    if (file.open(QIODevice::ReadOnly)) {
+    if (!isPipeOrDevice(file.fileName()) && file.open(QIODevice::ReadOnly)) {
         readData(file, *this);
         if (sampleCount > 0)
             return true;
@@ -112,7 +113,7 @@ bool CFGProperties::readDatFile()
 void CFGProperties::readTxtFile()
 {
     QFile file(filePath);
-    if (file.open(QIODevice::ReadOnly))
+    if (!isPipeOrDevice(filePath) && file.open(QIODevice::ReadOnly))
         readTextExport(file, *this);
 }
 

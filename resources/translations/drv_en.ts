@@ -308,6 +308,10 @@
 %2.</translation>
     </message>
     <message>
+        <source>It is a pipe or a device</source>
+        <translation>It is a pipe or a device</translation>
+    </message>
+    <message>
         <source>File not supported.</source>
         <translation>File not supported.</translation>
     </message>

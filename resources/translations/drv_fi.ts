@@ -308,6 +308,10 @@
 %2.</translation>
     </message>
     <message>
+        <source>It is a pipe or a device</source>
+        <translation>Kyseessä on putki tai laite</translation>
+    </message>
+    <message>
         <source>File not supported.</source>
         <translation>Tiedostoa ei tueta.</translation>
     </message>

@@ -308,6 +308,10 @@
 %2。</translation>
     </message>
     <message>
+        <source>It is a pipe or a device</source>
+        <translation>它是管道或设备</translation>
+    </message>
+    <message>
         <source>File not supported.</source>
         <translation>不支持该文件。</translation>
     </message>

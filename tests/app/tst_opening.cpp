@@ -23,6 +23,7 @@
 
 #include <ctime>
 #include <memory>
+#include <sys/stat.h>
 #include <unistd.h>
 
 class TestOpening : public QObject {
@@ -297,6 +298,12 @@ private slots:
                                                    << "No such file or directory";
         QTest::newRow("a link to itself") << "circle.cfg"
                                           << "Too many levels of symbolic links";
+        QTest::newRow("a pipe") << "pipe.cfg"
+                                << "It is a pipe or a device";
+        QTest::newRow("a pipe in a package's place") << "pipe.zip"
+                                                     << "It is a pipe or a device";
+        QTest::newRow("a device") << "zero.txt"
+                                  << "It is a pipe or a device";
         QTest::newRow("place markers in the name") << "%2.cfg"
                                                    << "No such file or directory";
         QTest::newRow("tags in the name") << "<b>x</b>.cfg"
@@ -310,6 +317,9 @@ private slots:
         QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("folder.cfg")));
         QVERIFY(QFile::link(path("nowhere.cfg"), path("dangling.cfg")));
         QVERIFY(QFile::link(path("circle.cfg"), path("circle.cfg")));
+        QVERIFY(QFile::link(QStringLiteral("/dev/zero"), path("zero.txt")));
+        for (const char *pipe : {"pipe.cfg", "pipe.zip"})
+            QCOMPARE(mkfifo(QFile::encodeName(path(pipe)).constData(), 0600), 0);
         QVERIFY(writeTextFile(path("secret.cfg"), "x"));
         QFile::setPermissions(path("secret.cfg"), {});
         if (name == QLatin1String("secret.cfg") && geteuid() == 0)
@@ -373,6 +383,17 @@ private slots:
         QCOMPARE(listed("listWidget").size(), 2);
         QVERIFY(recordingActionsEnabled());
         QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - after.cfg"));
+    }
+
+    // Nobody writes to it, so that its reader would wait for ever.
+    void aPipeInTheDataFilesPlaceIsNotSupported()
+    {
+        QVERIFY(writeTextFile(path("bad.cfg"), smallConfiguration()));
+        QCOMPARE(mkfifo(QFile::encodeName(path("bad.dat")).constData(), 0600), 0);
+        window->open(path("bad.cfg"));
+        const QList<BoxReader::Box> seen = boxes->take();
+        QCOMPARE(seen.size(), 1);
+        QCOMPARE(seen[0].text, QStringLiteral("File not supported."));
     }
 
     void failedLoadTwiceInARow()
@@ -577,6 +598,7 @@ private slots:
         QVERIFY(window->recording());
         QCOMPARE(window->minimumSizeHint().width(), width);
         QVERIFY(child<QLabel>("label12")->width() >= 96);
+        QCOMPARE(shown("label4"), QString(1000, QLatin1Char('W')));
     }
 
     // Ways to open

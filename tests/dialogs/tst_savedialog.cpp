@@ -682,8 +682,10 @@ void TestSaveDialog::resetsAtEachShowing()
     QTest::keyClick(child<QSlider>("horizontalSlider_EndPoint"), Qt::Key_Home);
     dialog->close();
 
+    child<QWidget>("pushButton_Save")->setFocus();
     QSignalSpy start(dialog, &SaveDialog::setStartPoint);
     dialog->show();
+    QCOMPARE(dialog->focusWidget(), child<QWidget>("lineEdit_FilePath"));
     QCOMPARE(text("lineEdit_FilePath"), QString());
     QVERIFY(!child<QLabel>("label_FileExists")->isVisible());
     QCOMPARE(child<QSlider>("horizontalSlider_StartPoint")->value(), 0);

@@ -9,6 +9,9 @@
 #include <cmath>
 #include <limits>
 #include <memory>
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 namespace {
 
@@ -53,6 +56,9 @@ private slots:
     void aStateThatIsNotZeroIsRememberedForGood();
     void recordsOutliveReloadAndRecording();
     void loadingRunsOnAnotherThread();
+#ifdef Q_OS_UNIX
+    void pipesAreNotWaitedFor();
+#endif
 };
 
 void TestCfgProperties::aNewRecordingIsEmpty()
@@ -473,6 +479,21 @@ void TestCfgProperties::loadingRunsOnAnotherThread()
     QVERIFY(thread.wait(10000));
     QVERIFY(!recording);
 }
+
+#ifdef Q_OS_UNIX
+void TestCfgProperties::pipesAreNotWaitedFor()
+{
+    const RecordingFolder folder;
+    for (const char *name : {"pipe.txt", "pipe.cfg"}) {
+        QCOMPARE(mkfifo(QFile::encodeName(folder.path(name)).constData(), 0600), 0);
+        CFGProperties recording;
+        recording.filePath = folder.path(name);
+        recording.init();
+        QCOMPARE(recording.totalChannelCount, 0);
+        QCOMPARE(recording.sampleCount, 0);
+    }
+}
+#endif
 
 QTEST_GUILESS_MAIN(TestCfgProperties)
 #include "tst_cfgproperties.moc"
