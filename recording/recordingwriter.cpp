@@ -203,13 +203,14 @@ QString RecordingWriter::configuration(const Span &span, Side side) const
                      .arg(m_recording.totalChannelCount)
                      .arg(m_recording.analogChannelCount)
                      .arg(m_recording.digitalChannelCount));
-    // A record without a definition has a line too: its samples are in the data lines.
+    // A record without a definition has a line too, where it is counted: its samples are in the
+    // data lines, and one that is not counted would stand in the place of the frequency.
     const int analogLines
         = std::max(m_recording.analogIndexes.size(), m_recording.analogChannels.size());
     for (int row = 0; row < analogLines; ++row)
         lines.append(analogLine(row, side));
-    const int digitalLines
-        = std::max(m_recording.digitalIndexes.size(), m_recording.digitalChannels.size());
+    const int digitalLines = std::max(m_recording.digitalIndexes.size(),
+        std::min(m_recording.digitalChannels.size(), m_recording.digitalChannelCount));
     for (int row = 0; row < digitalLines; ++row)
         lines.append(digitalLine(row));
     lines.append(sixDecimals(m_recording.lineFrequency));

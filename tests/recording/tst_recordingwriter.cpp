@@ -41,6 +41,7 @@ private slots:
     void shortDefinitionsAreFilledWithEmptyTexts();
     void fieldsBehindAShortDigitalLineMoveUpToIt();
     void recordsWithoutDefinitionsHaveLines();
+    void recordsThatAreNotCountedHaveNone();
     void lettersGoOutAsTheyCameIn();
     void lettersBeyondLatin1GoOutAsUtf8();
     void asPrimaryTurnsSecondaryChannels();
@@ -479,6 +480,28 @@ void TestRecordingWriter::recordsWithoutDefinitionsHaveLines()
     QCOMPARE(copy.line(5), QByteArray("0,,,,"));
     QCOMPARE(copy.line(6), QByteArray("0.000000"));
     QCOMPARE(copy.data, QByteArray("1,0,5,6,1"));
+}
+
+void TestRecordingWriter::recordsThatAreNotCountedHaveNone()
+{
+    ConfigurationText text = configurationText();
+    text.counts = "4,2A,1D";
+    const QByteArray data = "1,0,5,6,1,0\n2,1000,7,8,0,1";
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, text.text(), data);
+    QCOMPARE(recording.lineFrequency, 50.0);
+    for (const char *name : {"first", "second"}) {
+        QCOMPARE(recording.digitalChannels.size(), 2);
+        const Written copy = written(recording, -infinite, infinite);
+        QCOMPARE(copy.line(2), text.counts);
+        QCOMPARE(copy.line(5), text.digital.at(0));
+        QCOMPARE(copy.line(6), QByteArray("50.000000"));
+        QCOMPARE(copy.line(7), QByteArray("1"));
+        QCOMPARE(copy.data, data);
+        folder.load(recording, copy.configuration, copy.data, name);
+        QCOMPARE(recording.lineFrequency, 50.0);
+    }
 }
 
 void TestRecordingWriter::lettersGoOutAsTheyCameIn()
