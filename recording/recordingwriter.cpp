@@ -241,9 +241,11 @@ QString RecordingWriter::analogLine(int row, Side side) const
     QString flag = m_recording.psFlags.value(row);
     if (side == Side::Primary) {
         const AnalogChannel *channel = m_recording.analogChannels.value(row);
-        if (flag == QLatin1String("S") && channel && std::isfinite(channel->toPrimary)) {
-            a *= channel->toPrimary;
-            b *= channel->toPrimary;
+        const double factor = channel ? channel->toPrimary : 1;
+        // By a factor of nothing, or without end, the values would be lost.
+        if (flag == QLatin1String("S") && factor != 0 && std::isfinite(factor)) {
+            a *= factor;
+            b *= factor;
         }
         flag = QStringLiteral("P");
     }

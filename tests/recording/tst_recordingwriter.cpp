@@ -45,6 +45,8 @@ private slots:
     void lettersGoOutAsTheyCameIn();
     void lettersBeyondLatin1GoOutAsUtf8();
     void asPrimaryTurnsSecondaryChannels();
+    void asPrimaryMultipliesByTheRatio_data();
+    void asPrimaryMultipliesByTheRatio();
     void asPrimaryWritesEverySample();
     void asPrimaryShowsTheSameValuesWhenOpened();
     void aTextExportCanBeWritten();
@@ -554,6 +556,41 @@ void TestRecordingWriter::asPrimaryTurnsSecondaryChannels()
                    "ASCII\n"
                    "1"));
     QCOMPARE(copy.data, QByteArray("1,0,1,2,3,4,1\n2,1000,-1,-2,-3,-4,0"));
+}
+
+void TestRecordingWriter::asPrimaryMultipliesByTheRatio_data()
+{
+    QTest::addColumn<QByteArrayList>("ratings"); // of channels with a = 0.5 and b = -1
+    QTest::addColumn<QByteArrayList>("factors"); // a and b as written
+    QTest::newRow("a primary rating of 0 leaves the values")
+        << QByteArrayList{"0,1,S"} << QByteArrayList{"0.5,-1"};
+    QTest::newRow("a secondary rating of 0 leaves the values")
+        << QByteArrayList{"400,0,S"} << QByteArrayList{"0.5,-1"};
+    QTest::newRow("ratings of 0 leave the values")
+        << QByteArrayList{"0,0,S"} << QByteArrayList{"0.5,-1"};
+    QTest::newRow("a negative rating") << QByteArrayList{"-400,1,S"} << QByteArrayList{"-200,400"};
+    // The first channel has no factor, which gives it that of the second one.
+    QTest::newRow("the factors of later channels do not change one without a side")
+        << QByteArrayList{"600,5,s", "400,1,S", "20000,100,P"}
+        << QByteArrayList{"0.5,-1", "0.5,-1", "0.5,-1"};
+}
+
+void TestRecordingWriter::asPrimaryMultipliesByTheRatio()
+{
+    QFETCH(QByteArrayList, ratings);
+    QFETCH(QByteArrayList, factors);
+    ConfigurationText text;
+    QByteArray data = "1,0";
+    for (int k = 0; k < ratings.size(); ++k) {
+        text.analog += analogLine(k + 1, "0.5", "-1", ratings.at(k));
+        data += ",7";
+    }
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, text.text(), data);
+    const Written copy = writtenAsPrimary(recording);
+    for (int k = 0; k < factors.size(); ++k)
+        QCOMPARE(copy.line(3 + k).split(',').mid(5, 2).join(','), factors.at(k));
 }
 
 void TestRecordingWriter::asPrimaryWritesEverySample()
