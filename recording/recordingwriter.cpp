@@ -29,9 +29,11 @@ QString general(double value)
     return QString::number(value, 'g', 6);
 }
 
+// A value that rounds to zero has no sign: read again, "-0" would be written as "0".
 QString sixDecimals(double value)
 {
-    return QString::number(value, 'f', 6);
+    const QString text = QString::number(value, 'f', 6);
+    return text == QLatin1String("-0.000000") ? text.mid(1) : text;
 }
 
 char *writeWhole(char *at, qint64 value)
@@ -43,7 +45,7 @@ char *writeWhole(char *at, qint64 value)
 }
 
 // A value without decimals, rounded as the toolkit does, but for the sign of a value that rounds to
-// zero: read again, "-0" would be written as "0". Nearly all are small enough to need no string.
+// zero. Nearly all are small enough to need no string.
 char *writeWhole(char *at, double value)
 {
     constexpr double exact = 1e15;

@@ -274,6 +274,9 @@ void TestRecordingWriter::ratings_data()
     QTest::newRow("of many digits") << list("123456789012.5|1e22") << list("1e-7|0.000001")
                                     << QByteArray("123456789012.500000,0.000000")
                                     << QByteArray("10000000000000000000000.000000,0.000001");
+    QTest::newRow("a little below zero is zero")
+        << list("-1e-9|-0.0000004") << list("-0.0000006|-1e-300")
+        << QByteArray("0.000000,-0.000001") << QByteArray("0.000000,0.000000");
     QTest::newRow("that are no numbers")
         << list("x|") << list("1,5| 7 ") << QByteArray("0.000000,0.000000")
         << QByteArray("0.000000,7.000000");
