@@ -8,9 +8,10 @@
 #include <QTime>
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
-#include <initializer_list>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <utility>
@@ -106,18 +107,35 @@ void writeAll(QFileDevice &file, const char *text, qint64 size)
     }
 }
 
-// Puts the files that were opened in their places, none before all are complete: an old data file
-// beside a new configuration would be neither recording.
-RecordingWriter::Outcome finish(const std::initializer_list<QFileDevice *> &files)
+struct Target {
+    QString path;
+    std::function<void(QFileDevice &)> write; // the contents
+    std::unique_ptr<QFileDevice> file;
+};
+
+// Writes the files that can be opened and puts them in their places, none before all are complete:
+// an old data file beside a new configuration would be neither recording. A file that may not be
+// replaced, as that of another user in a folder shared by all, is written in place.
+RecordingWriter::Outcome writeFiles(std::array<Target, 2> targets)
 {
-    for (const QFileDevice *file : files) {
-        if (file && file->error() != QFileDevice::NoError)
-            return {file->fileName(), file->errorString()};
+    for (Target &target : targets) {
+        target.file = openForWriting(target.path);
+        if (target.file)
+            target.write(*target.file);
     }
-    for (QFileDevice *file : files) {
-        auto *replacement = qobject_cast<QSaveFile *>(file);
-        if (replacement && !replacement->commit())
-            return {file->fileName(), file->errorString()};
+    for (const Target &target : targets) {
+        if (target.file && target.file->error() != QFileDevice::NoError)
+            return {target.path, target.file->errorString()};
+    }
+    for (const Target &target : targets) {
+        auto *replacement = qobject_cast<QSaveFile *>(target.file.get());
+        if (!replacement || replacement->commit())
+            continue;
+        QFile inPlace(target.path);
+        if (inPlace.open(QIODevice::WriteOnly | QIODevice::ExistingOnly | QIODevice::Unbuffered))
+            target.write(inPlace);
+        if (inPlace.error() != QFileDevice::NoError)
+            return {target.path, inPlace.errorString()};
     }
     return {};
 }
@@ -165,15 +183,11 @@ RecordingWriter::Outcome RecordingWriter::writePair(
         span.elapsed = time - span.start;
     });
 
-    const QString stem = path.endsWith(extension) ? path.chopped(extension.size()) : path;
-    const auto configurationFile = openForWriting(stem + extension);
-    if (configurationFile) {
+    const auto writeConfiguration = [&](QFileDevice &file) {
         const QByteArray text = encoded(configuration(span, side));
-        writeAll(*configurationFile, text.constData(), text.size());
-    }
-
-    const auto dataFile = openForWriting(stem + QLatin1String(".dat"));
-    if (dataFile) {
+        writeAll(file, text.constData(), text.size());
+    };
+    const auto writeData = [&](QFileDevice &file) {
         const int lineRoom = 2 * mostDigits
             + mostDigitsOfSample
                 * (m_recording.analogChannels.size() + m_recording.digitalChannels.size());
@@ -186,13 +200,15 @@ RecordingWriter::Outcome RecordingWriter::writePair(
             isFirst = false;
             at = writeDataLine(at, sample, span.start);
             if (at - text.data() >= blockSize) {
-                writeAll(*dataFile, text.data(), at - text.data());
+                writeAll(file, text.data(), at - text.data());
                 at = text.data();
             }
         });
-        writeAll(*dataFile, text.data(), at - text.data());
-    }
-    return finish({configurationFile.get(), dataFile.get()});
+        writeAll(file, text.data(), at - text.data());
+    };
+    const QString stem = path.endsWith(extension) ? path.chopped(extension.size()) : path;
+    return writeFiles({{{stem + extension, writeConfiguration, nullptr},
+        {stem + QLatin1String(".dat"), writeData, nullptr}}});
 }
 
 QString RecordingWriter::configuration(const Span &span, Side side) const

@@ -39,6 +39,7 @@ private slots:
     void aFullFileSystemKeepsItsFiles();
 #ifdef Q_OS_UNIX
     void aFolderThatTakesNoNewFilesHasItsFilesReplaced();
+    void aFileThatMayNotBeReplacedIsWrittenInPlace();
     void linksAreFollowedToFilesAlone();
     void aFileThatCannotBeWrittenInFullIsTold_data();
     void aFileThatCannotBeWrittenInFullIsTold();
@@ -258,6 +259,37 @@ void TestWrittenFiles::aFolderThatTakesNoNewFilesHasItsFilesReplaced()
         QVERIFY(file.open(QIODevice::ReadOnly));
         QVERIFY(!file.readAll().startsWith("as before"));
     }
+}
+
+// In a folder shared by all, everybody may make files, but only replace their own.
+void TestWrittenFiles::aFileThatMayNotBeReplacedIsWrittenInPlace()
+{
+    if (geteuid() != 0)
+        QSKIP("Only the administrator can make files of other users.");
+    const RecordingFolder source;
+    CFGProperties recording;
+    source.load(recording, configurationText().text(), dataUpTo(3));
+    const QTemporaryDir folder(QDir::temp().filePath(QStringLiteral("shared-XXXXXX")));
+    const QString configuration = folder.filePath(QStringLiteral("out.cfg"));
+    const QString data = folder.filePath(QStringLiteral("out.dat"));
+    QVERIFY(writeTextFile(configuration, "as before"));
+    QVERIFY(writeTextFile(data, QByteArray(100000, 'x')));
+    constexpr uid_t nobody = 65534;
+    QCOMPARE(chown(qPrintable(configuration), nobody, nobody), 0);
+    QCOMPARE(chmod(qPrintable(data), 0666), 0);
+    QCOMPARE(chmod(qPrintable(folder.path()), 01777), 0);
+    QCOMPARE(seteuid(nobody), 0);
+    const bool isReached = QFile(data).open(QIODevice::ReadWrite | QIODevice::ExistingOnly);
+    const auto outcome = RecordingWriter(recording, {}, {}).write(configuration, 1, 1);
+    QCOMPARE(seteuid(0), 0);
+    if (!isReached)
+        QSKIP("The folder for tests cannot be entered by an ordinary user.");
+    QVERIFY2(!outcome.hasFailed(), qPrintable(outcome.error));
+    QVERIFY(contents(configuration).startsWith("Harju,"));
+    QCOMPARE(contents(data), QByteArray("2,0,1,-1,1"));
+    QCOMPARE(QFileInfo(configuration).ownerId(), nobody);
+    QCOMPARE(QFileInfo(data).ownerId(), 0U);
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
 
 void TestWrittenFiles::linksAreFollowedToFilesAlone()
