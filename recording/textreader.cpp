@@ -10,8 +10,10 @@
 #include <QDateTime>
 #include <QIODevice>
 #include <QTextCodec>
+#include <QTextStream>
 
 #include <array>
+#include <optional>
 
 namespace {
 
@@ -85,11 +87,40 @@ QDateTime parsedStamp(const QStringRef &text)
     return date.isValid() && time.isValid() ? QDateTime(date, time, Qt::UTC) : QDateTime();
 }
 
-// Whether a line is empty: those at the very end of the file are no samples.
-bool isBlank(const QByteArray &line)
-{
-    return line == "\n" || line == "\r\n";
-}
+// The lines of an export without their ends. Of UTF-16, which its byte order mark tells, a line
+// cannot be found by its bytes.
+class TextLines {
+public:
+    explicit TextLines(QIODevice &device)
+        : m_device(device), m_mark(device.peek(2)), m_wideText(&device)
+    {
+    }
+
+    // None at the end, where the device fails, and where the line is too long.
+    std::optional<QString> next()
+    {
+        QString line;
+        if (m_mark == "\xff\xfe" || m_mark == "\xfe\xff") {
+            if (!m_wideText.readLineInto(&line, mostLineBytes) || line.size() == mostLineBytes)
+                return {};
+        } else {
+            QByteArray bytes = nextLine(m_device);
+            if (bytes.isEmpty())
+                return {};
+            if (bytes.endsWith('\n'))
+                bytes.chop(1);
+            line = decoded(bytes);
+        }
+        while (line.endsWith(QLatin1Char('\r')))
+            line.chop(1);
+        return line;
+    }
+
+private:
+    QIODevice &m_device;
+    const QByteArray m_mark;
+    QTextStream m_wideText;
+};
 
 class TextReader {
 public:
@@ -149,28 +180,23 @@ private:
 
 void readTextExport(QIODevice &device, CFGProperties &recording)
 {
-    const auto text = [](QByteArray line) {
-        while (line.endsWith('\n') || line.endsWith('\r'))
-            line.chop(1);
-        return decoded(line);
-    };
-    const QByteArray firstLine = nextLine(device);
-    if (firstLine.isEmpty())
+    TextLines lines(device);
+    const std::optional<QString> header = lines.next();
+    if (!header)
         return;
-    const QString header = text(firstLine);
-    readHeader(recording, header);
+    readHeader(recording, *header);
     readTimeStamps(recording);
-    TextReader reader(recording, header.size());
-    qint64 blankLines = 0;
+    TextReader reader(recording, header->size());
+    qint64 blankLines = 0; // at the very end of the file they are no samples
     bool goesOn = true;
-    for (QByteArray line; goesOn && !(line = nextLine(device)).isEmpty();) {
-        if (isBlank(line)) {
+    for (std::optional<QString> line; goesOn && (line = lines.next());) {
+        if (line->isEmpty()) {
             ++blankLines;
             continue;
         }
         for (; goesOn && blankLines > 0; --blankLines)
             goesOn = reader.readLine(QString());
-        goesOn = goesOn && reader.readLine(text(line));
+        goesOn = goesOn && reader.readLine(*line);
     }
     reader.finish();
 }

@@ -267,6 +267,8 @@ void TestBadInput::aBadExportTakesAMomentAndLittleMemory_data()
         << QByteArray(4000, ',') + '\n' + QByteArray("x\n").repeated(2000) << 16;
     QTest::newRow("many empty lines and then one") << QByteArray(1000, ',')
             + QByteArray(200000, '\n') + "x\n" << 32;
+    QTest::newRow("a byte order mark alone") << QByteArray("\xff\xfe") << 16;
+    QTest::newRow("half a letter") << QByteArray("\xfe\xff\0", 3) << 16;
     QTest::newRow("NULs") << QByteArray(1000, '\0') << 16;
     QTest::newRow("lone carriage returns") << QByteArray("a[A]\r01/02/2020\r5\r\r") << 16;
     QTest::newRow("values beyond all bounds") << "a[A],b[A]\n" + stamp + ",1e39,nan\n" << 16;
@@ -311,6 +313,17 @@ void TestBadInput::aLineWithoutEndEndsTheReading_data()
     QTest::newRow("the names of an export") << text << QByteArray("a[A],b[A]") << 1 << 0 << 0;
     QTest::newRow("the second sample of an export")
         << text << "a[A],b[A]\n" + sample + sample.chopped(1) << 1 << 2 << 1;
+    QTest::newRow("the names of an export of two bytes a letter") << text
+                                                                  << QByteArray("\xff\xfe"
+                                                                                "a\0[\0A\0",
+                                                                         8)
+                                                                  << 1 << 0 << 0;
+    QTest::newRow("the first sample of an export of two bytes a letter") << text
+                                                                         << QByteArray("\xff\xfe"
+                                                                                       "a\0\n\0"
+                                                                                       "5\0",
+                                                                                8)
+                                                                         << 1 << 0 << 0;
     QTest::newRow("the station") << configuration << QByteArray("Harju") << 1 << 0 << 3;
     QTest::newRow("behind the time factor") << configuration << twoAndOne().text() << 1 << 2 << 3;
     QTest::newRow("the first sample") << data << QByteArray("1,0,5,6,0") << 0 << 0 << 0;

@@ -41,6 +41,8 @@ private slots:
     void emptyLines();
     void lettersOfTheHeader_data();
     void lettersOfTheHeader();
+    void lettersOfTwoBytes_data();
+    void lettersOfTwoBytes();
     void aLoadOfAnExport_data();
     void aLoadOfAnExport();
     void manyLinesLoad();
@@ -374,6 +376,46 @@ void TestTextReader::lettersOfTheHeader()
     CFGProperties recording;
     read(recording, header + "\n01/02/2020-10:00:00:000,5\n");
     QCOMPARE(recording.analogIds, QStringList({id}));
+}
+
+void TestTextReader::lettersOfTwoBytes_data()
+{
+    QTest::addColumn<QByteArray>("mark");
+    QTest::addColumn<bool>("isHighFirst");
+    QTest::addColumn<QByteArray>("lineEnd");
+    for (const QByteArray &lineEnd : {QByteArray("\n"), QByteArray("\r\n")}) {
+        const char *name = lineEnd.size() == 1 ? "LF" : "CR LF";
+        QTest::addRow("the low byte first, %s", name) << QByteArray("\xff\xfe") << false << lineEnd;
+        QTest::addRow("the high byte first, %s", name) << QByteArray("\xfe\xff") << true << lineEnd;
+    }
+}
+
+// The bytes of the letters are written out here; "\u0a0a" has that of a line end twice.
+void TestTextReader::lettersOfTwoBytes()
+{
+    QFETCH(QByteArray, mark);
+    QFETCH(bool, isHighFirst);
+    QFETCH(QByteArray, lineEnd);
+    const QString name = QString::fromUtf8("J\u00e4nnite \u0a0a \u7535");
+    const QString text = QLatin1Char('#') + name
+        + QString::fromUtf8("[\u03a9],b[A]\n01/02/2020-10:00:00:000,1.5,-2\n\n"
+                            "01/02/2020-10:00:00:020,3,4.25\n\n\n")
+              .replace(QLatin1Char('\n'), QLatin1String(lineEnd));
+    QByteArray bytes = mark;
+    for (const QChar letter : text) {
+        const auto high = static_cast<char>(letter.unicode() / 256);
+        const auto low = static_cast<char>(letter.unicode() % 256);
+        bytes += isHighFirst ? high : low;
+        bytes += isHighFirst ? low : high;
+    }
+    CFGProperties recording;
+    read(recording, bytes);
+    QCOMPARE(recording.analogIds, QStringList({name, QStringLiteral("b")}));
+    QCOMPARE(
+        recording.analogUnits, QStringList({QString::fromUtf8("\u03a9"), QStringLiteral("A")}));
+    QCOMPARE(recording.sampleTimes, QVector<double>({0, 0, 20}));
+    QCOMPARE(recording.analogChannels.at(0)->rawValues, QVector<float>({1.5F, 0, 3}));
+    QCOMPARE(recording.analogChannels.at(1)->rawValues, QVector<float>({-2, 0, 4.25F}));
 }
 
 void TestTextReader::aLoadOfAnExport_data()
