@@ -22,6 +22,7 @@ private slots:
     void aRangeOfALongRecording();
     void samplesOfARange_data();
     void samplesOfARange();
+    void noMoreSamplesThanAreCounted();
     void anEmptyRangeIsCountedFromBeforeTheStart();
     void timesOfARange_data();
     void timesOfARange();
@@ -35,14 +36,18 @@ private slots:
     void stampsOfData();
     void channelsOfOneKind_data();
     void channelsOfOneKind();
+    void longLinesOverManyBlocks();
     void rateLines_data();
     void rateLines();
+    void rateLinesThatWereMissing_data();
+    void rateLinesThatWereMissing();
     void aRateLineWhereNoneIsCountedStandsForTheStart();
     void shortDefinitionsAreFilledWithEmptyTexts();
     void fieldsBehindAShortDigitalLineMoveUpToIt();
     void recordsWithoutDefinitionsHaveLines();
     void recordsThatAreNotCountedHaveNone();
     void lettersGoOutAsTheyCameIn();
+    void lettersBeyondLatin1GoOutAsUtf8_data();
     void lettersBeyondLatin1GoOutAsUtf8();
     void asPrimaryTurnsSecondaryChannels();
     void asPrimaryMultipliesByTheRatio_data();
@@ -129,6 +134,17 @@ void TestRecordingWriter::samplesOfARange()
     QCOMPARE(copy.line(8), "1000.000000," + QByteArray::number(count));
 }
 
+void TestRecordingWriter::noMoreSamplesThanAreCounted()
+{
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, configurationText().text(), dataUpTo(3));
+    recording.sampleCount = 2;
+    const Written copy = written(recording, 0, 3);
+    QCOMPARE(copy.data, QByteArray("1,0,0,0,0\n2,1000,1,-1,1"));
+    QCOMPARE(copy.line(8), QByteArray("1000.000000,2"));
+}
+
 void TestRecordingWriter::anEmptyRangeIsCountedFromBeforeTheStart()
 {
     const RecordingFolder folder;
@@ -170,6 +186,8 @@ void TestRecordingWriter::timesOfARange_data()
         "10:00:00.051");
     row("a first stamp before 0", "10:00:00.000", "10:00:00.000", "-77500 50000", "09:59:59.923",
         "10:00:00.000");
+    row("stamps that run back end before the trigger", "10:00:00.000", "10:00:00.060", "50000 0",
+        "10:00:00.050", "10:00:00.050");
     row("over midnight no trigger lies inside", "23:59:59.990", "23:59:59.995", "0 50000",
         "23:59:59.990", "23:59:59.990");
     row("a start over midnight", "23:59:59.990", "23:59:59.995", "20000 50000", "00:00:00.010",
@@ -402,6 +420,32 @@ void TestRecordingWriter::channelsOfOneKind()
     QCOMPARE(copy.data, data);
 }
 
+// Lines of 16 kB, the last of a block nearly all behind its end.
+void TestRecordingWriter::longLinesOverManyBlocks()
+{
+    constexpr int channels = 399;
+    constexpr int lines = 100;
+    ConfigurationText text;
+    QByteArray data;
+    QByteArray expected;
+    for (int k = 1; k <= channels; ++k)
+        text.analog += analogLine(k);
+    for (int i = 0; i < lines; ++i) {
+        const QByteArray head
+            = QByteArray::number(i + 1) + ',' + QByteArray::number(1000 * i) + ',';
+        data += head + QByteArray("-3e38,").repeated(channels) + '\n';
+        // The nearest single precision number.
+        expected
+            += head + QByteArray("-300000000549775575777803994281145270272,").repeated(channels);
+        if (i + 1 < lines)
+            expected += '\n';
+    }
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, text.text(), data);
+    QVERIFY(written(recording, -infinite, infinite).data == expected);
+}
+
 void TestRecordingWriter::rateLines_data()
 {
     QTest::addColumn<QByteArrayList>("rates");
@@ -428,6 +472,39 @@ void TestRecordingWriter::rateLines()
     QCOMPARE(lines.at(5), QByteArray("16.700000"));
     QCOMPARE(lines.mid(6, written.size()), written);
     QVERIFY2(lines.at(6 + written.size()).startsWith("15/03/2024,"), lines.at(7).constData());
+}
+
+void TestRecordingWriter::rateLinesThatWereMissing_data()
+{
+    QTest::addColumn<QByteArray>("count");
+    QTest::addColumn<int>("lines");
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<QByteArray>("start");
+    // The line of the file type is taken for the fifth of the rates, the time factor for the start.
+    QTest::newRow("three of five")
+        << QByteArray("5") << 5 << QByteArray("0.000000,4") << QByteArray("1,");
+    // The time factor is the last of them.
+    QTest::newRow("nearly all of very many")
+        << QByteArray("2000000000") << 999 << QByteArray("1.000000,4") << QByteArray(",");
+}
+
+void TestRecordingWriter::rateLinesThatWereMissing()
+{
+    QFETCH(QByteArray, count);
+    QFETCH(int, lines);
+    QFETCH(QByteArray, line);
+    QFETCH(QByteArray, start);
+    ConfigurationText text = configurationText();
+    text.rates = QByteArrayList{"1000,2", "2000,4"};
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, text.text().replace("\n2\n1000", '\n' + count + "\n1000"), dataUpTo(3));
+    const QByteArrayList copied = written(recording, 0, 3).configuration.split('\n').mid(6);
+    QCOMPARE(copied.at(0), count);
+    for (int i = 1; i <= lines; ++i)
+        QCOMPARE(copied.at(i), line);
+    QCOMPARE(copied.at(lines + 1), start);
+    QCOMPARE(copied.size(), lines + 5);
 }
 
 // Clause 5.3.6 has such a line; the reader goes by the count alone.
@@ -519,16 +596,29 @@ void TestRecordingWriter::lettersGoOutAsTheyCameIn()
     QCOMPARE(written(recording, 0, 3).line(1), text.station);
 }
 
+void TestRecordingWriter::lettersBeyondLatin1GoOutAsUtf8_data()
+{
+    QTest::addColumn<QByteArray>("read"); // in UTF-8, a name and its unit
+    QTest::addColumn<QByteArray>("written");
+    QTest::newRow("the last letter of Latin-1")
+        << QByteArray("J\xc3\xa4nnite[\xc3\xbf]") << QByteArray("J\xe4nnite,,,\xff");
+    QTest::newRow("the first letter beyond")
+        << QByteArray("J\xc3\xa4nnite[\xc4\x80]") << QByteArray("J\xc3\xa4nnite,,,\xc4\x80");
+    QTest::newRow("one far beyond")
+        << QByteArray("J\xc3\xa4nnite[\xce\xa9]") << QByteArray("J\xc3\xa4nnite,,,\xce\xa9");
+}
+
 void TestRecordingWriter::lettersBeyondLatin1GoOutAsUtf8()
 {
+    QFETCH(QByteArray, read);
+    QFETCH(QByteArray, written);
     const RecordingFolder folder;
-    QVERIFY(writeTextFile(
-        folder.path("rec.txt"), "#J\xc3\xa4nnite[\xce\xa9]\n01/02/2020-10:00:00:000,5\n"));
+    QVERIFY(writeTextFile(folder.path("rec.txt"), '#' + read + "\n01/02/2020-10:00:00:000,5\n"));
     CFGProperties recording;
     recording.filePath = folder.path("rec.txt");
     recording.init();
-    QCOMPARE(written(recording, 0, 3).line(3),
-        QByteArray("0,J\xc3\xa4nnite,,,\xce\xa9,1,0,0,-99999,99999,1.000000,1.000000,P"));
+    QCOMPARE(::written(recording, 0, 3).line(3),
+        "0," + written + ",1,0,0,-99999,99999,1.000000,1.000000,P");
 }
 
 void TestRecordingWriter::asPrimaryTurnsSecondaryChannels()

@@ -104,24 +104,28 @@ void TestWrittenFiles::whatWasThereIsReplaced()
 
 void TestWrittenFiles::longNames_data()
 {
-    QTest::addColumn<int>("length"); // of the files' names, letters of one byte
+    QTest::addColumn<QString>("name"); // with an ending of four bytes more
     QTest::addColumn<bool>("isWritten");
-    QTest::newRow("that leave room for a temporary name") << 248 << true;
-    QTest::newRow("that leave none") << 249 << true;
-    QTest::newRow("as long as may be") << 255 << true;
-    QTest::newRow("too long") << 256 << false;
+    const auto name = [](int letters) { return QString(letters, QLatin1Char('n')); };
+    const QString wide = QString(81, QChar(0x7535)); // of three bytes each
+    QTest::newRow("that leave room for a temporary name") << name(244) << true;
+    QTest::newRow("that leave none") << name(245) << true;
+    QTest::newRow("as long as may be") << name(251) << true;
+    QTest::newRow("too long") << name(252) << false;
+    QTest::newRow("that leave none by their bytes") << wide + name(2) << true;
+    QTest::newRow("too long by their bytes") << wide + name(9) << false;
 }
 
 void TestWrittenFiles::longNames()
 {
-    QFETCH(int, length);
+    QFETCH(QString, name);
     QFETCH(bool, isWritten);
     const RecordingFolder source;
     CFGProperties recording;
     source.load(recording, configurationText().text(), dataUpTo(3));
     const RecordingWriter writer(recording, {}, {});
     const QTemporaryDir folder;
-    const QString target = folder.filePath(QString(length - 4, QLatin1Char('n')));
+    const QString target = folder.filePath(name);
     for (const QByteArray &data : QByteArrayList{"2,0,1,-1,1", "3,0,2,-2,0"}) {
         const double time = data.left(1).toDouble() - 1;
         const auto outcome = writer.write(target, time, time);
