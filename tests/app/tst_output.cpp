@@ -520,6 +520,26 @@ private slots:
         QCOMPARE(fileText(path("primary.dat")).count(QLatin1Char('\n')), 39);
     }
 
+    // Set in the dialog, the ratios show other values; those of the file stay primary.
+    void ratingsOfTheDialogDoNotScalePrimaryChannels()
+    {
+        window->open(writeSmallRecording(folder->path(), QStringLiteral("mixed"),
+            smallConfiguration().replace("20000,100,S", "20000,100,P")));
+        trigger("Rescale CTVT");
+        auto *dialog = window->findChild<CTVTDialog *>();
+        QTest::mouseClick(
+            dialog->findChild<QPushButton *>(QStringLiteral("pushButton_Set")), Qt::LeftButton);
+        QCOMPARE(window->recording()->analogChannels.at(1)->toPrimary, 20000.0);
+        dialog->close();
+        answerFileDialog(path("primary"));
+        trigger("Save As &Primary");
+        const QStringList lines = fileText(path("primary.cfg")).split(QLatin1Char('\n'));
+        QCOMPARE(lines.value(2),
+            QStringLiteral("1,IL1,A,,A,200,0,0,-32767,32767,400.000000,1.000000,P"));
+        QCOMPARE(lines.value(3),
+            QStringLiteral("2,UL1,A,,V,2,0,0,-32767,32767,20000.000000,100.000000,P"));
+    }
+
     void cancelledSaveAsPrimaryWritesNothing()
     {
         answerFileDialog(QString());
