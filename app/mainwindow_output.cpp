@@ -58,8 +58,10 @@ QPixmap MainWindow::capture(CaptureTarget target)
     smoothLetters(false);
     if (digitalPlotter)
         digitalPlotter->repaint();
-    // The frame of the plot that takes the keys belongs to the screen.
-    auto *focused = qobject_cast<Plotter *>(focusWidget());
+    // The frame of what takes the keys belongs to the screen.
+    QWidget *focused = focusWidget();
+    if (focused != ui->scrollWidget && !qobject_cast<Plotter *>(focused))
+        focused = nullptr;
     if (focused)
         focused->clearFocus();
     const QPixmap captured = ui->scrollWidget->grab(ui->scrollWidget->rect());

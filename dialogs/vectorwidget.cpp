@@ -2,6 +2,7 @@
 
 #include "cfgproperties.h"
 #include "dialoghost.h"
+#include "labeltext.h"
 #include "phasordiagram.h"
 #include "plotter.h"
 #include "ui_vectorwidget.h"
@@ -138,7 +139,7 @@ void VectorWidget::setChannelNames(const QStringList &names)
         checkBox->setStyleSheet(colorSheet(channelColors.at(i % channelColors.size())));
         // An ampersand of the name is no keyboard shortcut.
         checkBox->setText(QString(names.at(i)).replace(QLatin1Char('&'), QLatin1String("&&")));
-        checkBox->setToolTip(names.at(i));
+        checkBox->setToolTip(plainToolTip(names.at(i)));
         // The panel's width is fixed, however long the names are.
         checkBox->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         checkBoxes.append(checkBox);

@@ -119,7 +119,7 @@ public:
                 if (!feed)
                     break;
                 const char *const lineEnd = static_cast<const char *>(feed);
-                goesOn = readLine(line, lineEnd);
+                goesOn = lineEnd - line < mostLineBytes && readLine(line, lineEnd);
                 line = lineEnd + 1;
                 search = line;
             }

@@ -101,6 +101,7 @@ void probe()
         timer->stop();
         tell("title", window->windowTitle());
         tellIcon(*window);
+        tell("letters", QFont::substitutes(QApplication::font().family()).value(1));
         tell("recordings", window->recordingsFolder());
         tellAbout(*window);
         tellLanguages(*window);

@@ -86,6 +86,7 @@ private slots:
         QFETCH(QString, about);
         QStringList expected{QStringLiteral("title: Wavorin"),
             QStringLiteral("icon: 256 16 24 32 48 64 128"),
+            QStringLiteral("letters: noto sans cjk sc"),
             QLatin1String("recordings: /records/of/") + companion,
             QLatin1String("about: ") + about};
         for (const QString &language : languages)
@@ -100,6 +101,9 @@ private slots:
         QTest::addColumn<int>("brand");
         QTest::newRow("the maker") << 0;
         QTest::newRow("Vanta") << 1;
+        QTest::newRow("Orlo") << 2;
+        QTest::newRow("Quill") << 3;
+        QTest::newRow("Mervic") << 4;
     }
 
     void showsTheMakersSplashWithoutARecording()

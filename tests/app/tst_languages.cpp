@@ -2,6 +2,7 @@
 #include "smallrecording.h"
 #include "translationfile.h"
 #include "untranslatedtexts.h"
+#include "vectorwidget.h"
 #include "windowtest.h"
 
 #include <QCheckBox>
@@ -341,6 +342,11 @@ private slots:
             translations.insert(text.source, text.translation);
         showDialogs();
         child<QDialog>("AddPlotterDialog")->show();
+        QTest::mouseClick(child<QDialog>("VectorDialog")
+                              ->findChild<QToolButton *>(
+                                  QStringLiteral("toolButton"), Qt::FindDirectChildrenOnly),
+            Qt::LeftButton);
+        QCOMPARE(child<QDialog>("VectorDialog")->findChildren<VectorWidget *>().size(), 2);
         const Shown before = shownTexts();
         choose(entry.toUtf8().constData());
         const Shown after = shownTexts();

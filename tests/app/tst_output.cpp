@@ -192,17 +192,25 @@ private slots:
         expectStyle(screenStyle);
     }
 
-    void aPlotWithTheFocusLooksLikeTheOthersInPictures()
+    void theFocusIsNotInPictures_data()
     {
+        QTest::addColumn<QString>("widget");
+        QTest::newRow("of a plot") << QStringLiteral("Plotter");
+        QTest::newRow("of the column") << QStringLiteral("scrollWidget");
+    }
+
+    void theFocusIsNotInPictures()
+    {
+        QFETCH(QString, widget);
         const QImage copied = copiedPicture();
         const QImage saved = savedPicture();
         window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(window.get()));
-        auto *plot = window->findChild<Plotter *>();
-        plot->setFocus(Qt::TabFocusReason);
-        QVERIFY(plot->hasFocus());
+        auto *focused = window->findChild<QWidget *>(widget);
+        focused->setFocus(Qt::TabFocusReason);
+        QVERIFY(focused->hasFocus());
         QCOMPARE(copiedPicture(), copied);
-        QVERIFY(plot->hasFocus());
+        QVERIFY(focused->hasFocus());
         QVERIFY(QFile::remove(path("shot.png")));
         QCOMPARE(savedPicture(), saved);
     }

@@ -41,6 +41,7 @@ private slots:
     void colorsTheCheckBoxes();
     void replacesTheCheckBoxes();
     void staysAsWideWithLongNames();
+    void tellsANameOfTagsAsItStands();
     void showsAnAmpersandInAName();
     void drawsAfterBeingShown();
     void staysTransparentWithoutAPlotter();
@@ -152,6 +153,13 @@ void TestVectorWidget::staysAsWideWithLongNames()
     QCOMPARE(panel->width(), width);
     QVERIFY(!checkBoxes().at(1)->visibleRegion().isEmpty());
     QCOMPARE(checkBoxes().at(0)->toolTip(), QString(60, QLatin1Char('W')));
+}
+
+void TestVectorWidget::tellsANameOfTagsAsItStands()
+{
+    recording.add(QStringLiteral("<b>x</b>"), 0, 50, extremeOf100);
+    show();
+    QCOMPARE(checkBoxes().at(0)->toolTip(), QStringLiteral("&lt;b&gt;x&lt;/b&gt;"));
 }
 
 void TestVectorWidget::showsAnAmpersandInAName()

@@ -113,6 +113,8 @@ private slots:
     void aBadExportTakesAMomentAndLittleMemory();
     void aLineWithoutEndEndsTheReading_data();
     void aLineWithoutEndEndsTheReading();
+    void aLineMayHaveTheLargestLength_data();
+    void aLineMayHaveTheLargestLength();
     void aPairCutOffAnywhereIsSurvived();
     void aPairWithBytesChangedIsSurvived();
     void anExportWithBytesChangedIsSurvived();
@@ -297,6 +299,26 @@ void TestBadInput::aBadExportTakesAMomentAndLittleMemory()
     for (const AnalogChannel *channel : qAsConst(recording.analogChannels))
         QCOMPARE(channel->values.size(), recording.sampleCount);
     use(recording);
+}
+
+void TestBadInput::aLineMayHaveTheLargestLength_data()
+{
+    QTest::addColumn<int>("length"); // of a data line, its end included
+    QTest::addColumn<int>("samples");
+    QTest::newRow("2^26 bytes") << 67108864 << 2;
+    QTest::newRow("one more") << 67108865 << 1;
+}
+
+void TestBadInput::aLineMayHaveTheLargestLength()
+{
+    QFETCH(int, length);
+    const QByteArray first = "1,0,5,6,0\n";
+    QByteArray second = "2,1000,5,6,0";
+    second += QByteArray(length - second.size() - 1, ',') + '\n';
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, twoAndOne().text(), first + second);
+    QTEST(recording.sampleCount, "samples");
 }
 
 void TestBadInput::aLineWithoutEndEndsTheReading_data()
