@@ -60,12 +60,12 @@ QPixmap MainWindow::capture(CaptureTarget target)
         digitalPlotter->repaint();
     // The frame of what takes the keys belongs to the screen.
     QWidget *focused = focusWidget();
-    if (focused != ui->scrollWidget && !qobject_cast<Plotter *>(focused))
-        focused = nullptr;
-    if (focused)
+    const bool isFramed
+        = focused && (focused == ui->scrollWidget || qobject_cast<Plotter *>(focused));
+    if (isFramed)
         focused->clearFocus();
     const QPixmap captured = ui->scrollWidget->grab(ui->scrollWidget->rect());
-    if (focused)
+    if (isFramed)
         focused->setFocus();
     smoothLetters(true);
     const CFGProperties *loaded = recording();
