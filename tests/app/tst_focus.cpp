@@ -106,6 +106,24 @@ private slots:
         QTEST(names.join(QLatin1Char(' ')), "stops");
     }
 
+    void tabOrderOutlivesReloadAndRemoval()
+    {
+        window->open(folder.filePath(QStringLiteral("rec.cfg")));
+        for (int i = 0; i < 2; ++i)
+            window->addPlotter({QStringLiteral("IL1")});
+        window->removePlotter();
+        window->addPlotter({QStringLiteral("UL1")});
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        QStringList names;
+        for (const QWidget *stop : tabStops(*window))
+            names.append(nameOf(stop));
+        QCOMPARE(names.join(QLatin1Char(' ')),
+            QStringLiteral(
+                "checkBox_showAngles comboBox_mainReference comboBox_primSec groupBox "
+                "checkBox_convertToLocal listWidget listWidget2 scrollWidget "
+                "[Analog Plotter] [Graph 1 Plotter] [Graph 3 Plotter] [Digital Plotter]"));
+    }
+
     void focusIsSeen_data() { tabFollowsTheReadingOrder_data(); }
     void focusIsSeen()
     {
