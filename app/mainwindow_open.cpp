@@ -79,7 +79,7 @@ QString shownName(const QString &name)
     return name.trimmed().left(mostLetters);
 }
 
-// Names may be longer than the room for them, so each tells itself in full in a tool tip.
+// Names may be longer than the room for them, so each tells itself in a tool tip, too.
 void addName(QListWidget &list, const QString &name)
 {
     auto *item = new QListWidgetItem(shownName(name), &list);

@@ -7,5 +7,6 @@ class QIODevice;
 // recording whose configuration has been read: sample number, time stamp in microseconds, analog
 // values, digital states. Records are made with the first line; where there are some already, the
 // samples are appended to them. Reading ends with the file or with the first line of fewer than two
-// fields. Missing fields read as 0. sampleCount becomes the number of lines read.
+// fields or more than mostLineBytes. Missing fields read as 0. sampleCount becomes the number of
+// lines read.
 void readData(QIODevice &device, CFGProperties &recording);

@@ -6,7 +6,8 @@
 class CFGProperties;
 
 // Writes a recording as a new pair of an ASCII 1999 configuration and data file. Each file replaces
-// what was there only when it is complete.
+// what was there only when both are complete, but where nothing may be replaced or the name leaves
+// no room for a temporary file: such a file is written in place.
 class RecordingWriter {
 public:
     // What became of a pair. A file that could not be opened is passed over in silence; of one that

@@ -40,6 +40,14 @@ QString nameOf(const QWidget *widget)
         : widget->objectName();
 }
 
+QString namesOfStops(QWidget &window)
+{
+    QStringList names;
+    for (const QWidget *stop : tabStops(window))
+        names.append(nameOf(stop));
+    return names.join(QLatin1Char(' '));
+}
+
 } // namespace
 
 class TestFocus : public QObject {
@@ -47,6 +55,16 @@ class TestFocus : public QObject {
 
     QTemporaryDir folder;
     std::unique_ptr<MainWindow> window;
+
+    // A dialog by its name, or the main window, shown and with the keys.
+    QWidget *activated(const QString &dialog) const
+    {
+        QWidget *shown = window.get();
+        if (!dialog.isEmpty())
+            shown = window->findChild<QDialog *>(dialog);
+        shown->show();
+        return QTest::qWaitForWindowActive(shown) ? shown : nullptr;
+    }
 
 private slots:
     void init()
@@ -87,11 +105,8 @@ private slots:
     void tabFollowsTheReadingOrder()
     {
         QFETCH(QString, dialog);
-        QWidget *shown = window.get();
-        if (!dialog.isEmpty())
-            shown = window->findChild<QDialog *>(dialog);
-        shown->show();
-        QVERIFY(QTest::qWaitForWindowActive(shown));
+        QWidget *shown = activated(dialog);
+        QVERIFY(shown);
         if (dialog == QLatin1String("VectorDialog")) {
             // A second panel; then new channels in both.
             QTest::mouseClick(shown->findChild<QToolButton *>(
@@ -100,10 +115,7 @@ private slots:
             window->open(folder.filePath(QStringLiteral("rec.cfg")));
             QCoreApplication::processEvents();
         }
-        QStringList names;
-        for (const QWidget *stop : tabStops(*shown))
-            names.append(nameOf(stop));
-        QTEST(names.join(QLatin1Char(' ')), "stops");
+        QTEST(namesOfStops(*shown), "stops");
     }
 
     void tabOrderOutlivesReloadAndRemoval()
@@ -114,10 +126,7 @@ private slots:
         window->removePlotter();
         window->addPlotter({QStringLiteral("UL1")});
         QVERIFY(QTest::qWaitForWindowActive(window.get()));
-        QStringList names;
-        for (const QWidget *stop : tabStops(*window))
-            names.append(nameOf(stop));
-        QCOMPARE(names.join(QLatin1Char(' ')),
+        QCOMPARE(namesOfStops(*window),
             QStringLiteral(
                 "checkBox_showAngles comboBox_mainReference comboBox_primSec groupBox "
                 "checkBox_convertToLocal listWidget listWidget2 scrollWidget "
@@ -128,11 +137,8 @@ private slots:
     void focusIsSeen()
     {
         QFETCH(QString, dialog);
-        QWidget *shown = window.get();
-        if (!dialog.isEmpty())
-            shown = window->findChild<QDialog *>(dialog);
-        shown->show();
-        QVERIFY(QTest::qWaitForWindowActive(shown));
+        QWidget *shown = activated(dialog);
+        QVERIFY(shown);
         for (QWidget *stop : tabStops(*shown)) {
             if (stop->objectName() == QLatin1String("toolButton_Browse"))
                 continue; // grows lighter by its own style sheet

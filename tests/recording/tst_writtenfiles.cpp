@@ -38,6 +38,7 @@ private slots:
     void aFullFileSystemKeepsItsFiles_data();
     void aFullFileSystemKeepsItsFiles();
 #ifdef Q_OS_UNIX
+    void aFolderThatTakesNoNewFilesHasItsFilesReplaced_data();
     void aFolderThatTakesNoNewFilesHasItsFilesReplaced();
     void aFileThatMayNotBeReplacedIsWrittenInPlace();
     void linksAreFollowedToFilesAlone();
@@ -231,11 +232,21 @@ void TestWrittenFiles::aFullFileSystemKeepsItsFiles()
 }
 
 #ifdef Q_OS_UNIX
+void TestWrittenFiles::aFolderThatTakesNoNewFilesHasItsFilesReplaced_data()
+{
+    QTest::addColumn<int>("room"); // bytes that a file may have
+    QTest::addColumn<QString>("error");
+    QTest::newRow("both fit") << 100000 << QString();
+    QTest::newRow("the data do not fit") << 1000 << QStringLiteral("File too large");
+}
+
 void TestWrittenFiles::aFolderThatTakesNoNewFilesHasItsFilesReplaced()
 {
+    QFETCH(int, room);
+    QFETCH(QString, error);
     const RecordingFolder source;
     CFGProperties recording;
-    source.load(recording, configurationText().text(), dataUpTo(3));
+    source.load(recording, configurationText().text(), dataUpTo(300));
     QTemporaryDir folder(QDir::temp().filePath(QStringLiteral("replaced-XXXXXX")));
     for (const char *name : {"out.cfg", "out.dat"}) {
         const QString path = folder.filePath(QLatin1String(name));
@@ -250,14 +261,19 @@ void TestWrittenFiles::aFolderThatTakesNoNewFilesHasItsFilesReplaced()
         QCOMPARE(seteuid(nobody), 0);
     const bool isReached
         = QFile(folder.filePath(QStringLiteral("out.cfg"))).open(QIODevice::ReadWrite);
-    const auto outcome
-        = RecordingWriter(recording, {}, {}).write(folder.filePath(QStringLiteral("out")), 0, 3);
+    const auto outcome = [&] {
+        const FileSizeLimit limit(static_cast<rlim_t>(room));
+        return RecordingWriter(recording, {}, {})
+            .write(folder.filePath(QStringLiteral("out")), 0, infinite);
+    }();
     if (isRoot)
         QCOMPARE(seteuid(0), 0);
     QCOMPARE(chmod(qPrintable(folder.path()), 0755), 0);
     if (!isReached)
         QSKIP("The folder for tests cannot be entered by an ordinary user.");
-    QVERIFY2(!outcome.hasFailed(), qPrintable(outcome.error));
+    QCOMPARE(outcome.error, error);
+    QCOMPARE(outcome.failedFile,
+        error.isEmpty() ? QString() : folder.filePath(QStringLiteral("out.dat")));
     for (const char *name : {"out.cfg", "out.dat"}) {
         QFile file(folder.filePath(QLatin1String(name)));
         QVERIFY(file.open(QIODevice::ReadOnly));
