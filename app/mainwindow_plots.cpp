@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The plots of the recording on screen, and what chooses what they show.
 
 #include "mainwindow.h"

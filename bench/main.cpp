@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Measures the figures that are promised and prints each on a line of its own. Exits with 1 where a
 // goal is missed.
 

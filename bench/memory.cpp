@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The memory that a recording of 1,000,000 samples stands in.
 
 #include "cfgproperties.h"

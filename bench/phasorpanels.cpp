@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Drawing four phasor panels of 16 channels at 20 cursors between the samples of a long recording.
 
 #include "analogchannel.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Redrawing eight traces of noise at 1600 x 400.
 
 #include "analogchannel.h"

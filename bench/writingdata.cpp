@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Writing 200,000 samples to a file.
 
 #include "recordingwriter.h"

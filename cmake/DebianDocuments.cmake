@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 Norvale
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # Run by cpack over the installed files: Debian wants manual pages and a list of changes of its own form,
 # compressed without time stamps.
 set(share "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr/share")

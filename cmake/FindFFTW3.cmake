@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 Norvale
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # FFTW 3 in double precision, as the imported target FFTW3::fftw3. FFTW's own package files are not
 # complete in every distribution, so the header and the library are looked for by name.
 find_path(FFTW3_INCLUDE_DIR fftw3.h)

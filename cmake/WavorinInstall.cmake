@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 Norvale
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # cmake --install: what belongs to an installed viewer, below any prefix. The executable and the launcher of
 # the archiver lie in one private folder, since the viewer looks for it beside itself; the command is a link.
 include(GNUInstallDirs)

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 Norvale
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # What every target of this project is compiled with; all of them link wavorin_options.
 add_library(wavorin_options INTERFACE)
 target_compile_features(wavorin_options INTERFACE cxx_std_17)

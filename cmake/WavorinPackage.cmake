@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 Norvale
+# SPDX-License-Identifier: GPL-3.0-or-later
+
 # cpack -G DEB: a Debian package of what cmake --install puts below /usr.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME wavorin)

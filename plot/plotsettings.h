@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 
 // One view of a plot: the shown range of time (ms) and value with their grid. The numbers of grid

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The time line, the cursors and the save markers of a plot.
 
 #include "plotter.h"

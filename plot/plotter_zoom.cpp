@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Zooming and scrolling of a plot and of those that are linked to it.
 
 #include "plotter.h"

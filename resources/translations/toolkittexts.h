@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The toolkit's own texts that windows and dialogs of this program show. The toolkit looks them up
 // in the translation that is installed, but lupdate does not see its sources; this list is for
 // lupdate alone.

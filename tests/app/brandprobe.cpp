@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Linked into the program of a brand, it tells on the standard output what the program shows, and
 // closes it.
 

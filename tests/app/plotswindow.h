@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 
 #include "addplotterdialog.h"
@@ -13,8 +16,8 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
+#include <QtTest>
 
 #include <algorithm>
 #include <memory>

@@ -1,8 +1,11 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "applicationidentity.h"
 
 #include <QtTest>
 
-class tst_ApplicationIdentity : public QObject {
+class TestApplicationIdentity : public QObject {
     Q_OBJECT
 
 private slots:
@@ -10,14 +13,14 @@ private slots:
     void keepsWhatWasSet();
 };
 
-void tst_ApplicationIdentity::beginsAsTheMakersWithoutNames()
+void TestApplicationIdentity::beginsAsTheMakersWithoutNames()
 {
     QCOMPARE(ApplicationIdentity::brand(), 0);
     QCOMPARE(ApplicationIdentity::organisationName(), QString());
     QCOMPARE(ApplicationIdentity::applicationName(), QString());
 }
 
-void tst_ApplicationIdentity::keepsWhatWasSet()
+void TestApplicationIdentity::keepsWhatWasSet()
 {
     ApplicationIdentity::setBrand(3);
     ApplicationIdentity::setOrganisationName(QStringLiteral("Norvale"));
@@ -27,5 +30,5 @@ void tst_ApplicationIdentity::keepsWhatWasSet()
     QCOMPARE(ApplicationIdentity::applicationName(), QStringLiteral("Wavorin"));
 }
 
-QTEST_GUILESS_MAIN(tst_ApplicationIdentity)
+QTEST_GUILESS_MAIN(TestApplicationIdentity)
 #include "tst_applicationidentity.moc"

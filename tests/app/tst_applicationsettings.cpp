@@ -1,10 +1,13 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "applicationidentity.h"
 #include "applicationsettings.h"
 #include "windowtest.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTranslator>
+#include <QtTest>
 
 namespace {
 

@@ -1,9 +1,12 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "brand.h"
 
 #include <QTranslator>
 #include <QtTest>
 
-class tst_Brand : public QObject {
+class TestBrand : public QObject {
     Q_OBJECT
 
 private slots:
@@ -17,7 +20,7 @@ private slots:
     void everyWebSiteIsAReservedExampleAddress();
 };
 
-void tst_Brand::translationsAndCompanion_data()
+void TestBrand::translationsAndCompanion_data()
 {
     QTest::addColumn<int>("brand");
     QTest::addColumn<QString>("translation");
@@ -32,14 +35,14 @@ void tst_Brand::translationsAndCompanion_data()
     QTest::newRow("a brand above the table has neither") << 5 << QString() << QString();
 }
 
-void tst_Brand::translationsAndCompanion()
+void TestBrand::translationsAndCompanion()
 {
     QFETCH(int, brand);
     QTEST(brandDetails(brand).defaultTranslation, "translation");
     QTEST(brandDetails(brand).companionTool, "companion");
 }
 
-void tst_Brand::languageMenu_data()
+void TestBrand::languageMenu_data()
 {
     QTest::addColumn<int>("brand");
     QTest::addColumn<QStringList>("fileNames");
@@ -73,7 +76,7 @@ void tst_Brand::languageMenu_data()
         << 5 << maker << QStringLiteral("vvv");
 }
 
-void tst_Brand::languageMenu()
+void TestBrand::languageMenu()
 {
     QFETCH(int, brand);
     QStringList texts;
@@ -92,7 +95,7 @@ void tst_Brand::languageMenu()
     QTEST(hidden, "hidden");
 }
 
-void tst_Brand::aboutBox_data()
+void TestBrand::aboutBox_data()
 {
     QTest::addColumn<int>("brand");
     QTest::addColumn<QString>("text");
@@ -128,13 +131,13 @@ void tst_Brand::aboutBox_data()
     QTest::newRow("a brand below the table keeps the maker's line") << -1 << maker;
 }
 
-void tst_Brand::aboutBox()
+void TestBrand::aboutBox()
 {
     QFETCH(int, brand);
     QTEST(aboutText(QStringLiteral("Wavorin"), brand), "text");
 }
 
-void tst_Brand::aboutBoxIsTranslated()
+void TestBrand::aboutBoxIsTranslated()
 {
     class Translator : public QTranslator {
     public:
@@ -153,7 +156,7 @@ void tst_Brand::aboutBoxIsTranslated()
         aboutText(QStringLiteral("Wavorin"), 0).contains(QStringLiteral("<br/>Tekij\u00e4: <a ")));
 }
 
-void tst_Brand::everyWebSiteIsAReservedExampleAddress()
+void TestBrand::everyWebSiteIsAReservedExampleAddress()
 {
     QSet<QString> sites;
     for (int brand = 0; brand < 5; ++brand) {
@@ -165,5 +168,5 @@ void tst_Brand::everyWebSiteIsAReservedExampleAddress()
     QCOMPARE(sites.size(), 5);
 }
 
-QTEST_GUILESS_MAIN(tst_Brand)
+QTEST_GUILESS_MAIN(TestBrand)
 #include "tst_brand.moc"

@@ -1,7 +1,10 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include <QDir>
 #include <QProcess>
 #include <QSettings>
-#include <QTest>
+#include <QtTest>
 
 namespace {
 

@@ -1,10 +1,13 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "commandline.h"
 
 #include <QtTest>
 
 #include <array>
 
-class tst_CommandLine : public QObject {
+class TestCommandLine : public QObject {
     Q_OBJECT
 
 private slots:
@@ -17,7 +20,7 @@ private slots:
     void eightBitTextIsLatin1();
 };
 
-void tst_CommandLine::opensAtStart_data()
+void TestCommandLine::opensAtStart_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<bool>("opens");
@@ -34,13 +37,13 @@ void tst_CommandLine::opensAtStart_data()
     QTest::newRow("no argument") << QString() << false;
 }
 
-void tst_CommandLine::opensAtStart()
+void TestCommandLine::opensAtStart()
 {
     QFETCH(QString, path);
     QTEST(::opensAtStart(path), "opens");
 }
 
-void tst_CommandLine::readsArgumentOne_data()
+void TestCommandLine::readsArgumentOne_data()
 {
     QTest::addColumn<QByteArray>("argument"); // in the locale's encoding, UTF-8
     QTest::addColumn<QString>("path");
@@ -53,30 +56,30 @@ void tst_CommandLine::readsArgumentOne_data()
     QTest::newRow("an empty argument") << QByteArray("") << QStringLiteral("");
 }
 
-void tst_CommandLine::readsArgumentOne()
+void TestCommandLine::readsArgumentOne()
 {
     QFETCH(QByteArray, argument);
     const std::array<const char *, 2> argv{"wavorin", argument.constData()};
     QTEST(pathArgument(2, argv.data()), "path");
 }
 
-void tst_CommandLine::missingArgumentIsNull()
+void TestCommandLine::missingArgumentIsNull()
 {
     const std::array<const char *, 2> argv{"wavorin", nullptr};
     QVERIFY(pathArgument(1, argv.data()).isNull());
     QVERIFY(pathArgument(0, argv.data() + 1).isNull());
 }
 
-void tst_CommandLine::furtherArgumentsAreIgnored()
+void TestCommandLine::furtherArgumentsAreIgnored()
 {
     const std::array<const char *, 3> argv{"wavorin", "one.cfg", "two.cfg"};
     QCOMPARE(pathArgument(3, argv.data()), QStringLiteral("one.cfg"));
 }
 
-void tst_CommandLine::eightBitTextIsLatin1()
+void TestCommandLine::eightBitTextIsLatin1()
 {
     QCOMPARE(latin1Argument("h\xc3\xa4iri\xc3\xb6"), QByteArray("h\xe4iri\xf6"));
 }
 
-QTEST_GUILESS_MAIN(tst_CommandLine)
+QTEST_GUILESS_MAIN(TestCommandLine)
 #include "tst_commandline.moc"

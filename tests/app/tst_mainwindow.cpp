@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "mainwindow.h"
 #include "plotvalues.h"
 #include "windowtest.h"
@@ -12,10 +15,10 @@
 #include <QMenuBar>
 #include <QScrollArea>
 #include <QStatusBar>
-#include <QTest>
 #include <QToolBar>
 #include <QTranslator>
 #include <QVBoxLayout>
+#include <QtTest>
 
 #include <memory>
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "messagehandler.h"
 
 #include <QtTest>
@@ -9,7 +12,7 @@
 #include <unistd.h>
 #endif
 
-class tst_MessageHandler : public QObject {
+class TestMessageHandler : public QObject {
     Q_OBJECT
 
 private slots:
@@ -57,7 +60,7 @@ Outcome outcomeOf(QtMsgType type, const char *message, bool debugged = false)
 } // namespace
 #endif
 
-void tst_MessageHandler::writesToStandardError_data()
+void TestMessageHandler::writesToStandardError_data()
 {
     QTest::addColumn<int>("type");
     QTest::addColumn<QByteArray>("output");
@@ -67,7 +70,7 @@ void tst_MessageHandler::writesToStandardError_data()
     QTest::newRow("information is dropped") << int(QtInfoMsg) << QByteArray();
 }
 
-void tst_MessageHandler::writesToStandardError()
+void TestMessageHandler::writesToStandardError()
 {
 #ifdef Q_OS_UNIX
     QFETCH(int, type);
@@ -80,14 +83,14 @@ void tst_MessageHandler::writesToStandardError()
 #endif
 }
 
-void tst_MessageHandler::fatalMessageEndsTheProcess_data()
+void TestMessageHandler::fatalMessageEndsTheProcess_data()
 {
     QTest::addColumn<bool>("debugged");
     QTest::newRow("at the break where no debugger is") << false;
     QTest::newRow("by abort where a debugger goes on") << true;
 }
 
-void tst_MessageHandler::fatalMessageEndsTheProcess()
+void TestMessageHandler::fatalMessageEndsTheProcess()
 {
 #ifdef Q_OS_UNIX
     QFETCH(bool, debugged);
@@ -100,5 +103,5 @@ void tst_MessageHandler::fatalMessageEndsTheProcess()
 #endif
 }
 
-QTEST_GUILESS_MAIN(tst_MessageHandler)
+QTEST_GUILESS_MAIN(TestMessageHandler)
 #include "tst_messagehandler.moc"

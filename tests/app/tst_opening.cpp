@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "cfgproperties.h"
 #include "mainwindow.h"
 #include "plotter.h"
@@ -18,8 +21,8 @@
 #include <QMovie>
 #include <QStatusBar>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QThread>
+#include <QtTest>
 
 #include <ctime>
 #include <memory>

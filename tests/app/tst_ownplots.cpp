@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "plotswindow.h"
 #include "plotterdg.h"
 
@@ -5,7 +8,7 @@
 #include <QScrollBar>
 
 // Plots that the user composes, and their removal.
-class tst_OwnPlots : public PlotsWindow {
+class TestOwnPlots : public PlotsWindow {
     Q_OBJECT
 
 private slots:
@@ -50,7 +53,7 @@ private:
     }
 };
 
-void tst_OwnPlots::namesOfferedForANewPlot_data()
+void TestOwnPlots::namesOfferedForANewPlot_data()
 {
     QTest::addColumn<QStringList>("channels");
     QTest::addColumn<QStringList>("names");
@@ -63,7 +66,7 @@ void tst_OwnPlots::namesOfferedForANewPlot_data()
         << list("Meas f") << list("Meas f,Meas f_FFT");
 }
 
-void tst_OwnPlots::namesOfferedForANewPlot()
+void TestOwnPlots::namesOfferedForANewPlot()
 {
     QFETCH(QStringList, channels);
     open(channels, {});
@@ -71,7 +74,7 @@ void tst_OwnPlots::namesOfferedForANewPlot()
     QTEST(offered, "names");
 }
 
-void tst_OwnPlots::aPlotIsComposed()
+void TestOwnPlots::aPlotIsComposed()
 {
     open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {QStringLiteral("D1")});
     compose({QStringLiteral("Ib"), QStringLiteral("Ia_FFT"), QStringLiteral("Ia")},
@@ -87,7 +90,7 @@ void tst_OwnPlots::aPlotIsComposed()
     QCOMPARE(added->linked(), QList<Plotter *>({digital(), analog()}));
 }
 
-void tst_OwnPlots::aPlotOfSpectraOnly()
+void TestOwnPlots::aPlotOfSpectraOnly()
 {
     open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {});
     compose({QStringLiteral("Ib_FFT")}, QStringLiteral("Spectra"));
@@ -98,7 +101,7 @@ void tst_OwnPlots::aPlotOfSpectraOnly()
 }
 
 // A name that ends with "_FFT" is the spectrum of a channel, of which there is none here.
-void tst_OwnPlots::namesOfNoChannelAddNothing()
+void TestOwnPlots::namesOfNoChannelAddNothing()
 {
     open({QStringLiteral("Ia_FFT"), QStringLiteral("Ib")}, {});
     compose({QStringLiteral("Ia_FFT")}, QStringLiteral("Currents"));
@@ -106,7 +109,7 @@ void tst_OwnPlots::namesOfNoChannelAddNothing()
     QVERIFY(!action("&Remove Plotter")->isEnabled());
 }
 
-void tst_OwnPlots::pendingEventsRunBeforeTheColumnIsScrolled()
+void TestOwnPlots::pendingEventsRunBeforeTheColumnIsScrolled()
 {
     open({QStringLiteral("Ia")}, {});
     bool hasRun = false;
@@ -115,7 +118,7 @@ void tst_OwnPlots::pendingEventsRunBeforeTheColumnIsScrolled()
     QVERIFY(hasRun);
 }
 
-void tst_OwnPlots::anotherRecordingEndsTheDialog()
+void TestOwnPlots::anotherRecordingEndsTheDialog()
 {
     open({QStringLiteral("Ia")}, {});
     bool wasShown = false;
@@ -129,7 +132,7 @@ void tst_OwnPlots::anotherRecordingEndsTheDialog()
     QCOMPARE(plots().size(), 2);
 }
 
-void tst_OwnPlots::aCancelledDialogAddsNothing()
+void TestOwnPlots::aCancelledDialogAddsNothing()
 {
     open({QStringLiteral("Ia")}, {});
     compose({QStringLiteral("Ia")}, QStringLiteral("Currents"), false);
@@ -141,7 +144,7 @@ void tst_OwnPlots::aCancelledDialogAddsNothing()
     QVERIFY(action("&Remove Plotter")->isEnabled());
 }
 
-void tst_OwnPlots::nothingChosenAddsNothing()
+void TestOwnPlots::nothingChosenAddsNothing()
 {
     open({QStringLiteral("Ia")}, {});
     compose({}, QStringLiteral("Currents"));
@@ -149,7 +152,7 @@ void tst_OwnPlots::nothingChosenAddsNothing()
     QVERIFY(!action("&Remove Plotter")->isEnabled());
 }
 
-void tst_OwnPlots::plotsWithoutANameAreNumbered()
+void TestOwnPlots::plotsWithoutANameAreNumbered()
 {
     open({QStringLiteral("Ia")}, {});
     compose({QStringLiteral("Ia")});
@@ -158,7 +161,7 @@ void tst_OwnPlots::plotsWithoutANameAreNumbered()
     QVERIFY(plot(QStringLiteral("Graph 2")));
 }
 
-void tst_OwnPlots::plotsAreRemovedNewestFirst()
+void TestOwnPlots::plotsAreRemovedNewestFirst()
 {
     open({QStringLiteral("Ia")}, {QStringLiteral("D1")});
     compose({QStringLiteral("Ia")}, QStringLiteral("first"));
@@ -176,7 +179,7 @@ void tst_OwnPlots::plotsAreRemovedNewestFirst()
     QCOMPARE(digital()->view().maxX, 50.0);
 }
 
-void tst_OwnPlots::plotsOfOneNameAreRemovedOneByOne()
+void TestOwnPlots::plotsOfOneNameAreRemovedOneByOne()
 {
     open({QStringLiteral("Ia")}, {QStringLiteral("D1")});
     for (int i = 0; i < 2; ++i)
@@ -192,7 +195,7 @@ void tst_OwnPlots::plotsOfOneNameAreRemovedOneByOne()
     }
 }
 
-void tst_OwnPlots::removingWithoutAnAddedPlotDisablesTheAction()
+void TestOwnPlots::removingWithoutAnAddedPlotDisablesTheAction()
 {
     open({QStringLiteral("Ia")}, {});
     action("&Remove Plotter")->setEnabled(true);
@@ -201,7 +204,7 @@ void tst_OwnPlots::removingWithoutAnAddedPlotDisablesTheAction()
     QCOMPARE(plots().size(), 2);
 }
 
-void tst_OwnPlots::aRemovedPlotHoldsTheKeyboardNoMore()
+void TestOwnPlots::aRemovedPlotHoldsTheKeyboardNoMore()
 {
     addToBeRemoved();
     move(plot(QStringLiteral("Currents")), {300, 100});
@@ -210,7 +213,7 @@ void tst_OwnPlots::aRemovedPlotHoldsTheKeyboardNoMore()
     QVERIFY(!QWidget::keyboardGrabber());
 }
 
-void tst_OwnPlots::aRemovedPlotTakesItsTitleEditorAlong()
+void TestOwnPlots::aRemovedPlotTakesItsTitleEditorAlong()
 {
     addToBeRemoved();
     QTest::mouseDClick(plot(QStringLiteral("Currents")), Qt::LeftButton, {}, {90, 25});
@@ -219,7 +222,7 @@ void tst_OwnPlots::aRemovedPlotTakesItsTitleEditorAlong()
     QVERIFY(!QWidget::keyboardGrabber());
 }
 
-void tst_OwnPlots::aSiblingGoesOnDraggingACursor()
+void TestOwnPlots::aSiblingGoesOnDraggingACursor()
 {
     addToBeRemoved();
     QTest::mouseDClick(analog(), Qt::LeftButton, {}, {300, 150});
@@ -234,7 +237,7 @@ void tst_OwnPlots::aSiblingGoesOnDraggingACursor()
     QCOMPARE(digital()->cursors(), analog()->cursors());
 }
 
-void tst_OwnPlots::aSiblingGoesOnWithItsBand()
+void TestOwnPlots::aSiblingGoesOnWithItsBand()
 {
     addToBeRemoved();
     QTest::mousePress(analog(), Qt::LeftButton, {}, {300, 100});
@@ -248,7 +251,7 @@ void tst_OwnPlots::aSiblingGoesOnWithItsBand()
     QCOMPARE(digital()->view().maxX, analog()->view().maxX);
 }
 
-void tst_OwnPlots::aSiblingGoesOnEditingItsTitle()
+void TestOwnPlots::aSiblingGoesOnEditingItsTitle()
 {
     addToBeRemoved();
     QTest::mouseDClick(analog(), Qt::LeftButton, {}, {90, 25});
@@ -262,7 +265,7 @@ void tst_OwnPlots::aSiblingGoesOnEditingItsTitle()
     QVERIFY(!QWidget::keyboardGrabber());
 }
 
-void tst_OwnPlots::anAddedPlotStartsAtTheFirstPlotsTime()
+void TestOwnPlots::anAddedPlotStartsAtTheFirstPlotsTime()
 {
     open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {});
     action("Zoom In")->trigger();
@@ -274,7 +277,7 @@ void tst_OwnPlots::anAddedPlotStartsAtTheFirstPlotsTime()
 
 // The bar goes to 2, the zoom sets it to 4, and it goes to 2 again, where the older plots were last
 // and so do not move.
-void tst_OwnPlots::anAddedPlotScrollsWithTheOthers()
+void TestOwnPlots::anAddedPlotScrollsWithTheOthers()
 {
     open({QStringLiteral("Ia")}, {QStringLiteral("D1")});
     action("Zoom In")->trigger();
@@ -286,7 +289,7 @@ void tst_OwnPlots::anAddedPlotScrollsWithTheOthers()
         QCOMPARE(each->view().minX, 20.0);
 }
 
-void tst_OwnPlots::anAddedPlotIsScrolledIntoView()
+void TestOwnPlots::anAddedPlotIsScrolledIntoView()
 {
     open({QStringLiteral("Ia")}, {QStringLiteral("D1")});
     for (int i = 0; i < 4; ++i)
@@ -295,5 +298,5 @@ void tst_OwnPlots::anAddedPlotIsScrolledIntoView()
     QCOMPARE(newest->visibleRegion().boundingRect().size(), newest->size());
 }
 
-QTEST_MAIN(tst_OwnPlots)
+QTEST_MAIN(TestOwnPlots)
 #include "tst_ownplots.moc"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "cfgproperties.h"
 #include "mainwindow.h"
 #include "smallrecording.h"
@@ -8,8 +11,8 @@
 #include <QProcess>
 #include <QStatusBar>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QThread>
+#include <QtTest>
 
 #include <csignal>
 #include <dirent.h>

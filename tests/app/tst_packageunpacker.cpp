@@ -1,9 +1,12 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "packageunpacker.h"
 
 #include <QElapsedTimer>
 #include <QtTest>
 
-class tst_PackageUnpacker : public QObject {
+class TestPackageUnpacker : public QObject {
     Q_OBJECT
 
 private slots:
@@ -41,12 +44,12 @@ QByteArray answers(ArchiverOutput &output, const QList<QByteArray> &pieces, int 
 
 } // namespace
 
-void tst_PackageUnpacker::startsTheArchiverByItsBareName()
+void TestPackageUnpacker::startsTheArchiverByItsBareName()
 {
     QCOMPARE(archiverProgram(), QStringLiteral("7z.exe"));
 }
 
-void tst_PackageUnpacker::argumentsAreExact_data()
+void TestPackageUnpacker::argumentsAreExact_data()
 {
     QTest::addColumn<QString>("package");
     QTest::addColumn<QString>("folder");
@@ -59,7 +62,7 @@ void tst_PackageUnpacker::argumentsAreExact_data()
         << QStringLiteral("e|/my rec/a b.zip|-aoa|-o/my data/tmp/files12");
 }
 
-void tst_PackageUnpacker::argumentsAreExact()
+void TestPackageUnpacker::argumentsAreExact()
 {
     QFETCH(QString, package);
     QFETCH(QString, folder);
@@ -68,7 +71,7 @@ void tst_PackageUnpacker::argumentsAreExact()
     QTEST(arguments.join(QLatin1Char('|')), "joined");
 }
 
-void tst_PackageUnpacker::reactsToWords_data()
+void TestPackageUnpacker::reactsToWords_data()
 {
     QTest::addColumn<QString>("package");
     QTest::addColumn<QByteArray>("output");
@@ -134,7 +137,7 @@ void tst_PackageUnpacker::reactsToWords_data()
         << QString() << QByteArray("error") << none << true;
 }
 
-void tst_PackageUnpacker::reactsToWords()
+void TestPackageUnpacker::reactsToWords()
 {
     QFETCH(QString, package);
     QFETCH(QByteArray, output);
@@ -144,7 +147,7 @@ void tst_PackageUnpacker::reactsToWords()
     QTEST(reaction.error, "error");
 }
 
-void tst_PackageUnpacker::wordsMayComeInPieces_data()
+void TestPackageUnpacker::wordsMayComeInPieces_data()
 {
     QTest::addColumn<QByteArray>("output");
     QTest::addColumn<QByteArray>("answer");
@@ -166,7 +169,7 @@ void tst_PackageUnpacker::wordsMayComeInPieces_data()
 }
 
 // In two pieces, cut at every place, and byte by byte.
-void tst_PackageUnpacker::wordsMayComeInPieces()
+void TestPackageUnpacker::wordsMayComeInPieces()
 {
     QFETCH(QByteArray, output);
     QFETCH(QByteArray, answer);
@@ -187,13 +190,13 @@ void tst_PackageUnpacker::wordsMayComeInPieces()
     QCOMPARE(seen, errors);
 }
 
-void tst_PackageUnpacker::everyReadingIsAnswered()
+void TestPackageUnpacker::everyReadingIsAnswered()
 {
     ArchiverOutput watched(QStringLiteral("/rec/device.zip"));
     QCOMPARE(answers(watched, {"Overwrite?", "a.cfg", "Overwrite?"}), QByteArray("A\r\nA\r\n"));
 }
 
-void tst_PackageUnpacker::errorIsReportedOnce()
+void TestPackageUnpacker::errorIsReportedOnce()
 {
     ArchiverOutput watched(QStringLiteral("/rec/device.zip"));
     QVERIFY(watched.read("Error error\n").error);
@@ -203,7 +206,7 @@ void tst_PackageUnpacker::errorIsReportedOnce()
     QCOMPARE(later.answer, QByteArray(always)); // questions are still answered
 }
 
-void tst_PackageUnpacker::nextPackageHasItsOwnErrors()
+void TestPackageUnpacker::nextPackageHasItsOwnErrors()
 {
     const QString package = QStringLiteral("/rec/device.zip");
     ArchiverOutput first(package);
@@ -212,7 +215,7 @@ void tst_PackageUnpacker::nextPackageHasItsOwnErrors()
     QVERIFY(second.read("error").error);
 }
 
-void tst_PackageUnpacker::longOutputWithoutWordsIsQuiet()
+void TestPackageUnpacker::longOutputWithoutWordsIsQuiet()
 {
     ArchiverOutput watched(QStringLiteral("/rec/device.zip"));
     const QByteArray block(1 << 20, 'E'); // every byte may be the beginning of a word
@@ -225,7 +228,7 @@ void tst_PackageUnpacker::longOutputWithoutWordsIsQuiet()
 
 // A damaged package of some megabytes makes the archiver tell of each file in it. Going over the
 // whole output for each of them would take minutes.
-void tst_PackageUnpacker::manyErrorsInOneReadingTakeNoTime()
+void TestPackageUnpacker::manyErrorsInOneReadingTakeNoTime()
 {
     ArchiverOutput watched(QStringLiteral("/rec/device.zip"));
     QElapsedTimer timer;
@@ -234,5 +237,5 @@ void tst_PackageUnpacker::manyErrorsInOneReadingTakeNoTime()
     QVERIFY(timer.elapsed() < 20000);
 }
 
-QTEST_GUILESS_MAIN(tst_PackageUnpacker)
+QTEST_GUILESS_MAIN(TestPackageUnpacker)
 #include "tst_packageunpacker.moc"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What the phasor dialog shows of recordings that were opened, against closed forms.
 
 #include "cfgproperties.h"
@@ -64,7 +67,7 @@ QString writeSignals(
 
 } // namespace
 
-class tst_PhasorsOnScreen : public QObject {
+class TestPhasorsOnScreen : public QObject {
     Q_OBJECT
 
 private slots:
@@ -106,7 +109,7 @@ private:
     std::unique_ptr<MainWindow> window;
 };
 
-void tst_PhasorsOnScreen::init()
+void TestPhasorsOnScreen::init()
 {
     folder = std::make_unique<QTemporaryDir>();
     window = std::make_unique<MainWindow>();
@@ -115,13 +118,13 @@ void tst_PhasorsOnScreen::init()
     QVERIFY(QTest::qWaitForWindowExposed(window.get()));
 }
 
-void tst_PhasorsOnScreen::cleanup()
+void TestPhasorsOnScreen::cleanup()
 {
     window.reset();
     folder.reset();
 }
 
-Plotter *tst_PhasorsOnScreen::plot() const
+Plotter *TestPhasorsOnScreen::plot() const
 {
     for (Plotter *candidate : window->findChildren<Plotter *>()) {
         if (candidate->name() == QLatin1String("Analog"))
@@ -130,7 +133,7 @@ Plotter *tst_PhasorsOnScreen::plot() const
     return nullptr;
 }
 
-void tst_PhasorsOnScreen::trigger(const char *action) const
+void TestPhasorsOnScreen::trigger(const char *action) const
 {
     for (QAction *candidate : window->findChildren<QAction *>()) {
         if (candidate->text() == QLatin1String(action))
@@ -139,13 +142,13 @@ void tst_PhasorsOnScreen::trigger(const char *action) const
     QFAIL(action);
 }
 
-void tst_PhasorsOnScreen::checkAll(QWidget *panel) const
+void TestPhasorsOnScreen::checkAll(QWidget *panel) const
 {
     for (QCheckBox *box : panel->findChildren<QCheckBox *>())
         box->setChecked(true);
 }
 
-void tst_PhasorsOnScreen::open(int frequency, int rate, const QList<Signal> &analogSignals)
+void TestPhasorsOnScreen::open(int frequency, int rate, const QList<Signal> &analogSignals)
 {
     window->open(writeSignals(folder->path(), frequency, rate, analogSignals));
     QVERIFY(window->recording());
@@ -156,7 +159,7 @@ void tst_PhasorsOnScreen::open(int frequency, int rate, const QList<Signal> &ana
     checkAll(panels().first());
 }
 
-void tst_PhasorsOnScreen::setCursor(int sample)
+void TestPhasorsOnScreen::setCursor(int sample)
 {
     const CFGProperties *recording = window->recording();
     const double step = 1000 / recording->sampleRate;
@@ -167,7 +170,7 @@ void tst_PhasorsOnScreen::setCursor(int sample)
     QVERIFY(std::abs(plot()->cursors().last() - sample * step) < 0.45 * step);
 }
 
-void tst_PhasorsOnScreen::dragCursor(int x) const
+void TestPhasorsOnScreen::dragCursor(int x) const
 {
     const QPoint position(x, 150);
     QMouseEvent move(QEvent::MouseMove, position, plot()->mapToGlobal(position), Qt::NoButton,
@@ -175,7 +178,7 @@ void tst_PhasorsOnScreen::dragCursor(int x) const
     QApplication::sendEvent(plot(), &move);
 }
 
-void tst_PhasorsOnScreen::balancedPhasesStandAThirdApart_data()
+void TestPhasorsOnScreen::balancedPhasesStandAThirdApart_data()
 {
     QTest::addColumn<int>("frequency");
     QTest::addColumn<int>("rate");
@@ -185,7 +188,7 @@ void tst_PhasorsOnScreen::balancedPhasesStandAThirdApart_data()
 
 // 100 / root 2 is 70.7107; with 5 % more the axes end at 75, and the lines are 143.8 pixels long,
 // for the others 71.9 in x and 124.5 in y.
-void tst_PhasorsOnScreen::balancedPhasesStandAThirdApart()
+void TestPhasorsOnScreen::balancedPhasesStandAThirdApart()
 {
     QFETCH(int, frequency);
     QFETCH(int, rate);
@@ -206,7 +209,7 @@ void tst_PhasorsOnScreen::balancedPhasesStandAThirdApart()
 }
 
 // Four samples a cycle, so that sums of the second harmonic and of a constant are exactly 0.
-void tst_PhasorsOnScreen::harmonicsAloneReadNothing()
+void TestPhasorsOnScreen::harmonicsAloneReadNothing()
 {
     open(50, 200, {{"I1", cosine(100, 4)}, {"I2", cosine(100, 2)}, {"I0", cosine(100, 1)}});
     setCursor(77);
@@ -222,7 +225,7 @@ void tst_PhasorsOnScreen::harmonicsAloneReadNothing()
 }
 
 // The amplitude doubles with sample 100; half of the window of sample 99 is before that.
-void tst_PhasorsOnScreen::aStepReadsBeforeDuringAndAfter()
+void TestPhasorsOnScreen::aStepReadsBeforeDuringAndAfter()
 {
     const Wave wave = cosine(100, 20, 40);
     open(50, 1000, {{"I", [&](int i) { return (i < 100 ? 1 : 2) * wave(i); }}});
@@ -235,7 +238,7 @@ void tst_PhasorsOnScreen::aStepReadsBeforeDuringAndAfter()
             {{242, 15}, orange, QStringLiteral("I: 141.421")}}));
 }
 
-void tst_PhasorsOnScreen::shortCyclesAreRead_data()
+void TestPhasorsOnScreen::shortCyclesAreRead_data()
 {
     QTest::addColumn<int>("rate");
     QTest::addColumn<QString>("text");
@@ -248,7 +251,7 @@ void tst_PhasorsOnScreen::shortCyclesAreRead_data()
     QTest::newRow("less than one sample a cycle") << 20 << QStringLiteral("I: 0");
 }
 
-void tst_PhasorsOnScreen::shortCyclesAreRead()
+void TestPhasorsOnScreen::shortCyclesAreRead()
 {
     QFETCH(int, rate);
     QFETCH(QString, text);
@@ -263,7 +266,7 @@ void tst_PhasorsOnScreen::shortCyclesAreRead()
     QTRY_COMPARE(magnitudes(panel), pictureOf({{{0, 15}, orange, text}}));
 }
 
-void tst_PhasorsOnScreen::aDraggedCursorDrawsOnceATurn()
+void TestPhasorsOnScreen::aDraggedCursorDrawsOnceATurn()
 {
     open(50, 1000, {{"I", cosine(100, 20)}, {"U", cosine(100, 20, 90)}});
     addPanel();
@@ -299,7 +302,7 @@ void tst_PhasorsOnScreen::aDraggedCursorDrawsOnceATurn()
     QCOMPARE(first.count(), drawn); // nothing is drawn without need
 }
 
-void tst_PhasorsOnScreen::phasorsMoveWithTheCursor()
+void TestPhasorsOnScreen::phasorsMoveWithTheCursor()
 {
     const Wave wave = cosine(100, 20);
     open(50, 1000, {{"I", [&](int i) { return (i < 100 ? 1 : 2) * wave(i); }}});
@@ -318,7 +321,7 @@ void tst_PhasorsOnScreen::phasorsMoveWithTheCursor()
     QTRY_VERIFY(isTransparent(magnitudes(panel)));
 }
 
-void tst_PhasorsOnScreen::aReloadBeginsAnew()
+void TestPhasorsOnScreen::aReloadBeginsAnew()
 {
     open(50, 1000, {{"I", cosine(100, 20)}, {"U", cosine(100, 20)}});
     addPanel();
@@ -342,7 +345,7 @@ void tst_PhasorsOnScreen::aReloadBeginsAnew()
             magnitudes(panel), pictureOf({{{0, 15}, orange, QStringLiteral("X: 7.07107")}}));
 }
 
-void tst_PhasorsOnScreen::aReloadDuringADrawingIsSurvived()
+void TestPhasorsOnScreen::aReloadDuringADrawingIsSurvived()
 {
     open(50, 1000, {{"I", cosine(100, 20)}});
     addPanel();
@@ -365,14 +368,14 @@ void tst_PhasorsOnScreen::aReloadDuringADrawingIsSurvived()
     }
 }
 
-void tst_PhasorsOnScreen::closingDuringADrawingIsSurvived_data()
+void TestPhasorsOnScreen::closingDuringADrawingIsSurvived_data()
 {
     QTest::addColumn<bool>("wholeWindow");
     QTest::newRow("of the dialog") << false;
     QTest::newRow("of the window") << true;
 }
 
-void tst_PhasorsOnScreen::closingDuringADrawingIsSurvived()
+void TestPhasorsOnScreen::closingDuringADrawingIsSurvived()
 {
     QFETCH(bool, wholeWindow);
     open(50, 1000, {{"I", cosine(100, 20)}});
@@ -397,5 +400,5 @@ void tst_PhasorsOnScreen::closingDuringADrawingIsSurvived()
             {{121, 15}, orange, QStringLiteral("I: 70.7107")}}));
 }
 
-QTEST_MAIN(tst_PhasorsOnScreen)
+QTEST_MAIN(TestPhasorsOnScreen)
 #include "tst_phasorsonscreen.moc"

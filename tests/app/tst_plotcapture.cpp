@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "plotcapture.h"
 
 #include <QPainter>
@@ -6,7 +9,7 @@
 
 Q_DECLARE_METATYPE(CaptureTarget)
 
-class tst_PlotCapture : public QObject {
+class TestPlotCapture : public QObject {
     Q_OBJECT
 
 private slots:
@@ -72,7 +75,7 @@ QRect darkRect(const QPixmap &picture)
 
 } // namespace
 
-void tst_PlotCapture::recoloursAPixel_data()
+void TestPlotCapture::recoloursAPixel_data()
 {
     QTest::addColumn<QRgb>("before");
     QTest::addColumn<QRgb>("inFile");
@@ -112,7 +115,7 @@ void tst_PlotCapture::recoloursAPixel_data()
         << qRgba(0, 0, 0, 0) << qRgba(0, 0, 0, 0) << white;
 }
 
-void tst_PlotCapture::recoloursAPixel()
+void TestPlotCapture::recoloursAPixel()
 {
     QFETCH(QRgb, before);
     QFETCH(QRgb, inFile);
@@ -126,7 +129,7 @@ void tst_PlotCapture::recoloursAPixel()
     QCOMPARE(hex(copied.pixel(0, 0)), hex(onClipboard));
 }
 
-void tst_PlotCapture::recoloursEveryPixel()
+void TestPlotCapture::recoloursEveryPixel()
 {
     QImage image(3, 2, QImage::Format_RGB32);
     image.fill(qRgb(200, 200, 200));
@@ -142,7 +145,7 @@ void tst_PlotCapture::recoloursEveryPixel()
     }
 }
 
-void tst_PlotCapture::judgesTranslucentColoursUnmultiplied()
+void TestPlotCapture::judgesTranslucentColoursUnmultiplied()
 {
     QImage image(2, 1, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
@@ -152,7 +155,7 @@ void tst_PlotCapture::judgesTranslucentColoursUnmultiplied()
     QCOMPARE(qAlpha(image.pixel(1, 0)), 0);
 }
 
-void tst_PlotCapture::premultipliedPixels_data()
+void TestPlotCapture::premultipliedPixels_data()
 {
     QTest::addColumn<QRgb>("before"); // premultiplied, as are the others
     QTest::addColumn<QRgb>("inFile");
@@ -165,7 +168,7 @@ void tst_PlotCapture::premultipliedPixels_data()
     QTest::newRow("nothing") << 0U << 0U << white;
 }
 
-void tst_PlotCapture::premultipliedPixels()
+void TestPlotCapture::premultipliedPixels()
 {
     QFETCH(QRgb, before);
     QFETCH(QRgb, inFile);
@@ -185,7 +188,7 @@ void tst_PlotCapture::premultipliedPixels()
     }
 }
 
-void tst_PlotCapture::recolouringKeepsThePixelRatio()
+void TestPlotCapture::recolouringKeepsThePixelRatio()
 {
     QImage image(4, 4, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::white);
@@ -195,14 +198,14 @@ void tst_PlotCapture::recolouringKeepsThePixelRatio()
     QCOMPARE(hex(image.pixel(3, 3)), hex(black));
 }
 
-void tst_PlotCapture::emptyImageStaysEmpty()
+void TestPlotCapture::emptyImageStaysEmpty()
 {
     QImage image;
     recolour(image, CaptureTarget::Clipboard);
     QVERIFY(image.isNull());
 }
 
-void tst_PlotCapture::captionGivesTheStartTwice_data()
+void TestPlotCapture::captionGivesTheStartTwice_data()
 {
     QTest::addColumn<QString>("date");
     QTest::addColumn<QString>("time");
@@ -235,14 +238,14 @@ void tst_PlotCapture::captionGivesTheStartTwice_data()
     QTest::newRow("words") << QStringLiteral("today %1") << QStringLiteral("now %2") << empty;
 }
 
-void tst_PlotCapture::captionGivesTheStartTwice()
+void TestPlotCapture::captionGivesTheStartTwice()
 {
     QFETCH(QString, date);
     QFETCH(QString, time);
     QTEST(captureCaption(date, time), "caption");
 }
 
-void tst_PlotCapture::captionKnowsNoClockChanges()
+void TestPlotCapture::captionKnowsNoClockChanges()
 {
     const QByteArray zone = qgetenv("TZ");
     qputenv("TZ", "Europe/Helsinki");
@@ -255,7 +258,7 @@ void tst_PlotCapture::captionKnowsNoClockChanges()
         QStringLiteral("Start: 31/03/2024 03:30:00.000    Trigger: 31/03/2024 03:30:00.000"));
 }
 
-void tst_PlotCapture::captionIsTranslated()
+void TestPlotCapture::captionIsTranslated()
 {
     class Translator : public QTranslator {
     public:
@@ -273,14 +276,14 @@ void tst_PlotCapture::captionIsTranslated()
         QStringLiteral("Alku: 15/03/2024 10:00:00.000, liipaisu: 15/03/2024 10:00:00.000"));
 }
 
-void tst_PlotCapture::whiteTraceComesOutBlackOnWhite_data()
+void TestPlotCapture::whiteTraceComesOutBlackOnWhite_data()
 {
     QTest::addColumn<CaptureTarget>("target");
     QTest::newRow("in a file") << CaptureTarget::File;
     QTest::newRow("on the clipboard") << CaptureTarget::Clipboard;
 }
 
-void tst_PlotCapture::whiteTraceComesOutBlackOnWhite()
+void TestPlotCapture::whiteTraceComesOutBlackOnWhite()
 {
     QFETCH(CaptureTarget, target);
     QPixmap capture = filled(QSize(60, 50), Qt::transparent);
@@ -298,7 +301,7 @@ void tst_PlotCapture::whiteTraceComesOutBlackOnWhite()
         QCOMPARE(hex(pixelOf(picture, corner)), hex(white));
 }
 
-void tst_PlotCapture::whiteShowsBehindWhatIsTransparent_data()
+void TestPlotCapture::whiteShowsBehindWhatIsTransparent_data()
 {
     QTest::addColumn<QColor>("colour");
     QTest::addColumn<CaptureTarget>("target");
@@ -316,7 +319,7 @@ void tst_PlotCapture::whiteShowsBehindWhatIsTransparent_data()
         << QColor(0, 0, 0, 20) << CaptureTarget::Clipboard << QColor(235, 235, 235);
 }
 
-void tst_PlotCapture::whiteShowsBehindWhatIsTransparent()
+void TestPlotCapture::whiteShowsBehindWhatIsTransparent()
 {
     QFETCH(QColor, colour);
     QFETCH(CaptureTarget, target);
@@ -329,14 +332,14 @@ void tst_PlotCapture::whiteShowsBehindWhatIsTransparent()
         qPrintable(hex(pixel)));
 }
 
-void tst_PlotCapture::opaqueCaptureKeepsItsColours()
+void TestPlotCapture::opaqueCaptureKeepsItsColours()
 {
     const QPixmap picture = printableCapture(
         filled(QSize(8, 8), QColor(0x31, 0x30, 0x34)), CaptureTarget::File, QString());
     QCOMPARE(hex(pixelOf(picture, {7, 7})), QStringLiteral("ff313034"));
 }
 
-void tst_PlotCapture::captionStandsOnItsBaseLine_data()
+void TestPlotCapture::captionStandsOnItsBaseLine_data()
 {
     QTest::addColumn<int>("ratio");
     QTest::newRow("on an ordinary screen") << 1;
@@ -344,7 +347,7 @@ void tst_PlotCapture::captionStandsOnItsBaseLine_data()
 }
 
 // The letter H fills the room from its left bearing to the base line and has no descender.
-void tst_PlotCapture::captionStandsOnItsBaseLine()
+void TestPlotCapture::captionStandsOnItsBaseLine()
 {
     QFETCH(int, ratio);
     const QPixmap capture = filled(QSize(100, 50) * ratio, Qt::transparent, ratio);
@@ -361,7 +364,7 @@ void tst_PlotCapture::captionStandsOnItsBaseLine()
     QCOMPARE(hex(pixelOf(picture, {100 * ratio - 1, 50 * ratio - 1})), hex(white));
 }
 
-void tst_PlotCapture::captionLiesOverTheTraces()
+void TestPlotCapture::captionLiesOverTheTraces()
 {
     const QPixmap picture = printableCapture(
         filled(QSize(100, 50), QColor(255, 255, 0)), CaptureTarget::Clipboard, QStringLiteral("H"));
@@ -370,11 +373,11 @@ void tst_PlotCapture::captionLiesOverTheTraces()
     QCOMPARE(hex(pixelOf(picture, {5, 15})), QStringLiteral("ffffff00"));
 }
 
-void tst_PlotCapture::emptyCaptureGivesAnEmptyPicture()
+void TestPlotCapture::emptyCaptureGivesAnEmptyPicture()
 {
     for (const CaptureTarget target : {CaptureTarget::File, CaptureTarget::Clipboard})
         QVERIFY(printableCapture(QPixmap(), target, QStringLiteral("Start")).isNull());
 }
 
-QTEST_MAIN(tst_PlotCapture)
+QTEST_MAIN(TestPlotCapture)
 #include "tst_plotcapture.moc"

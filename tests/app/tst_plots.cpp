@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "cfgproperties.h"
 #include "ctvtdialog.h"
 #include "plotswindow.h"
@@ -13,7 +16,7 @@
 #include <QScrollBar>
 #include <QToolBar>
 
-class tst_Plots : public PlotsWindow {
+class TestPlots : public PlotsWindow {
     Q_OBJECT
 
 private slots:
@@ -54,7 +57,7 @@ private slots:
     void slotsWithoutARecordingDoNothing();
 };
 
-void tst_Plots::plotsOfARecording()
+void TestPlots::plotsOfARecording()
 {
     open({QStringLiteral("Ia")}, {QStringLiteral("Trip")});
     QCOMPARE(plots().size(), 2);
@@ -78,7 +81,7 @@ void tst_Plots::plotsOfARecording()
     QVERIFY(bar->mapTo(window.get(), QPoint()).y() > area->geometry().bottom());
 }
 
-void tst_Plots::firstPlotShowsAtMostSixChannels()
+void TestPlots::firstPlotShowsAtMostSixChannels()
 {
     QStringList names;
     for (int i = 1; i <= 8; ++i)
@@ -91,7 +94,7 @@ void tst_Plots::firstPlotShowsAtMostSixChannels()
     QVERIFY(analog()->channels().isEmpty());
 }
 
-void tst_Plots::listsShowWhatThePlotsShow()
+void TestPlots::listsShowWhatThePlotsShow()
 {
     QStringList names;
     for (int i = 1; i <= 8; ++i)
@@ -107,7 +110,7 @@ void tst_Plots::listsShowWhatThePlotsShow()
         QCOMPARE(list("listWidget2")->item(row)->isSelected(), row == 1);
 }
 
-void tst_Plots::valueModeStartsFromTheFirstChannel_data()
+void TestPlots::valueModeStartsFromTheFirstChannel_data()
 {
     QTest::addColumn<QByteArray>("flag");
     QTest::addColumn<int>("mode");
@@ -116,7 +119,7 @@ void tst_Plots::valueModeStartsFromTheFirstChannel_data()
     QTest::newRow("another flag") << QByteArray("s") << 0;
 }
 
-void tst_Plots::valueModeStartsFromTheFirstChannel()
+void TestPlots::valueModeStartsFromTheFirstChannel()
 {
     QFETCH(QByteArray, flag);
     open({QStringLiteral("Ia")}, {}, flag);
@@ -126,7 +129,7 @@ void tst_Plots::valueModeStartsFromTheFirstChannel()
     QTEST(window->valueMode(), "mode");
 }
 
-void tst_Plots::referenceOffersEveryAnalogChannel()
+void TestPlots::referenceOffersEveryAnalogChannel()
 {
     open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {});
     QCOMPARE(texts(combo("comboBox_mainReference")),
@@ -136,7 +139,7 @@ void tst_Plots::referenceOffersEveryAnalogChannel()
     QCOMPARE(window->referenceIndex(), 2);
 }
 
-void tst_Plots::actionsAreEnabledByALoad()
+void TestPlots::actionsAreEnabledByALoad()
 {
     const QList<const char *> names{
         "&Save As..", "Save As &Primary", "&Add Plotter", "&Remove All Cursors", "Rescale CTVT"};
@@ -158,7 +161,7 @@ void tst_Plots::actionsAreEnabledByALoad()
     QVERIFY(!window->horizontalScrollBar());
 }
 
-void tst_Plots::controlsStartAnewWithEachLoad()
+void TestPlots::controlsStartAnewWithEachLoad()
 {
     open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {}, "S");
     auto *angles = window->findChild<QCheckBox *>(QStringLiteral("checkBox_showAngles"));
@@ -172,7 +175,7 @@ void tst_Plots::controlsStartAnewWithEachLoad()
     QCOMPARE(window->valueMode(), 1);
 }
 
-void tst_Plots::spectrumControlsNeedPhasors()
+void TestPlots::spectrumControlsNeedPhasors()
 {
     const QString path = folder->filePath(QStringLiteral("export.txt"));
     QVERIFY(writeTextFile(path, "#Ua[kV]\n01/02/2020-10:00:00:000,1\n01/02/2020-10:00:00:020,2\n"));
@@ -183,7 +186,7 @@ void tst_Plots::spectrumControlsNeedPhasors()
     QCOMPARE(offered, QStringList{QStringLiteral("Ua")});
 }
 
-void tst_Plots::analogListChoosesTheFirstPlotsChannels()
+void TestPlots::analogListChoosesTheFirstPlotsChannels()
 {
     open({QStringLiteral("Ia"), QStringLiteral("Ib"), QStringLiteral("Ic")}, {});
     QCOMPARE(analog()->home().maxY, 30.0);
@@ -200,7 +203,7 @@ void tst_Plots::analogListChoosesTheFirstPlotsChannels()
     QVERIFY(analog()->isVisible());
 }
 
-void tst_Plots::digitalListChoosesTheRows()
+void TestPlots::digitalListChoosesTheRows()
 {
     open(
         {QStringLiteral("Ia")}, {QStringLiteral("D1"), QStringLiteral("D2"), QStringLiteral("D0")});
@@ -211,7 +214,7 @@ void tst_Plots::digitalListChoosesTheRows()
     QVERIFY(list("listWidget2")->item(2)->isSelected());
 }
 
-void tst_Plots::keysAndDraggingChooseChannelsToo()
+void TestPlots::keysAndDraggingChooseChannelsToo()
 {
     open({QStringLiteral("Ia"), QStringLiteral("Ib"), QStringLiteral("Ic")},
         {QStringLiteral("D1"), QStringLiteral("D2")});
@@ -243,7 +246,7 @@ void tst_Plots::keysAndDraggingChooseChannelsToo()
     }
 }
 
-void tst_Plots::noDigitalChannelsHideTheirPlot()
+void TestPlots::noDigitalChannelsHideTheirPlot()
 {
     open({QStringLiteral("Ia")}, {});
     QVERIFY(!digital()->isVisible());
@@ -251,7 +254,7 @@ void tst_Plots::noDigitalChannelsHideTheirPlot()
     QVERIFY(!digital()->isVisible());
 }
 
-void tst_Plots::aDeselectedListHidesThePlotAndASelectionShowsIt()
+void TestPlots::aDeselectedListHidesThePlotAndASelectionShowsIt()
 {
     open({QStringLiteral("Ia")}, {QStringLiteral("D1"), QStringLiteral("D2")});
     QVERIFY(digital()->isVisible());
@@ -265,7 +268,7 @@ void tst_Plots::aDeselectedListHidesThePlotAndASelectionShowsIt()
 }
 
 // The recording lasts 99 ms: the full view is 0 to 100 ms. Values reach from -10 to 9: -12 to 9.
-void tst_Plots::zoomActionsReachEveryPlot_data()
+void TestPlots::zoomActionsReachEveryPlot_data()
 {
     QTest::addColumn<QByteArray>("name");
     QTest::addColumn<double>("maxX");
@@ -275,7 +278,7 @@ void tst_Plots::zoomActionsReachEveryPlot_data()
     QTest::newRow("values out") << QByteArray("Vertical Zoom Out") << 100.0;
 }
 
-void tst_Plots::zoomActionsReachEveryPlot()
+void TestPlots::zoomActionsReachEveryPlot()
 {
     QFETCH(QByteArray, name);
     QFETCH(double, maxX);
@@ -297,7 +300,7 @@ void tst_Plots::zoomActionsReachEveryPlot()
     QCOMPARE(plot(QStringLiteral("Currents"))->view().spanY(), 21.0);
 }
 
-void tst_Plots::theScrollBarMovesEveryPlot()
+void TestPlots::theScrollBarMovesEveryPlot()
 {
     open({QStringLiteral("Ia")}, {QStringLiteral("D1")});
     compose({QStringLiteral("Ia")}, QStringLiteral("Currents"));
@@ -308,7 +311,7 @@ void tst_Plots::theScrollBarMovesEveryPlot()
 }
 
 // 400/5 on an "S" channel: primary values are 80 times as large; per unit, a fifth.
-void tst_Plots::valueModeRescalesThePlots()
+void TestPlots::valueModeRescalesThePlots()
 {
     open({QStringLiteral("Ia")}, {}, "S");
     compose({QStringLiteral("Ia")}, QStringLiteral("Currents"));
@@ -326,7 +329,7 @@ void tst_Plots::valueModeRescalesThePlots()
 }
 
 // 800/5 makes primary values 160 times the secondary ones.
-void tst_Plots::changedRatiosRescaleThePlots()
+void TestPlots::changedRatiosRescaleThePlots()
 {
     open({QStringLiteral("Ia")}, {}, "S");
     combo("comboBox_primSec")->setCurrentIndex(0);
@@ -338,7 +341,7 @@ void tst_Plots::changedRatiosRescaleThePlots()
     QCOMPARE(analog()->view().maxY, 1440.0);
 }
 
-void tst_Plots::saveMarkersReachEveryPlot()
+void TestPlots::saveMarkersReachEveryPlot()
 {
     open({QStringLiteral("Ia")}, {QStringLiteral("D1")});
     compose({QStringLiteral("Ia")}, QStringLiteral("Currents"));
@@ -367,7 +370,7 @@ void tst_Plots::saveMarkersReachEveryPlot()
     }
 }
 
-void tst_Plots::removeCursorsClearsEveryPlot()
+void TestPlots::removeCursorsClearsEveryPlot()
 {
     open({QStringLiteral("Ia")}, {QStringLiteral("D1")});
     QTest::mouseDClick(analog(), Qt::LeftButton, {}, {300, 100});
@@ -381,7 +384,7 @@ void tst_Plots::removeCursorsClearsEveryPlot()
     }
 }
 
-void tst_Plots::spectrumTracesFollowAngleAndReference()
+void TestPlots::spectrumTracesFollowAngleAndReference()
 {
     open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {});
     compose({QStringLiteral("Ia_FFT")}, QStringLiteral("Spectra"));
@@ -397,7 +400,7 @@ void tst_Plots::spectrumTracesFollowAngleAndReference()
 }
 
 // Without angles nothing of a spectrum depends on the reference, and its view stays.
-void tst_Plots::aReferenceWithoutAnglesKeepsTheView()
+void TestPlots::aReferenceWithoutAnglesKeepsTheView()
 {
     open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {});
     compose({QStringLiteral("Ia_FFT")}, QStringLiteral("Spectra"));
@@ -409,7 +412,7 @@ void tst_Plots::aReferenceWithoutAnglesKeepsTheView()
     QVERIFY(added->view() == before);
 }
 
-void tst_Plots::vectorDialogGetsPlotAndNames()
+void TestPlots::vectorDialogGetsPlotAndNames()
 {
     open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {});
     QCOMPARE(texts(window->findChild<VectorDialog *>()->findChild<QComboBox *>(
@@ -417,7 +420,7 @@ void tst_Plots::vectorDialogGetsPlotAndNames()
         QStringList({QStringLiteral("-"), QStringLiteral("Ia"), QStringLiteral("Ib")}));
 }
 
-void tst_Plots::aReloadBeginsAnew()
+void TestPlots::aReloadBeginsAnew()
 {
     open({QStringLiteral("Ia")}, {QStringLiteral("D1")});
     compose({QStringLiteral("Ia")}, QStringLiteral("Currents"));
@@ -435,7 +438,7 @@ void tst_Plots::aReloadBeginsAnew()
     QCOMPARE(analog()->view().maxX, 50.0);
 }
 
-void tst_Plots::manyRowsLeaveRoomForTheAnalogPlot()
+void TestPlots::manyRowsLeaveRoomForTheAnalogPlot()
 {
     QStringList rows;
     for (int i = 1; i <= 60; ++i)
@@ -453,7 +456,7 @@ void tst_Plots::manyRowsLeaveRoomForTheAnalogPlot()
     QCOMPARE(column->minimumHeight(), heightBefore);
 }
 
-void tst_Plots::longNamesFitTheWindowAndAreToldInFull()
+void TestPlots::longNamesFitTheWindowAndAreToldInFull()
 {
     const QString name = QStringLiteral("Phase current IL1 of the HV side");
     window->resize(1000, 720);
@@ -475,7 +478,7 @@ void tst_Plots::longNamesFitTheWindowAndAreToldInFull()
     QVERIFY(window->findChild<QLabel *>(QStringLiteral("label4"))->toolTip().isEmpty());
 }
 
-void tst_Plots::slotsWithoutARecordingDoNothing()
+void TestPlots::slotsWithoutARecordingDoNothing()
 {
     window->addPlotter({QStringLiteral("Ia")});
     window->removePlotter();
@@ -497,5 +500,5 @@ void tst_Plots::slotsWithoutARecordingDoNothing()
     QCOMPARE(plots().size(), 2);
 }
 
-QTEST_MAIN(tst_Plots)
+QTEST_MAIN(TestPlots)
 #include "tst_plots.moc"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // What plots and phasors show after other ratios were set.
 
 #include "baselayer.h"
@@ -41,7 +44,7 @@ const QRgb yellow = qRgb(220, 220, 0); // of the second channel
 
 } // namespace
 
-class tst_RatiosOnScreen : public QObject {
+class TestRatiosOnScreen : public QObject {
     Q_OBJECT
 
 private slots:
@@ -64,7 +67,7 @@ private:
     Plotter *plot = nullptr; // an added one, of the waveforms and the spectrum of the first
 };
 
-void tst_RatiosOnScreen::init()
+void TestRatiosOnScreen::init()
 {
     folder = std::make_unique<QTemporaryDir>();
     window = std::make_unique<MainWindow>();
@@ -73,13 +76,13 @@ void tst_RatiosOnScreen::init()
     QVERIFY(QTest::qWaitForWindowExposed(window.get()));
 }
 
-void tst_RatiosOnScreen::cleanup()
+void TestRatiosOnScreen::cleanup()
 {
     window.reset();
     folder.reset();
 }
 
-void tst_RatiosOnScreen::trigger(const char *action) const
+void TestRatiosOnScreen::trigger(const char *action) const
 {
     for (QAction *candidate : window->findChildren<QAction *>()) {
         if (candidate->text() == QLatin1String(action))
@@ -89,7 +92,7 @@ void tst_RatiosOnScreen::trigger(const char *action) const
 }
 
 // With a cursor at sample 100 and the phasors of the first channel on screen.
-void tst_RatiosOnScreen::open(const QString &flag)
+void TestRatiosOnScreen::open(const QString &flag)
 {
     window->open(writeRecording(folder->path(), flag));
     QVERIFY(window->recording());
@@ -107,7 +110,7 @@ void tst_RatiosOnScreen::open(const QString &flag)
     window->findChild<VectorWidget *>()->findChildren<QCheckBox *>().first()->setChecked(true);
 }
 
-void tst_RatiosOnScreen::setRatios(const QString &primary, const QString &secondary) const
+void TestRatiosOnScreen::setRatios(const QString &primary, const QString &secondary) const
 {
     trigger("Rescale CTVT");
     const QList<QLineEdit *> edits = ratios()->findChildren<QLineEdit *>();
@@ -121,7 +124,7 @@ void tst_RatiosOnScreen::setRatios(const QString &primary, const QString &second
 }
 
 // The value at the cursor of a row of the table, as its tool tip tells it.
-QString tst_RatiosOnScreen::readout(int row) const
+QString TestRatiosOnScreen::readout(int row) const
 {
     const int rowHeight = QFontMetrics(smallFont(plot->font())).height() + 4;
     const QPoint cell(plot->width() - 10, 60 + row * rowHeight + rowHeight / 2);
@@ -130,7 +133,7 @@ QString tst_RatiosOnScreen::readout(int row) const
     return QToolTip::text().section(QStringLiteral(": "), 1);
 }
 
-void tst_RatiosOnScreen::valuesAndReadoutsFollowTheFactors_data()
+void TestRatiosOnScreen::valuesAndReadoutsFollowTheFactors_data()
 {
     QTest::addColumn<QString>("flag");
     QTest::addColumn<QString>("primary");
@@ -161,7 +164,7 @@ void tst_RatiosOnScreen::valuesAndReadoutsFollowTheFactors_data()
     row("a primary of 0", "P", "0", "5", 1, "inf inf inf", none);
 }
 
-void tst_RatiosOnScreen::valuesAndReadoutsFollowTheFactors()
+void TestRatiosOnScreen::valuesAndReadoutsFollowTheFactors()
 {
     QFETCH(QString, flag);
     QFETCH(int, mode);
@@ -192,7 +195,7 @@ void tst_RatiosOnScreen::valuesAndReadoutsFollowTheFactors()
         vectorpanel::pictureOf({{{0, 15}, vectorpanel::orange, QStringLiteral("I: 70.7107")}}));
 }
 
-void tst_RatiosOnScreen::aReloadBringsTheRatiosOfTheFile()
+void TestRatiosOnScreen::aReloadBringsTheRatiosOfTheFile()
 {
     open(QStringLiteral("S"));
     setRatios(QStringLiteral("600"), QStringLiteral("1"));
@@ -208,5 +211,5 @@ void tst_RatiosOnScreen::aReloadBringsTheRatiosOfTheFile()
     QCOMPARE(readout(1), QStringLiteral("8000"));
 }
 
-QTEST_MAIN(tst_RatiosOnScreen)
+QTEST_MAIN(TestRatiosOnScreen)
 #include "tst_ratiosonscreen.moc"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "mainwindow.h"
 #include "smallrecording.h"
 #include "startup.h"
@@ -9,8 +12,8 @@
 #include <QProcess>
 #include <QStatusBar>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTextLayout>
+#include <QtTest>
 
 class TestStartup : public QObject {
     Q_OBJECT

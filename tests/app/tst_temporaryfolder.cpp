@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "temporaryfolder.h"
 
 #include <QTemporaryDir>
@@ -13,7 +16,7 @@ bool makeFile(const QString &path)
 
 } // namespace
 
-class tst_TemporaryFolder : public QObject {
+class TestTemporaryFolder : public QObject {
     Q_OBJECT
 
 private slots:
@@ -37,18 +40,18 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-void tst_TemporaryFolder::init()
+void TestTemporaryFolder::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(m_folder->isValid());
 }
 
-void tst_TemporaryFolder::cleanup()
+void TestTemporaryFolder::cleanup()
 {
     m_folder.reset();
 }
 
-void tst_TemporaryFolder::baseLiesInTheApplicationsDataFolder()
+void TestTemporaryFolder::baseLiesInTheApplicationsDataFolder()
 {
     qputenv("XDG_DATA_HOME", m_folder->path().toLocal8Bit());
     QCoreApplication::setOrganizationName(QStringLiteral("Norvale"));
@@ -60,7 +63,7 @@ void tst_TemporaryFolder::baseLiesInTheApplicationsDataFolder()
     }
 }
 
-void tst_TemporaryFolder::numbering_data()
+void TestTemporaryFolder::numbering_data()
 {
     QTest::addColumn<QStringList>("folders");
     QTest::addColumn<QStringList>("files");
@@ -78,7 +81,7 @@ void tst_TemporaryFolder::numbering_data()
         << QStringList{} << QStringList{QStringLiteral("files1")} << QStringLiteral("files1");
 }
 
-void tst_TemporaryFolder::numbering()
+void TestTemporaryFolder::numbering()
 {
     QFETCH(QStringList, folders);
     QFETCH(QStringList, files);
@@ -91,7 +94,7 @@ void tst_TemporaryFolder::numbering()
     QVERIFY(!QFileInfo(path(chosen)).isDir());
 }
 
-void tst_TemporaryFolder::twoInstancesGetFoldersOfTheirOwn()
+void TestTemporaryFolder::twoInstancesGetFoldersOfTheirOwn()
 {
     const QString base = path(QStringLiteral("files"));
     const QString first = freeTemporaryFolder(base);
@@ -100,7 +103,7 @@ void tst_TemporaryFolder::twoInstancesGetFoldersOfTheirOwn()
     QCOMPARE(freeTemporaryFolder(base), path(QStringLiteral("files2")));
 }
 
-void tst_TemporaryFolder::removesAFolderWithAllInIt()
+void TestTemporaryFolder::removesAFolderWithAllInIt()
 {
     QVERIFY(QDir().mkpath(path(QStringLiteral("t/one/two"))));
     QVERIFY(makeFile(path(QStringLiteral("t/a.cfg"))));
@@ -111,14 +114,14 @@ void tst_TemporaryFolder::removesAFolderWithAllInIt()
     QVERIFY(QFileInfo::exists(path(QStringLiteral("beside"))));
 }
 
-void tst_TemporaryFolder::removesASingleFile()
+void TestTemporaryFolder::removesASingleFile()
 {
     QVERIFY(makeFile(path(QStringLiteral("t"))));
     removeRecursively(path(QStringLiteral("t")));
     QVERIFY(!QFileInfo::exists(path(QStringLiteral("t"))));
 }
 
-void tst_TemporaryFolder::emptyPathRemovesNothing()
+void TestTemporaryFolder::emptyPathRemovesNothing()
 {
     QVERIFY(makeFile(path(QStringLiteral("kept"))));
     const QString before = QDir::currentPath();
@@ -128,14 +131,14 @@ void tst_TemporaryFolder::emptyPathRemovesNothing()
     QVERIFY(QFileInfo::exists(path(QStringLiteral("kept"))));
 }
 
-void tst_TemporaryFolder::missingPathRemovesNothing()
+void TestTemporaryFolder::missingPathRemovesNothing()
 {
     QVERIFY(makeFile(path(QStringLiteral("kept"))));
     removeRecursively(path(QStringLiteral("missing")));
     QVERIFY(QFileInfo::exists(path(QStringLiteral("kept"))));
 }
 
-void tst_TemporaryFolder::keepsHiddenEntriesAndTheirFolders()
+void TestTemporaryFolder::keepsHiddenEntriesAndTheirFolders()
 {
     QVERIFY(QDir().mkpath(path(QStringLiteral("t/one"))));
     QVERIFY(makeFile(path(QStringLiteral("t/one/.hidden"))));
@@ -147,7 +150,7 @@ void tst_TemporaryFolder::keepsHiddenEntriesAndTheirFolders()
     QVERIFY(!QFileInfo::exists(path(QStringLiteral("t/b.cfg"))));
 }
 
-void tst_TemporaryFolder::linkIsRemovedAndNotFollowed_data()
+void TestTemporaryFolder::linkIsRemovedAndNotFollowed_data()
 {
     QTest::addColumn<QString>("target");
     QTest::addColumn<QString>("link");
@@ -164,7 +167,7 @@ void tst_TemporaryFolder::linkIsRemovedAndNotFollowed_data()
         << QStringLiteral("outside") << QStringLiteral("link") << QStringLiteral("link");
 }
 
-void tst_TemporaryFolder::linkIsRemovedAndNotFollowed()
+void TestTemporaryFolder::linkIsRemovedAndNotFollowed()
 {
 #ifdef Q_OS_UNIX
     QFETCH(QString, target);
@@ -183,5 +186,5 @@ void tst_TemporaryFolder::linkIsRemovedAndNotFollowed()
 #endif
 }
 
-QTEST_GUILESS_MAIN(tst_TemporaryFolder)
+QTEST_GUILESS_MAIN(TestTemporaryFolder)
 #include "tst_temporaryfolder.moc"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "baselayer.h"
 #include "textsearch.h"
 
@@ -41,7 +44,7 @@ QStringList list(const char *texts)
 
 } // namespace
 
-class tst_BaseLayer : public QObject {
+class TestBaseLayer : public QObject {
     Q_OBJECT
 
 private slots:
@@ -67,7 +70,7 @@ private:
 };
 
 // 7 intervals of 100 pixels.
-void tst_BaseLayer::timeGridStandsOnItsTimes()
+void TestBaseLayer::timeGridStandsOnItsTimes()
 {
     const QImage image = paint([](QPainter &painter) {
         drawTimeGrid(painter, geometryOf({0, 700, 7, -12, 12, 8}));
@@ -80,7 +83,7 @@ void tst_BaseLayer::timeGridStandsOnItsTimes()
         QCOMPARE(image.pixel(300, y), y >= 60 && y <= 260 ? grid : black);
 }
 
-void tst_BaseLayer::theLastTimeLineStandsOnTheFrame_data()
+void TestBaseLayer::theLastTimeLineStandsOnTheFrame_data()
 {
     QTest::addColumn<int>("readoutWidth");
     QTest::addColumn<int>("right");
@@ -88,7 +91,7 @@ void tst_BaseLayer::theLastTimeLineStandsOnTheFrame_data()
     QTest::newRow("at the readout") << 200 << 597;
 }
 
-void tst_BaseLayer::theLastTimeLineStandsOnTheFrame()
+void TestBaseLayer::theLastTimeLineStandsOnTheFrame()
 {
     QFETCH(int, readoutWidth);
     QFETCH(int, right);
@@ -101,7 +104,7 @@ void tst_BaseLayer::theLastTimeLineStandsOnTheFrame()
         QCOMPARE(lines.pixel(x, 100), black);
 }
 
-void tst_BaseLayer::timeLabels_data()
+void TestBaseLayer::timeLabels_data()
 {
     QTest::addColumn<PlotSettings>("view");
     QTest::addColumn<QStringList>("texts");
@@ -119,7 +122,7 @@ void tst_BaseLayer::timeLabels_data()
         << PlotSettings{0, 4e-9, 4, 0, 1, 4} << list("0 1e-09 2e-09 3e-09 4e-09");
 }
 
-void tst_BaseLayer::timeLabels()
+void TestBaseLayer::timeLabels()
 {
     QFETCH(PlotSettings, view);
     QFETCH(QStringList, texts);
@@ -136,7 +139,7 @@ void tst_BaseLayer::timeLabels()
 }
 
 // The last label would reach out of the widget and stands as far right as it may.
-void tst_BaseLayer::timeLabelsStandUnderTheirLines()
+void TestBaseLayer::timeLabelsStandUnderTheirLines()
 {
     const QImage image = paint([&](QPainter &painter) {
         drawTimeLabels(painter, geometryOf({0, 700, 7, 0, 1, 4}), font);
@@ -149,7 +152,7 @@ void tst_BaseLayer::timeLabelsStandUnderTheirLines()
 }
 
 // 20 intervals of 5 pixels each.
-void tst_BaseLayer::timeLabelsThatWouldOverlapAreLeftOut()
+void TestBaseLayer::timeLabelsThatWouldOverlapAreLeftOut()
 {
     const QImage image = paint([&](QPainter &painter) {
         drawTimeLabels(painter, {{200, 301}, 0, {0, 20000, 20, 0, 1, 4}}, font);
@@ -163,7 +166,7 @@ void tst_BaseLayer::timeLabelsThatWouldOverlapAreLeftOut()
 }
 
 // Values -12 to 12 in steps of 3, 25 pixels apart.
-void tst_BaseLayer::valueGridStandsOnItsValues()
+void TestBaseLayer::valueGridStandsOnItsValues()
 {
     const QImage image = paint([&](QPainter &painter) {
         drawValueGrid(painter, geometryOf({0, 700, 7, -12, 12, 8}), font);
@@ -178,7 +181,7 @@ void tst_BaseLayer::valueGridStandsOnItsValues()
     QCOMPARE(image.pixel(798, 160), black);
 }
 
-void tst_BaseLayer::valueLabels_data()
+void TestBaseLayer::valueLabels_data()
 {
     QTest::addColumn<PlotSettings>("view");
     QTest::addColumn<QStringList>("texts"); // from the bottom up
@@ -195,7 +198,7 @@ void tst_BaseLayer::valueLabels_data()
 }
 
 // In a font of 10 pixels, right-aligned six pixels left of the area, beside their lines.
-void tst_BaseLayer::valueLabels()
+void TestBaseLayer::valueLabels()
 {
     QFETCH(PlotSettings, view);
     QFETCH(QStringList, texts);
@@ -211,7 +214,7 @@ void tst_BaseLayer::valueLabels()
 }
 
 // Forty lines 5 pixels apart have labels at most at every second.
-void tst_BaseLayer::valueLabelsThatWouldOverlapAreLeftOut()
+void TestBaseLayer::valueLabelsThatWouldOverlapAreLeftOut()
 {
     const QImage image = paint([&](QPainter &painter) {
         drawValueGrid(painter, geometryOf({0, 700, 7, 0, 40, 40}), font);
@@ -224,7 +227,7 @@ void tst_BaseLayer::valueLabelsThatWouldOverlapAreLeftOut()
     QVERIFY(labels >= 10 && labels <= 20);
 }
 
-void tst_BaseLayer::theFrameStandsAroundTheArea()
+void TestBaseLayer::theFrameStandsAroundTheArea()
 {
     const QImage image = paint([](QPainter &painter) {
         drawFrame(painter, geometryOf({0, 700, 7, 0, 1, 4}));
@@ -237,7 +240,7 @@ void tst_BaseLayer::theFrameStandsAroundTheArea()
     }
 }
 
-void tst_BaseLayer::theTriggerIsALineWithItsTime_data()
+void TestBaseLayer::theTriggerIsALineWithItsTime_data()
 {
     QTest::addColumn<int>("time");
     QTest::addColumn<int>("x");
@@ -249,7 +252,7 @@ void tst_BaseLayer::theTriggerIsALineWithItsTime_data()
         << 690 << 790 << QStringLiteral("Trigger: 690 ms") << false;
 }
 
-void tst_BaseLayer::theTriggerIsALineWithItsTime()
+void TestBaseLayer::theTriggerIsALineWithItsTime()
 {
     QFETCH(int, time);
     QFETCH(int, x);
@@ -270,7 +273,7 @@ void tst_BaseLayer::theTriggerIsALineWithItsTime()
     QVERIFY(found.bottom() > 245);
 }
 
-void tst_BaseLayer::aTriggerOutOfViewIsNotDrawn_data()
+void TestBaseLayer::aTriggerOutOfViewIsNotDrawn_data()
 {
     QTest::addColumn<int>("time");
     QTest::newRow("left of the view") << -1;
@@ -278,7 +281,7 @@ void tst_BaseLayer::aTriggerOutOfViewIsNotDrawn_data()
     QTest::newRow("far away") << 2000000000;
 }
 
-void tst_BaseLayer::aTriggerOutOfViewIsNotDrawn()
+void TestBaseLayer::aTriggerOutOfViewIsNotDrawn()
 {
     QFETCH(int, time);
     const QImage image = paint([&](QPainter &painter) {
@@ -287,5 +290,5 @@ void tst_BaseLayer::aTriggerOutOfViewIsNotDrawn()
     QVERIFY(inkRect(image, image.rect()).isNull());
 }
 
-QTEST_MAIN(tst_BaseLayer)
+QTEST_MAIN(TestBaseLayer)
 #include "tst_baselayer.moc"

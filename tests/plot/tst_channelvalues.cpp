@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "channelvalues.h"
 
 #include "analogchannel.h"
@@ -6,7 +9,7 @@
 
 #include <cmath>
 
-class tst_ChannelValues : public QObject {
+class TestChannelValues : public QObject {
     Q_OBJECT
 
 private slots:
@@ -21,7 +24,7 @@ private slots:
     void angleTraceEndsWithTheShorterSeries();
 };
 
-void tst_ChannelValues::valueFactor_data()
+void TestChannelValues::valueFactor_data()
 {
     QTest::addColumn<int>("mode");
     QTest::addColumn<QString>("ps");
@@ -36,7 +39,7 @@ void tst_ChannelValues::valueFactor_data()
     QTest::newRow("a negative mode") << -1 << "P" << 1.0;
 }
 
-void tst_ChannelValues::valueFactor()
+void TestChannelValues::valueFactor()
 {
     QFETCH(int, mode);
     QFETCH(QString, ps);
@@ -49,7 +52,7 @@ void tst_ChannelValues::valueFactor()
     QTEST(::valueFactor(channel, mode), "factor");
 }
 
-void tst_ChannelValues::angleDegrees_data()
+void TestChannelValues::angleDegrees_data()
 {
     QTest::addColumn<double>("radians");
     QTest::addColumn<double>("degrees");
@@ -60,7 +63,7 @@ void tst_ChannelValues::angleDegrees_data()
 }
 
 // The short pi makes the angles differ from the true ones by up to 6e-6 degrees.
-void tst_ChannelValues::angleDegrees()
+void TestChannelValues::angleDegrees()
 {
     QFETCH(double, radians);
     QFETCH(double, degrees);
@@ -69,7 +72,7 @@ void tst_ChannelValues::angleDegrees()
         QVERIFY(::angleDegrees(radians) != degrees);
 }
 
-void tst_ChannelValues::angleAhead_data()
+void TestChannelValues::angleAhead_data()
 {
     QTest::addColumn<double>("channel");
     QTest::addColumn<double>("reference");
@@ -80,7 +83,7 @@ void tst_ChannelValues::angleAhead_data()
     QTest::newRow("across the half turn") << -3.0 << 3.0 << 2 * M_PI - 6.0;
 }
 
-void tst_ChannelValues::angleAhead()
+void TestChannelValues::angleAhead()
 {
     QFETCH(double, channel);
     QFETCH(double, reference);
@@ -88,7 +91,7 @@ void tst_ChannelValues::angleAhead()
     QVERIFY(std::abs(::angleAhead(channel, reference) - radians) < 1e-6);
 }
 
-void tst_ChannelValues::angleTraceWithoutReferenceIsInDegrees()
+void TestChannelValues::angleTraceWithoutReferenceIsInDegrees()
 {
     const QVector<float> angles = angleTrace({0, float(M_PI / 2), float(-M_PI / 2)}, nullptr);
     QCOMPARE(angles.size(), 3);
@@ -97,7 +100,7 @@ void tst_ChannelValues::angleTraceWithoutReferenceIsInDegrees()
     QCOMPARE(qRound(angles.at(2)), 270);
 }
 
-void tst_ChannelValues::angleTraceWithReferenceIsInRadians()
+void TestChannelValues::angleTraceWithReferenceIsInRadians()
 {
     const QVector<float> reference{0, 0.5F};
     const QVector<float> angles = angleTrace({1, 1}, &reference);
@@ -105,7 +108,7 @@ void tst_ChannelValues::angleTraceWithReferenceIsInRadians()
     QVERIFY(qAbs(angles.at(1) - 0.5F) < 1e-5F);
 }
 
-void tst_ChannelValues::angleTraceEndsWithTheShorterSeries()
+void TestChannelValues::angleTraceEndsWithTheShorterSeries()
 {
     const QVector<float> reference{0};
     QCOMPARE(angleTrace({1, 1, 1}, &reference).size(), 1);
@@ -113,5 +116,5 @@ void tst_ChannelValues::angleTraceEndsWithTheShorterSeries()
     QVERIFY(angleTrace({1}, &none).isEmpty());
 }
 
-QTEST_APPLESS_MAIN(tst_ChannelValues)
+QTEST_APPLESS_MAIN(TestChannelValues)
 #include "tst_channelvalues.moc"

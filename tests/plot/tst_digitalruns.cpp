@@ -1,8 +1,11 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "digitalruns.h"
 
 #include <QtTest>
 
-class tst_DigitalRuns : public QObject {
+class TestDigitalRuns : public QObject {
     Q_OBJECT
 
 private slots:
@@ -11,7 +14,7 @@ private slots:
     void runOf();
 };
 
-void tst_DigitalRuns::stretches_data()
+void TestDigitalRuns::stretches_data()
 {
     QTest::addColumn<QVector<int>>("states");
     QTest::addColumn<QVector<int>>("starts");
@@ -28,7 +31,7 @@ void tst_DigitalRuns::stretches_data()
         << Numbers{0, 2, -1, 1} << Numbers{0, 1} << Numbers{1, 3} << Numbers{0, 1};
 }
 
-void tst_DigitalRuns::stretches()
+void TestDigitalRuns::stretches()
 {
     QFETCH(QVector<int>, states);
     const DigitalRuns runs(states);
@@ -45,7 +48,7 @@ void tst_DigitalRuns::stretches()
     QTEST(on, "on");
 }
 
-void tst_DigitalRuns::runOf()
+void TestDigitalRuns::runOf()
 {
     const DigitalRuns runs({0, 0, 1, 1, 0});
     QCOMPARE(runs.runOf(0), 0);
@@ -56,5 +59,5 @@ void tst_DigitalRuns::runOf()
     QCOMPARE(DigitalRuns().runOf(0), 0);
 }
 
-QTEST_APPLESS_MAIN(tst_DigitalRuns)
+QTEST_APPLESS_MAIN(TestDigitalRuns)
 #include "tst_digitalruns.moc"

@@ -1,10 +1,13 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "labeltext.h"
 
 #include <QFont>
 #include <QFontMetrics>
 #include <QtTest>
 
-class tst_LabelText : public QObject {
+class TestLabelText : public QObject {
     Q_OBJECT
 
 private slots:
@@ -15,7 +18,7 @@ private slots:
     void valuesThatDoNotFitAreWrittenShort();
 };
 
-void tst_LabelText::generalText_data()
+void TestLabelText::generalText_data()
 {
     QTest::addColumn<double>("value");
     QTest::addColumn<QString>("text");
@@ -25,13 +28,13 @@ void tst_LabelText::generalText_data()
     QTest::newRow("negative") << -77.5 << "-77.5";
 }
 
-void tst_LabelText::generalText()
+void TestLabelText::generalText()
 {
     QFETCH(double, value);
     QTEST(::generalText(value), "text");
 }
 
-void tst_LabelText::valueAxisText_data()
+void TestLabelText::valueAxisText_data()
 {
     QTest::addColumn<double>("value");
     QTest::addColumn<QString>("text");
@@ -48,18 +51,18 @@ void tst_LabelText::valueAxisText_data()
     QTest::newRow("negative") << -0.05 << "-0.05";
 }
 
-void tst_LabelText::valueAxisText()
+void TestLabelText::valueAxisText()
 {
     QFETCH(double, value);
     QTEST(::valueAxisText(value), "text");
 }
 
-void tst_LabelText::valuesThatDoNotFitAreWrittenShort()
+void TestLabelText::valuesThatDoNotFitAreWrittenShort()
 {
     const QFontMetrics metrics{QFont()};
     QCOMPARE(fittingValueText(1e15, metrics, 10000), QStringLiteral("1000000000000000"));
     QCOMPARE(fittingValueText(1e15, metrics, 60), QStringLiteral("1e+15"));
 }
 
-QTEST_MAIN(tst_LabelText)
+QTEST_MAIN(TestLabelText)
 #include "tst_labeltext.moc"

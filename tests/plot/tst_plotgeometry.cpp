@@ -1,10 +1,13 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "plotgeometry.h"
 
 #include <QtTest>
 
 #include <limits>
 
-class tst_PlotGeometry : public QObject {
+class TestPlotGeometry : public QObject {
     Q_OBJECT
 
 private slots:
@@ -21,7 +24,7 @@ private slots:
     void rows();
 };
 
-void tst_PlotGeometry::area_data()
+void TestPlotGeometry::area_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<int>("readout");
@@ -32,14 +35,14 @@ void tst_PlotGeometry::area_data()
                                   << QRect(QPoint(100, 60), QPoint(647, 359));
 }
 
-void tst_PlotGeometry::area()
+void TestPlotGeometry::area()
 {
     QFETCH(QSize, size);
     QFETCH(int, readout);
     QTEST(PlotGeometry(size, readout, {}).area(), "area");
 }
 
-void tst_PlotGeometry::isDrawable_data()
+void TestPlotGeometry::isDrawable_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<bool>("drawable");
@@ -49,14 +52,14 @@ void tst_PlotGeometry::isDrawable_data()
     QTest::newRow("plot height of 60") << QSize(400, 101) << true;
 }
 
-void tst_PlotGeometry::isDrawable()
+void TestPlotGeometry::isDrawable()
 {
     QFETCH(QSize, size);
     QTEST(PlotGeometry(size, 0, {}).isDrawable(), "drawable");
 }
 
 // A widget 803 wide without readout has a plot width of 703, and 700 for the time line and cursors.
-void tst_PlotGeometry::threeMappingsDiffer()
+void TestPlotGeometry::threeMappingsDiffer()
 {
     const PlotGeometry geometry(QSize(803, 401), 0, {0, 1000, 10, -1, 1, 4});
     QCOMPARE(geometry.traceX(0), 100.0);
@@ -70,7 +73,7 @@ void tst_PlotGeometry::threeMappingsDiffer()
     QCOMPARE(geometry.cursorX(1000), 800.0);
 }
 
-void tst_PlotGeometry::valuesGoUpward()
+void TestPlotGeometry::valuesGoUpward()
 {
     const PlotGeometry geometry(QSize(800, 401), 0, {0, 1, 4, -10, 10, 4});
     QCOMPARE(geometry.traceY(10), 60.0);
@@ -78,7 +81,7 @@ void tst_PlotGeometry::valuesGoUpward()
     QCOMPARE(geometry.traceY(-10), 360.0);
 }
 
-void tst_PlotGeometry::pixelIsNearestAndBounded_data()
+void TestPlotGeometry::pixelIsNearestAndBounded_data()
 {
     QTest::addColumn<double>("position");
     QTest::addColumn<int>("pixel");
@@ -90,13 +93,13 @@ void tst_PlotGeometry::pixelIsNearestAndBounded_data()
     QTest::newRow("infinite") << std::numeric_limits<double>::infinity() << 1048576;
 }
 
-void tst_PlotGeometry::pixelIsNearestAndBounded()
+void TestPlotGeometry::pixelIsNearestAndBounded()
 {
     QFETCH(double, position);
     QTEST(PlotGeometry::pixel(position), "pixel");
 }
 
-void tst_PlotGeometry::truncatedIsBounded_data()
+void TestPlotGeometry::truncatedIsBounded_data()
 {
     QTest::addColumn<double>("value");
     QTest::addColumn<int>("whole");
@@ -107,14 +110,14 @@ void tst_PlotGeometry::truncatedIsBounded_data()
     QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << 0;
 }
 
-void tst_PlotGeometry::truncatedIsBounded()
+void TestPlotGeometry::truncatedIsBounded()
 {
     QFETCH(double, value);
     QTEST(PlotGeometry::truncated(value), "whole");
 }
 
 // Three rows in a plot 301 high: the plot area is 200 high, the base lines stand a quarter apart.
-void tst_PlotGeometry::rows()
+void TestPlotGeometry::rows()
 {
     const PlotGeometry geometry(QSize(800, 301), 0, {});
     QCOMPARE(geometry.rowY(0, 3), 110);
@@ -122,5 +125,5 @@ void tst_PlotGeometry::rows()
     QCOMPARE(geometry.rowY(2, 3), 210);
 }
 
-QTEST_APPLESS_MAIN(tst_PlotGeometry)
+QTEST_APPLESS_MAIN(TestPlotGeometry)
 #include "tst_plotgeometry.moc"

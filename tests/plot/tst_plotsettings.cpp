@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "plotsettings.h"
 
 #include <QtTest>
@@ -5,7 +8,7 @@
 #include <cmath>
 #include <limits>
 
-class tst_PlotSettings : public QObject {
+class TestPlotSettings : public QObject {
     Q_OBJECT
 
 private slots:
@@ -20,7 +23,7 @@ private slots:
     void spans();
 };
 
-void tst_PlotSettings::adjustAxis_data()
+void TestPlotSettings::adjustAxis_data()
 {
     QTest::addColumn<double>("min");
     QTest::addColumn<double>("max");
@@ -42,7 +45,7 @@ void tst_PlotSettings::adjustAxis_data()
     QTest::newRow("an inverted range counts as flat") << 2.0 << 1.0 << 0.9 << 3.0 << 7.0;
 }
 
-void tst_PlotSettings::adjustAxis()
+void TestPlotSettings::adjustAxis()
 {
     QFETCH(double, min);
     QFETCH(double, max);
@@ -53,7 +56,7 @@ void tst_PlotSettings::adjustAxis()
     QTEST(ticks, "ticks");
 }
 
-void tst_PlotSettings::anyRangeBecomesUsable_data()
+void TestPlotSettings::anyRangeBecomesUsable_data()
 {
     constexpr double inf = std::numeric_limits<double>::infinity();
     constexpr double nan = std::numeric_limits<double>::quiet_NaN();
@@ -73,7 +76,7 @@ void tst_PlotSettings::anyRangeBecomesUsable_data()
     QTest::newRow("far below zero") << -1e18 << -1e18;
 }
 
-void tst_PlotSettings::anyRangeBecomesUsable()
+void TestPlotSettings::anyRangeBecomesUsable()
 {
     QFETCH(double, min);
     QFETCH(double, max);
@@ -87,7 +90,7 @@ void tst_PlotSettings::anyRangeBecomesUsable()
     QVERIFY(min + (max - min) / ticks > min);
 }
 
-void tst_PlotSettings::scroll_data()
+void TestPlotSettings::scroll_data()
 {
     QTest::addColumn<int>("dx");
     QTest::addColumn<int>("dy");
@@ -102,7 +105,7 @@ void tst_PlotSettings::scroll_data()
     QTest::newRow("by nothing") << 0 << 0 << QVector<double>{0, 100, -5, 5};
 }
 
-void tst_PlotSettings::scroll()
+void TestPlotSettings::scroll()
 {
     QFETCH(int, dx);
     QFETCH(int, dy);
@@ -113,7 +116,7 @@ void tst_PlotSettings::scroll()
     QCOMPARE(view.numYTicks, 5.0);
 }
 
-void tst_PlotSettings::scrollKeepsAViewThatCannotMove_data()
+void TestPlotSettings::scrollKeepsAViewThatCannotMove_data()
 {
     QTest::addColumn<double>("min");
     QTest::addColumn<double>("max");
@@ -126,7 +129,7 @@ void tst_PlotSettings::scrollKeepsAViewThatCannotMove_data()
     QTest::newRow("beyond the smallest end") << -1e300 << -1e299 << -1000;
 }
 
-void tst_PlotSettings::scrollKeepsAViewThatCannotMove()
+void TestPlotSettings::scrollKeepsAViewThatCannotMove()
 {
     QFETCH(double, min);
     QFETCH(double, max);
@@ -139,7 +142,7 @@ void tst_PlotSettings::scrollKeepsAViewThatCannotMove()
     QCOMPARE(view.maxY, max);
 }
 
-void tst_PlotSettings::spans()
+void TestPlotSettings::spans()
 {
     const PlotSettings view{1, 4, 4, -2, 8, 4};
     QCOMPARE(view.spanX(), 3.0);
@@ -147,5 +150,5 @@ void tst_PlotSettings::spans()
     QCOMPARE(sizeof(PlotSettings), size_t(48));
 }
 
-QTEST_APPLESS_MAIN(tst_PlotSettings)
+QTEST_APPLESS_MAIN(TestPlotSettings)
 #include "tst_plotsettings.moc"

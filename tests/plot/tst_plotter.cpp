@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "fakeplothost.h"
 #include "plotter.h"
 
@@ -56,7 +59,7 @@ QVector<double> milliseconds(int count)
 
 // A host of 800 x 301 with two plots over one another: a plot area 697 wide and 200 high. The
 // recording lasts 1000 ms and has the channels Ia (-10 to 10 A) and Ua (0 to 4 V).
-class tst_Plotter : public QObject {
+class TestPlotter : public QObject {
     Q_OBJECT
 
 private slots:
@@ -118,7 +121,7 @@ private:
     CountingPlotter *other = nullptr;
 };
 
-void tst_Plotter::init()
+void TestPlotter::init()
 {
     host = std::make_unique<FakePlotHost>();
     host->setTimes(milliseconds(1001));
@@ -153,13 +156,13 @@ void tst_Plotter::init()
     other->refreshes = 0;
 }
 
-void tst_Plotter::cleanup()
+void TestPlotter::cleanup()
 {
     area.reset();
     host.reset();
 }
 
-void tst_Plotter::construction()
+void TestPlotter::construction()
 {
     QCOMPARE(plot->objectName(), QStringLiteral("Plotter"));
     QVERIFY(plot->hasMouseTracking());
@@ -196,7 +199,7 @@ void tst_Plotter::construction()
     QVERIFY(plot->cursors().isEmpty());
 }
 
-void tst_Plotter::slotsStandInTheirOrder()
+void TestPlotter::slotsStandInTheirOrder()
 {
     QStringList names;
     const QMetaObject &meta = Plotter::staticMetaObject;
@@ -215,7 +218,7 @@ void tst_Plotter::slotsStandInTheirOrder()
             QStringLiteral("setEndPoint(double)"), QStringLiteral("clearSaveMarkers()")}));
 }
 
-void tst_Plotter::setupPlot()
+void TestPlotter::setupPlot()
 {
     QCOMPARE(ends(plot->home()), Ends({0, 1000, 10, -12, 12, 8}));
     QCOMPARE(ends(plot->view()), ends(plot->home()));
@@ -225,7 +228,7 @@ void tst_Plotter::setupPlot()
     QVERIFY(title->isVisible());
 }
 
-void tst_Plotter::fullView_data()
+void TestPlotter::fullView_data()
 {
     QTest::addColumn<QVector<double>>("times");
     QTest::addColumn<QVector<float>>("values");
@@ -252,7 +255,7 @@ void tst_Plotter::fullView_data()
     QTest::newRow("one sample") << Ends{0} << Values{0} << 1.0 << Ends{-1.2, 1.2, 8, -1.2, 1.2, 8};
 }
 
-void tst_Plotter::fullView()
+void TestPlotter::fullView()
 {
     QFETCH(QVector<double>, times);
     QFETCH(QVector<float>, values);
@@ -267,7 +270,7 @@ void tst_Plotter::fullView()
     QTEST(ends(single.home()), "expected");
 }
 
-void tst_Plotter::spectrumReachesFromZeroToItsMaximum_data()
+void TestPlotter::spectrumReachesFromZeroToItsMaximum_data()
 {
     QTest::addColumn<bool>("angles");
     QTest::addColumn<int>("reference");
@@ -277,7 +280,7 @@ void tst_Plotter::spectrumReachesFromZeroToItsMaximum_data()
     QTest::newRow("with its angle against a reference") << true << 2 << 10.0;
 }
 
-void tst_Plotter::spectrumReachesFromZeroToItsMaximum()
+void TestPlotter::spectrumReachesFromZeroToItsMaximum()
 {
     QFETCH(bool, angles);
     QFETCH(int, reference);
@@ -295,7 +298,7 @@ void tst_Plotter::spectrumReachesFromZeroToItsMaximum()
     QTEST(single.home().maxY, "maxY");
 }
 
-void tst_Plotter::anUnknownReferenceChannelIsNone()
+void TestPlotter::anUnknownReferenceChannelIsNone()
 {
     host->angles = true;
     host->reference = 99;
@@ -305,21 +308,21 @@ void tst_Plotter::anUnknownReferenceChannelIsNone()
     QCOMPARE(plot->home().maxY, 400.0); // degrees
 }
 
-void tst_Plotter::zoomInHalvesTheTimeOfAllPlots()
+void TestPlotter::zoomInHalvesTheTimeOfAllPlots()
 {
     plot->customZoomIn();
     QCOMPARE(ends(plot->view()), Ends({0, 500, 5, -12, 12, 8}));
     QCOMPARE(ends(other->view()), Ends({0, 500, 5, -12, 12, 8}));
 }
 
-void tst_Plotter::zoomOutDoublesIt()
+void TestPlotter::zoomOutDoublesIt()
 {
     plot->customZoomOut();
     QCOMPARE(ends(plot->view()), Ends({0, 2100, 7, -12, 12, 8}));
     QCOMPARE(ends(other->view()), Ends({0, 2100, 7, -12, 12, 8}));
 }
 
-void tst_Plotter::eachZoomInHalvesAgain()
+void TestPlotter::eachZoomInHalvesAgain()
 {
     for (const double maxX : {500.0, 250.0, 150.0, 70.0}) {
         plot->customZoomIn();
@@ -327,7 +330,7 @@ void tst_Plotter::eachZoomInHalvesAgain()
     }
 }
 
-void tst_Plotter::zoomingInWithoutEndKeepsAUsableView()
+void TestPlotter::zoomingInWithoutEndKeepsAUsableView()
 {
     area->resize(20, 20); // the layers have its size
     plot->customZoomIn();
@@ -340,7 +343,7 @@ void tst_Plotter::zoomingInWithoutEndKeepsAUsableView()
     QCOMPARE(plot->view().maxX, 500.0);
 }
 
-void tst_Plotter::zoomingOutWithoutEndKeepsAUsableView()
+void TestPlotter::zoomingOutWithoutEndKeepsAUsableView()
 {
     area->resize(20, 20); // the layers have its size
     for (int i = 0; i < 2000; ++i)
@@ -351,7 +354,7 @@ void tst_Plotter::zoomingOutWithoutEndKeepsAUsableView()
     QCOMPARE(plot->view().maxX, 1000.0);
 }
 
-void tst_Plotter::zoomsForOnePlotLeaveTheOthers()
+void TestPlotter::zoomsForOnePlotLeaveTheOthers()
 {
     plot->customZoomIn2();
     QCOMPARE(plot->view().maxX, 500.0);
@@ -365,7 +368,7 @@ void tst_Plotter::zoomsForOnePlotLeaveTheOthers()
 }
 
 // The view moved up by two intervals of 3 has its centre at 6; half of -12 to 12 is -6 to 6.
-void tst_Plotter::verticalZoomKeepsTheCentre()
+void TestPlotter::verticalZoomKeepsTheCentre()
 {
     QWheelEvent wheel({300, 150}, plot->mapToGlobal(QPoint(300, 150)), {}, {0, 240}, Qt::NoButton,
         Qt::NoModifier, Qt::NoScrollPhase, false);
@@ -382,7 +385,7 @@ void tst_Plotter::verticalZoomKeepsTheCentre()
     QCOMPARE(other->view().maxY, 12.0);
 }
 
-void tst_Plotter::verticalZoomForOnePlotStartsFromTheFullRange()
+void TestPlotter::verticalZoomForOnePlotStartsFromTheFullRange()
 {
     plot->customVZoomIn2();
     QCOMPARE(ends(plot->view()), Ends({0, 1000, 10, -6, 6, 12}));
@@ -390,7 +393,7 @@ void tst_Plotter::verticalZoomForOnePlotStartsFromTheFullRange()
     QCOMPARE(ends(plot->view()), Ends({0, 1000, 10, -15, 15, 6}));
 }
 
-void tst_Plotter::verticalZoomWithoutEndKeepsAUsableView()
+void TestPlotter::verticalZoomWithoutEndKeepsAUsableView()
 {
     area->resize(20, 20); // the layers have its size
     for (int i = 0; i < 1200; ++i)
@@ -405,7 +408,7 @@ void tst_Plotter::verticalZoomWithoutEndKeepsAUsableView()
     QCOMPARE(plot->view().maxY, 12.0);
 }
 
-void tst_Plotter::resetShowsTheFullViewAgain()
+void TestPlotter::resetShowsTheFullViewAgain()
 {
     plot->customZoomIn();
     plot->customVZoomIn();
@@ -420,7 +423,7 @@ void tst_Plotter::resetShowsTheFullViewAgain()
     QCOMPARE(plot->view().maxX, 500.0);
 }
 
-void tst_Plotter::zoomInRefreshesAllPlotsOnce()
+void TestPlotter::zoomInRefreshesAllPlotsOnce()
 {
     plot->setLinkedPlotters({other, plot});
     plot->zoomIn();
@@ -428,7 +431,7 @@ void tst_Plotter::zoomInRefreshesAllPlotsOnce()
     QCOMPARE(other->refreshes, 1);
 }
 
-void tst_Plotter::zoomOutAtLevelZeroDoesNothing()
+void TestPlotter::zoomOutAtLevelZeroDoesNothing()
 {
     plot->zoomOut();
     plot->zoomOut2();
@@ -436,7 +439,7 @@ void tst_Plotter::zoomOutAtLevelZeroDoesNothing()
     QCOMPARE(other->refreshes, 0);
 }
 
-void tst_Plotter::refreshSlotRefreshesThisPlotOnly()
+void TestPlotter::refreshSlotRefreshesThisPlotOnly()
 {
     const int before = host->vectorRefreshes;
     plot->refreshSlot();
@@ -447,7 +450,7 @@ void tst_Plotter::refreshSlotRefreshesThisPlotOnly()
 
 // After zooming in, an interval is 100 ms; twice the duration, to the hundred, and 100 make 2100
 // ms.
-void tst_Plotter::scrollBarIsRangedAfterAZoom()
+void TestPlotter::scrollBarIsRangedAfterAZoom()
 {
     QCOMPARE(host->bar->maximum(), 99);
     host->bar->setRange(0, 0);
@@ -467,7 +470,7 @@ void tst_Plotter::scrollBarIsRangedAfterAZoom()
     QVERIFY(moved.isEmpty());
 }
 
-void tst_Plotter::scrollingMovesByThePosition()
+void TestPlotter::scrollingMovesByThePosition()
 {
     plot->scrolling(3);
     QCOMPARE(plot->view().minX, 300.0);
@@ -478,7 +481,7 @@ void tst_Plotter::scrollingMovesByThePosition()
     QCOMPARE(plot->view().minX, 400.0);
 }
 
-void tst_Plotter::scrollingToTheLastPositionDoesNothing()
+void TestPlotter::scrollingToTheLastPositionDoesNothing()
 {
     plot->scrolling(0);
     QCOMPARE(plot->refreshes, 0);
@@ -488,7 +491,7 @@ void tst_Plotter::scrollingToTheLastPositionDoesNothing()
     QCOMPARE(plot->view().minX, 300.0);
 }
 
-void tst_Plotter::plotsAreTakenOutByName_data()
+void TestPlotter::plotsAreTakenOutByName_data()
 {
     QTest::addColumn<QStringList>("names");
     QTest::addColumn<QString>("removed");
@@ -502,7 +505,7 @@ void tst_Plotter::plotsAreTakenOutByName_data()
     QTest::newRow("nothing from an empty list") << list("") << "x" << list("");
 }
 
-void tst_Plotter::plotsAreTakenOutByName()
+void TestPlotter::plotsAreTakenOutByName()
 {
     QFETCH(QStringList, names);
     QFETCH(QString, removed);
@@ -521,7 +524,7 @@ void tst_Plotter::plotsAreTakenOutByName()
         QCOMPARE(plot->linked().first(), plotters.first());
 }
 
-void tst_Plotter::aNewPlotTakesOverTheTimeRange()
+void TestPlotter::aNewPlotTakesOverTheTimeRange()
 {
     plot->customZoomIn();
     plot->scrolling(2);
@@ -536,7 +539,7 @@ void tst_Plotter::aNewPlotTakesOverTheTimeRange()
 }
 
 // With a factor of 100 instead of 1 all values are 100 times as large, and so is the zoomed view.
-void tst_Plotter::changedFactorsKeepTheTraceInPlace()
+void TestPlotter::changedFactorsKeepTheTraceInPlace()
 {
     host->source->analogChannels[0]->toSecondary = 100;
     plot->customZoomIn();
@@ -551,7 +554,7 @@ void tst_Plotter::changedFactorsKeepTheTraceInPlace()
     QCOMPARE(ends(plot->view()), Ends({0, 1000, 10, -1200, 1200, 8}));
 }
 
-void tst_Plotter::resetPlotEmptiesThePlot()
+void TestPlotter::resetPlotEmptiesThePlot()
 {
     plot->addCursor(300, 100);
     plot->scrolling(3);
@@ -567,7 +570,7 @@ void tst_Plotter::resetPlotEmptiesThePlot()
     QCOMPARE(plot->view().minX, 300.0);
 }
 
-void tst_Plotter::aPlotWithoutHostSurvivesEverything()
+void TestPlotter::aPlotWithoutHostSurvivesEverything()
 {
     Plotter alone(area.get());
     QObject stranger;
@@ -599,7 +602,7 @@ void tst_Plotter::aPlotWithoutHostSurvivesEverything()
     }
 }
 
-void tst_Plotter::aPlotWithoutParentDraws()
+void TestPlotter::aPlotWithoutParentDraws()
 {
     Plotter alone(nullptr);
     alone.setMainWindow(host.get());
@@ -609,7 +612,7 @@ void tst_Plotter::aPlotWithoutParentDraws()
     QCOMPARE(alone.grab().toImage().pixel(135, 160), qRgb(245, 30, 18));
 }
 
-void tst_Plotter::gridAndTraceStandWhereTheViewSays()
+void TestPlotter::gridAndTraceStandWhereTheViewSays()
 {
     const QImage image = plot->grab().toImage();
     const QRgb grid = qRgb(150, 150, 150);
@@ -628,7 +631,7 @@ void tst_Plotter::gridAndTraceStandWhereTheViewSays()
     QCOMPARE(image.pixel(400, 75), qRgb(0x31, 0x30, 0x34)); // background
 }
 
-void tst_Plotter::triggerStandsAtItsTime()
+void TestPlotter::triggerStandsAtItsTime()
 {
     const auto isDashed = [this](int x) {
         const QImage image = plot->grab().toImage();
@@ -646,7 +649,7 @@ void tst_Plotter::triggerStandsAtItsTime()
     QVERIFY(!isDashed(100 - 70));
 }
 
-void tst_Plotter::channelLabels()
+void TestPlotter::channelLabels()
 {
     plot->addChannel(1);
     plot->refreshPixmap();
@@ -671,7 +674,7 @@ void tst_Plotter::channelLabels()
     QCOMPARE(left[0]->palette().color(left[0]->foregroundRole()), QColor(220, 220, 0));
 }
 
-void tst_Plotter::channelsAreNamedInTheOrderOfTheirAdding()
+void TestPlotter::channelsAreNamedInTheOrderOfTheirAdding()
 {
     plot->showChannels({1, 0});
     plot->setupPlot();
@@ -688,7 +691,7 @@ void tst_Plotter::channelsAreNamedInTheOrderOfTheirAdding()
     QCOMPARE(labels[0]->text(), QStringLiteral("Ia(A)"));
 }
 
-void tst_Plotter::channelLabelsShareTheRoom()
+void TestPlotter::channelLabelsShareTheRoom()
 {
     for (int i = 2; i < 22; ++i) {
         host->addAnalog(
@@ -707,7 +710,7 @@ void tst_Plotter::channelLabelsShareTheRoom()
 
 // Two channels and the spectra of both: the trace at position 2 has the colour 2 + 2, not that of
 // its waveform.
-void tst_Plotter::spectrumLabelAndColour()
+void TestPlotter::spectrumLabelAndColour()
 {
     plot->addChannel(1);
     plot->addChannel(2);
@@ -721,7 +724,7 @@ void tst_Plotter::spectrumLabelAndColour()
     QCOMPARE(labels[3]->palette().color(labels[3]->foregroundRole()), QColor(250, 140, 20));
 }
 
-void tst_Plotter::namesAreNoMarkUp()
+void TestPlotter::namesAreNoMarkUp()
 {
     const auto *title = plot->findChild<QLabel *>(QStringLiteral("Plotter Label"));
     plot->setTitle(QStringLiteral("<b>x</b>"));
@@ -736,7 +739,7 @@ void tst_Plotter::namesAreNoMarkUp()
 }
 
 // A zoom refreshes each plot through every plot that is linked to it.
-void tst_Plotter::anUnchangedBaseLayerIsNotDrawnAgain()
+void TestPlotter::anUnchangedBaseLayerIsNotDrawnAgain()
 {
     const int before = plot->draws;
     plot->refreshPixmap();
@@ -763,7 +766,7 @@ void tst_Plotter::anUnchangedBaseLayerIsNotDrawnAgain()
     }
 }
 
-void tst_Plotter::longTitlesShowTheirBeginning()
+void TestPlotter::longTitlesShowTheirBeginning()
 {
     const auto *title = plot->findChild<QLabel *>(QStringLiteral("Plotter Label"));
     plot->setTitle(QStringLiteral("Feeder currents before and after the fault"));
@@ -776,12 +779,12 @@ void tst_Plotter::longTitlesShowTheirBeginning()
     QVERIFY(title->toolTip().isEmpty());
 }
 
-void tst_Plotter::aPaintOnlyCopiesTheLayers()
+void TestPlotter::aPaintOnlyCopiesTheLayers()
 {
     plot->repaint();
     plot->grab();
     QCOMPARE(plot->refreshes, 0);
 }
 
-QTEST_MAIN(tst_Plotter)
+QTEST_MAIN(TestPlotter)
 #include "tst_plotter.moc"

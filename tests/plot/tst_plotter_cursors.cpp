@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "plotpair.h"
 
 #include <QFrame>
@@ -18,7 +21,7 @@ bool isYellow(QRgb pixel)
 
 } // namespace
 
-class tst_PlotterCursors : public QObject {
+class TestPlotterCursors : public QObject {
     Q_OBJECT
 
 private slots:
@@ -78,7 +81,7 @@ private:
     std::unique_ptr<PlotPair> pair;
 };
 
-void tst_PlotterCursors::theTimeLineFollowsThePointerInAllPlots()
+void TestPlotterCursors::theTimeLineFollowsThePointerInAllPlots()
 {
     PlotPair::move(pair->plot, {450, 100});
     for (const Plotter *plotter :
@@ -96,7 +99,7 @@ void tst_PlotterCursors::theTimeLineFollowsThePointerInAllPlots()
         QStringLiteral("t = 1.42857"));
 }
 
-void tst_PlotterCursors::theTimeLineTellsItsTimeInAnotherView()
+void TestPlotterCursors::theTimeLineTellsItsTimeInAnotherView()
 {
     const auto text = [](const Plotter *plotter) {
         return plotter->findChild<QLabel *>(QStringLiteral("timelabel"))->text();
@@ -114,7 +117,7 @@ void tst_PlotterCursors::theTimeLineTellsItsTimeInAnotherView()
     QCOMPARE(text(pair->digital), QStringLiteral("t = 500"));
 }
 
-void tst_PlotterCursors::theTimeLineFollowsThePointerOverChannelLabels()
+void TestPlotterCursors::theTimeLineFollowsThePointerOverChannelLabels()
 {
     auto *label = pair->plot->findChild<QLabel *>(QStringLiteral("channelLabel"));
     PlotPair::move(label, {12, 5});
@@ -122,7 +125,7 @@ void tst_PlotterCursors::theTimeLineFollowsThePointerOverChannelLabels()
     QCOMPARE(pair->digital->findChild<QFrame *>(QStringLiteral("timeline"))->x(), label->x() + 12);
 }
 
-void tst_PlotterCursors::aLongTimeFitsItsLabel()
+void TestPlotterCursors::aLongTimeFitsItsLabel()
 {
     const auto *label = pair->plot->findChild<QLabel *>(QStringLiteral("timelabel"));
     PlotPair::move(pair->plot, {450, 100});
@@ -139,14 +142,14 @@ void tst_PlotterCursors::aLongTimeFitsItsLabel()
     QCOMPARE(label->font().pixelSize(), usual);
 }
 
-void tst_PlotterCursors::theTimeLineLetsTheMouseThrough()
+void TestPlotterCursors::theTimeLineLetsTheMouseThrough()
 {
     PlotPair::move(pair->plot, {450, 100});
     QVERIFY(!pair->plot->childAt(450, 100));
     QVERIFY(!pair->plot->childAt(470, 50));
 }
 
-void tst_PlotterCursors::aDoubleClickSetsACursorAtOneTimeInAllPlots()
+void TestPlotterCursors::aDoubleClickSetsACursorAtOneTimeInAllPlots()
 {
     const int refreshes = pair->host.vectorRefreshes;
     doubleClick(450);
@@ -163,7 +166,7 @@ void tst_PlotterCursors::aDoubleClickSetsACursorAtOneTimeInAllPlots()
         qRound(100 + 0.5 * width));
 }
 
-void tst_PlotterCursors::atMostTwentyCursors()
+void TestPlotterCursors::atMostTwentyCursors()
 {
     for (int i = 0; i < 21; ++i)
         QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {110 + 30 * i, 150});
@@ -175,14 +178,14 @@ void tst_PlotterCursors::atMostTwentyCursors()
     QCOMPARE(pair->plot->cursors().size(), 20);
 }
 
-void tst_PlotterCursors::noTimeDifferenceForOneCursor()
+void TestPlotterCursors::noTimeDifferenceForOneCursor()
 {
     doubleClick(450);
     QCOMPARE(markPixels(pair->plot, 100, 560), 0);
 }
 
 // In the digital plot pixels and times keep their relation, whatever the number of cursors.
-void tst_PlotterCursors::timeDifferencesOfNeighbours()
+void TestPlotterCursors::timeDifferencesOfNeighbours()
 {
     for (const int x : {200, 400, 700})
         QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {x, 150});
@@ -197,7 +200,7 @@ void tst_PlotterCursors::timeDifferencesOfNeighbours()
     QCOMPARE(markPixels(pair->digital, 405, 495), 0); // none between the first and the third
 }
 
-void tst_PlotterCursors::timeDifferencesAreNeverNegative()
+void TestPlotterCursors::timeDifferencesAreNeverNegative()
 {
     pair->plot->addCursor(700, 100);
     pair->plot->addCursor(300, 100);
@@ -205,7 +208,7 @@ void tst_PlotterCursors::timeDifferencesAreNeverNegative()
     QVERIFY(pair->plot->pairDifference() > 0);
 }
 
-void tst_PlotterCursors::timeDifferencesStayWithinThePlotArea()
+void TestPlotterCursors::timeDifferencesStayWithinThePlotArea()
 {
     doubleClick(200);
     doubleClick(600);
@@ -217,7 +220,7 @@ void tst_PlotterCursors::timeDifferencesStayWithinThePlotArea()
     QVERIFY(!isYellow(image.pixel(area.right() + 1, 60)));
 }
 
-void tst_PlotterCursors::cursorsOutOfViewAreHidden()
+void TestPlotterCursors::cursorsOutOfViewAreHidden()
 {
     QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {700, 150});
     const auto *line = pair->digital->findChild<QFrame *>(QStringLiteral("cursorLine"));
@@ -229,7 +232,7 @@ void tst_PlotterCursors::cursorsOutOfViewAreHidden()
     QVERIFY(line->isVisibleTo(pair->digital));
 }
 
-void tst_PlotterCursors::theReadoutTakesRoomInAnalogPlotsOnly()
+void TestPlotterCursors::theReadoutTakesRoomInAnalogPlotsOnly()
 {
     QCOMPARE(pair->plot->geometryOfView().readoutWidth(), 0);
     doubleClick(450);
@@ -243,7 +246,7 @@ void tst_PlotterCursors::theReadoutTakesRoomInAnalogPlotsOnly()
     QCOMPARE(pair->plot->geometryOfView().readoutWidth(), 0);
 }
 
-void tst_PlotterCursors::halfOfThePlotStaysPlot()
+void TestPlotterCursors::halfOfThePlotStaysPlot()
 {
     for (int i = 0; i < 20; ++i)
         doubleClick(110 + 10 * i);
@@ -256,7 +259,7 @@ void tst_PlotterCursors::halfOfThePlotStaysPlot()
     QCOMPARE(pair->plot->geometryOfView().readoutWidth(), 0);
 }
 
-void tst_PlotterCursors::labelsOfCloseCursorsStandApart()
+void TestPlotterCursors::labelsOfCloseCursorsStandApart()
 {
     for (int i = 0; i < 20; ++i)
         QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {200 + 7 * i, 250});
@@ -271,7 +274,7 @@ void tst_PlotterCursors::labelsOfCloseCursorsStandApart()
     }
 }
 
-void tst_PlotterCursors::aLabelAtTheRightEdgeStandsLeftOfItsLine()
+void TestPlotterCursors::aLabelAtTheRightEdgeStandsLeftOfItsLine()
 {
     QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {795, 150});
     const QRect place = PlotPair::lineLabels(pair->digital).first()->geometry();
@@ -280,7 +283,7 @@ void tst_PlotterCursors::aLabelAtTheRightEdgeStandsLeftOfItsLine()
 }
 
 // The text of the latest pair stays.
-void tst_PlotterCursors::timeDifferencesThatWouldOverlapAreLeftOut()
+void TestPlotterCursors::timeDifferencesThatWouldOverlapAreLeftOut()
 {
     for (const int x : {600, 610, 620, 300})
         QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {x, 150});
@@ -296,7 +299,7 @@ void tst_PlotterCursors::timeDifferencesThatWouldOverlapAreLeftOut()
 }
 
 // The title of a digital plot reaches into the strip of the time differences.
-void tst_PlotterCursors::noTimeDifferenceIsBehindTheTitle()
+void TestPlotterCursors::noTimeDifferenceIsBehindTheTitle()
 {
     for (const int x : {110, 190}) // the text would stand from about 120 to 180
         QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {x, 150});
@@ -304,7 +307,7 @@ void tst_PlotterCursors::noTimeDifferenceIsBehindTheTitle()
     QCOMPARE(pair->digital->grab().toImage().pixel(150, 60), qRgb(255, 250, 80));
 }
 
-void tst_PlotterCursors::noTimeDifferenceIsBehindTheTimeLabel()
+void TestPlotterCursors::noTimeDifferenceIsBehindTheTimeLabel()
 {
     for (const int x : {400, 420})
         QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {x, 150});
@@ -317,7 +320,7 @@ void tst_PlotterCursors::noTimeDifferenceIsBehindTheTimeLabel()
 }
 
 // The digital plot reaches to the right end of the widget, where no text can follow.
-void tst_PlotterCursors::noTimeDifferenceIsCutOff()
+void TestPlotterCursors::noTimeDifferenceIsCutOff()
 {
     for (const int x : {770, 794})
         QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {x, 150});
@@ -326,7 +329,7 @@ void tst_PlotterCursors::noTimeDifferenceIsCutOff()
     QVERIFY(markPixels(pair->plot, centre - 40, centre + 40) > 20);
 }
 
-void tst_PlotterCursors::theReadoutTellsItsCellsInFull()
+void TestPlotterCursors::theReadoutTellsItsCellsInFull()
 {
     doubleClick(450); // the sample of 500 ms is 7
     const int right = 803 - 10;
@@ -338,7 +341,7 @@ void tst_PlotterCursors::theReadoutTellsItsCellsInFull()
     QTRY_COMPARE(QToolTip::text(), QString());
 }
 
-void tst_PlotterCursors::aDraggedLabelMovesTheCursorEverywhere()
+void TestPlotterCursors::aDraggedLabelMovesTheCursorEverywhere()
 {
     pair->digital->raise();
     QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {200, 150});
@@ -357,7 +360,7 @@ void tst_PlotterCursors::aDraggedLabelMovesTheCursorEverywhere()
     QCOMPARE(pair->other->cursors(), pair->digital->cursors());
 }
 
-void tst_PlotterCursors::aDragCutShortIsInTheReadout()
+void TestPlotterCursors::aDragCutShortIsInTheReadout()
 {
     QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {200, 150});
     QTest::mousePress(pair->digital, Qt::LeftButton, {},
@@ -370,7 +373,7 @@ void tst_PlotterCursors::aDragCutShortIsInTheReadout()
     QCOMPARE(QToolTip::text(), QStringLiteral("Ia, P1 (500): 7"));
 }
 
-void tst_PlotterCursors::aDraggedLabelStopsAtTheEdges_data()
+void TestPlotterCursors::aDraggedLabelStopsAtTheEdges_data()
 {
     QTest::addColumn<int>("x");
     QTest::addColumn<double>("time");
@@ -378,7 +381,7 @@ void tst_PlotterCursors::aDraggedLabelStopsAtTheEdges_data()
     QTest::newRow("past the right end") << 5000 << 1000.0;
 }
 
-void tst_PlotterCursors::aDraggedLabelStopsAtTheEdges()
+void TestPlotterCursors::aDraggedLabelStopsAtTheEdges()
 {
     QFETCH(int, x);
     QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {200, 150});
@@ -389,7 +392,7 @@ void tst_PlotterCursors::aDraggedLabelStopsAtTheEdges()
     QTEST(pair->digital->cursors().first(), "time");
 }
 
-void tst_PlotterCursors::aNewPlotTakesOverCursorsAndMarkers()
+void TestPlotterCursors::aNewPlotTakesOverCursorsAndMarkers()
 {
     doubleClick(300);
     doubleClick(500);
@@ -407,7 +410,7 @@ void tst_PlotterCursors::aNewPlotTakesOverCursorsAndMarkers()
     QVERIFY(!added.findChild<QFrame *>(QStringLiteral("startMarker"))->isVisibleTo(&added));
 }
 
-void tst_PlotterCursors::theMenuRemovesOneCursor()
+void TestPlotterCursors::theMenuRemovesOneCursor()
 {
     for (const int x : {200, 400, 600})
         QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {x, 150});
@@ -426,7 +429,7 @@ void tst_PlotterCursors::theMenuRemovesOneCursor()
     QCOMPARE(PlotPair::lineLabels(pair->digital).at(1)->text(), QStringLiteral("P2"));
 }
 
-void tst_PlotterCursors::theMenuRemovesAllCursors()
+void TestPlotterCursors::theMenuRemovesAllCursors()
 {
     for (const int x : {200, 400, 600})
         QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {x, 150});
@@ -443,7 +446,7 @@ void tst_PlotterCursors::theMenuRemovesAllCursors()
 }
 
 // Markers are placed as the traces are, over 703 pixels.
-void tst_PlotterCursors::saveMarkers_data()
+void TestPlotterCursors::saveMarkers_data()
 {
     QTest::addColumn<double>("time");
     QTest::addColumn<bool>("visible");
@@ -455,7 +458,7 @@ void tst_PlotterCursors::saveMarkers_data()
     QTest::newRow("left of the view stays") << -100.0 << true << 30;
 }
 
-void tst_PlotterCursors::saveMarkers()
+void TestPlotterCursors::saveMarkers()
 {
     QFETCH(double, time);
     QFETCH(int, x);
@@ -471,14 +474,14 @@ void tst_PlotterCursors::saveMarkers()
     }
 }
 
-void tst_PlotterCursors::saveMarkersAreCutToWholeMilliseconds()
+void TestPlotterCursors::saveMarkersAreCutToWholeMilliseconds()
 {
     pair->plot->setStartPoint(12.9);
     const auto *marker = pair->plot->findChild<QFrame *>(QStringLiteral("startMarker"));
     QCOMPARE(marker->x(), 100 + 8); // 12 ms; 12.9 ms would be at 109
 }
 
-void tst_PlotterCursors::zeroIsATimeOfAMarker()
+void TestPlotterCursors::zeroIsATimeOfAMarker()
 {
     pair->plot->setEndPoint(700);
     const auto *start = pair->plot->findChild<QFrame *>(QStringLiteral("startMarker"));
@@ -487,7 +490,7 @@ void tst_PlotterCursors::zeroIsATimeOfAMarker()
     QVERIFY(start->isVisibleTo(pair->plot));
 }
 
-void tst_PlotterCursors::markersFollowTheView()
+void TestPlotterCursors::markersFollowTheView()
 {
     pair->plot->setStartPoint(250);
     const auto *marker = pair->plot->findChild<QFrame *>(QStringLiteral("startMarker"));
@@ -497,7 +500,7 @@ void tst_PlotterCursors::markersFollowTheView()
     QVERIFY(!marker->isVisibleTo(pair->plot));
 }
 
-void tst_PlotterCursors::clearedMarkersStayAway()
+void TestPlotterCursors::clearedMarkersStayAway()
 {
     pair->plot->setStartPoint(100);
     pair->plot->setEndPoint(200);
@@ -507,5 +510,5 @@ void tst_PlotterCursors::clearedMarkersStayAway()
         QVERIFY(!pair->plot->findChild<QFrame *>(name)->isVisibleTo(pair->plot));
 }
 
-QTEST_MAIN(tst_PlotterCursors)
+QTEST_MAIN(TestPlotterCursors)
 #include "tst_plotter_cursors.moc"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "plotpair.h"
 #include "textsearch.h"
 
@@ -75,7 +78,7 @@ QVector<int> rowsOf(QRgb color, const QImage &image, int x)
 
 // A plot of 803 x 301 shows a recording of 0 to 1000 ms, one sample each ms, with the trigger at
 // 250 ms. Traces have 703 x 200 pixels from (100, 60) on, the time line and cursors 700 x 200.
-class tst_PlotterDrawing : public QObject {
+class TestPlotterDrawing : public QObject {
     Q_OBJECT
 
 private slots:
@@ -122,7 +125,7 @@ private:
     PassesPlotter *plot = nullptr;
 };
 
-void tst_PlotterDrawing::init()
+void TestPlotterDrawing::init()
 {
     QVector<double> times(1001);
     for (int i = 0; i < times.size(); ++i)
@@ -142,19 +145,19 @@ void tst_PlotterDrawing::init()
     plot->resize(803, 301);
 }
 
-void tst_PlotterDrawing::cleanup()
+void TestPlotterDrawing::cleanup()
 {
     window.reset();
     host.reset();
 }
 
-AnalogChannel *tst_PlotterDrawing::addChannel(const QString &id, float value)
+AnalogChannel *TestPlotterDrawing::addChannel(const QString &id, float value)
 {
     return host->addAnalog(id, QVector<float>(1001, value));
 }
 
 // Ia with 6 everywhere but for -10 at 900 and 10 at 950 ms: a view of -12 to 12.
-AnalogChannel *tst_PlotterDrawing::addPeakedChannel()
+AnalogChannel *TestPlotterDrawing::addPeakedChannel()
 {
     QVector<float> values(1001, 6.0F);
     values[900] = -10;
@@ -162,7 +165,7 @@ AnalogChannel *tst_PlotterDrawing::addPeakedChannel()
     return host->addAnalog(QStringLiteral("Ia"), values);
 }
 
-void tst_PlotterDrawing::show(const QList<int> &channels)
+void TestPlotterDrawing::show(const QList<int> &channels)
 {
     for (const int channel : channels)
         plot->addChannel(channel);
@@ -173,7 +176,7 @@ void tst_PlotterDrawing::show(const QList<int> &channels)
     plot->refreshPixmap();
 }
 
-void tst_PlotterDrawing::theValueModeMovesTheTrace_data()
+void TestPlotterDrawing::theValueModeMovesTheTrace_data()
 {
     QTest::addColumn<int>("mode");
     QTest::addColumn<QString>("ps");
@@ -186,7 +189,7 @@ void tst_PlotterDrawing::theValueModeMovesTheTrace_data()
     QTest::newRow("any other mode: 6") << 3 << QStringLiteral("S") << 110;
 }
 
-void tst_PlotterDrawing::theValueModeMovesTheTrace()
+void TestPlotterDrawing::theValueModeMovesTheTrace()
 {
     QFETCH(int, mode);
     QFETCH(QString, ps);
@@ -204,7 +207,7 @@ void tst_PlotterDrawing::theValueModeMovesTheTrace()
 }
 
 // Twice the magnitude 3 in a view of 0 to 21: 60 + 15 x 200 / 21 = 202.9.
-void tst_PlotterDrawing::aSpectrumShowsItsMagnitudes()
+void TestPlotterDrawing::aSpectrumShowsItsMagnitudes()
 {
     AnalogChannel *channel = addPeakedChannel();
     channel->fftMagnitudes = QVector<float>(1001, 3.0F);
@@ -216,7 +219,7 @@ void tst_PlotterDrawing::aSpectrumShowsItsMagnitudes()
     QCOMPARE(rowsOf(colorTable.at(1), picture(plot), 500), QVector<int>({203}));
 }
 
-void tst_PlotterDrawing::anglesStandOnTheValueAxis_data()
+void TestPlotterDrawing::anglesStandOnTheValueAxis_data()
 {
     QTest::addColumn<bool>("shown");
     QTest::addColumn<int>("reference");
@@ -242,7 +245,7 @@ void tst_PlotterDrawing::anglesStandOnTheValueAxis_data()
         << true << 2 << Angles{-1, 1, 0} << Rows{138, 260};
 }
 
-void tst_PlotterDrawing::anglesStandOnTheValueAxis()
+void TestPlotterDrawing::anglesStandOnTheValueAxis()
 {
     QFETCH(bool, shown);
     QFETCH(int, reference);
@@ -261,7 +264,7 @@ void tst_PlotterDrawing::anglesStandOnTheValueAxis()
 
 // Channels with the values 0 to 13 in a view of 0 to 15, and the fourteenth in the colour of the
 // first.
-void tst_PlotterDrawing::coloursFollowTheTable()
+void TestPlotterDrawing::coloursFollowTheTable()
 {
     QList<int> channels;
     for (int i = 0; i < 14; ++i) {
@@ -281,7 +284,7 @@ void tst_PlotterDrawing::coloursFollowTheTable()
     }
 }
 
-void tst_PlotterDrawing::spectrumColours_data()
+void TestPlotterDrawing::spectrumColours_data()
 {
     QTest::addColumn<int>("count"); // of analog channels
     QTest::addColumn<QList<int>>("channels");
@@ -295,7 +298,7 @@ void tst_PlotterDrawing::spectrumColours_data()
     QTest::newRow("far more channels than colours") << 40 << List{38, 50} << List{12, 2};
 }
 
-void tst_PlotterDrawing::spectrumColours()
+void TestPlotterDrawing::spectrumColours()
 {
     QFETCH(int, count);
     QFETCH(QList<int>, channels);
@@ -314,7 +317,7 @@ void tst_PlotterDrawing::spectrumColours()
     QVERIFY(!rowsOf(colorTable.at(colours.last()), picture(plot), 500).isEmpty());
 }
 
-void tst_PlotterDrawing::timesValuesAndTriggerAreWritten()
+void TestPlotterDrawing::timesValuesAndTriggerAreWritten()
 {
     addPeakedChannel();
     show({0});
@@ -338,7 +341,7 @@ void tst_PlotterDrawing::timesValuesAndTriggerAreWritten()
 }
 
 // Half of -12 to 12 is -6 to 6, and the trace has peaks of -10 and 10.
-void tst_PlotterDrawing::curvesAreClippedToTheArea()
+void TestPlotterDrawing::curvesAreClippedToTheArea()
 {
     addPeakedChannel();
     show({0});
@@ -358,7 +361,7 @@ void tst_PlotterDrawing::curvesAreClippedToTheArea()
 }
 
 // The trace jumps at the trigger and covers the column at x = 276 from y = 77 to 243.
-void tst_PlotterDrawing::theTriggerStandsOverTheCurves()
+void TestPlotterDrawing::theTriggerStandsOverTheCurves()
 {
     QVector<float> values(1001, -10.0F);
     for (int i = 0; i < values.size(); ++i)
@@ -373,7 +376,7 @@ void tst_PlotterDrawing::theTriggerStandsOverTheCurves()
     QVERIFY(!rowsOf(red, image, 276).isEmpty()); // between the dashes
 }
 
-void tst_PlotterDrawing::passesFollowTheirOrder()
+void TestPlotterDrawing::passesFollowTheirOrder()
 {
     addPeakedChannel();
     show({0});
@@ -384,7 +387,7 @@ void tst_PlotterDrawing::passesFollowTheirOrder()
             QStringLiteral("table")}));
 }
 
-void tst_PlotterDrawing::nothingInATinyPlot_data()
+void TestPlotterDrawing::nothingInATinyPlot_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<bool>("drawn");
@@ -396,7 +399,7 @@ void tst_PlotterDrawing::nothingInATinyPlot_data()
     QTest::newRow("one pixel") << QSize(1, 1) << false;
 }
 
-void tst_PlotterDrawing::nothingInATinyPlot()
+void TestPlotterDrawing::nothingInATinyPlot()
 {
     QFETCH(QSize, size);
     QFETCH(bool, drawn);
@@ -411,7 +414,7 @@ void tst_PlotterDrawing::nothingInATinyPlot()
     QCOMPARE(lines > 0, drawn);
 }
 
-void tst_PlotterDrawing::noTableWithoutACursor()
+void TestPlotterDrawing::noTableWithoutACursor()
 {
     addPeakedChannel();
     show({0});
@@ -421,7 +424,7 @@ void tst_PlotterDrawing::noTableWithoutACursor()
 }
 
 // The text in a row and a column of the table, where it stands there.
-QRect tst_PlotterDrawing::cell(const QImage &image, const QString &row, const QString &column) const
+QRect TestPlotterDrawing::cell(const QImage &image, const QString &row, const QString &column) const
 {
     const QRect right(area.left(), 60, 803 - area.left(), 200);
     const QRect name = findText(image, row, tableFont, right);
@@ -433,7 +436,7 @@ QRect tst_PlotterDrawing::cell(const QImage &image, const QString &row, const QS
 
 // A cursor at x = 240 stands at 200 ms; one at the left edge of a view that was moved by one
 // interval, at 100 ms.
-void tst_PlotterDrawing::theTableNamesChannelsAndCursors()
+void TestPlotterDrawing::theTableNamesChannelsAndCursors()
 {
     AnalogChannel *channel = addPeakedChannel();
     channel->fftMagnitudes = QVector<float>(1001, 4.5F);
@@ -464,7 +467,7 @@ void tst_PlotterDrawing::theTableNamesChannelsAndCursors()
     }
 }
 
-void tst_PlotterDrawing::cellsFollowTheValueMode_data()
+void TestPlotterDrawing::cellsFollowTheValueMode_data()
 {
     QTest::addColumn<int>("mode");
     QTest::addColumn<QString>("ps");
@@ -483,7 +486,7 @@ void tst_PlotterDrawing::cellsFollowTheValueMode_data()
     row("any other mode", 3, "S", "6", "4.5");
 }
 
-void tst_PlotterDrawing::cellsFollowTheValueMode()
+void TestPlotterDrawing::cellsFollowTheValueMode()
 {
     QFETCH(int, mode);
     QFETCH(QString, ps);
@@ -507,7 +510,7 @@ void tst_PlotterDrawing::cellsFollowTheValueMode()
                  .isNull());
 }
 
-void tst_PlotterDrawing::cellsOutsideTheRecordingAreEmpty_data()
+void TestPlotterDrawing::cellsOutsideTheRecordingAreEmpty_data()
 {
     QTest::addColumn<int>("intervals"); // of 100 ms, that the view is moved before
     QTest::addColumn<QString>("head");
@@ -517,7 +520,7 @@ void tst_PlotterDrawing::cellsOutsideTheRecordingAreEmpty_data()
     QTest::newRow("after the last sample") << 12 << QStringLiteral("P1 (1200)") << true;
 }
 
-void tst_PlotterDrawing::cellsOutsideTheRecordingAreEmpty()
+void TestPlotterDrawing::cellsOutsideTheRecordingAreEmpty()
 {
     QFETCH(int, intervals);
     QFETCH(QString, head);
@@ -532,7 +535,7 @@ void tst_PlotterDrawing::cellsOutsideTheRecordingAreEmpty()
     QCOMPARE(inkRect(image, place).isNull(), isEmpty);
 }
 
-void tst_PlotterDrawing::draggingACursorDrawsNoBaseLayer()
+void TestPlotterDrawing::draggingACursorDrawsNoBaseLayer()
 {
     addPeakedChannel();
     show({0});
@@ -550,7 +553,7 @@ void tst_PlotterDrawing::draggingACursorDrawsNoBaseLayer()
 
 // A trace is one pixel of the screen wide, whatever the scale factor; at value 6 it stands at
 // y = 110.
-void tst_PlotterDrawing::hairLine()
+void TestPlotterDrawing::hairLine()
 {
     addPeakedChannel();
     show({0});
@@ -563,7 +566,7 @@ void tst_PlotterDrawing::hairLine()
 }
 
 // The toolkit reads the factor when it starts.
-void tst_PlotterDrawing::hairLineAtTwiceTheScale()
+void TestPlotterDrawing::hairLineAtTwiceTheScale()
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QStringLiteral("2"));
@@ -573,9 +576,9 @@ void tst_PlotterDrawing::hairLineAtTwiceTheScale()
     scaled.start(QCoreApplication::applicationFilePath(), {QStringLiteral("hairLine")});
     QVERIFY(scaled.waitForFinished());
     const QByteArray output = scaled.readAll();
-    QVERIFY2(scaled.exitCode() == 0 && output.contains("PASS   : tst_PlotterDrawing::hairLine()"),
+    QVERIFY2(scaled.exitCode() == 0 && output.contains("PASS   : TestPlotterDrawing::hairLine()"),
         output);
 }
 
-QTEST_MAIN(tst_PlotterDrawing)
+QTEST_MAIN(TestPlotterDrawing)
 #include "tst_plotter_drawing.moc"

@@ -1,7 +1,10 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "plotpair.h"
 
 // What a plot shows after the factors of its channels have changed in different ways.
-class tst_PlotterFactors : public QObject {
+class TestPlotterFactors : public QObject {
     Q_OBJECT
 
 private slots:
@@ -10,7 +13,7 @@ private slots:
 };
 
 // A current from -250 to 125 A and a voltage of 80 V: it is the voltage that is high afterwards.
-void tst_PlotterFactors::aWholeViewStaysWholeUnderFactorsThatDiffer()
+void TestPlotterFactors::aWholeViewStaysWholeUnderFactorsThatDiffer()
 {
     PlotPair pair;
     AnalogChannel *current = pair.host.addAnalog(QStringLiteral("I"), {-250, 125, -250});
@@ -36,7 +39,7 @@ void tst_PlotterFactors::aWholeViewStaysWholeUnderFactorsThatDiffer()
     QCOMPARE(pair.plot->view().maxY, 60000.0);
 }
 
-void tst_PlotterFactors::aNegativeFactorKeepsASpectrumInView()
+void TestPlotterFactors::aNegativeFactorKeepsASpectrumInView()
 {
     PlotPair pair;
     AnalogChannel *channel = pair.host.addAnalog(QStringLiteral("I"), {1, 2, 1});
@@ -53,5 +56,5 @@ void tst_PlotterFactors::aNegativeFactorKeepsASpectrumInView()
     QVERIFY(pair.plot->view().maxY >= 0);
 }
 
-QTEST_MAIN(tst_PlotterFactors)
+QTEST_MAIN(TestPlotterFactors)
 #include "tst_plotter_factors.moc"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "plotpair.h"
 
 #include <QColorDialog>
@@ -27,7 +30,7 @@ Ends ends(const PlotSettings &view)
 // The band's offsets of 50 pixels and its scale of width - 100 and height - 100 are odd on purpose:
 // with a plot of 803 x 301 a band from x1 to x2 shows 1000 / 703 x (x1 - 50) ms to 1000 / 703 x (x2
 // - 50) ms.
-class tst_PlotterInput : public QObject {
+class TestPlotterInput : public QObject {
     Q_OBJECT
 
 private slots:
@@ -88,7 +91,7 @@ private:
     std::unique_ptr<PlotPair> pair;
 };
 
-void tst_PlotterInput::aBandZoomsBothAxes_data()
+void TestPlotterInput::aBandZoomsBothAxes_data()
 {
     QTest::addColumn<QPoint>("from");
     QTest::addColumn<QPoint>("to");
@@ -100,7 +103,7 @@ void tst_PlotterInput::aBandZoomsBothAxes_data()
 
 // From x = 191 to 543: 200.57 to 701.28 ms, to steps of 100 ms. From y = 100 to 200, of 201 pixels
 // for 24: 12 - 24 / 201 x 150 = -5.91 to 12 - 24 / 201 x 50 = 6.03, to steps of 1.
-void tst_PlotterInput::aBandZoomsBothAxes()
+void TestPlotterInput::aBandZoomsBothAxes()
 {
     QFETCH(QPoint, from);
     QFETCH(QPoint, to);
@@ -109,7 +112,7 @@ void tst_PlotterInput::aBandZoomsBothAxes()
     QCOMPARE(pair->plot->cursor().shape(), Qt::ArrowCursor);
 }
 
-void tst_PlotterInput::linkedPlotsFollowInTimeOnly()
+void TestPlotterInput::linkedPlotsFollowInTimeOnly()
 {
     PlotPair::drag(pair->plot, {191, 100}, {543, 200});
     QCOMPARE(pair->other->view().minX, 200.0);
@@ -118,7 +121,7 @@ void tst_PlotterInput::linkedPlotsFollowInTimeOnly()
     QCOMPARE(pair->digital->view().minX, 200.0);
 }
 
-void tst_PlotterInput::smallBandsDoNotZoom_data()
+void TestPlotterInput::smallBandsDoNotZoom_data()
 {
     QTest::addColumn<QPoint>("size");
     QTest::addColumn<bool>("zooms");
@@ -137,7 +140,7 @@ void tst_PlotterInput::smallBandsDoNotZoom_data()
     QTest::newRow("a click") << QPoint(0, 0) << false;
 }
 
-void tst_PlotterInput::smallBandsDoNotZoom()
+void TestPlotterInput::smallBandsDoNotZoom()
 {
     QFETCH(QPoint, size);
     QFETCH(bool, zooms);
@@ -147,7 +150,7 @@ void tst_PlotterInput::smallBandsDoNotZoom()
     QCOMPARE(pair->plot->cursor().shape(), Qt::ArrowCursor);
 }
 
-void tst_PlotterInput::aBandBegunBesideTheAreaBeginsOnItsEdge_data()
+void TestPlotterInput::aBandBegunBesideTheAreaBeginsOnItsEdge_data()
 {
     QTest::addColumn<QPoint>("from");
     QTest::addColumn<QPoint>("edge"); // where the band begins, where it does
@@ -162,7 +165,7 @@ void tst_PlotterInput::aBandBegunBesideTheAreaBeginsOnItsEdge_data()
     QTest::newRow("right of the edge") << QPoint(802, 150) << QPoint(800, 150) << true;
 }
 
-void tst_PlotterInput::aBandBegunBesideTheAreaBeginsOnItsEdge()
+void TestPlotterInput::aBandBegunBesideTheAreaBeginsOnItsEdge()
 {
     QFETCH(QPoint, from);
     QFETCH(QPoint, edge);
@@ -178,7 +181,7 @@ void tst_PlotterInput::aBandBegunBesideTheAreaBeginsOnItsEdge()
 }
 
 // The readout leaves room right of the plot area.
-void tst_PlotterInput::aBandBegunInTheReadoutBeginsOnTheEdge()
+void TestPlotterInput::aBandBegunInTheReadoutBeginsOnTheEdge()
 {
     QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {300, 150});
     const int edge = 803 - pair->plot->geometryOfView().readoutWidth() - 3;
@@ -191,7 +194,7 @@ void tst_PlotterInput::aBandBegunInTheReadoutBeginsOnTheEdge()
     QCOMPARE(image.pixel(edge, 150), pair->plot->palette().light().color().rgb());
 }
 
-void tst_PlotterInput::theBandIsDrawnWhileItGrows()
+void TestPlotterInput::theBandIsDrawnWhileItGrows()
 {
     QTest::mousePress(pair->plot, Qt::LeftButton, {}, {300, 100});
     PlotPair::move(pair->plot, {600, 200}, Qt::LeftButton);
@@ -202,7 +205,7 @@ void tst_PlotterInput::theBandIsDrawnWhileItGrows()
     QTest::mouseRelease(pair->plot, Qt::LeftButton, {}, {301, 101});
 }
 
-void tst_PlotterInput::otherButtonsDrawNoBand()
+void TestPlotterInput::otherButtonsDrawNoBand()
 {
     for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
         QTest::mousePress(pair->plot, button, {}, {300, 100});
@@ -211,7 +214,7 @@ void tst_PlotterInput::otherButtonsDrawNoBand()
     }
 }
 
-void tst_PlotterInput::aPressElsewhereGivesUpTheBandsOfLinkedPlots()
+void TestPlotterInput::aPressElsewhereGivesUpTheBandsOfLinkedPlots()
 {
     QTest::mousePress(pair->other, Qt::LeftButton, {}, {300, 100});
     QCOMPARE(pair->other->cursor().shape(), Qt::CrossCursor);
@@ -219,7 +222,7 @@ void tst_PlotterInput::aPressElsewhereGivesUpTheBandsOfLinkedPlots()
     QVERIFY(pair->other->cursor().shape() != Qt::CrossCursor);
 }
 
-void tst_PlotterInput::aPressElsewhereClosesTheEditorsOfLinkedPlots()
+void TestPlotterInput::aPressElsewhereClosesTheEditorsOfLinkedPlots()
 {
     QTest::mouseDClick(pair->other, Qt::LeftButton, {}, {100, 30});
     QVERIFY(pair->other->findChild<QLineEdit *>()->isVisible());
@@ -229,7 +232,7 @@ void tst_PlotterInput::aPressElsewhereClosesTheEditorsOfLinkedPlots()
 }
 
 // A digital plot does not show its range of values, and nothing but Zoom Reset widens it.
-void tst_PlotterInput::aBandTooNarrowInValuesZoomsTime()
+void TestPlotterInput::aBandTooNarrowInValuesZoomsTime()
 {
     for (int i = 0; i < 20; ++i) {
         const double before = pair->digital->view().spanX();
@@ -239,7 +242,7 @@ void tst_PlotterInput::aBandTooNarrowInValuesZoomsTime()
     }
 }
 
-void tst_PlotterInput::aBandEndsWithTheWindowsActivation()
+void TestPlotterInput::aBandEndsWithTheWindowsActivation()
 {
     QTest::mousePress(pair->plot, Qt::LeftButton, {}, {300, 100});
     PlotPair::move(pair->plot, {400, 150}, Qt::LeftButton);
@@ -253,7 +256,7 @@ void tst_PlotterInput::aBandEndsWithTheWindowsActivation()
     QCOMPARE(ends(pair->plot->view()), Ends({0, 1000, -12, 12}));
 }
 
-void tst_PlotterInput::aDragEndsWhenThePlotIsHidden()
+void TestPlotterInput::aDragEndsWhenThePlotIsHidden()
 {
     QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {300, 150});
     const double time = pair->plot->cursors().first();
@@ -265,7 +268,7 @@ void tst_PlotterInput::aDragEndsWhenThePlotIsHidden()
     QCOMPARE(pair->plot->cursors().first(), time);
 }
 
-void tst_PlotterInput::aDoubleClickHidesABand()
+void TestPlotterInput::aDoubleClickHidesABand()
 {
     for (const int cursors : {1, 20}) {
         while (pair->plot->cursors().size() < cursors - 1)
@@ -286,13 +289,13 @@ void tst_PlotterInput::aDoubleClickHidesABand()
     QCOMPARE(pair->host.vectorRefreshes, refreshes);
 }
 
-void tst_PlotterInput::afterABandTheScrollBarIsRanged()
+void TestPlotterInput::afterABandTheScrollBarIsRanged()
 {
     PlotPair::drag(pair->plot, {191, 100}, {543, 200});
     QCOMPARE(pair->host.bar->value(), 2); // 200 ms at 100 ms a unit
 }
 
-void tst_PlotterInput::afterABandANewPlotIsInStep()
+void TestPlotterInput::afterABandANewPlotIsInStep()
 {
     PlotPair::drag(pair->plot, {191, 100}, {543, 200});
     Plotter added(&pair->area);
@@ -306,7 +309,7 @@ void tst_PlotterInput::afterABandANewPlotIsInStep()
     QCOMPARE(added.view().maxX, pair->plot->view().maxX);
 }
 
-void tst_PlotterInput::wheel_data()
+void TestPlotterInput::wheel_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<QPoint>("delta");
@@ -342,7 +345,7 @@ void tst_PlotterInput::wheel_data()
         << 0 << QPoint(120, 0) << Ends({0, 1000, -12, 12});
 }
 
-void tst_PlotterInput::wheel()
+void TestPlotterInput::wheel()
 {
     QFETCH(int, key);
     QFETCH(QPoint, delta);
@@ -352,21 +355,21 @@ void tst_PlotterInput::wheel()
     QTEST(ends(pair->plot->view()), "view");
 }
 
-void tst_PlotterInput::aFineWheelStepStillRepaints()
+void TestPlotterInput::aFineWheelStepStillRepaints()
 {
     const int refreshes = pair->host.vectorRefreshes;
     PlotPair::wheel(pair->plot, {0, 60});
     QCOMPARE(pair->host.vectorRefreshes, refreshes + 1);
 }
 
-void tst_PlotterInput::plainWheelActsOnOnePlot()
+void TestPlotterInput::plainWheelActsOnOnePlot()
 {
     const Ends before = ends(pair->other->view());
     PlotPair::wheel(pair->plot, {0, 120});
     QCOMPARE(ends(pair->other->view()), before);
 }
 
-void tst_PlotterInput::keysBeforeThePointerCameDoNotCount()
+void TestPlotterInput::keysBeforeThePointerCameDoNotCount()
 {
     QTest::keyPress(&pair->area, Qt::Key_Control);
     QTest::keyRelease(&pair->area, Qt::Key_Control);
@@ -379,7 +382,7 @@ void tst_PlotterInput::keysBeforeThePointerCameDoNotCount()
     QCOMPARE(ends(pair->plot->view()), Ends({0, 1000, -12, 12}));
 }
 
-void tst_PlotterInput::keys_data()
+void TestPlotterInput::keys_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<Ends>("view");
@@ -393,7 +396,7 @@ void tst_PlotterInput::keys_data()
                           << Ends({0, 1000, -9, 15});
 }
 
-void tst_PlotterInput::keys()
+void TestPlotterInput::keys()
 {
     QFETCH(int, key);
     QTest::keyClick(pair->plot, Qt::Key(key));
@@ -401,7 +404,7 @@ void tst_PlotterInput::keys()
     QTEST(ends(pair->other->view()), "linked");
 }
 
-void tst_PlotterInput::arrowsTurnTheScrollBar()
+void TestPlotterInput::arrowsTurnTheScrollBar()
 {
     QTest::keyClick(pair->plot, Qt::Key_Right);
     QCOMPARE(pair->host.bar->value(), 1);
@@ -411,14 +414,14 @@ void tst_PlotterInput::arrowsTurnTheScrollBar()
     QCOMPARE(pair->host.bar->value(), 1);
 }
 
-void tst_PlotterInput::otherKeysAreLeftToTheWindow()
+void TestPlotterInput::otherKeysAreLeftToTheWindow()
 {
     QKeyEvent event(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
     QApplication::sendEvent(pair->plot, &event);
     QVERIFY(!event.isAccepted());
 }
 
-void tst_PlotterInput::thePointerGrabsTheKeyboard()
+void TestPlotterInput::thePointerGrabsTheKeyboard()
 {
     PlotPair::move(pair->plot, {300, 100});
     QCOMPARE(QWidget::keyboardGrabber(), pair->plot);
@@ -428,7 +431,7 @@ void tst_PlotterInput::thePointerGrabsTheKeyboard()
     QVERIFY(!QWidget::keyboardGrabber());
 }
 
-void tst_PlotterInput::theGrabEndsWithTheWindowsActivation()
+void TestPlotterInput::theGrabEndsWithTheWindowsActivation()
 {
     PlotPair::move(pair->plot, {300, 100});
     QEvent deactivate(QEvent::WindowDeactivate);
@@ -436,7 +439,7 @@ void tst_PlotterInput::theGrabEndsWithTheWindowsActivation()
     QVERIFY(!QWidget::keyboardGrabber());
 }
 
-void tst_PlotterInput::theGrabEndsWhenThePlotIsHidden()
+void TestPlotterInput::theGrabEndsWhenThePlotIsHidden()
 {
     PlotPair::move(pair->plot, {300, 100});
     pair->plot->hide();
@@ -448,14 +451,14 @@ void tst_PlotterInput::theGrabEndsWhenThePlotIsHidden()
     pair->digital->setLinkedPlotters({});
 }
 
-void tst_PlotterInput::noGrabWhileTheTitleIsEdited()
+void TestPlotterInput::noGrabWhileTheTitleIsEdited()
 {
     QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {100, 30});
     PlotPair::move(pair->plot, {300, 100});
     QCOMPARE(QWidget::keyboardGrabber(), pair->plot->findChild<QLineEdit *>());
 }
 
-void tst_PlotterInput::noGrabInAnInactiveWindow()
+void TestPlotterInput::noGrabInAnInactiveWindow()
 {
     QWidget window;
     window.show();
@@ -464,7 +467,7 @@ void tst_PlotterInput::noGrabInAnInactiveWindow()
     QVERIFY(!QWidget::keyboardGrabber());
 }
 
-void tst_PlotterInput::noGrabWhileAMenuIsOpen()
+void TestPlotterInput::noGrabWhileAMenuIsOpen()
 {
     QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {300, 150});
     PlotPair::move(pair->plot, {350, 150});
@@ -476,7 +479,7 @@ void tst_PlotterInput::noGrabWhileAMenuIsOpen()
     QVERIFY(QWidget::keyboardGrabber() != pair->plot);
 }
 
-void tst_PlotterInput::keysOfTheTitleEditorStayThere()
+void TestPlotterInput::keysOfTheTitleEditorStayThere()
 {
     QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {100, 30});
     auto *editor = pair->plot->findChild<QLineEdit *>();
@@ -492,7 +495,7 @@ void tst_PlotterInput::keysOfTheTitleEditorStayThere()
     QCOMPARE(ends(pair->plot->view()), Ends({0, 1000, -9, 15}));
 }
 
-void tst_PlotterInput::aKeyStaysHeldWhileThePointerIsAway()
+void TestPlotterInput::aKeyStaysHeldWhileThePointerIsAway()
 {
     const auto awayAndBack = [&](const std::function<void()> &meanwhile) {
         QEvent leave(QEvent::Leave);
@@ -509,7 +512,7 @@ void tst_PlotterInput::aKeyStaysHeldWhileThePointerIsAway()
     QCOMPARE(ends(pair->plot->view()), Ends({0, 500, -9, 15}));
 }
 
-void tst_PlotterInput::returnCommitsTheTitle()
+void TestPlotterInput::returnCommitsTheTitle()
 {
     auto *editor = pair->plot->findChild<QLineEdit *>();
     QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {100, 30});
@@ -526,7 +529,7 @@ void tst_PlotterInput::returnCommitsTheTitle()
     QCOMPARE(title->text(), QStringLiteral("Feeder"));
 }
 
-void tst_PlotterInput::leavingTheEditorKeepsTheTitle()
+void TestPlotterInput::leavingTheEditorKeepsTheTitle()
 {
     auto *editor = pair->plot->findChild<QLineEdit *>();
     QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {100, 30});
@@ -539,14 +542,14 @@ void tst_PlotterInput::leavingTheEditorKeepsTheTitle()
         QStringLiteral("Analog Plotter"));
 }
 
-void tst_PlotterInput::theEditorBeginsWithTheTitleSelected()
+void TestPlotterInput::theEditorBeginsWithTheTitleSelected()
 {
     QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {100, 30});
     QCOMPARE(
         pair->plot->findChild<QLineEdit *>()->selectedText(), QStringLiteral("Analog Plotter"));
 }
 
-void tst_PlotterInput::aChannelLabelOffersColours_data()
+void TestPlotterInput::aChannelLabelOffersColours_data()
 {
     QTest::addColumn<bool>("accepted");
     QTest::addColumn<QColor>("color");
@@ -554,7 +557,7 @@ void tst_PlotterInput::aChannelLabelOffersColours_data()
     QTest::newRow("cancelled") << false << QColor(245, 30, 18);
 }
 
-void tst_PlotterInput::aChannelLabelOffersColours()
+void TestPlotterInput::aChannelLabelOffersColours()
 {
     QFETCH(bool, accepted);
     auto *label = pair->plot->findChild<QLabel *>(QStringLiteral("channelLabel"));
@@ -573,7 +576,7 @@ void tst_PlotterInput::aChannelLabelOffersColours()
     QVERIFY(pair->plot->cursors().isEmpty());
 }
 
-void tst_PlotterInput::aChosenColourStays()
+void TestPlotterInput::aChosenColourStays()
 {
     const QColor chosen(1, 250, 3);
     const auto traces = [&] {
@@ -605,7 +608,7 @@ void tst_PlotterInput::aChosenColourStays()
     QVERIFY(traces() > 700);
 }
 
-void tst_PlotterInput::otherLabelsOfferNone()
+void TestPlotterInput::otherLabelsOfferNone()
 {
     QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {300, 150});
     pair->digital->raise();
@@ -614,5 +617,5 @@ void tst_PlotterInput::otherLabelsOfferNone()
     QCOMPARE(pair->digital->cursors().size(), 1);
 }
 
-QTEST_MAIN(tst_PlotterInput)
+QTEST_MAIN(TestPlotterInput)
 #include "tst_plotter_input.moc"

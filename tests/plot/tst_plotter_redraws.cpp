@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "plotpair.h"
 
 #include <QFrame>
@@ -21,7 +24,7 @@ public:
 } // namespace
 
 // Eight linked plots over a recording of a million samples.
-class tst_PlotterRedraws : public QObject {
+class TestPlotterRedraws : public QObject {
     Q_OBJECT
 
 private slots:
@@ -44,7 +47,7 @@ private:
     Counted<plotterDg> *digital = nullptr;
 };
 
-void tst_PlotterRedraws::init()
+void TestPlotterRedraws::init()
 {
     constexpr int samples = 1000000;
     QVector<double> times(samples);
@@ -90,13 +93,13 @@ void tst_PlotterRedraws::init()
     (void)baseLayers();
 }
 
-void tst_PlotterRedraws::cleanup()
+void TestPlotterRedraws::cleanup()
 {
     area.reset();
     host.reset();
 }
 
-QList<int> tst_PlotterRedraws::baseLayers()
+QList<int> TestPlotterRedraws::baseLayers()
 {
     QList<int> counts;
     for (Counted<Plotter> *plot : qAsConst(analog))
@@ -105,7 +108,7 @@ QList<int> tst_PlotterRedraws::baseLayers()
     return counts;
 }
 
-void tst_PlotterRedraws::aMoveOfThePointerRedrawsNoBaseLayer()
+void TestPlotterRedraws::aMoveOfThePointerRedrawsNoBaseLayer()
 {
     for (int x = 100; x < 800; x += 10)
         PlotPair::move(analog.first(), {x, 150});
@@ -115,7 +118,7 @@ void tst_PlotterRedraws::aMoveOfThePointerRedrawsNoBaseLayer()
 }
 
 // The digital plot has no readout that would grow.
-void tst_PlotterRedraws::aCursorRedrawsEachPlotOnce()
+void TestPlotterRedraws::aCursorRedrawsEachPlotOnce()
 {
     QTest::mouseDClick(analog.first(), Qt::LeftButton, {}, {300, 150});
     QCOMPARE(digital->cursors().size(), 1);
@@ -123,7 +126,7 @@ void tst_PlotterRedraws::aCursorRedrawsEachPlotOnce()
     QCOMPARE(baseLayers(), QList<int>({1, 1, 1, 1, 1, 1, 1, 0}));
 }
 
-void tst_PlotterRedraws::aDragRedrawsNoBaseLayerUntilItEnds()
+void TestPlotterRedraws::aDragRedrawsNoBaseLayerUntilItEnds()
 {
     QTest::mouseDClick(analog.first(), Qt::LeftButton, {}, {300, 150});
     (void)baseLayers();
@@ -136,17 +139,17 @@ void tst_PlotterRedraws::aDragRedrawsNoBaseLayerUntilItEnds()
     QCOMPARE(baseLayers(), QList<int>({1, 1, 1, 1, 1, 1, 1, 0}));
 }
 
-void tst_PlotterRedraws::aRefreshThatChangesNothingRedrawsNone()
+void TestPlotterRedraws::aRefreshThatChangesNothingRedrawsNone()
 {
     analog.first()->zoomIn();
     QCOMPARE(baseLayers(), QList<int>({0, 0, 0, 0, 0, 0, 0, 0}));
 }
 
-void tst_PlotterRedraws::aZoomRedrawsEachPlotOnce()
+void TestPlotterRedraws::aZoomRedrawsEachPlotOnce()
 {
     analog.first()->customZoomIn();
     QCOMPARE(baseLayers(), QList<int>({1, 1, 1, 1, 1, 1, 1, 1}));
 }
 
-QTEST_MAIN(tst_PlotterRedraws)
+QTEST_MAIN(TestPlotterRedraws)
 #include "tst_plotter_redraws.moc"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "plotpair.h"
 
 #include <QtTest>
@@ -49,7 +52,7 @@ void dragBand(Plotter *plot)
 
 // Each row begins with plots in full view, 0 to 1000 ms and -12 to 12, digital 0 to 1, and with a
 // shared view of 0 to 250 ms and -3 to 3 and shared zooms of a quarter, which no row ends with.
-class tst_PlotterSharedView : public QObject {
+class TestPlotterSharedView : public QObject {
     Q_OBJECT
 
 private slots:
@@ -69,7 +72,7 @@ private:
     std::unique_ptr<PlotPair> pair;
 };
 
-void tst_PlotterSharedView::init()
+void TestPlotterSharedView::init()
 {
     pair = std::make_unique<PlotPair>();
     for (Plotter *plotter :
@@ -87,7 +90,7 @@ void tst_PlotterSharedView::init()
 
 // A band shows 1000 x 352 / 703 = 500.711 ms and 24 x 100 / 201 = 11.9403 before the axes are
 // adjusted: 0.500711 and 0.497512 of the full ranges.
-void tst_PlotterSharedView::zoomsOfAnAnalogPlotAreShared_data()
+void TestPlotterSharedView::zoomsOfAnAnalogPlotAreShared_data()
 {
     QTest::addColumn<Operation>("operation");
     QTest::addColumn<Ends>("view");
@@ -112,7 +115,7 @@ void tst_PlotterSharedView::zoomsOfAnAnalogPlotAreShared_data()
     row("a band", dragBand, {200, 800, 6, -6, 7, 13}, 0.500711, 0.497512);
 }
 
-void tst_PlotterSharedView::zoomsOfAnAnalogPlotAreShared()
+void TestPlotterSharedView::zoomsOfAnAnalogPlotAreShared()
 {
     QFETCH(Operation, operation);
     operation(pair->plot);
@@ -123,7 +126,7 @@ void tst_PlotterSharedView::zoomsOfAnAnalogPlotAreShared()
 }
 
 // The three rules by which zooms share a view differ on purpose.
-void tst_PlotterSharedView::zoomsOfADigitalPlotAreSharedByTheirOwnRules_data()
+void TestPlotterSharedView::zoomsOfADigitalPlotAreSharedByTheirOwnRules_data()
 {
     QTest::addColumn<Operation>("operation");
     QTest::addColumn<bool>("isViewShared");
@@ -142,7 +145,7 @@ void tst_PlotterSharedView::zoomsOfADigitalPlotAreSharedByTheirOwnRules_data()
     row("customVZoomOut2 does nothing", &Plotter::customVZoomOut2, false, 0.25, 0.25);
 }
 
-void tst_PlotterSharedView::zoomsOfADigitalPlotAreSharedByTheirOwnRules()
+void TestPlotterSharedView::zoomsOfADigitalPlotAreSharedByTheirOwnRules()
 {
     QFETCH(Operation, operation);
     QFETCH(bool, isViewShared);
@@ -153,7 +156,7 @@ void tst_PlotterSharedView::zoomsOfADigitalPlotAreSharedByTheirOwnRules()
     QTEST(Shared().value, "value");
 }
 
-void tst_PlotterSharedView::resetSharesTheFullView()
+void TestPlotterSharedView::resetSharesTheFullView()
 {
     pair->plot->customResetZoom();
     QCOMPARE(Shared().view, Ends({0, 1000, 10, -12, 12, 8}));
@@ -167,7 +170,7 @@ void tst_PlotterSharedView::resetSharesTheFullView()
     QCOMPARE(Shared().value, 1.0);
 }
 
-void tst_PlotterSharedView::aLinkedBandSharesTheTime()
+void TestPlotterSharedView::aLinkedBandSharesTheTime()
 {
     pair->digital->setLinkedPlotters({pair->plot});
     dragBand(pair->digital);
@@ -178,7 +181,7 @@ void tst_PlotterSharedView::aLinkedBandSharesTheTime()
 
 // Half of the band's share of the time is 250.36 ms, widened to steps of 50; of the values -2.99 to
 // 2.99, widened to steps of 1.
-void tst_PlotterSharedView::theNextZoomGoesOnFromABand()
+void TestPlotterSharedView::theNextZoomGoesOnFromABand()
 {
     dragBand(pair->plot);
     pair->plot->customZoomIn2();
@@ -187,7 +190,7 @@ void tst_PlotterSharedView::theNextZoomGoesOnFromABand()
     QCOMPARE(ends(pair->plot->view()), Ends({200, 500, 6, -3, 3, 6}));
 }
 
-void tst_PlotterSharedView::theNextZoomOfALinkedPlotGoesOnFromABand()
+void TestPlotterSharedView::theNextZoomOfALinkedPlotGoesOnFromABand()
 {
     pair->plot->setLinkedPlotters({pair->other});
     pair->other->customResetZoom();
@@ -198,5 +201,5 @@ void tst_PlotterSharedView::theNextZoomOfALinkedPlotGoesOnFromABand()
     QCOMPARE(pair->other->view().maxY, 6.0); // half of the full range: the band left it alone
 }
 
-QTEST_MAIN(tst_PlotterSharedView)
+QTEST_MAIN(TestPlotterSharedView)
 #include "tst_plotter_sharedview.moc"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "fakeplothost.h"
 #include "plotterdg.h"
 
@@ -7,7 +10,7 @@
 #include <memory>
 
 // A plot of 800 x 261 with three rows over 1000 ms: base lines at y = 100, 140 and 180.
-class tst_plotterDg : public QObject {
+class TestPlotterDg : public QObject {
     Q_OBJECT
 
 private slots:
@@ -50,7 +53,7 @@ const QRgb background = qRgb(0x31, 0x30, 0x34);
 
 } // namespace
 
-void tst_plotterDg::init()
+void TestPlotterDg::init()
 {
     host = std::make_unique<FakePlotHost>();
     QVector<double> times(1001);
@@ -81,19 +84,19 @@ void tst_plotterDg::init()
     QVERIFY(QTest::qWaitForWindowExposed(area.get()));
 }
 
-void tst_plotterDg::cleanup()
+void TestPlotterDg::cleanup()
 {
     area.reset();
     host.reset();
 }
 
-void tst_plotterDg::construction()
+void TestPlotterDg::construction()
 {
     QCOMPARE(plot->objectName(), QStringLiteral("Plotter"));
     QVERIFY(plot->styleSheet().startsWith(QStringLiteral("Plotter{background-color: #313034;")));
 }
 
-void tst_plotterDg::setupPlot()
+void TestPlotterDg::setupPlot()
 {
     const auto *title = plot->findChild<QLabel *>(QStringLiteral("Plotter Label"));
     QCOMPARE(title->text(), QStringLiteral("Digital Plotter"));
@@ -106,7 +109,7 @@ void tst_plotterDg::setupPlot()
     QCOMPARE(plot->view().numXTicks, 10.0);
 }
 
-void tst_plotterDg::rowsShowTheStates()
+void TestPlotterDg::rowsShowTheStates()
 {
     QCOMPARE(pixel(150, 100), line);
     QCOMPARE(pixel(150, 97), background);
@@ -122,13 +125,13 @@ void tst_plotterDg::rowsShowTheStates()
     QCOMPARE(pixel(450, 98), background);
 }
 
-void tst_plotterDg::aChannelThatNeverChangesIsOneStretch()
+void TestPlotterDg::aChannelThatNeverChangesIsOneStretch()
 {
     for (const int time : {50, 350, 650, 980})
         QCOMPARE(pixel(time, 140), band);
 }
 
-void tst_plotterDg::denseChangesAreDrawnAsOne()
+void TestPlotterDg::denseChangesAreDrawnAsOne()
 {
     QCOMPARE(pixel(550, 180), line);
     QCOMPARE(pixel(550, 177), background);
@@ -139,7 +142,7 @@ void tst_plotterDg::denseChangesAreDrawnAsOne()
 }
 
 // 2000 samples for a pixel column, of which one differs from all others.
-void tst_plotterDg::oneChangeAmongManyIsSeen()
+void TestPlotterDg::oneChangeAmongManyIsSeen()
 {
     QVector<double> times(1400001);
     for (int i = 0; i < times.size(); ++i)
@@ -167,7 +170,7 @@ void tst_plotterDg::oneChangeAmongManyIsSeen()
 }
 
 // From 300 to 800 ms, the band of 200 to 400 ms begins left of the view.
-void tst_plotterDg::rowsShowTheStatesInAnotherView()
+void TestPlotterDg::rowsShowTheStatesInAnotherView()
 {
     plot->customZoomIn();
     plot->scrolling(3);
@@ -185,7 +188,7 @@ void tst_plotterDg::rowsShowTheStatesInAnotherView()
 }
 
 // The times go back to 0 half way: the second half is drawn over the first.
-void tst_plotterDg::rowsShowTheStatesOfUnorderedTimes()
+void TestPlotterDg::rowsShowTheStatesOfUnorderedTimes()
 {
     QVector<double> times(1000);
     QVector<int> states(1000, 0);
@@ -205,7 +208,7 @@ void tst_plotterDg::rowsShowTheStatesOfUnorderedTimes()
     QCOMPARE(pixel(450, y - 3), background);
 }
 
-void tst_plotterDg::rowsStayWithinThePlotArea()
+void TestPlotterDg::rowsStayWithinThePlotArea()
 {
     plot->customZoomIn();
     plot->scrolling(3);
@@ -214,7 +217,7 @@ void tst_plotterDg::rowsStayWithinThePlotArea()
     QVERIFY(image.pixel(101, 140) != background);
 }
 
-void tst_plotterDg::rowsHaveTheirNamesInTheMargin()
+void TestPlotterDg::rowsHaveTheirNamesInTheMargin()
 {
     const QImage image = plot->grab().toImage();
     const auto ink = [&](int y) {
@@ -237,7 +240,7 @@ void tst_plotterDg::rowsHaveTheirNamesInTheMargin()
     QVERIFY(ink(100).width() != ink(180).width()); // another name
 }
 
-void tst_plotterDg::triggerAndGrid()
+void TestPlotterDg::triggerAndGrid()
 {
     const QImage image = plot->grab().toImage();
     QCOMPARE(image.pixel(170, 70), qRgb(150, 150, 150)); // 100 ms
@@ -248,7 +251,7 @@ void tst_plotterDg::triggerAndGrid()
     QVERIFY(white > 40 && white < 159); // dashed, at 500 ms
 }
 
-void tst_plotterDg::verticalZoomWithoutPropagationDoesNothing()
+void TestPlotterDg::verticalZoomWithoutPropagationDoesNothing()
 {
     const double maxY = plot->view().maxY;
     plot->customVZoomIn2();
@@ -257,7 +260,7 @@ void tst_plotterDg::verticalZoomWithoutPropagationDoesNothing()
     QCOMPARE(plot->view().maxY, maxY);
 }
 
-void tst_plotterDg::neverKeepsRoomForAReadout()
+void TestPlotterDg::neverKeepsRoomForAReadout()
 {
     for (int i = 0; i < 5; ++i)
         plot->addCursor(200 + 50 * i, 100);
@@ -265,7 +268,7 @@ void tst_plotterDg::neverKeepsRoomForAReadout()
     QCOMPARE(plot->geometryOfView().readoutWidth(), 0);
 }
 
-void tst_plotterDg::wheel_data()
+void TestPlotterDg::wheel_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("delta");
@@ -276,7 +279,7 @@ void tst_plotterDg::wheel_data()
     QTest::newRow("without a key does nothing") << 0 << 120 << 1000.0;
 }
 
-void tst_plotterDg::wheel()
+void TestPlotterDg::wheel()
 {
     QFETCH(int, key);
     QFETCH(int, delta);
@@ -290,7 +293,7 @@ void tst_plotterDg::wheel()
     QCOMPARE(plot->view().maxY, maxY);
 }
 
-void tst_plotterDg::neededHeightGrowsWithTheRows()
+void TestPlotterDg::neededHeightGrowsWithTheRows()
 {
     QCOMPARE(plot->neededHeight(), 200);
     for (int i = 3; i < 40; ++i) {
@@ -300,5 +303,5 @@ void tst_plotterDg::neededHeightGrowsWithTheRows()
     QCOMPARE(plot->neededHeight(), 60 + 41 + 41 * 16);
 }
 
-QTEST_MAIN(tst_plotterDg)
+QTEST_MAIN(TestPlotterDg)
 #include "tst_plotterdg.moc"

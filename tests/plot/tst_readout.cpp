@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "plotgeometry.h"
 #include "readout.h"
 #include "textsearch.h"
@@ -41,7 +44,7 @@ PlotGeometry geometryOf(const QSize &widget, int readoutWidth)
 
 } // namespace
 
-class tst_Readout : public QObject {
+class TestReadout : public QObject {
     Q_OBJECT
 
 private slots:
@@ -61,14 +64,14 @@ private:
     QFontMetrics metrics = QFontMetrics(font);
 };
 
-void tst_Readout::nothingIsNeededWithoutACursor()
+void TestReadout::nothingIsNeededWithoutACursor()
 {
     QCOMPARE(Readout().neededWidth(font), 0);
     QCOMPARE(table({{QStringLiteral("Name")}, {QStringLiteral("Ia")}}).neededWidth(font), 0);
 }
 
 // Eight pixels of padding to each text, four on both sides of the table.
-void tst_Readout::aColumnNeedsItsWidestText()
+void TestReadout::aColumnNeedsItsWidestText()
 {
     const Readout readout = table({{QStringLiteral("Name"), QStringLiteral("P1")},
         {QStringLiteral("A long name"), QStringLiteral("0.5")},
@@ -80,7 +83,7 @@ void tst_Readout::aColumnNeedsItsWidestText()
 
 // Rows are four pixels higher than the font from y = 60 on, columns as wide as their widest text
 // and eight pixels more.
-void tst_Readout::cellsStandInTheMiddleOfTheirColumns()
+void TestReadout::cellsStandInTheMiddleOfTheirColumns()
 {
     const QVector<QStringList> rows{
         {QStringLiteral("Parameter"), QStringLiteral("P1 (200)"), QStringLiteral("P2 (450.5)")},
@@ -104,7 +107,7 @@ void tst_Readout::cellsStandInTheMiddleOfTheirColumns()
 
 // Of 180 pixels 172 are for the columns. The middle one needs less than a third and keeps it; the
 // others have half of the rest each and cut their texts.
-void tst_Readout::columnsShareTheRoomWhenTooWide()
+void TestReadout::columnsShareTheRoomWhenTooWide()
 {
     const QString longName = QStringLiteral("Current of the first feeder in the north");
     const QString longHead = QStringLiteral("P2 (123456.78901234 and some more)");
@@ -133,7 +136,7 @@ void tst_Readout::columnsShareTheRoomWhenTooWide()
     QVERIFY(ink.right() < 796);
 }
 
-void tst_Readout::emptyCellsStayEmpty()
+void TestReadout::emptyCellsStayEmpty()
 {
     const Readout readout = table(
         {{QStringLiteral("Name"), QStringLiteral("P1 (1500)")}, {QStringLiteral("Ia"), QString()}});
@@ -147,7 +150,7 @@ void tst_Readout::emptyCellsStayEmpty()
 
 // A header and nine rows in a height of ten times the font's and twenty pixels have two pixels
 // more than the font needs.
-void tst_Readout::rowsMoveTogetherBeforeTheyAreLeftOut()
+void TestReadout::rowsMoveTogetherBeforeTheyAreLeftOut()
 {
     const int height = 60 + 10 * metrics.height() + 20 + 4;
     const QImage image = draw(tableOf(9), geometryOf({800, height}, 150), font);
@@ -157,7 +160,7 @@ void tst_Readout::rowsMoveTogetherBeforeTheyAreLeftOut()
     QCOMPARE(last.top() - first.top(), 8 * (metrics.height() + 2));
 }
 
-void tst_Readout::rowsThatDoNotFitGiveAnEllipsis_data()
+void TestReadout::rowsThatDoNotFitGiveAnEllipsis_data()
 {
     QTest::addColumn<int>("lines"); // of text that there is room for
     QTest::addColumn<int>("rows"); // besides the header
@@ -168,7 +171,7 @@ void tst_Readout::rowsThatDoNotFitGiveAnEllipsis_data()
     QTest::newRow("room for the header and one row") << 2 << 5 << 0;
 }
 
-void tst_Readout::rowsThatDoNotFitGiveAnEllipsis()
+void TestReadout::rowsThatDoNotFitGiveAnEllipsis()
 {
     QFETCH(int, lines);
     QFETCH(int, rows);
@@ -192,7 +195,7 @@ void tst_Readout::rowsThatDoNotFitGiveAnEllipsis()
     QVERIFY(inkRect(image, image.rect()).bottom() < height);
 }
 
-void tst_Readout::nothingIsDrawnWithoutRoom()
+void TestReadout::nothingIsDrawnWithoutRoom()
 {
     const QImage image = draw(tableOf(3), geometryOf({800, 301}, 8), font);
     QVERIFY(inkRect(image, image.rect()).isNull());
@@ -201,7 +204,7 @@ void tst_Readout::nothingIsDrawnWithoutRoom()
 }
 
 // Two columns of 50 pixels each share the room of 100, from x = 704 on.
-void tst_Readout::cellsAreToldInFull()
+void TestReadout::cellsAreToldInFull()
 {
     const Readout readout
         = table({{QStringLiteral("Parameter of a plot"), QStringLiteral("P1 (123456.789)")},
@@ -223,5 +226,5 @@ void tst_Readout::cellsAreToldInFull()
     QCOMPARE(Readout().textAt({760, 70}, geometry, font), QString());
 }
 
-QTEST_MAIN(tst_Readout)
+QTEST_MAIN(TestReadout)
 #include "tst_readout.moc"

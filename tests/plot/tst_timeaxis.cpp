@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "timeaxis.h"
 #include "tracesummary.h"
 
@@ -14,7 +17,7 @@ constexpr double noNumber = std::numeric_limits<double>::quiet_NaN();
 
 } // namespace
 
-class tst_TimeAxis : public QObject {
+class TestTimeAxis : public QObject {
     Q_OBJECT
 
 private slots:
@@ -30,7 +33,7 @@ private slots:
     void extentTellsOfGaps();
 };
 
-void tst_TimeAxis::facts_data()
+void TestTimeAxis::facts_data()
 {
     QTest::addColumn<QVector<double>>("times");
     QTest::addColumn<bool>("ascending");
@@ -47,7 +50,7 @@ void tst_TimeAxis::facts_data()
     QTest::newRow("nothing finite") << Times{infinite} << true << 0.0 << 0.0;
 }
 
-void tst_TimeAxis::facts()
+void TestTimeAxis::facts()
 {
     QFETCH(QVector<double>, times);
     const TimeAxis axis(times);
@@ -57,7 +60,7 @@ void tst_TimeAxis::facts()
     QCOMPARE(axis.times().constData(), times.constData());
 }
 
-void tst_TimeAxis::firstAtOrAfter()
+void TestTimeAxis::firstAtOrAfter()
 {
     const TimeAxis axis({0, 1, 1, 2});
     QCOMPARE(axis.firstAtOrAfter(-1), 0);
@@ -66,13 +69,13 @@ void tst_TimeAxis::firstAtOrAfter()
     QCOMPARE(axis.firstAtOrAfter(3), 4);
 }
 
-void tst_TimeAxis::searchesMayStartLateWhereTimesAscend()
+void TestTimeAxis::searchesMayStartLateWhereTimesAscend()
 {
     QCOMPARE(TimeAxis({0, 1, 1, 2}).searchStart(1.5), 3);
     QCOMPARE(TimeAxis({0, 2, 1, 2}).searchStart(1.5), 0);
 }
 
-void tst_TimeAxis::columnsHoldEverySampleOnce_data()
+void TestTimeAxis::columnsHoldEverySampleOnce_data()
 {
     QTest::addColumn<QVector<double>>("times");
     const auto steady = [](int count) {
@@ -95,7 +98,7 @@ void tst_TimeAxis::columnsHoldEverySampleOnce_data()
     QTest::newRow("bursts with gaps") << bursts;
 }
 
-void tst_TimeAxis::columnsHoldEverySampleOnce()
+void TestTimeAxis::columnsHoldEverySampleOnce()
 {
     QFETCH(QVector<double>, times);
     const TimeAxis axis(times);
@@ -118,7 +121,7 @@ void tst_TimeAxis::columnsHoldEverySampleOnce()
     QCOMPARE(next, times.size());
 }
 
-void tst_TimeAxis::columnsEndRightOfTheArea()
+void TestTimeAxis::columnsEndRightOfTheArea()
 {
     const TimeAxis axis({0, 10, 20, 30, 40});
     const PlotGeometry geometry(QSize(900, 300), 0, {10, 20, 4, 0, 1, 4});
@@ -131,14 +134,14 @@ void tst_TimeAxis::columnsEndRightOfTheArea()
     QCOMPARE(columns[1].last, 3);
 }
 
-void tst_TimeAxis::extentOfAnyRun_data()
+void TestTimeAxis::extentOfAnyRun_data()
 {
     QTest::addColumn<int>("count");
     for (const int count : {1, 15, 16, 17, 255, 256, 257, 5000})
         QTest::addRow("%d samples", count) << count;
 }
 
-void tst_TimeAxis::extentOfAnyRun()
+void TestTimeAxis::extentOfAnyRun()
 {
     QFETCH(int, count);
     std::mt19937 random(7);
@@ -156,7 +159,7 @@ void tst_TimeAxis::extentOfAnyRun()
     }
 }
 
-void tst_TimeAxis::extentTellsOfGaps()
+void TestTimeAxis::extentTellsOfGaps()
 {
     QVector<float> values(1000, 2.0F);
     values[500] = std::numeric_limits<float>::quiet_NaN();
@@ -171,5 +174,5 @@ void tst_TimeAxis::extentTellsOfGaps()
     QVERIFY(summary.extent(3, 3).isEmpty());
 }
 
-QTEST_APPLESS_MAIN(tst_TimeAxis)
+QTEST_APPLESS_MAIN(TestTimeAxis)
 #include "tst_timeaxis.moc"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "tracepainter.h"
 
 #include <QDir>
@@ -96,7 +99,7 @@ void compare(const QImage &thinned, const QImage &full)
 
 } // namespace
 
-class tst_TracePainter : public QObject {
+class TestTracePainter : public QObject {
     Q_OBJECT
 
 private slots:
@@ -112,7 +115,7 @@ private slots:
     void noSamplesDrawNothing();
 };
 
-void tst_TracePainter::thinnedPictureEqualsFull_data()
+void TestTracePainter::thinnedPictureEqualsFull_data()
 {
     QTest::addColumn<int>("count");
     QTest::addColumn<Generator>("value");
@@ -159,7 +162,7 @@ void tst_TracePainter::thinnedPictureEqualsFull_data()
     QTest::newRow("one sample") << 1 << flat << whole << 1.0;
 }
 
-void tst_TracePainter::thinnedPictureEqualsFull()
+void TestTracePainter::thinnedPictureEqualsFull()
 {
     QFETCH(int, count);
     QFETCH(Generator, value);
@@ -174,7 +177,7 @@ void tst_TracePainter::thinnedPictureEqualsFull()
         traceImage(geometry, times, values, factor, false));
 }
 
-void tst_TracePainter::descendingTimesAreNotThinned()
+void TestTracePainter::descendingTimesAreNotThinned()
 {
     QVector<double> times = steadyTimes(5000);
     std::reverse(times.begin(), times.end());
@@ -189,7 +192,7 @@ void tst_TracePainter::descendingTimesAreNotThinned()
 
 // Value 0 stands at y = 159.5, drawn on row 160. With samples at x = 100, 500 and 900 and the view
 // begun after the first, the line begins at the second.
-void tst_TracePainter::samplesLeftOfTheViewAreSkipped()
+void TestTracePainter::samplesLeftOfTheViewAreSkipped()
 {
     const PlotGeometry geometry(size, 0, {1, 1001, 4, -1, 1, 4});
     const QImage image = traceImage(geometry, {0, 501, 900}, {0, 0, 0}, 1, true);
@@ -198,7 +201,7 @@ void tst_TracePainter::samplesLeftOfTheViewAreSkipped()
     QCOMPARE(image.pixel(700, 160), QColor(Qt::green).rgba());
 }
 
-void tst_TracePainter::theLineLeavesTheAreaOnTheRight()
+void TestTracePainter::theLineLeavesTheAreaOnTheRight()
 {
     const PlotGeometry geometry(size, 0, {0, 100, 4, -1, 1, 4});
     QVector<double> times = steadyTimes(5000); // 0.2 ms apart
@@ -207,14 +210,14 @@ void tst_TracePainter::theLineLeavesTheAreaOnTheRight()
     QCOMPARE(qAlpha(thinned.pixel(898, 160)), 0); // clipped at the frame
 }
 
-void tst_TracePainter::valuesAreMultipliedByTheFactor()
+void TestTracePainter::valuesAreMultipliedByTheFactor()
 {
     const PlotGeometry geometry(QSize(900, 301), 0, {0, 1000, 4, -100, 100, 4});
     const QImage image = traceImage(geometry, {0, 1000}, {1, 1}, 50, true);
     QCOMPARE(image.pixel(400, 110), QColor(Qt::green).rgba()); // value 50, a quarter down
 }
 
-void tst_TracePainter::anInfiniteFactorDrawsNothing()
+void TestTracePainter::anInfiniteFactorDrawsNothing()
 {
     const PlotGeometry geometry(size, 0, {0, 1000, 4, -1, 1, 4});
     QCOMPARE(litPixels(traceImage(
@@ -222,7 +225,7 @@ void tst_TracePainter::anInfiniteFactorDrawsNothing()
         0);
 }
 
-void tst_TracePainter::gapsBreakTheLine()
+void TestTracePainter::gapsBreakTheLine()
 {
     const PlotGeometry geometry(size, 0, {0, 800, 4, -1, 1, 4});
     const QImage image
@@ -233,7 +236,7 @@ void tst_TracePainter::gapsBreakTheLine()
     QCOMPARE(image.pixel(450, 160), QColor(Qt::green).rgba());
 }
 
-void tst_TracePainter::aSampleBetweenGapsIsAPoint()
+void TestTracePainter::aSampleBetweenGapsIsAPoint()
 {
     const PlotGeometry geometry(size, 0, {0, 800, 4, -1, 1, 4});
     const QImage image = traceImage(geometry, {0, 100, 200}, {noNumber, 0, noNumber}, 1, true);
@@ -241,12 +244,12 @@ void tst_TracePainter::aSampleBetweenGapsIsAPoint()
     QCOMPARE(image.pixel(200, 160), QColor(Qt::green).rgba());
 }
 
-void tst_TracePainter::noSamplesDrawNothing()
+void TestTracePainter::noSamplesDrawNothing()
 {
     const PlotGeometry geometry(size, 0, {0, 800, 4, -1, 1, 4});
     QCOMPARE(litPixels(traceImage(geometry, {}, {}, 1, true)), 0);
     QCOMPARE(litPixels(traceImage(geometry, {0, 1}, {}, 1, true)), 0);
 }
 
-QTEST_MAIN(tst_TracePainter)
+QTEST_MAIN(TestTracePainter)
 #include "tst_tracepainter.moc"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #pragma once
 
 #include "applicationidentity.h"
@@ -9,8 +12,8 @@
 #include <QPointer>
 #include <QSettings>
 #include <QStandardPaths>
-#include <QTest>
 #include <QTimer>
+#include <QtTest>
 
 #include <utility>
 

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 Norvale
+# SPDX-License-Identifier: GPL-3.0-or-later
+#
 # For scripts that drive the real viewer on an X server of its own; to be sourced.
 # shellcheck shell=bash
 

@@ -1,7 +1,10 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include <QtTest>
 
 // The launcher of the archiver, with small scripts in the place of the archivers.
-class ArchiverTest : public QObject {
+class TestArchiver : public QObject {
     Q_OBJECT
 
 private:
@@ -122,5 +125,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(ArchiverTest)
+QTEST_GUILESS_MAIN(TestArchiver)
 #include "tst_archiver.moc"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "analogchannel.h"
 #include "cfgproperties.h"
 #include "digitalchannel.h"
@@ -23,7 +26,7 @@ QByteArray content(const QString &path)
 } // namespace
 
 // The generator of recordings, run as a program.
-class MakeRecordingTest : public QObject {
+class TestMakeRecording : public QObject {
     Q_OBJECT
 
 private:
@@ -508,5 +511,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(MakeRecordingTest)
+QTEST_GUILESS_MAIN(TestMakeRecording)
 #include "tst_makerecording.moc"
