@@ -30,23 +30,6 @@ bool take(const QRect &wanted, QVector<QRect> &taken)
 
 } // namespace
 
-QFrame *makePlotLine(QWidget *plot, const QString &name, const QString &color)
-{
-    auto *line = new QFrame(plot);
-    line->setObjectName(name);
-    line->setFrameStyle(QFrame::VLine | QFrame::Plain);
-    line->setLineWidth(1);
-    line->setStyleSheet(QStringLiteral("QFrame{color: %1; border-color: %1;}").arg(color));
-    line->setAttribute(Qt::WA_TransparentForMouseEvents);
-    line->hide();
-    return line;
-}
-
-QRect plotLineAt(int x, const PlotGeometry &geometry)
-{
-    return {QPoint(x, PlotGeometry::top), QPoint(x, geometry.plotHeight())};
-}
-
 QList<double> CursorMarks::times() const
 {
     QList<double> times;
@@ -65,8 +48,7 @@ int CursorMarks::cursorOf(const QLabel *label) const
 void CursorMarks::add(double time)
 {
     Cursor cursor{time,
-        std::unique_ptr<QFrame>(
-            makePlotLine(m_plot, QStringLiteral("cursorLine"), QStringLiteral("#fffa50"))),
+        std::make_unique<PlotLine>(m_plot, QStringLiteral("cursorLine"), QStringLiteral("#fffa50")),
         std::make_unique<CustomLabel>(m_plot)};
     CustomLabel *label = cursor.label.get();
     label->setObjectName(QStringLiteral("lineLabel"));
@@ -113,7 +95,7 @@ void CursorMarks::place(const PlotGeometry &geometry)
     for (const Cursor &cursor : m_cursors) {
         const int x = PlotGeometry::pixel(geometry.cursorX(cursor.time));
         const bool isInView = x >= area.left() && x <= area.right();
-        cursor.line->setGeometry(plotLineAt(x, geometry));
+        cursor.line->place(x, geometry);
         cursor.line->setVisible(isInView);
         cursor.label->setVisible(isInView);
         if (!isInView)

@@ -4,8 +4,8 @@
 #pragma once
 
 #include "customlabel.h"
+#include "plotline.h"
 
-#include <QFrame>
 #include <QList>
 #include <QVector>
 
@@ -15,11 +15,6 @@
 
 class PlotGeometry;
 class QPainter;
-
-// A vertical line over a plot; the mouse passes through it. Hidden at first.
-QFrame *makePlotLine(QWidget *plot, const QString &name, const QString &color);
-// The place of such a line: from the top of the plot area down to its bottom edge.
-QRect plotLineAt(int x, const PlotGeometry &geometry);
 
 // The cursors of a plot: times, each with a line and with a label to drag it by, both children of
 // the plot. Cursors count from 0, in the order in which they were set; their labels count from 1.
@@ -60,7 +55,7 @@ public:
 private:
     struct Cursor {
         double time; // ms
-        std::unique_ptr<QFrame> line;
+        std::unique_ptr<PlotLine> line;
         std::unique_ptr<CustomLabel> label;
     };
 

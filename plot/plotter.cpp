@@ -9,10 +9,10 @@
 #include "channelvalues.h"
 #include "labeltext.h"
 #include "plothost.h"
+#include "plotline.h"
 
 #include <QApplication>
 #include <QColorDialog>
-#include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
@@ -40,10 +40,10 @@ Plotter::Plotter(QWidget *parent)
       plotType(QStringLiteral("Analog")),
       plotterLabel(new QLabel(this)),
       timeLabel(new QLabel(this)),
-      timeLine(makePlotLine(this, QStringLiteral("timeline"), QStringLiteral("white"))),
+      timeLine(new PlotLine(this, QStringLiteral("timeline"), QStringLiteral("white"))),
       labelEditor(new QLineEdit(this)),
-      startMarker(makePlotLine(this, QStringLiteral("startMarker"), QStringLiteral("red"))),
-      endMarker(makePlotLine(this, QStringLiteral("endMarker"), QStringLiteral("red"))),
+      startMarker(new PlotLine(this, QStringLiteral("startMarker"), QStringLiteral("red"))),
+      endMarker(new PlotLine(this, QStringLiteral("endMarker"), QStringLiteral("red"))),
       cursorMarks(this),
       hostWidget(parent),
       colorDialog(new QColorDialog(Qt::white, this)),

@@ -21,6 +21,7 @@
 class AnalogChannel;
 class CFGProperties;
 class PlotHost;
+class PlotLine;
 class QColorDialog;
 class QLabel;
 class QLineEdit;
@@ -202,10 +203,10 @@ private:
     QString plotTitle; // in full; empty before the first setupPlot()
     QString titleByName; // the latest one that was made from the name
     QLabel *timeLabel;
-    QFrame *timeLine;
+    PlotLine *timeLine;
     QLineEdit *labelEditor;
-    QFrame *startMarker;
-    QFrame *endMarker;
+    PlotLine *startMarker;
+    PlotLine *endMarker;
     bool startMarkerSet = false;
     bool endMarkerSet = false;
     int startMarkerTime = 0; // ms

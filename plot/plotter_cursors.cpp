@@ -8,6 +8,7 @@
 #include "baselayer.h"
 #include "labeltext.h"
 #include "plothost.h"
+#include "plotline.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -33,7 +34,7 @@ void Plotter::showTimeLine(int x)
     timeLabel->move(x + 15, 45);
     timeLabel->show();
     timeLabel->lower();
-    timeLine->setGeometry(plotLineAt(x, geometry));
+    timeLine->place(x, geometry);
     timeLine->show();
     if (cursorMarks.differencesChange(before, timeLabelPlace())) {
         paintOverlay();
@@ -135,9 +136,9 @@ void Plotter::placeMarks()
     cursorMarks.place(geometry);
     if (timeLine->isVisible())
         showTimeLine(timeLine->x()); // at another time now
-    const auto placeMarker = [&](QFrame *marker, bool isSet, int time) {
+    const auto placeMarker = [&](PlotLine *marker, bool isSet, int time) {
         const int x = PlotGeometry::pixel(geometry.traceX(time));
-        marker->setGeometry(plotLineAt(x, geometry));
+        marker->place(x, geometry);
         marker->setVisible(isSet && x <= geometry.plotWidth() + 99);
     };
     placeMarker(startMarker, startMarkerSet, startMarkerTime);

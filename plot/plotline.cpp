@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "plotline.h"
+
+#include "plotgeometry.h"
+
+#include <QPainter>
+
+PlotLine::PlotLine(QWidget *plot, const QString &name, const QString &color) : QFrame(plot)
+{
+    setObjectName(name);
+    setFrameStyle(QFrame::VLine | QFrame::Plain);
+    setLineWidth(1);
+    setStyleSheet(QStringLiteral("QFrame{color: %1; border-color: %1;}").arg(color));
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    hide();
+}
+
+void PlotLine::place(int x, const PlotGeometry &geometry)
+{
+    setGeometry(QRect(QPoint(x, PlotGeometry::top), QPoint(x, geometry.plotHeight())));
+}
+
+// The frame's own line may miss the device pixels of a widget one pixel wide where the scale factor
+// is no whole number.
+void PlotLine::paintEvent(QPaintEvent * /*event*/)
+{
+    QPainter(this).fillRect(rect(), palette().color(foregroundRole()));
+}
