@@ -67,7 +67,7 @@ MainWindow::MainWindow(QWidget *parent)
     connect(ui->listWidget, &QListWidget::itemSelectionChanged, this,
         &MainWindow::setRequiredAnChannels);
     connect(ui->listWidget2, &QListWidget::itemSelectionChanged, this,
-        [this] { on_listWidget2_clicked(QModelIndex()); });
+        &MainWindow::setRequiredDigitalChannels);
     setAcceptDrops(true);
 }
 

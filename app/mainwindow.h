@@ -137,8 +137,9 @@ private:
     void disposePlots();
     QStringList analogNames() const;
     bool hasPhasors() const; // of the recording on screen; spectra are offered then
-    void connectSaveMarkers(Plotter *plot);
+    void equip(Plotter *plot); // a new one, with what it needs of the window
     void linkPlots();
+    void setRequiredDigitalChannels(); // as setRequiredAnChannels()
     void showChosenChannels();
     void setColumnHeight();
     void refreshSpectra();

@@ -76,7 +76,7 @@ int MainWindow::valueMode() const
 
 int MainWindow::referenceIndex() const
 {
-    return qMax(0, referenceCombo->currentIndex());
+    return std::max(0, referenceCombo->currentIndex());
 }
 
 bool MainWindow::showsAngles() const
@@ -119,30 +119,17 @@ void MainWindow::createPlots()
     }
 
     analogPlotter = new Plotter(ui->scrollWidget);
-    analogPlotter->setMinimumHeight(smallestPlotHeight);
     analogPlotter->setMaximumHeight(largestPlotHeight);
-    connect(zoomResetAct, &QAction::triggered, analogPlotter, &Plotter::customResetZoom);
-    connect(zoomOutAct, &QAction::triggered, analogPlotter, &Plotter::customZoomOut);
-    connect(zoomInAct, &QAction::triggered, analogPlotter, &Plotter::customZoomIn);
-    connect(vZoomOutAct, &QAction::triggered, analogPlotter, &Plotter::customVZoomOut);
-    connect(vZoomInAct, &QAction::triggered, analogPlotter, &Plotter::customVZoomIn);
-    connect(ctvtDialog, &CTVTDialog::scaleChanged, analogPlotter, &Plotter::refreshSlot);
-    connectSaveMarkers(analogPlotter);
-
     digitalPlotter = new plotterDg(ui->scrollWidget);
+    for (Plotter *plot : {analogPlotter, static_cast<Plotter *>(digitalPlotter)}) {
+        equip(plot);
+        plotLayout->addWidget(plot);
+    }
     retranslatePlots();
-    connect(zoomResetAct, &QAction::triggered, digitalPlotter, &Plotter::customResetZoom);
-    connectSaveMarkers(digitalPlotter);
-
-    for (Plotter *plot : plots())
-        plot->setMainWindow(this);
-    plotLayout->addWidget(analogPlotter);
-    plotLayout->addWidget(digitalPlotter);
     linkPlots();
-    connect(horizontalScroll, &QScrollBar::valueChanged, analogPlotter, &Plotter::scrolling);
-    connect(horizontalScroll, &QScrollBar::valueChanged, digitalPlotter, &Plotter::scrolling);
 
-    for (int i = 0; i < qMin(firstPlotChannels, cfgProperties->analogChannels.size()); ++i)
+    const int shown = std::min(firstPlotChannels, cfgProperties->analogChannels.size());
+    for (int i = 0; i < shown; ++i)
         analogPlotter->addChannel(i);
     for (int i = 0; i < cfgProperties->digitalChannels.size(); ++i) {
         if (!cfgProperties->digitalChannels.at(i)->allZero)
@@ -187,11 +174,26 @@ void MainWindow::disposePlots()
     horizontalScroll = nullptr;
 }
 
-void MainWindow::connectSaveMarkers(Plotter *plot)
+// The digital plot and the added ones hear of time zooms through the first plot, never from the
+// actions.
+void MainWindow::equip(Plotter *plot)
 {
+    plot->setMainWindow(this);
+    plot->setMinimumHeight(smallestPlotHeight);
+    connect(zoomResetAct, &QAction::triggered, plot, &Plotter::customResetZoom);
+    if (plot == analogPlotter) {
+        connect(zoomOutAct, &QAction::triggered, plot, &Plotter::customZoomOut);
+        connect(zoomInAct, &QAction::triggered, plot, &Plotter::customZoomIn);
+    }
+    if (plot != digitalPlotter) {
+        connect(vZoomOutAct, &QAction::triggered, plot, &Plotter::customVZoomOut);
+        connect(vZoomInAct, &QAction::triggered, plot, &Plotter::customVZoomIn);
+        connect(ctvtDialog, &CTVTDialog::scaleChanged, plot, &Plotter::refreshSlot);
+    }
     connect(saveDialog, &SaveDialog::setStartPoint, plot, &Plotter::setStartPoint);
     connect(saveDialog, &SaveDialog::setEndPoint, plot, &Plotter::setEndPoint);
     connect(saveDialog, &SaveDialog::clearPoints, plot, &Plotter::clearSaveMarkers);
+    connect(horizontalScroll, &QScrollBar::valueChanged, plot, &Plotter::scrolling);
 }
 
 void MainWindow::linkPlots()
@@ -230,6 +232,11 @@ void MainWindow::on_listWidget_clicked(const QModelIndex & /*index*/)
     setRequiredAnChannels();
 }
 
+void MainWindow::on_listWidget2_clicked(const QModelIndex & /*index*/)
+{
+    setRequiredDigitalChannels();
+}
+
 void MainWindow::setRequiredAnChannels()
 {
     if (!analogPlotter || !showSelection(*ui->listWidget, *analogPlotter))
@@ -238,7 +245,7 @@ void MainWindow::setRequiredAnChannels()
     analogPlotter->refreshPixmap();
 }
 
-void MainWindow::on_listWidget2_clicked(const QModelIndex & /*index*/)
+void MainWindow::setRequiredDigitalChannels()
 {
     if (!digitalPlotter || !showSelection(*ui->listWidget2, *digitalPlotter))
         return;
@@ -282,7 +289,7 @@ void MainWindow::addPlotter(const QList<QString> &AnCheckedChannels)
     if (given.isEmpty())
         plot->setProperty(numberOfUnnamed, ++graphCount);
     plot->setName(given.isEmpty() ? tr("Graph %1").arg(graphCount) : given);
-    plot->setMainWindow(this);
+    equip(plot);
     plotLayout->insertWidget(plotLayout->indexOf(digitalPlotter), plot);
     setTabOrder(addedPlotters.isEmpty() ? analogPlotter : addedPlotters.constLast(), plot);
     addedPlotters.append(plot);
@@ -291,13 +298,6 @@ void MainWindow::addPlotter(const QList<QString> &AnCheckedChannels)
 
     for (const int number : qAsConst(numbers))
         plot->addChannel(number);
-    plot->setMinimumHeight(smallestPlotHeight);
-    connect(zoomResetAct, &QAction::triggered, plot, &Plotter::customResetZoom);
-    connect(vZoomOutAct, &QAction::triggered, plot, &Plotter::customVZoomOut);
-    connect(vZoomInAct, &QAction::triggered, plot, &Plotter::customVZoomIn);
-    connect(ctvtDialog, &CTVTDialog::scaleChanged, plot, &Plotter::refreshSlot);
-    connectSaveMarkers(plot);
-    connect(horizontalScroll, &QScrollBar::valueChanged, plot, &Plotter::scrolling);
     plot->setupPlot();
     plot->followFromNowOn(*analogPlotter);
     plot->show();
