@@ -12,12 +12,12 @@
 #include "plotvalues.h"
 #include "savedialog.h"
 #include "temporaryfolder.h"
+#include "timeofday.h"
 #include "ui_mainwindow.h"
 #include "vectordialog.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QDir>
 #include <QDropEvent>
 #include <QEventLoop>
@@ -63,15 +63,9 @@ QLabel *newLoadingAnimation(QWidget *window)
     return label;
 }
 
-// Date and time are read apart and joined as UTC, so that no hour falls into the gap that daylight
-// saving leaves in local time. Invalid where one of them does not read.
 QDateTime toLocalTime(const QString &date, const QString &time, const QString &dateFormat)
 {
-    const QDate day = QDate::fromString(date.trimmed(), dateFormat);
-    const QTime timeOfDay = QTime::fromString(time.trimmed(), QStringLiteral("hh:mm:ss.zzz"));
-    if (!timeOfDay.isValid())
-        return QDateTime(); // the toolkit would take it as midnight
-    return QDateTime(day, timeOfDay, Qt::UTC).toLocalTime();
+    return joinedAsUtc(date.trimmed(), dateFormat, time.trimmed()).toLocalTime();
 }
 
 // A name as it is shown. The standard allows 64 letters; millions would keep the window from its
@@ -340,15 +334,14 @@ void MainWindow::showTimes()
 
 void MainWindow::showTimesAsLocal(const QString &dateFormat)
 {
-    const QString timeFormat = QStringLiteral("hh:mm:ss.zzz");
     const QDateTime start
         = toLocalTime(cfgProperties->startDate, cfgProperties->startTime, dateFormat);
     const QDateTime trigger
         = toLocalTime(cfgProperties->triggerDate, cfgProperties->triggerTime, dateFormat);
     ui->label9->setText(start.toString(dateFormat));
-    ui->label10->setText(start.toString(timeFormat));
+    ui->label10->setText(start.toString(timeOfDayFormat));
     ui->label11->setText(trigger.toString(dateFormat));
-    ui->label12->setText(trigger.toString(timeFormat));
+    ui->label12->setText(trigger.toString(timeOfDayFormat));
 }
 
 void MainWindow::setCurrentFile(const QString &path)

@@ -8,6 +8,7 @@
 #include "cfgproperties.h"
 #include "ctvtdialog.h"
 #include "plotcapture.h"
+#include "plotstyle.h"
 #include "plotterdg.h"
 #include "recordingwriter.h"
 #include "savedialog.h"
@@ -17,15 +18,6 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
-
-namespace {
-
-constexpr char captureStyle[] = "Plotter{background-color: transparent;}";
-constexpr char screenStyle[] = "Plotter{background-color: #313034; border: 2px outset "
-                               "qlineargradient(x1: 0, y1: 0, x2: 0, y2: 1, stop: 0 #616064, "
-                               "stop: 1 #313034);}";
-
-} // namespace
 
 QList<Plotter *> MainWindow::plots() const
 {
@@ -56,7 +48,7 @@ void MainWindow::stylePlots(const QString &styleSheet)
 
 QPixmap MainWindow::capture(CaptureTarget target)
 {
-    stylePlots(QLatin1String(captureStyle));
+    stylePlots(captureStyle);
     // The smooth edges of letters would turn as black as the letters and fill their holes.
     smoothLetters(false);
     if (digitalPlotter)
@@ -88,13 +80,13 @@ void MainWindow::saveScreenShot()
     if (path.isEmpty())
         return;
     picture.save(path, format.toLatin1().constData());
-    stylePlots(QLatin1String(screenStyle));
+    stylePlots(screenStyle);
 }
 
 void MainWindow::copyToClipboard()
 {
     QGuiApplication::clipboard()->setPixmap(capture(CaptureTarget::Clipboard));
-    stylePlots(QLatin1String(screenStyle));
+    stylePlots(screenStyle);
 }
 
 void MainWindow::about()

@@ -3,9 +3,12 @@
 
 #include "plotcapture.h"
 
+#include "timeofday.h"
+
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QPainter>
+
+#include <cstdlib>
 
 namespace {
 
@@ -21,7 +24,7 @@ bool isLightGrey(QRgb pixel)
     const int g = qGreen(pixel);
     const int b = qBlue(pixel);
     return r >= darkestLight && g >= darkestLight && b >= darkestLight
-        && qAbs(r - g) <= greyTolerance && qAbs(b - g) <= greyTolerance;
+        && std::abs(r - g) <= greyTolerance && std::abs(b - g) <= greyTolerance;
 }
 
 } // namespace
@@ -56,13 +59,9 @@ void recolour(QImage &image, CaptureTarget target)
 
 QString captureCaption(const QString &startDate, const QString &startTime)
 {
-    // Parsed apart and joined as UTC: no hour is missing when the clocks change.
-    const QDate date = QDate::fromString(startDate, QStringLiteral("dd/MM/yyyy"));
-    const QTime time = QTime::fromString(startTime, QStringLiteral("hh:mm:ss.zzz"));
-    QString text;
-    if (date.isValid() && time.isValid()) {
-        text = QDateTime(date, time, Qt::UTC).toString(QStringLiteral("dd/MM/yyyy hh:mm:ss.zzz"));
-    }
+    const QString dateFormat = QStringLiteral("dd/MM/yyyy");
+    const QString text = joinedAsUtc(startDate, dateFormat, startTime)
+                             .toString(dateFormat + QLatin1Char(' ') + timeOfDayFormat);
     return QCoreApplication::translate("MainWindow", "Start: %1    Trigger: %2").arg(text, text);
 }
 

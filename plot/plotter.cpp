@@ -10,6 +10,7 @@
 #include "labeltext.h"
 #include "plothost.h"
 #include "plotline.h"
+#include "plotstyle.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -76,9 +77,7 @@ Plotter::Plotter(QWidget *parent)
     connect(labelEditor, &QLineEdit::editingFinished, this, &Plotter::labelEditFinished);
     connect(labelEditor, &QLineEdit::returnPressed, this, &Plotter::labelEditConfirm);
 
-    setStyleSheet(QStringLiteral(
-        "Plotter{background-color: #313034; border: 2px outset qlineargradient(x1: 0, y1: 0, x2: "
-        "0, y2: 1, stop: 0 #616064, stop: 1 #313034);}"));
+    setStyleSheet(screenStyle);
 }
 
 Plotter::~Plotter()

@@ -6,9 +6,9 @@
 #include "cfgproperties.h"
 #include "numbers.h"
 #include "textlines.h"
+#include "timeofday.h"
 
 #include <QIODevice>
-#include <QTime>
 
 namespace {
 
@@ -117,12 +117,10 @@ void readLine(CFGProperties &recording, const QString &line)
 
 void readTimeStamps(CFGProperties &recording)
 {
-    constexpr int length = 12; // hh:mm:ss.zzz
-    recording.triggerTime.truncate(length);
-    recording.startTime.truncate(length);
-    const QString format = QStringLiteral("hh:mm:ss.zzz");
-    const QTime start = QTime::fromString(recording.startTime, format);
-    const QTime trigger = QTime::fromString(recording.triggerTime, format);
+    recording.triggerTime.truncate(timeOfDayFormat.size());
+    recording.startTime.truncate(timeOfDayFormat.size());
+    const QTime start = QTime::fromString(recording.startTime, timeOfDayFormat);
+    const QTime trigger = QTime::fromString(recording.triggerTime, timeOfDayFormat);
     recording.triggerOffsetMs = start.msecsTo(trigger); // 0 where one of them is no time
 }
 

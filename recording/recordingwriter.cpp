@@ -5,10 +5,10 @@
 
 #include "cfgproperties.h"
 #include "numbers.h"
+#include "timeofday.h"
 
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QTime>
 
 #include <algorithm>
 #include <array>
@@ -23,7 +23,6 @@
 namespace {
 
 const QLatin1String extension(".cfg");
-const QString timeFormat = QStringLiteral("hh:mm:ss.zzz");
 constexpr int blockSize = 1 << 18; // bytes written at once
 constexpr int mostDigits = 320; // of a double without decimals, and its sign
 constexpr int mostDigitsOfSample = 48; // of a float or an int without decimals, sign and comma
@@ -295,13 +294,14 @@ QString RecordingWriter::digitalLine(int row) const
 // The dates stay, also when the range crosses midnight.
 QStringList RecordingWriter::timeStampLines(const Span &span) const
 {
-    const QTime start = moved(QTime::fromString(m_recording.startTime, timeFormat), span.start);
+    const QTime start
+        = moved(QTime::fromString(m_recording.startTime, timeOfDayFormat), span.start);
     const QTime end = moved(start, span.elapsed);
-    QTime trigger = QTime::fromString(m_recording.triggerTime, timeFormat);
+    QTime trigger = QTime::fromString(m_recording.triggerTime, timeOfDayFormat);
     if (!(start <= trigger && trigger <= end))
         trigger = start;
-    return {m_recording.startDate + QLatin1Char(',') + start.toString(timeFormat),
-        m_recording.triggerDate + QLatin1Char(',') + trigger.toString(timeFormat)};
+    return {m_recording.startDate + QLatin1Char(',') + start.toString(timeOfDayFormat),
+        m_recording.triggerDate + QLatin1Char(',') + trigger.toString(timeOfDayFormat)};
 }
 
 char *RecordingWriter::writeDataLine(char *at, int sample, double firstTime) const
