@@ -1,13 +1,15 @@
 # SPDX-FileCopyrightText: 2026 Norvale
 # SPDX-License-Identifier: GPL-3.0-or-later
 
-# cmake --install: what belongs to an installed viewer, below any prefix. The executable and the launcher of
-# the archiver lie in one private folder, since the viewer looks for it beside itself; the command is a link.
+# cmake --install: what belongs to an installed viewer, below any prefix. The executable and the
+# launcher of the archiver lie in one private folder, since the viewer looks for it beside itself;
+# the command is a link.
 include(GNUInstallDirs)
 
 set(private "${CMAKE_INSTALL_LIBEXECDIR}/wavorin")
 install(TARGETS wavorin archiver RUNTIME DESTINATION "${private}")
-file(RELATIVE_PATH executable "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBEXECDIR}/wavorin/wavorin")
+file(RELATIVE_PATH executable
+    "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBEXECDIR}/wavorin/wavorin")
 file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/install")
 file(CREATE_LINK "${executable}" "${CMAKE_BINARY_DIR}/install/wavorin" SYMBOLIC)
 install(FILES "${CMAKE_BINARY_DIR}/install/wavorin" DESTINATION "${CMAKE_INSTALL_BINDIR}")

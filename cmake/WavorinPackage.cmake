@@ -17,13 +17,15 @@ set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://www.norvale.example")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # One of the three kinds of recordings cannot be opened without an archiver.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "7zip | p7zip-full")
-# The Chinese face needs letters that a bare system lacks.
+# The Chinese user interface needs a font that a bare system lacks.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-noto-cjk")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "viewer for disturbance recordings of protection relays")
 set(CPACK_PACKAGE_DESCRIPTION
-"Wavorin shows what happened in a power system, when, and how large it was.
+"Wavorin is a viewer for protection engineers. It shows what happened in a
+power system, when, and how large it was.
+
 It opens COMTRADE recordings of the 1999 layout with ASCII samples, device
-packages that hold one, and text exports.
+packages that contain one, and text exports.
 
 Analog channels are drawn as waveforms and digital channels as bands over
 one time axis, as primary, secondary or per-unit values. Cursors, phasor
