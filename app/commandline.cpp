@@ -18,8 +18,3 @@ QString pathArgument(int argc, const char *const *argv)
     return QString::fromLatin1(latin1Argument(argv[1]));
 #endif
 }
-
-bool opensAtStart(const QString &path)
-{
-    return path.endsWith(QLatin1String(".zip")) || path.endsWith(QLatin1String(".cfg"));
-}

@@ -13,7 +13,3 @@ QByteArray latin1Argument(const char *argument);
 // The path on the command line, argument 1 read as Latin-1; null where there is none. The Windows
 // start-up code has turned the arguments into 8-bit text before; elsewhere it is done here.
 QString pathArgument(int argc, const char *const *argv);
-
-// Whether start-up opens this path: a package or a configuration file, by its lower-case ending.
-// Text exports are opened from the dialog only.
-bool opensAtStart(const QString &path);

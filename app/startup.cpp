@@ -3,7 +3,7 @@
 
 #include "startup.h"
 
-#include "commandline.h"
+#include "filekind.h"
 #include "mainwindow.h"
 
 #include <QApplication>

@@ -79,7 +79,7 @@ CFGProperties::~CFGProperties() = default;
 void CFGProperties::init()
 {
     clearConfig();
-    if (filePath.endsWith(QLatin1String(".txt"))) {
+    if (isTextExport(filePath)) {
         readTxtFile();
         loaded = 1;
     } else {

@@ -3,12 +3,23 @@
 
 #pragma once
 
-#include <QFileInfo>
+class QString;
 
-// Whether a path leads to what is no file and no folder. Reading it could wait for ever, or never
-// end.
-inline bool isPipeOrDevice(const QString &path)
-{
-    const QFileInfo there(path);
-    return there.exists() && !there.isFile() && !there.isDir();
-}
+// What a file is taken for, by its path. Every question has a rule of its own, on purpose: "A.CFG"
+// opens from the dialog but not at start, and "data.TXT" is loaded, yet not as a text export.
+
+// Start-up opens it: the path ends with ".zip" or ".cfg", in small letters.
+bool opensAtStart(const QString &path);
+
+// It is unpacked: ".zip" stands anywhere in the path, in any case.
+bool isPackage(const QString &path);
+
+// It is loaded as a recording: ".cfg" or ".txt" stands anywhere in the path, in any case.
+bool isRecording(const QString &path);
+
+// A recording is read as a text export, not as a configuration: the path ends with ".txt", in small
+// letters.
+bool isTextExport(const QString &path);
+
+// It is neither a file nor a folder. Reading it could wait for ever, or never end.
+bool isPipeOrDevice(const QString &path);

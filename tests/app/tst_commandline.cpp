@@ -11,37 +11,12 @@ class TestCommandLine : public QObject {
     Q_OBJECT
 
 private slots:
-    void opensAtStart_data();
-    void opensAtStart();
     void readsArgumentOne_data();
     void readsArgumentOne();
     void missingArgumentIsNull();
     void furtherArgumentsAreIgnored();
     void eightBitTextIsLatin1();
 };
-
-void TestCommandLine::opensAtStart_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<bool>("opens");
-    QTest::newRow("a package") << QStringLiteral("/rec/a.zip") << true;
-    QTest::newRow("a configuration file") << QStringLiteral("/rec/a.cfg") << true;
-    QTest::newRow("a package in capitals does not count") << QStringLiteral("/rec/A.ZIP") << false;
-    QTest::newRow("a configuration file in capitals does not count")
-        << QStringLiteral("/rec/A.CFG") << false;
-    QTest::newRow("a text export is for the dialog only") << QStringLiteral("/rec/a.txt") << false;
-    QTest::newRow("the data file does not count") << QStringLiteral("/rec/a.dat") << false;
-    QTest::newRow("the ending must be last") << QStringLiteral("/rec/a.cfg.bak") << false;
-    QTest::newRow("a folder's name does not count") << QStringLiteral("/rec.zip/a") << false;
-    QTest::newRow("the ending alone") << QStringLiteral(".cfg") << true;
-    QTest::newRow("no argument") << QString() << false;
-}
-
-void TestCommandLine::opensAtStart()
-{
-    QFETCH(QString, path);
-    QTEST(::opensAtStart(path), "opens");
-}
 
 void TestCommandLine::readsArgumentOne_data()
 {

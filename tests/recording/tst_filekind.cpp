@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "filekind.h"
+
+#include <QtTest>
+
+class TestFileKind : public QObject {
+    Q_OBJECT
+
+private slots:
+    void goesByThePath_data();
+    void goesByThePath();
+    void whatIsReadEndsAndComesAtOnce_data();
+    void whatIsReadEndsAndComesAtOnce();
+};
+
+void TestFileKind::goesByThePath_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<bool>("atStart");
+    QTest::addColumn<bool>("package");
+    QTest::addColumn<bool>("recording");
+    QTest::addColumn<bool>("textExport");
+    const auto row = [](const char *name, const char *path, const char *kinds) {
+        const QByteArray answers(kinds);
+        QTest::newRow(name) << QString::fromLatin1(path) << answers.contains('s')
+                            << answers.contains('p') << answers.contains('r')
+                            << answers.contains('t');
+    };
+    // s: opens at start, p: package, r: recording, t: text export
+    row("a package", "/rec/a.zip", "sp");
+    row("a package in capitals", "/rec/A.ZIP", "p");
+    row("a package in mixed letters", "/rec/A.Zip", "p");
+    row("the package's ending in the middle", "/rec/a.zip.1", "p");
+    row("a folder named like a package", "/rec.zip/a", "p");
+    row("a configuration in a folder named like a package", "/rec.zip/a.cfg", "spr");
+    row("a configuration", "/rec/a.cfg", "sr");
+    row("a configuration in capitals", "/rec/A.CFG", "r");
+    row("a configuration in mixed letters", "/rec/A.Cfg", "r");
+    row("the configuration's ending in the middle", "/rec/a.cfg.bak", "r");
+    row("a package named after a configuration", "/rec/a.cfg.zip", "spr");
+    row("a configuration named after a package", "/rec/a.zip.cfg", "spr");
+    row("a text export", "/rec/a.txt", "rt");
+    row("a text export in capitals", "/rec/A.TXT", "r");
+    row("the text's ending in the middle", "/rec/a.txt.bak", "r");
+    row("a text in a folder named like a configuration", "/rec.cfg/a.txt", "rt");
+    row("a configuration named after a text", "/rec/a.txt.cfg", "sr");
+    row("a data file", "/rec/a.dat", "");
+    row("no point before the ending", "/rec/acfg", "");
+    row("another ending", "/rec/a.pdf", "");
+    row("the ending alone", ".cfg", "sr");
+    row("no path", "", "");
+}
+
+void TestFileKind::goesByThePath()
+{
+    QFETCH(QString, path);
+    QTEST(opensAtStart(path), "atStart");
+    QTEST(isPackage(path), "package");
+    QTEST(isRecording(path), "recording");
+    QTEST(isTextExport(path), "textExport");
+}
+
+void TestFileKind::whatIsReadEndsAndComesAtOnce_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<bool>("pipeOrDevice");
+    QTest::newRow("a file") << QCoreApplication::applicationFilePath() << false;
+    QTest::newRow("a folder") << QCoreApplication::applicationDirPath() << false;
+    QTest::newRow("nothing") << QStringLiteral("/nowhere/a.cfg") << false;
+    QTest::newRow("a device") << QStringLiteral("/dev/zero") << true;
+}
+
+void TestFileKind::whatIsReadEndsAndComesAtOnce()
+{
+    QFETCH(QString, path);
+    QTEST(isPipeOrDevice(path), "pipeOrDevice");
+}
+
+QTEST_GUILESS_MAIN(TestFileKind)
+#include "tst_filekind.moc"
