@@ -1,10 +1,15 @@
 // SPDX-FileCopyrightText: 2026 Norvale
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "ordinaryuser.h"
 #include "temporaryfolder.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <atomic>
+#include <memory>
+#include <thread>
 
 namespace {
 
@@ -25,17 +30,29 @@ private slots:
     void baseLiesInTheApplicationsDataFolder();
     void numbering_data();
     void numbering();
-    void twoInstancesGetFoldersOfTheirOwn();
+    void madeWhenItIsFirstUsed();
+    void aFileOfThatNameGivesWay();
+    void anotherInstanceWasFaster();
+    void racedPairsNeverShare();
+    void renewalEmptiesTheSameFolder();
+    void whatCannotBeRemovedIsLeftBehind();
+    void onlyOwnFoldersAreRemoved();
+    void lostParentIsMadeAgain();
+    void whereNoFolderCanBeMade();
     void removesAFolderWithAllInIt();
     void removesASingleFile();
     void emptyPathRemovesNothing();
     void missingPathRemovesNothing();
     void keepsHiddenEntriesAndTheirFolders();
+    void writeProtectionIsLifted_data();
+    void writeProtectionIsLifted();
+    void writeProtectionBehindALinkStays();
     void linkIsRemovedAndNotFollowed_data();
     void linkIsRemovedAndNotFollowed();
 
 private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
+    QString base() const { return path(QStringLiteral("files")); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
@@ -94,13 +111,131 @@ void TestTemporaryFolder::numbering()
     QVERIFY(!QFileInfo(path(chosen)).isDir());
 }
 
-void TestTemporaryFolder::twoInstancesGetFoldersOfTheirOwn()
+void TestTemporaryFolder::madeWhenItIsFirstUsed()
 {
-    const QString base = path(QStringLiteral("files"));
-    const QString first = freeTemporaryFolder(base);
-    QVERIFY(QDir().mkdir(first));
-    QCOMPARE(first, path(QStringLiteral("files1")));
-    QCOMPARE(freeTemporaryFolder(base), path(QStringLiteral("files2")));
+    TemporaryFolder folder(base());
+    QCOMPARE(folder.path(), path(QStringLiteral("files1")));
+    QVERIFY(!QFileInfo::exists(folder.path()));
+    folder.renew();
+    QCOMPARE(folder.path(), path(QStringLiteral("files1")));
+    QVERIFY(QFileInfo(folder.path()).isDir());
+    folder.remove();
+    QVERIFY(!QFileInfo::exists(path(QStringLiteral("files1"))));
+}
+
+void TestTemporaryFolder::aFileOfThatNameGivesWay()
+{
+    QVERIFY(makeFile(path(QStringLiteral("files1"))));
+    TemporaryFolder folder(base());
+    folder.renew();
+    QCOMPARE(folder.path(), path(QStringLiteral("files1")));
+    QVERIFY(QFileInfo(folder.path()).isDir());
+}
+
+void TestTemporaryFolder::anotherInstanceWasFaster()
+{
+    TemporaryFolder first(base());
+    TemporaryFolder second(base());
+    QCOMPARE(first.path(), second.path());
+    second.renew();
+    QVERIFY(makeFile(second.path() + QLatin1String("/a.cfg")));
+    first.renew();
+    QCOMPARE(second.path(), path(QStringLiteral("files1")));
+    QCOMPARE(first.path(), path(QStringLiteral("files2")));
+    QVERIFY(QFileInfo(first.path()).isDir());
+    QVERIFY(QFileInfo::exists(path(QStringLiteral("files1/a.cfg"))));
+    first.remove();
+    QVERIFY(QFileInfo(path(QStringLiteral("files1"))).isDir());
+    QVERIFY(!QFileInfo::exists(path(QStringLiteral("files2"))));
+}
+
+// Both instances have chosen the same folder and begin at the same instant.
+void TestTemporaryFolder::racedPairsNeverShare()
+{
+    for (int pair = 0; pair < 200; ++pair) {
+        const QString numbered = path(QStringLiteral("%1files").arg(pair));
+        TemporaryFolder first(numbered);
+        TemporaryFolder second(numbered);
+        QCOMPARE(first.path(), second.path());
+        std::atomic<int> ready{0};
+        const auto renewTogether = [&ready](TemporaryFolder &folder) {
+            ++ready;
+            while (ready < 2) { } // a thread that waits in any other way comes too late
+            folder.renew();
+        };
+        std::thread other([&] { renewTogether(second); });
+        renewTogether(first);
+        other.join();
+        QSet<QString> taken{first.path(), second.path()};
+        QVERIFY(taken.contains(numbered + QLatin1Char('1')));
+        QVERIFY(taken.contains(numbered + QLatin1Char('2')));
+        QVERIFY(QFileInfo(first.path()).isDir());
+        QVERIFY(QFileInfo(second.path()).isDir());
+    }
+}
+
+void TestTemporaryFolder::renewalEmptiesTheSameFolder()
+{
+    TemporaryFolder folder(base());
+    for (int time = 0; time < 3; ++time) {
+        folder.renew();
+        QCOMPARE(folder.path(), path(QStringLiteral("files1")));
+        QVERIFY(QDir(folder.path()).isEmpty());
+        QVERIFY(makeFile(folder.path() + QLatin1String("/b.cfg")));
+    }
+}
+
+// Hidden entries are never removed, nor is the folder that holds them.
+void TestTemporaryFolder::whatCannotBeRemovedIsLeftBehind()
+{
+    TemporaryFolder folder(base());
+    QVERIFY(QDir().mkdir(path(QStringLiteral("files3")))); // another instance's
+    for (const char *name : {"files1", "files2", "files4"}) {
+        folder.renew();
+        QCOMPARE(folder.path(), path(QLatin1String(name)));
+        QVERIFY(QDir(folder.path()).isEmpty());
+        QVERIFY(makeFile(folder.path() + QLatin1String("/.hidden")));
+    }
+    folder.remove();
+    for (const char *name : {"files1", "files2", "files3", "files4"})
+        QVERIFY(QFileInfo(path(QLatin1String(name))).isDir());
+    folder.renew();
+    QCOMPARE(folder.path(), path(QStringLiteral("files5")));
+}
+
+void TestTemporaryFolder::onlyOwnFoldersAreRemoved()
+{
+    TemporaryFolder folder(base());
+    QVERIFY(QDir().mkdir(folder.path()));
+    folder.remove();
+    QVERIFY(QFileInfo(folder.path()).isDir());
+    folder.renew();
+    folder.remove();
+    QVERIFY(QDir().mkdir(path(QStringLiteral("files2"))));
+    folder.remove(); // its own one is gone
+    QVERIFY(QFileInfo(path(QStringLiteral("files2"))).isDir());
+}
+
+void TestTemporaryFolder::lostParentIsMadeAgain()
+{
+    TemporaryFolder folder(path(QStringLiteral("tmp/files")));
+    folder.renew();
+    QVERIFY(QDir(path(QStringLiteral("tmp"))).removeRecursively());
+    folder.renew();
+    QCOMPARE(folder.path(), path(QStringLiteral("tmp/files1")));
+    QVERIFY(QFileInfo(folder.path()).isDir());
+}
+
+void TestTemporaryFolder::whereNoFolderCanBeMade()
+{
+    QVERIFY(makeFile(path(QStringLiteral("tmp"))));
+    TemporaryFolder folder(path(QStringLiteral("tmp/files")));
+    folder.renew();
+    QVERIFY(!QFileInfo::exists(folder.path()));
+    folder.remove();
+    QVERIFY(QFile::remove(path(QStringLiteral("tmp"))));
+    folder.renew();
+    QVERIFY(QFileInfo(folder.path()).isDir());
 }
 
 void TestTemporaryFolder::removesAFolderWithAllInIt()
@@ -148,6 +283,45 @@ void TestTemporaryFolder::keepsHiddenEntriesAndTheirFolders()
     QVERIFY(QFileInfo::exists(path(QStringLiteral("t/one/.hidden"))));
     QVERIFY(!QFileInfo::exists(path(QStringLiteral("t/one/a.cfg"))));
     QVERIFY(!QFileInfo::exists(path(QStringLiteral("t/b.cfg"))));
+}
+
+void TestTemporaryFolder::writeProtectionIsLifted_data()
+{
+    QTest::addColumn<QString>("protectedPath");
+    QTest::addColumn<int>("permissions");
+    QTest::newRow("a file") << "t/one/a.cfg" << int(QFile::ReadOwner);
+    QTest::newRow("a file that nobody may read") << "t/one/a.cfg" << 0;
+    QTest::newRow("a folder") << "t/one" << int(QFile::ReadOwner | QFile::ExeOwner);
+    QTest::newRow("a folder that nobody may list")
+        << "t/one" << int(QFile::WriteOwner | QFile::ExeOwner);
+    QTest::newRow("a folder that nobody may enter") << "t/one" << 0;
+    QTest::newRow("the folder itself") << "t" << int(QFile::ReadOwner | QFile::ExeOwner);
+}
+
+void TestTemporaryFolder::writeProtectionIsLifted()
+{
+    QFETCH(QString, protectedPath);
+    QFETCH(int, permissions);
+    const OrdinaryUser user;
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(QDir().mkpath(path(QStringLiteral("t/one"))));
+    QVERIFY(makeFile(path(QStringLiteral("t/one/a.cfg"))));
+    QVERIFY(QFile::setPermissions(path(protectedPath), QFile::Permissions(permissions)));
+    removeRecursively(path(QStringLiteral("t")));
+    QVERIFY(!QFileInfo::exists(path(QStringLiteral("t"))));
+}
+
+void TestTemporaryFolder::writeProtectionBehindALinkStays()
+{
+    const OrdinaryUser user;
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(makeFile(path(QStringLiteral("kept"))));
+    QVERIFY(QFile::setPermissions(path(QStringLiteral("kept")), QFile::ReadOwner));
+    QVERIFY(QDir().mkdir(path(QStringLiteral("t"))));
+    QVERIFY(QFile::link(path(QStringLiteral("kept")), path(QStringLiteral("t/link"))));
+    removeRecursively(path(QStringLiteral("t")));
+    QVERIFY(!QFileInfo::exists(path(QStringLiteral("t"))));
+    QVERIFY(!(QFile::permissions(path(QStringLiteral("kept"))) & QFile::WriteOwner));
 }
 
 void TestTemporaryFolder::linkIsRemovedAndNotFollowed_data()
