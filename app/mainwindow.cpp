@@ -9,9 +9,9 @@
 #include "brand.h"
 #include "cfgproperties.h"
 #include "ctvtdialog.h"
+#include "packageunpacker.h"
 #include "plotvalues.h"
 #include "savedialog.h"
-#include "temporaryfolder.h"
 #include "ui_mainwindow.h"
 #include "vectordialog.h"
 
@@ -20,8 +20,6 @@
 #include <QProcess>
 #include <QThread>
 #include <QTranslator>
-
-#include <utility>
 
 namespace {
 
@@ -73,7 +71,7 @@ MainWindow::MainWindow(QWidget *parent)
 
 MainWindow::~MainWindow()
 {
-    stopUnpacking();
+    unpacker->stop();
     stopLoader();
     disposePlots();
 }
@@ -103,7 +101,7 @@ void MainWindow::slotLanguageChanged(QAction *action)
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    stopUnpacking();
+    unpacker->stop();
     writeSettings({pos(), size(), isMaximized()}, languageFileName);
     event->accept();
     stopLoader();
@@ -133,11 +131,11 @@ void MainWindow::readSettings()
 
 void MainWindow::createLoader()
 {
-    zipProcess = new QProcess(this);
-    zipProcess->setProcessChannelMode(QProcess::MergedChannels);
-    connect(zipProcess, &QProcess::readyRead, this, &MainWindow::processZip);
-    connect(zipProcess, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this,
-        &MainWindow::endZip);
+    unpacker = new PackageUnpacker(this);
+    connect(unpacker->process(), &QProcess::readyRead, this, &MainWindow::processZip);
+    connect(unpacker->process(), QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished),
+        this, &MainWindow::endZip);
+    connect(unpacker, &PackageUnpacker::packageInvalid, this, &MainWindow::showInvalidPackage);
 
     loaderThread = new QThread;
     cfgProperties = new CFGProperties;
@@ -145,19 +143,6 @@ void MainWindow::createLoader()
     connect(this, &MainWindow::initProperties, cfgProperties, &CFGProperties::init);
     connect(loaderThread, &QThread::finished, cfgProperties, &QObject::deleteLater);
     loaderThread->start(QThread::InheritPriority);
-
-    temporaryFolder = freeTemporaryFolder(temporaryFolderBase());
-}
-
-void MainWindow::stopUnpacking()
-{
-    zipBusy = false;
-    if (zipProcess->state() != QProcess::NotRunning) {
-        zipProcess->kill();
-        zipProcess->waitForFinished();
-    }
-    if (std::exchange(tempFolderUsed, false))
-        removeRecursively(temporaryFolder);
 }
 
 void MainWindow::stopLoader()

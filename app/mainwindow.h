@@ -4,7 +4,6 @@
 #pragma once
 
 #include "dialoghost.h"
-#include "packageunpacker.h"
 #include "plothost.h"
 
 #include <QList>
@@ -16,12 +15,12 @@
 
 class AddPlotterDialog;
 class CTVTDialog;
+class PackageUnpacker;
 class Plotter;
 class QCheckBox;
 class QComboBox;
 class QLabel;
 class QMenu;
-class QProcess;
 class QTranslator;
 class QVBoxLayout;
 class RecordingWriter;
@@ -108,21 +107,18 @@ private:
 
     void readSettings();
     void createLoader();
-    void stopUnpacking(); // and removes what was unpacked
     void stopLoader(); // waits without limit; the recording is gone afterwards
 
-    // Steps of open(); false when the window was closed or deleted while events were processed:
-    // then nothing of it may be touched any more.
-    bool load(QString path);
+    // Steps of open(); after false the window may be closed or gone, and nothing of it is touched.
+    void load(QString path);
     bool unpack(QString &path); // path becomes that of the configuration file found
+    bool loadRecording(const QString &path); // false, too, where it cannot be loaded
     bool parse(const QString &path); // on the loader thread
-    bool showWarning(const QString &text);
-    bool showFileWarning(const QString &text, const QString &path, const QString &error);
-    void startUnpacking(const QString &package);
+    void showInvalidPackage();
+    void showWarning(const QString &text);
+    void showFileWarning(const QString &text, const QString &path, const QString &error);
     void clearView();
     void showRecording();
-    void showTimes();
-    void showTimesAsLocal(const QString &dateFormat);
     void setCurrentFile(const QString &path);
 
     QPixmap capture(CaptureTarget target);
@@ -151,11 +147,7 @@ private:
     CTVTDialog *ctvtDialog = nullptr;
     QTranslator *translator = nullptr;
 
-    QProcess *zipProcess = nullptr;
-    std::optional<ArchiverOutput> archiverOutput; // of the latest unpacking
-    bool zipBusy = false; // from the start of an unpacking until endZip()
-    bool tempFolderUsed = false;
-    QString temporaryFolder; // this instance's own, absolute; exists only while it is used
+    PackageUnpacker *unpacker = nullptr;
     QThread *loaderThread = nullptr;
     CFGProperties *cfgProperties = nullptr; // lives on loaderThread; null once that has stopped
     bool opening = false;

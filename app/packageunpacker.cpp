@@ -4,68 +4,71 @@
 #include "packageunpacker.h"
 
 #include <QDir>
+#include <QProcess>
 
-namespace {
-
-// The path as it looks where the archiver's output is taken as Latin-1.
-QString pathPattern(const QString &path)
+PackageUnpacker::PackageUnpacker(QObject *parent)
+    : QObject(parent), m_process(new QProcess(parent)), m_folder(temporaryFolderBase())
 {
-    return QRegularExpression::escape(QString::fromLatin1(path.toLocal8Bit()));
+    m_process->setProcessChannelMode(QProcess::MergedChannels);
 }
 
-} // namespace
-
-QString archiverProgram()
+QProcess *PackageUnpacker::process() const
 {
-    return QStringLiteral("7z.exe");
+    return m_process;
 }
 
-QStringList unpackArguments(const QString &package, const QString &folder)
+void PackageUnpacker::start(const QString &package)
 {
-    return {QStringLiteral("e"), package, QStringLiteral("-aoa"), QStringLiteral("-o") + folder};
+    m_isBusy = !package.isEmpty();
+    if (!m_isBusy)
+        return;
+    m_folder.renew();
+    m_output.emplace(package);
+    m_process->start(QStringLiteral("7z.exe"),
+        {QStringLiteral("e"), package, QStringLiteral("-aoa"),
+            QStringLiteral("-o") + m_folder.path()});
 }
 
-ArchiverOutput::ArchiverOutput(const QString &package)
+void PackageUnpacker::readOutput()
 {
-    QString pattern = QStringLiteral("Overwrite|password|error|Error|ERROR");
-    if (!package.isEmpty()) {
-        pattern = pathPattern(package) + QLatin1Char('|')
-            + pathPattern(QDir::toNativeSeparators(package)) + QLatin1Char('|') + pattern;
+    if (!m_isBusy)
+        return; // stopped: nobody waits for the package any more
+    const ArchiverOutput::Reaction reaction = m_output->read(m_process->readAll());
+    if (!reaction.answer.isEmpty())
+        m_process->write(reaction.answer);
+    if (reaction.error)
+        emit packageInvalid();
+}
+
+void PackageUnpacker::end()
+{
+    m_isBusy = false;
+}
+
+void PackageUnpacker::stop()
+{
+    m_isBusy = false;
+    if (m_process->state() != QProcess::NotRunning) {
+        m_process->kill();
+        m_process->waitForFinished();
     }
-    m_words.setPattern(pattern);
+    m_folder.remove();
 }
 
-ArchiverOutput::Reaction ArchiverOutput::read(const QByteArray &output)
+bool PackageUnpacker::isBusy() const
 {
-    Reaction reaction;
-    bool asksToOverwrite = false;
-    bool asksForPassword = false;
-    m_unread += QString::fromLatin1(output.constData(), output.size()); // past zero bytes, too
-    int from = 0;
-    for (;;) {
-        const QRegularExpressionMatch match
-            = m_words.match(m_unread, from, QRegularExpression::PartialPreferFirstMatch,
-                // Latin-1 text is sound; checking all of it for each word takes quadratic time.
-                QRegularExpression::DontCheckSubjectStringMatchOption);
-        if (!match.hasMatch()) {
-            from = match.hasPartialMatch() ? match.capturedStart() : m_unread.size();
-            break;
-        }
-        from = match.capturedEnd();
-        const QString word = match.captured();
-        if (word == QLatin1String("Overwrite")) {
-            asksToOverwrite = true;
-        } else if (word == QLatin1String("password")) {
-            asksForPassword = true;
-        } else if (word.compare(QLatin1String("error"), Qt::CaseInsensitive) == 0 && !m_errorSeen) {
-            m_errorSeen = true;
-            reaction.error = true;
-        }
-    }
-    m_unread.remove(0, from);
-    if (asksToOverwrite)
-        reaction.answer += "A\r\n"; // always
-    if (asksForPassword)
-        reaction.answer += '\n'; // none: the archiver ends with an error instead of waiting
-    return reaction;
+    return m_isBusy;
+}
+
+bool PackageUnpacker::isUnableToStart() const
+{
+    return m_process->error() == QProcess::FailedToStart;
+}
+
+QString PackageUnpacker::configuration() const
+{
+    const QDir folder(m_folder.path());
+    const QStringList names
+        = folder.entryList({QStringLiteral("*.cfg")}, QDir::Files, QDir::Unsorted);
+    return names.isEmpty() ? QString() : folder.absoluteFilePath(names.first());
 }

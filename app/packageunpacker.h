@@ -3,32 +3,45 @@
 
 #pragma once
 
-#include <QByteArray>
-#include <QRegularExpression>
-#include <QStringList>
+#include "archiveroutput.h"
+#include "temporaryfolder.h"
 
-// Name of the external archiver's program.
-QString archiverProgram();
+#include <QObject>
 
-// The archiver's arguments: all files of the package, without its folders, into the folder;
-// existing files are overwritten.
-QStringList unpackArguments(const QString &package, const QString &folder);
+#include <optional>
 
-// Reads along with the archiver while it unpacks one package: finds its questions and its
-// complaints. The package's own path, which the archiver repeats, may hold any word. Words may come
-// in pieces.
-class ArchiverOutput {
+class QProcess;
+
+// Has the external archiver unpack packages, one after the other, into a temporary folder of this
+// instance's own, and answers its questions. Whoever owns it forwards the signals of the process:
+// readyRead() to readOutput(), finished() to end().
+class PackageUnpacker : public QObject {
+    Q_OBJECT
+
 public:
-    struct Reaction {
-        QByteArray answer; // for the archiver's input, to each kind of question once; may be empty
-        bool error = false; // true in one reaction at most
-    };
+    explicit PackageUnpacker(QObject *parent);
 
-    explicit ArchiverOutput(const QString &package);
-    Reaction read(const QByteArray &output);
+    QProcess *process() const; // a child of the parent
+
+    // Empties the folder and starts the archiver, which puts all files of the package there,
+    // without their folders. It may never start, nor end.
+    void start(const QString &package);
+    void readOutput();
+    void end();
+    void stop(); // kills the archiver and removes the folder
+
+    bool isBusy() const; // from start() until end() or stop()
+    bool isUnableToStart() const; // there is no archiver
+
+    // The first "*.cfg" that was unpacked, in the order of the file system; empty for none.
+    QString configuration() const;
+
+signals:
+    void packageInvalid(); // once at most for each package
 
 private:
-    QRegularExpression m_words;
-    QString m_unread; // what may be the beginning of a word
-    bool m_errorSeen = false;
+    QProcess *m_process;
+    TemporaryFolder m_folder;
+    std::optional<ArchiverOutput> m_output; // of the latest package
+    bool m_isBusy = false;
 };

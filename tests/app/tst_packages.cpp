@@ -3,6 +3,7 @@
 
 #include "cfgproperties.h"
 #include "mainwindow.h"
+#include "ownfilesystem.h"
 #include "smallrecording.h"
 #include "startup.h"
 #include "windowtest.h"
@@ -274,6 +275,35 @@ private slots:
         QCOMPARE(QDir(unpackingFolder(1)).entryList(QDir::Files).join(QLatin1Char(' ')),
             QStringLiteral("two.cfg two.dat"));
         QVERIFY(!QDir(unpackingFolder(2)).exists());
+    }
+
+    // The archiver leaves a file that can be removed only once the memory it lies in is let go.
+    void fileThatCannotBeRemovedIsNotTakenForTheNextPackages()
+    {
+        const OwnFileSystem memory(1 << 20);
+        if (!memory.isMounted())
+            QSKIP("no file system of its own here");
+        writeSmallRecording(memory.path(), QStringLiteral("b"));
+        useScript("name=$(basename \"$2\" .zip)\ncd \"${4#-o}\"\ncp \""
+            + QFile::encodeName(memory.path()) + "\"/b.cfg $name.cfg\ncp \""
+            + QFile::encodeName(memory.path()) + "\"/b.dat $name.dat\n"
+            + "[ $name != b ] || mount --bind $PWD/b.cfg $PWD/b.cfg\n");
+        for (const char *package : {"a.zip", "b.zip", "c.zip", "d.zip"})
+            QVERIFY(writeTextFile(path(package), "PK"));
+        window->open(path("a.zip"));
+        QCOMPARE(window->windowFilePath(), unpackingFolder(1) + QLatin1String("/a.cfg"));
+        window->open(path("b.zip"));
+        QCOMPARE(window->windowFilePath(), unpackingFolder(1) + QLatin1String("/b.cfg"));
+        window->open(path("c.zip"));
+        QCOMPARE(window->windowFilePath(), unpackingFolder(2) + QLatin1String("/c.cfg"));
+        window->open(path("d.zip"));
+        QCOMPARE(window->windowFilePath(), unpackingFolder(2) + QLatin1String("/d.cfg"));
+        QVERIFY(QFile::exists(unpackingFolder(1) + QLatin1String("/b.cfg")));
+        window->close();
+        QVERIFY(!QFile::exists(unpackingFolder(2)));
+        QCOMPARE(QProcess::execute(
+                     QStringLiteral("umount"), {unpackingFolder(1) + QLatin1String("/b.cfg")}),
+            0);
     }
 
     void everyInstanceHasAFolderOfItsOwn()

@@ -3,238 +3,215 @@
 
 #include "packageunpacker.h"
 
-#include <QElapsedTimer>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QtTest>
 
+#include <memory>
+
+// The archiver is a script of its name, first in the search path.
 class TestPackageUnpacker : public QObject {
     Q_OBJECT
 
 private slots:
-    void startsTheArchiverByItsBareName();
-    void argumentsAreExact_data();
-    void argumentsAreExact();
-    void reactsToWords_data();
-    void reactsToWords();
-    void wordsMayComeInPieces_data();
-    void wordsMayComeInPieces();
-    void everyReadingIsAnswered();
-    void errorIsReportedOnce();
-    void nextPackageHasItsOwnErrors();
-    void longOutputWithoutWordsIsQuiet();
-    void manyErrorsInOneReadingTakeNoTime();
+    void initTestCase();
+    void init();
+    void cleanup();
+    void startsTheArchiver_data();
+    void startsTheArchiver();
+    void folderIsMadeAtTheFirstPackage();
+    void emptyPathStartsNothing();
+    void busyUntilTheArchiverEnds();
+    void questionsAreAnswered();
+    void eachPackageIsInvalidOnce();
+    void configurationIsTheFirstFound_data();
+    void configurationIsTheFirstFound();
+    void archiverThatCannotStart();
+    void stopKillsTheArchiverAndRemovesTheFolder();
+    void nothingIsHeardAfterStop();
+
+private:
+    QString path(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
+
+    static QString unpackingFolder(int number)
+    {
+        return temporaryFolderBase() + QString::number(number);
+    }
+
+    void useScript(const QByteArray &script)
+    {
+        QFile file(path("7z.exe"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("#!/bin/sh\n" + script);
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+
+    // Starts it and waits for its end.
+    void unpack(const QString &package)
+    {
+        m_unpacker->start(package);
+        QTRY_VERIFY(!m_unpacker->isBusy());
+    }
+
+    QByteArray m_searchPath;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<QObject> m_owner;
+    PackageUnpacker *m_unpacker = nullptr;
 };
 
-namespace {
-
-constexpr char always[] = "A\r\n";
-constexpr char emptyLine[] = "\n";
-
-// The answers to an output that comes in these pieces, in a row.
-QByteArray answers(ArchiverOutput &output, const QList<QByteArray> &pieces, int *errors = nullptr)
+void TestPackageUnpacker::initTestCase()
 {
-    QByteArray written;
-    for (const QByteArray &piece : pieces) {
-        const ArchiverOutput::Reaction reaction = output.read(piece);
-        written += reaction.answer;
-        if (errors && reaction.error)
-            ++*errors;
-    }
-    return written;
+    m_searchPath = qgetenv("PATH");
 }
 
-} // namespace
-
-void TestPackageUnpacker::startsTheArchiverByItsBareName()
+void TestPackageUnpacker::init()
 {
-    QCOMPARE(archiverProgram(), QStringLiteral("7z.exe"));
+    m_folder = std::make_unique<QTemporaryDir>();
+    qputenv("PATH", QFile::encodeName(m_folder->path()) + ':' + m_searchPath);
+    qputenv("XDG_DATA_HOME", QFile::encodeName(m_folder->path()));
+    m_owner = std::make_unique<QObject>();
+    m_unpacker = new PackageUnpacker(m_owner.get());
+    connect(m_unpacker->process(), &QProcess::readyRead, m_unpacker, &PackageUnpacker::readOutput);
+    connect(m_unpacker->process(), QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished),
+        m_unpacker, &PackageUnpacker::end);
 }
 
-void TestPackageUnpacker::argumentsAreExact_data()
+void TestPackageUnpacker::cleanup()
+{
+    m_unpacker->stop();
+    m_owner.reset();
+}
+
+void TestPackageUnpacker::startsTheArchiver_data()
 {
     QTest::addColumn<QString>("package");
-    QTest::addColumn<QString>("folder");
-    QTest::addColumn<QString>("joined"); // by vertical bars
-    QTest::newRow("plain paths") << QStringLiteral("/rec/device.zip")
-                                 << QStringLiteral("/data/tmp/files1")
-                                 << QStringLiteral("e|/rec/device.zip|-aoa|-o/data/tmp/files1");
-    QTest::newRow("blanks stay within their argument")
-        << QStringLiteral("/my rec/a b.zip") << QStringLiteral("/my data/tmp/files12")
-        << QStringLiteral("e|/my rec/a b.zip|-aoa|-o/my data/tmp/files12");
+    QTest::newRow("plain path") << QStringLiteral("/rec/device.zip");
+    QTest::newRow("blanks stay within their argument") << QStringLiteral("/my rec/a b.zip");
 }
 
-void TestPackageUnpacker::argumentsAreExact()
+void TestPackageUnpacker::startsTheArchiver()
 {
     QFETCH(QString, package);
-    QFETCH(QString, folder);
-    const QStringList arguments = unpackArguments(package, folder);
-    QCOMPARE(arguments.size(), 4);
-    QTEST(arguments.join(QLatin1Char('|')), "joined");
+    useScript(QByteArray());
+    unpack(package);
+    QCOMPARE(m_unpacker->process()->program(), QStringLiteral("7z.exe"));
+    QCOMPARE(m_unpacker->process()->arguments(),
+        QStringList({QStringLiteral("e"), package, QStringLiteral("-aoa"),
+            QLatin1String("-o") + unpackingFolder(1)}));
+    QCOMPARE(m_unpacker->process()->parent(), m_owner.get());
 }
 
-void TestPackageUnpacker::reactsToWords_data()
+void TestPackageUnpacker::folderIsMadeAtTheFirstPackage()
 {
-    QTest::addColumn<QString>("package");
-    QTest::addColumn<QByteArray>("output");
-    QTest::addColumn<QByteArray>("answer");
-    QTest::addColumn<bool>("error");
-    const QString device = QStringLiteral("/rec/device.zip");
-    const QString ill = QStringLiteral("/rec/Error Overwrite/my password error.zip");
-    const QByteArray none;
-
-    QTest::newRow("nothing") << device << none << none << false;
-    QTest::newRow("a good package is silent")
-        << device << QByteArray("Path = /rec/device.zip\nType = zip\nEverything is Ok\n") << none
-        << false;
-    QTest::newRow("an overwrite question is answered with always")
-        << device << QByteArray("Overwrite a.cfg? (Y)es / (A)lways?") << QByteArray(always)
-        << false;
-    QTest::newRow("the question's word in lower case is no question")
-        << device << QByteArray("overwrite mode") << none << false;
-    QTest::newRow("two questions in one output get one answer")
-        << device << QByteArray("Overwrite? Overwrite?") << QByteArray(always) << false;
-    QTest::newRow("a password question is answered with an empty line")
-        << device << QByteArray("\nEnter password (will not be echoed):") << QByteArray(emptyLine)
-        << false;
-    QTest::newRow("both questions in one output get both answers")
-        << device << QByteArray("Enter password: Overwrite?") << QByteArray("A\r\n\n") << false;
-    QTest::newRow("error") << device << QByteArray("CRC error in a.dat\n") << none << true;
-    QTest::newRow("Error") << device << QByteArray("Error: no archiver is installed\n") << none
-                           << true;
-    QTest::newRow("ERROR") << device << QByteArray("ERROR: Data Error : a.dat\n") << none << true;
-    QTest::newRow("Errors as part of a longer word")
-        << device << QByteArray("Archives with Errors: 1\n") << none << true;
-    QTest::newRow("mixed capitals are no error")
-        << device << QByteArray("eRROR ErRoR\n") << none << false;
-    QTest::newRow("a question and an error in one output")
-        << device << QByteArray("Overwrite a.cfg?\nError\n") << QByteArray(always) << true;
-    QTest::newRow("a word after a zero byte and letters beyond ASCII") << device
-                                                                       << QByteArray("\0\xff\xe4"
-                                                                                     "error\0",
-                                                                              9)
-                                                                       << none << true;
-
-    QTest::newRow("words in the package's own path do not count")
-        << ill << "Path = " + ill.toUtf8() + "\nEverything is Ok\n"
-        << none << false;
-    QTest::newRow("the path may be repeated")
-        << ill << ill.toUtf8() + ill.toUtf8() << none << false;
-    QTest::newRow("an error beside the package's own path counts")
-        << ill << "ERROR: " + ill.toUtf8() << none << true;
-    QTest::newRow("an error after the package's own path counts")
-        << ill << ill.toUtf8() + " : error" << none << true;
-    QTest::newRow("a path that only begins alike counts")
-        << ill << QByteArray("/rec/Error Overwrite/my other.zip") << QByteArray(always) << true;
-    QTest::newRow("a path with letters beyond ASCII does not count")
-        << QStringLiteral("/h\u00e4iri\u00f6/\u6545\u969c error.zip")
-        << QByteArray("Path = /h\xc3\xa4iri\xc3\xb6/\xe6\x95\x85\xe9\x9a\x9c error.zip\n") << none
-        << false;
-    QTest::newRow("a path with signs of patterns is taken as it stands")
-        << QStringLiteral("/rec/(error)+[1].zip") << QByteArray("Path = /rec/(error)+[1].zip\n")
-        << none << false;
-    QTest::newRow("signs of patterns match themselves alone")
-        << QStringLiteral("/rec/.*.zip") << QByteArray("/rec/error.zip") << none << true;
-    QTest::newRow("without a path every word counts")
-        << QString() << QByteArray("error") << none << true;
+    useScript(QByteArray());
+    QVERIFY(!QFileInfo::exists(unpackingFolder(1)));
+    unpack(QStringLiteral("device.zip"));
+    QVERIFY(QFileInfo(unpackingFolder(1)).isDir());
 }
 
-void TestPackageUnpacker::reactsToWords()
+void TestPackageUnpacker::emptyPathStartsNothing()
 {
-    QFETCH(QString, package);
-    QFETCH(QByteArray, output);
-    ArchiverOutput watched(package);
-    const ArchiverOutput::Reaction reaction = watched.read(output);
-    QTEST(reaction.answer, "answer");
-    QTEST(reaction.error, "error");
+    useScript(QByteArray());
+    m_unpacker->start(QString());
+    QVERIFY(!m_unpacker->isBusy());
+    QCOMPARE(m_unpacker->process()->state(), QProcess::NotRunning);
+    QVERIFY(!QFileInfo::exists(unpackingFolder(1)));
 }
 
-void TestPackageUnpacker::wordsMayComeInPieces_data()
+void TestPackageUnpacker::busyUntilTheArchiverEnds()
 {
-    QTest::addColumn<QByteArray>("output");
-    QTest::addColumn<QByteArray>("answer");
-    QTest::addColumn<int>("errors");
-    QTest::newRow("an overwrite question")
-        << QByteArray("a.cfg: Overwrite (A)lways?") << QByteArray(always) << 0;
-    QTest::newRow("a password question")
-        << QByteArray("Enter password:") << QByteArray(emptyLine) << 0;
-    QTest::newRow("error") << QByteArray("CRC error\n") << QByteArray() << 1;
-    QTest::newRow("Error") << QByteArray("Data Error\n") << QByteArray() << 1;
-    QTest::newRow("ERROR") << QByteArray("ERROR: x\n") << QByteArray() << 1;
-    QTest::newRow("a word after its own beginning") << QByteArray("eerror\n") << QByteArray() << 1;
-    QTest::newRow("the package's path")
-        << QByteArray("Path = /rec/Error error.zip\nOk\n") << QByteArray() << 0;
-    QTest::newRow("the package's path, then an error")
-        << QByteArray("/rec/Error error.zip: error\n") << QByteArray() << 1;
-    QTest::newRow("the beginning of the package's path, then something else")
-        << QByteArray("/rec/Error other\n") << QByteArray() << 1;
-}
-
-// In two pieces, cut at every place, and byte by byte.
-void TestPackageUnpacker::wordsMayComeInPieces()
-{
-    QFETCH(QByteArray, output);
-    QFETCH(QByteArray, answer);
-    QFETCH(int, errors);
-    const QString package = QStringLiteral("/rec/Error error.zip");
-    for (int cut = 0; cut <= output.size(); ++cut) {
-        ArchiverOutput watched(package);
-        int seen = 0;
-        QCOMPARE(answers(watched, {output.left(cut), output.mid(cut)}, &seen), answer);
-        QCOMPARE(seen, errors);
+    useScript("while [ ! -e \"$2\" ]; do sleep 0.02; done\nexit 2\n");
+    for (const char *package : {"first.zip", "second.zip"}) {
+        m_unpacker->start(path(package));
+        QTest::qWait(100);
+        QVERIFY(m_unpacker->isBusy());
+        QVERIFY(QDir().mkdir(path(package)));
+        QTRY_VERIFY(!m_unpacker->isBusy());
+        QVERIFY(!m_unpacker->isUnableToStart());
     }
-    QList<QByteArray> bytes;
-    for (const char byte : qAsConst(output))
-        bytes << QByteArray(1, byte);
-    ArchiverOutput watched(package);
-    int seen = 0;
-    QCOMPARE(answers(watched, bytes, &seen), answer);
-    QCOMPARE(seen, errors);
 }
 
-void TestPackageUnpacker::everyReadingIsAnswered()
+void TestPackageUnpacker::questionsAreAnswered()
 {
-    ArchiverOutput watched(QStringLiteral("/rec/device.zip"));
-    QCOMPARE(answers(watched, {"Overwrite?", "a.cfg", "Overwrite?"}), QByteArray("A\r\nA\r\n"));
+    useScript("echo 'Overwrite (Y)es / (A)lways?'\nread answer\n"
+              "printf '%s' \"$answer\" > \"${4#-o}/seen\"\n");
+    unpack(QStringLiteral("device.zip"));
+    QFile seen(unpackingFolder(1) + QLatin1String("/seen"));
+    QVERIFY(seen.open(QIODevice::ReadOnly));
+    QCOMPARE(seen.readAll(), QByteArray("A\r"));
 }
 
-void TestPackageUnpacker::errorIsReportedOnce()
+void TestPackageUnpacker::eachPackageIsInvalidOnce()
 {
-    ArchiverOutput watched(QStringLiteral("/rec/device.zip"));
-    QVERIFY(watched.read("Error error\n").error);
-    QVERIFY(!watched.read("ERROR\n").error);
-    const ArchiverOutput::Reaction later = watched.read("Overwrite? error\n");
-    QVERIFY(!later.error);
-    QCOMPARE(later.answer, QByteArray(always)); // questions are still answered
+    useScript("case \"$2\" in bad*) echo Error; echo error >&2; sleep 0.1; echo ERROR;; esac\n");
+    const QSignalSpy invalid(m_unpacker, &PackageUnpacker::packageInvalid);
+    unpack(QStringLiteral("good.zip"));
+    QCOMPARE(invalid.count(), 0);
+    unpack(QStringLiteral("bad.zip"));
+    QCOMPARE(invalid.count(), 1);
+    unpack(QStringLiteral("bad.zip"));
+    QCOMPARE(invalid.count(), 2);
+    unpack(QStringLiteral("good.zip"));
+    QCOMPARE(invalid.count(), 2);
 }
 
-void TestPackageUnpacker::nextPackageHasItsOwnErrors()
+void TestPackageUnpacker::configurationIsTheFirstFound_data()
 {
-    const QString package = QStringLiteral("/rec/device.zip");
-    ArchiverOutput first(package);
-    QVERIFY(first.read("error").error);
-    ArchiverOutput second(package);
-    QVERIFY(second.read("error").error);
+    QTest::addColumn<QByteArray>("made"); // in the folder, by the shell
+    QTest::addColumn<QString>("found");
+    QTest::newRow("nothing") << QByteArray("") << QString();
+    QTest::newRow("one") << QByteArray("touch a.dat rec.cfg z.txt") << QStringLiteral("rec.cfg");
+    QTest::newRow("capitals") << QByteArray("touch REC.CFG REC.DAT") << QStringLiteral("REC.CFG");
+    QTest::newRow("a folder of that name") << QByteArray("mkdir rec.cfg") << QString();
+    QTest::newRow("ending in the middle") << QByteArray("touch rec.cfg.bak") << QString();
 }
 
-void TestPackageUnpacker::longOutputWithoutWordsIsQuiet()
+void TestPackageUnpacker::configurationIsTheFirstFound()
 {
-    ArchiverOutput watched(QStringLiteral("/rec/device.zip"));
-    const QByteArray block(1 << 20, 'E'); // every byte may be the beginning of a word
-    for (int i = 0; i < 8; ++i) {
-        const ArchiverOutput::Reaction reaction = watched.read(block);
-        QVERIFY(reaction.answer.isEmpty() && !reaction.error);
-    }
-    QVERIFY(watched.read("rror").error);
+    QFETCH(QByteArray, made);
+    QFETCH(QString, found);
+    useScript("cd \"${4#-o}\"\n" + made + '\n');
+    unpack(QStringLiteral("device.zip"));
+    QCOMPARE(m_unpacker->configuration(),
+        found.isEmpty() ? QString() : unpackingFolder(1) + QLatin1Char('/') + found);
 }
 
-// A damaged package of some megabytes makes the archiver tell of each file in it. Going over the
-// whole output for each of them would take minutes.
-void TestPackageUnpacker::manyErrorsInOneReadingTakeNoTime()
+void TestPackageUnpacker::archiverThatCannotStart()
 {
-    ArchiverOutput watched(QStringLiteral("/rec/device.zip"));
-    QElapsedTimer timer;
-    timer.start();
-    QVERIFY(watched.read(QByteArray("ERROR: Data Error : file\n").repeated(100000)).error);
-    QVERIFY(timer.elapsed() < 20000);
+    QVERIFY(!m_unpacker->isUnableToStart());
+    qputenv("PATH", "");
+    m_unpacker->start(QStringLiteral("device.zip"));
+    QTRY_VERIFY(m_unpacker->isUnableToStart());
+    QVERIFY(m_unpacker->isBusy());
+    qputenv("PATH", QFile::encodeName(m_folder->path()) + ':' + m_searchPath);
+    useScript(QByteArray());
+    unpack(QStringLiteral("device.zip"));
+    QVERIFY(!m_unpacker->isUnableToStart());
+}
+
+void TestPackageUnpacker::stopKillsTheArchiverAndRemovesTheFolder()
+{
+    useScript("touch \"${4#-o}/rec.cfg\"\nexec sleep 60\n");
+    m_unpacker->start(QStringLiteral("device.zip"));
+    QTRY_VERIFY(!m_unpacker->configuration().isEmpty());
+    m_unpacker->stop();
+    QVERIFY(!m_unpacker->isBusy());
+    QCOMPARE(m_unpacker->process()->state(), QProcess::NotRunning);
+    QVERIFY(!QFileInfo::exists(unpackingFolder(1)));
+    m_unpacker->stop(); // does no harm
+}
+
+void TestPackageUnpacker::nothingIsHeardAfterStop()
+{
+    useScript("echo Error\ntouch \"${4#-o}/rec.cfg\"\nexec sleep 60\n");
+    const QSignalSpy invalid(m_unpacker, &PackageUnpacker::packageInvalid);
+    m_unpacker->start(QStringLiteral("device.zip"));
+    while (m_unpacker->configuration().isEmpty())
+        QThread::msleep(5); // handles no events, so that nothing reads what is said
+    m_unpacker->stop();
+    QTest::qWait(50);
+    QCOMPARE(invalid.count(), 0);
 }
 
 QTEST_GUILESS_MAIN(TestPackageUnpacker)
