@@ -101,6 +101,7 @@ void MainWindow::clearView()
     vectorDialog->setChannelNames({});
     if (disposes)
         disposePlots();
+    showAnglesCheckBox->setChecked(false); // reaches no plot any more
 }
 
 void MainWindow::showRecording()

@@ -27,6 +27,14 @@
 
 namespace {
 
+// A file's name as part of a title, in which the toolkit takes "[*]" for the place of the mark of
+// unsaved changes, and two of them for one that is meant.
+QString asTitle(QString name)
+{
+    const QString mark = QStringLiteral("[*]");
+    return name.replace(mark, mark + mark);
+}
+
 // The dropped file on this machine, empty where something else is dropped.
 QString droppedFile(const QDropEvent &event)
 {
@@ -104,7 +112,7 @@ bool MainWindow::loadRecording(const QString &path)
     if (isLoaded) {
         showRecording();
         setWindowTitle(ApplicationIdentity::applicationName() + QLatin1String(" - ")
-            + QFileInfo(path).fileName());
+            + asTitle(QFileInfo(path).fileName()));
     } else {
         showWarning(tr("File not supported."));
     }

@@ -112,11 +112,6 @@ void MainWindow::createPlots()
         && cfgProperties->analogChannels.constFirst()->ps == QLatin1String("S");
     mode = isSecondary ? 1 : 0;
     fill(*referenceCombo, QStringList(QStringLiteral("-")) + names, 0);
-    {
-        const QSignalBlocker blocker(showAnglesCheckBox);
-        showAnglesCheckBox->setChecked(false);
-        anglesShown = false;
-    }
 
     analogPlotter = new Plotter(ui->scrollWidget);
     analogPlotter->setMaximumHeight(largestPlotHeight);

@@ -252,6 +252,28 @@ private slots:
         QCOMPARE(window->windowTitle(), QLatin1String("Wavorin - ") + configuration);
     }
 
+    // windowTitle() gives the title as it was set; the window's frame gets what is shown.
+    void markInTheNameStaysInTheTitle_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("once") << "a[*].cfg";
+        QTest::newRow("twice in a row") << "[*][*].cfg";
+        QTest::newRow("three in a row, then one more") << "[*][*][*]-[*].cfg";
+        QTest::newRow("unfinished") << "[*[*]].cfg";
+        QTest::newRow("none") << "[a]*.cfg";
+    }
+
+    void markInTheNameStaysInTheTitle()
+    {
+        QFETCH(QString, name);
+        window->show();
+        window->open(writeSmallRecording(folder->path(), QFileInfo(name).completeBaseName()));
+        QVERIFY(window->recording());
+        QCOMPARE(window->windowHandle()->title(), QLatin1String("Wavorin - ") + name);
+        window->open(goodRecording());
+        QCOMPARE(window->windowHandle()->title(), QStringLiteral("Wavorin - good.cfg"));
+    }
+
     void upperCaseTextExportCountsAsConfiguration()
     {
         QVERIFY(writeTextFile(path("data.TXT"), smallConfiguration()));
@@ -386,6 +408,31 @@ private slots:
         QCOMPARE(listed("listWidget").size(), 2);
         QVERIFY(recordingActionsEnabled());
         QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - after.cfg"));
+    }
+
+    void anglesAreNoLongerShownAfterALoad_data()
+    {
+        QTest::addColumn<bool>("fails");
+        QTest::newRow("a load that fails") << true;
+        QTest::newRow("a load that succeeds") << false;
+    }
+
+    void anglesAreNoLongerShownAfterALoad()
+    {
+        QFETCH(bool, fails);
+        window->open(goodRecording());
+        auto *box = child<QCheckBox>("checkBox_showAngles");
+        box->click();
+        QVERIFY(box->isChecked() && window->showsAngles());
+        QVERIFY(writeTextFile(path("bad.cfg"), "x"));
+        window->open(fails ? path("bad.cfg") : goodRecording("next"));
+        QCOMPARE(boxes->take().size(), fails ? 1 : 0);
+        QVERIFY(!box->isChecked());
+        QVERIFY(!window->showsAngles());
+        window->open(goodRecording("last"));
+        QVERIFY(!box->isChecked());
+        box->click();
+        QVERIFY(box->isChecked() && window->showsAngles());
     }
 
     // Nobody writes to it, so that its reader would wait for ever.
