@@ -11,9 +11,7 @@
 // a scaled value times toPrimary, a secondary value one times toSecondary.
 class AnalogChannel {
 public:
-    int index = 0; // channel number An of the file
     QString id;
-    double frequency = 0; // nominal line frequency, Hz
     float maxValue = 0; // largest scaled value, never below 0
     float minValue = 0; // smallest scaled value, never above 0
     float a = 0; // multiplier of the channel
@@ -33,10 +31,14 @@ public:
     QVector<float> values; // scaled values
 
     // Appends multiplier * x + offset, computed in double and stored as float, to values, and
-    // widens minValue and maxValue by the double result.
+    // widens minValue and maxValue by it.
     void appendValue(float x, float multiplier, float offset);
-    void appendTime(double time);
+    // The same of many numbers.
+    void appendValues(const float *x, int count, float multiplier, float offset);
 
-    // The largest element of values, not below 0.
-    float peakValue() const;
+    // Filled or offered for completeness; the program reads and calls none of these.
+    int index = 0; // channel number An of the file
+    double frequency = 0; // nominal line frequency, Hz
+    void appendTime(double time);
+    float peakValue() const; // the largest element of values, not below 0
 };

@@ -6,7 +6,6 @@
 #include "configurationreader.h"
 #include "datareader.h"
 #include "filekind.h"
-#include "numbers.h"
 #include "phasors.h"
 #include "textreader.h"
 
@@ -16,7 +15,6 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <numeric>
 
 namespace {
 
@@ -37,40 +35,6 @@ QString existingPath(const QString &path)
 }
 
 } // namespace
-
-void AnalogChannel::appendValue(float x, float multiplier, float offset)
-{
-    const double value
-        = static_cast<double>(multiplier) * static_cast<double>(x) + static_cast<double>(offset);
-    const float scaled = narrowed(value);
-    if (value > static_cast<double>(maxValue))
-        maxValue = scaled;
-    if (value < static_cast<double>(minValue))
-        minValue = scaled;
-    values.append(scaled);
-}
-
-void AnalogChannel::appendTime(double time)
-{
-    times.append(time);
-}
-
-float AnalogChannel::peakValue() const
-{
-    return std::accumulate(values.cbegin(), values.cend(), 0.0F,
-        [](float peak, float value) { return std::max(peak, value); });
-}
-
-void DigitalChannel::appendValue(int state)
-{
-    allZero = allZero && state == 0;
-    values.append(state);
-}
-
-void DigitalChannel::appendTime(double time)
-{
-    times.append(time);
-}
 
 CFGProperties::CFGProperties(QObject *parent) : QObject(parent) { }
 
@@ -128,51 +92,7 @@ void CFGProperties::fftTransform()
 
 void CFGProperties::clearConfig()
 {
-    cfgLineNumber = 0;
-    sampleCount = 0;
-    stationName.clear();
-    recordingDeviceId.clear();
-    revisionYear.clear();
-    totalChannelCount = 0;
-    analogChannelCount = 0;
-    digitalChannelCount = 0;
-    analogIndexes.clear();
-    analogIds.clear();
-    analogPhases.clear();
-    analogCircuits.clear();
-    analogUnits.clear();
-    analogA.clear();
-    analogB.clear();
-    analogSkews.clear();
-    analogMins.clear();
-    analogMaxs.clear();
-    toPrimary.clear();
-    primaryValues.clear();
-    toSecondary.clear();
-    secondaryValues.clear();
-    psFlags.clear();
-    sampleTimes.clear();
-    digitalIndexes.clear();
-    digitalIds.clear();
-    digitalPhases.clear();
-    digitalCircuits.clear();
-    digitalNormalStates.clear();
-    lineFrequency = 0;
-    rateCount = 0;
-    sampleRate = 0;
-    lastSampleNumber = 0;
-    durationMs = 0;
-    samplesPerCycle = 0;
-    startDate.clear();
-    startTime.clear();
-    triggerDate.clear();
-    triggerTime.clear();
-    triggerOffsetMs = 0;
-    fileType.clear();
-    analogChannels.clear();
-    digitalChannels.clear();
-    maxValue = 0;
-    minValue = 0;
+    static_cast<RecordingContents &>(*this) = {};
 }
 
 AnalogChannel *CFGProperties::analogChannel(int number) const
