@@ -94,7 +94,7 @@ private:
 class DataReader {
 public:
     DataReader(QIODevice &device, CFGProperties &recording)
-        : m_device(device), m_recording(recording), m_timesBefore(recording.sampleTimes.size())
+        : m_device(device), m_recording(recording), m_rowsBefore(recording.sampleTimes.size())
     {
     }
 
@@ -147,6 +147,7 @@ private:
     // False where the line ends the data.
     bool readLine(const char *begin, const char *end)
     {
+        const qint64 length = end - begin + 1; // with the line end
         if (end != begin && end[-1] == '\r')
             --end;
         if (const void *nul = std::memchr(begin, '\0', static_cast<size_t>(end - begin)))
@@ -154,12 +155,10 @@ private:
         const char *const numberEnd = fieldEnd(begin, end);
         if (numberEnd == end)
             return false;
-        if (m_rows == 0) {
-            makeRecords(begin, end);
-            reserve(end - begin);
-        }
-        m_bytes += end - begin;
-        if (!isWithinBudget(qint64(m_timesBefore) + m_rows + 1, columns(), m_bytes))
+        if (m_rows == 0)
+            makeRecords(length);
+        m_bytes += length;
+        if (m_rowsBefore + m_rows == mostRows || !isWithinBudget(m_rows + 1, columns(), m_bytes))
             return false;
         LineFields fields(numberEnd + 1, end);
         m_times[m_gathered] = fields.toDouble() / 1000;
@@ -178,16 +177,17 @@ private:
         return static_cast<qint64>(m_analog.size()) + static_cast<qint64>(m_digital.size());
     }
 
-    // The promised counts are believed as far as definition lines or fields stand behind them.
-    void makeRecords(const char *begin, const char *end)
+    // Every promised column gets a record, whether a line has it or not, that has a definition or
+    // that a line of this file could have.
+    void makeRecords(qint64 firstLineBytes)
     {
-        const qint64 fields = std::count(begin, end, ',') + 1 - 2;
+        const qint64 reached = mostBackedColumns(firstLineBytes, m_device.size());
         const qint64 promised = std::max(m_recording.analogChannelCount, 0);
         const qint64 analog = std::min<qint64>(
-            {promised, mostChannels, std::max<qint64>(fields, m_recording.analogIndexes.size())});
+            {promised, mostChannels, std::max<qint64>(reached, m_recording.analogIndexes.size())});
         const qint64 digital
             = std::min<qint64>({m_recording.totalChannelCount - promised, mostChannels - analog,
-                std::max<qint64>(fields - promised, m_recording.digitalIndexes.size())});
+                std::max<qint64>(reached - analog, m_recording.digitalIndexes.size())});
         for (int k = m_recording.analogChannels.size(); k < analog; ++k)
             m_recording.analogChannels.append(newAnalogChannel(m_recording, k));
         for (int j = m_recording.digitalChannels.size(); j < digital; ++j)
@@ -212,14 +212,18 @@ private:
                 &m_digitalBlocks[j * m_blockRows]});
     }
 
-    // Makes room for as many lines as the device holds when all are as long as the first one, or as
-    // long as the fields of a complete one make it.
-    void reserve(qint64 lineLength)
+    // Makes room for as many lines as the device holds when the rest are as long as those that
+    // were read, within bounds: they may be longer.
+    void reserve()
     {
-        const qint64 lines = m_device.size() / std::max(lineLength + 1, 2 * (2 + columns()));
-        const auto extend = [lines](auto &series) {
-            series.reserve(static_cast<int>(std::min(mostRows, series.size() + lines)));
-        };
+        constexpr double mostForEachRead = 16;
+        const double expected = static_cast<double>(m_rows) / static_cast<double>(m_bytes)
+            * static_cast<double>(m_device.size());
+        const double wanted = std::clamp(expected, m_rows * 1.125, m_rows * mostForEachRead);
+        const int delivered = m_rows - static_cast<int>(m_gathered);
+        m_rowsWithRoom = static_cast<int>(std::min<double>(wanted, mostRows - m_rowsBefore));
+        const auto extend = [additional = m_rowsWithRoom - delivered](
+                                auto &series) { series.reserve(series.size() + additional); };
         extend(m_recording.sampleTimes);
         for (const AnalogColumn &column : m_analog) {
             extend(column.channel->values);
@@ -231,17 +235,16 @@ private:
 
     void deliver()
     {
+        if (m_rows > m_rowsWithRoom)
+            reserve();
+        const int count = static_cast<int>(m_gathered);
         append(m_recording.sampleTimes, m_times.data());
         for (const AnalogColumn &column : m_analog) {
             append(column.channel->rawValues, column.block);
-            appendScaled(*column.channel, column);
+            column.channel->appendValues(column.block, count, column.channel->a, column.b);
         }
-        for (const DigitalColumn &column : m_digital) {
-            append(column.channel->values, column.block);
-            column.channel->allZero = column.channel->allZero
-                && std::all_of(
-                    column.block, column.block + m_gathered, [](int state) { return state == 0; });
-        }
+        for (const DigitalColumn &column : m_digital)
+            column.channel->appendValues(column.block, count);
         m_gathered = 0;
     }
 
@@ -252,51 +255,29 @@ private:
         std::copy_n(block, m_gathered, series.begin() + count);
     }
 
-    void appendScaled(AnalogChannel &channel, const AnalogColumn &column) const
-    {
-        const auto a = static_cast<double>(channel.a);
-        const auto b = static_cast<double>(column.b);
-        std::array<float, mostBlockRows> scaled;
-        float largest = channel.maxValue;
-        float smallest = channel.minValue;
-        for (size_t row = 0; row < m_gathered; ++row) {
-            scaled[row] = narrowed(a * static_cast<double>(column.block[row]) + b);
-            largest = std::max(largest, scaled[row]);
-            smallest = std::min(smallest, scaled[row]);
-        }
-        channel.maxValue = largest;
-        channel.minValue = smallest;
-        append(channel.values, scaled.data());
-    }
-
     void finish()
     {
         deliver();
         m_recording.sampleTimes.squeeze();
-        const QVector<double> timesBefore = m_recording.sampleTimes.mid(0, m_timesBefore);
-        const QVector<double> newTimes = m_recording.sampleTimes.mid(m_timesBefore);
-        const auto extend = [&](QVector<double> &times) {
-            if (times == timesBefore)
-                times = m_recording.sampleTimes;
-            else
-                times += newTimes;
-        };
+        // Lists that were empty share these times instead of copying them.
+        const QVector<double> times = m_recording.sampleTimes.mid(m_rowsBefore);
         for (const AnalogColumn &column : m_analog) {
             column.channel->values.squeeze();
             column.channel->rawValues.squeeze();
-            extend(column.channel->times);
+            column.channel->times += times;
         }
         for (const DigitalColumn &column : m_digital) {
             column.channel->values.squeeze();
-            extend(column.channel->times);
+            column.channel->times += times;
         }
         m_recording.sampleCount = m_rows;
     }
 
     QIODevice &m_device;
     CFGProperties &m_recording;
-    const int m_timesBefore;
+    const int m_rowsBefore; // of earlier readings
     int m_rows = 0;
+    int m_rowsWithRoom = 0; // in the series
     size_t m_gathered = 0; // rows in the blocks
     qint64 m_bytes = 0; // of the lines read
     size_t m_blockRows = mostBlockRows;

@@ -136,7 +136,8 @@ public:
     bool readLine(const QString &line)
     {
         m_letters += line.size();
-        if (!isWithinBudget(m_recording.sampleCount + 1, m_recording.analogChannelCount, m_letters))
+        if (m_recording.sampleTimes.size() == mostRows
+            || !isWithinBudget(m_rows + 1, m_recording.analogChannelCount, m_letters))
             return false;
         const QVector<QStringRef> fields = firstFields(line, m_recording.analogChannelCount + 1);
         const QDateTime stamp = parsedStamp(fields.constFirst());
@@ -149,7 +150,8 @@ public:
             m_reference = moment;
         const qint64 elapsed = stamp.isValid() ? moment - m_reference : 0;
         m_recording.durationMs = elapsed;
-        m_recording.lastSampleNumber = ++m_recording.sampleCount;
+        m_recording.lastSampleNumber = ++m_rows;
+        ++m_recording.sampleCount;
         const auto time = static_cast<double>(elapsed);
         m_recording.sampleTimes.append(time);
         for (int k = 0; k < m_recording.analogChannelCount; ++k) {
@@ -176,6 +178,7 @@ public:
 private:
     CFGProperties &m_recording;
     qint64 m_letters; // of the lines read, the header among them
+    int m_rows = 0;
     qint64 m_reference = 0; // ms since the epoch
 };
 

@@ -213,7 +213,11 @@ private slots:
     void veryManyChannelsAreRead();
     void noMoreChannelsThanTheStandardAllows();
     void allChannelsShareOneTimeList();
+    void shortLinesAreReadInFull_data();
+    void shortLinesAreReadInFull();
+    void aColumnMayBeginBehindTheFirstLine();
     void aSecondReadingAppends();
+    void aShortReadingAppendsToALongOne();
     void anyFileReadsAsThePlainReaderReadsIt_data();
     void anyFileReadsAsThePlainReaderReadsIt();
     void linesAcrossBlocksReadAsThePlainReaderReadsThem();
@@ -459,12 +463,15 @@ void TestDataReader::countsThatDisagree_data()
     QTest::newRow("a total below the analog count leaves all out") << 1 << 2 << 2 << 0;
     QTest::newRow("a total of 0") << 0 << 2 << 2 << 0;
     QTest::newRow("a negative total") << -7 << 2 << 2 << 0;
-    QTest::newRow("more analog channels than defined, as far as fields go") << 6 << 5 << 5 << 1;
-    QTest::newRow("a total without end, as far as fields go") << 2000000000 << 2 << 2 << 4;
-    QTest::newRow("counts without end, as far as fields go") << 2000000000 << 2000000000 << 6 << 0;
+    QTest::newRow("more analog channels than defined") << 6 << 5 << 5 << 1;
+    QTest::newRow("a total above the fields of a line") << 12 << 2 << 2 << 10;
+    QTest::newRow("an analog count above the fields of a line") << 9 << 9 << 9 << 0;
+    // The two lines are 47 bytes.
+    QTest::newRow("a total without end, as far as bytes go") << 2000000000 << 2 << 2 << 45;
+    QTest::newRow("counts without end, as far as bytes go") << 2000000000 << 2000000000 << 47 << 0;
     QTest::newRow("a negative analog count") << 4 << -2000000000 << 0 << 4;
     QTest::newRow("a negative analog count and a total without end")
-        << 2000000000 << -2000000000 << 0 << 6;
+        << 2000000000 << -2000000000 << 0 << 47;
     QTest::newRow("no analog channels") << 4 << 0 << 0 << 4;
 }
 
@@ -482,12 +489,16 @@ void TestDataReader::countsThatDisagree()
     QCOMPARE(recording.sampleCount, 2);
     QCOMPARE(recording.analogChannels.size(), analogRecords);
     QCOMPARE(recording.digitalChannels.size(), digitalRecords);
-    for (int k = 0; k < analogRecords; ++k)
+    const auto values = [](int column) { // missing ones are 0
+        return column < 6 ? QVector<int>{11 + column, 21 + column} : QVector<int>{0, 0};
+    };
+    for (int k = 0; k < analogRecords; ++k) {
+        const QVector<int> expected = values(k);
         QCOMPARE(recording.analogChannels.at(k)->rawValues,
-            QVector<float>({static_cast<float>(11 + k), static_cast<float>(21 + k)}));
+            QVector<float>(expected.cbegin(), expected.cend()));
+    }
     for (int j = 0; j < digitalRecords; ++j)
-        QCOMPARE(recording.digitalChannels.at(j)->values,
-            QVector<int>({11 + analogRecords + j, 21 + analogRecords + j}));
+        QCOMPARE(recording.digitalChannels.at(j)->values, values(analogRecords + j));
     if (analogRecords <= 2)
         return;
     const AnalogChannel &undefined = *recording.analogChannels.at(2);
@@ -561,6 +572,47 @@ void TestDataReader::allChannelsShareOneTimeList()
     QCOMPARE(recording.sampleTimes.size(), 1000);
 }
 
+void TestDataReader::shortLinesAreReadInFull_data()
+{
+    QTest::addColumn<int>("analog");
+    QTest::addColumn<int>("digital");
+    QTest::addColumn<QByteArray>("line");
+    QTest::newRow("16 values, none of 512 states")
+        << 16 << 512 << QByteArray("1,0").append(QByteArray(",5").repeated(16));
+    QTest::newRow("none of 300 values") << 300 << 0 << QByteArray("1,1000");
+}
+
+void TestDataReader::shortLinesAreReadInFull()
+{
+    QFETCH(int, analog);
+    QFETCH(int, digital);
+    QFETCH(QByteArray, line);
+    constexpr int lines = 2000;
+    CFGProperties recording;
+    configure(recording, analog, digital);
+    read(recording, (line + '\n').repeated(lines));
+    QCOMPARE(recording.sampleCount, lines);
+    QCOMPARE(recording.analogChannels.size(), analog);
+    QCOMPARE(recording.digitalChannels.size(), digital);
+    const float value = line.endsWith('5') ? 5 : 0;
+    QCOMPARE(recording.analogChannels.constLast()->rawValues, QVector<float>(lines, value));
+    if (digital > 0)
+        QCOMPARE(recording.digitalChannels.constLast()->values, QVector<int>(lines, 0));
+}
+
+void TestDataReader::aColumnMayBeginBehindTheFirstLine()
+{
+    CFGProperties recording; // without definitions
+    recording.analogChannelCount = 2;
+    recording.totalChannelCount = 4;
+    read(recording, "1,0,5\n2,1000,6,7,1,1\n");
+    QCOMPARE(recording.sampleCount, 2);
+    QCOMPARE(recording.analogChannels.size(), 2);
+    QCOMPARE(recording.analogChannels.at(1)->values, QVector<float>({0.0F, 7.0F}));
+    QCOMPARE(recording.digitalChannels.size(), 2);
+    QCOMPARE(recording.digitalChannels.at(1)->values, QVector<int>({0, 1}));
+}
+
 void TestDataReader::aSecondReadingAppends()
 {
     CFGProperties recording;
@@ -582,6 +634,27 @@ void TestDataReader::aSecondReadingAppends()
     QCOMPARE(analog->maxValue, 7.0F);
     QCOMPARE(digital->values, QVector<int>({0, 0, 1}));
     QVERIFY(!digital->allZero);
+}
+
+void TestDataReader::aShortReadingAppendsToALongOne()
+{
+    constexpr int channels = 200;
+    constexpr int lines = 2000;
+    const QByteArray line = "1,0" + QByteArray(",5").repeated(channels) + '\n';
+    CFGProperties recording;
+    configure(recording, channels, 0);
+    read(recording, line.repeated(lines));
+    QCOMPARE(recording.sampleCount, lines);
+    read(recording, "1,7000\n2,8000,6\n");
+    QCOMPARE(recording.sampleCount, 2);
+    QCOMPARE(recording.sampleTimes.size(), lines + 2);
+    QCOMPARE(recording.sampleTimes.constLast(), 8.0);
+    const AnalogChannel &first = *recording.analogChannels.constFirst();
+    QCOMPARE(first.times, recording.sampleTimes);
+    QCOMPARE(first.rawValues.mid(lines - 1), QVector<float>({5.0F, 0.0F, 6.0F}));
+    const AnalogChannel &last = *recording.analogChannels.constLast();
+    QCOMPARE(last.times, recording.sampleTimes);
+    QCOMPARE(last.rawValues.mid(lines - 1), QVector<float>({5.0F, 0.0F, 0.0F}));
 }
 
 void TestDataReader::anyFileReadsAsThePlainReaderReadsIt_data()

@@ -315,12 +315,15 @@ void TestTextReader::manyNames_data()
     QTest::newRow("millions are left out") << 3000000 << QByteArray() << 999999 << 0;
     const auto lines = [](int count) { return QByteArray("x\n").repeated(count); };
     QTest::newRow("missing values are 0") << 19999 << lines(2) << 20000 << 2;
-    // Behind the first line they may be 16384 and 8 a letter, those of the names included.
+    // A line of stamps alone.
+    QTest::newRow("values that are missing from every line are 0")
+        << 299 << QByteArray("01/02/2020-10:00:00:000\n").repeated(1000) << 300 << 1000;
+    // Behind the first line they may be 16384 and 64 a letter, those of the names included.
     QTest::newRow("missing values beyond all measure end the reading")
-        << 19999 << lines(99) << 20000 << 9;
+        << 19999 << lines(99) << 20000 << 66;
     // The last line alone would be worth another sample.
     QTest::newRow("empty lines beyond all measure end the reading")
-        << 19999 << QByteArray(1000000, '\n') + QByteArray(100000, 'x') << 20000 << 9;
+        << 19999 << QByteArray(1000000, '\n') + QByteArray(100000, 'x') << 20000 << 65;
 }
 
 void TestTextReader::manyNames()
