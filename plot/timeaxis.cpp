@@ -40,13 +40,18 @@ int TimeAxis::sampleAt(double sampleRate, double time) const
     return ::sampleAt(m_times, sampleRate, time, searchFrom);
 }
 
+int TimeAxis::columnOf(const PlotGeometry &geometry, double ratio, int sample) const
+{
+    return PlotGeometry::pixel(geometry.traceX(m_times[sample]) * ratio);
+}
+
 // Columns of a steadily sampled recording are nearly equally full, so the search starts where the
 // column would end if it were as full as the one before it, and widens from there.
-int TimeAxis::columnEnd(const PlotGeometry &geometry, int x, int first, int expected) const
+int TimeAxis::columnEnd(
+    const PlotGeometry &geometry, double ratio, int x, int first, int expected) const
 {
     const int count = m_times.size();
-    const auto isInside
-        = [&](int sample) { return PlotGeometry::pixel(geometry.traceX(m_times[sample])) <= x; };
+    const auto isInside = [&](int sample) { return columnOf(geometry, ratio, sample) <= x; };
     int inside = first;
     int outside = count;
     const int guess = first + std::clamp(expected, 1, count - first);
@@ -76,19 +81,19 @@ int TimeAxis::columnEnd(const PlotGeometry &geometry, int x, int first, int expe
     return outside;
 }
 
-QVector<TimeAxis::Column> TimeAxis::columns(const PlotGeometry &geometry) const
+QVector<TimeAxis::Column> TimeAxis::columns(const PlotGeometry &geometry, double ratio) const
 {
     QVector<Column> result;
-    result.reserve(geometry.plotWidth() + 2);
-    const int right = geometry.area().right();
+    const double right = (geometry.area().right() + 1) * ratio;
+    result.reserve(static_cast<int>(geometry.plotWidth() * ratio) + 2);
     int expected = 1;
     for (int first = firstAtOrAfter(geometry.view().minX); first < m_times.size();) {
-        const int x = PlotGeometry::pixel(geometry.traceX(m_times[first]));
-        if (x > right) {
+        const int x = columnOf(geometry, ratio, first);
+        if (x >= right) {
             result.append({x, first, first + 1});
             break;
         }
-        const int last = columnEnd(geometry, x, first, expected);
+        const int last = columnEnd(geometry, ratio, x, first, expected);
         result.append({x, first, last});
         expected = last - first;
         first = last;

@@ -8,10 +8,10 @@
 #include <QVector>
 
 // The sample times of a recording (ms), prepared for drawing: whether they ascend, their extremes,
-// and which samples fall on which pixel column of a view.
+// and which samples fall on which column of device pixels of a view.
 class TimeAxis {
 public:
-    // The samples first to last - 1 stand on pixel column x.
+    // The samples first to last - 1 stand on column x of the device pixels.
     struct Column {
         int x;
         int first;
@@ -38,11 +38,13 @@ public:
     int sampleAt(double sampleRate, double time) const;
 
     // The columns of the samples from the left edge of the view on, and as the last one the first
-    // sample right of the plot area, where the line leaves it.
-    QVector<Column> columns(const PlotGeometry &geometry) const;
+    // sample right of the plot area, where the line leaves it. The ratio is that of device pixels
+    // to widget pixels.
+    QVector<Column> columns(const PlotGeometry &geometry, double ratio) const;
 
 private:
-    int columnEnd(const PlotGeometry &geometry, int x, int first, int expected) const;
+    int columnOf(const PlotGeometry &geometry, double ratio, int sample) const;
+    int columnEnd(const PlotGeometry &geometry, double ratio, int x, int first, int expected) const;
 
     QVector<double> m_times;
     bool m_ascending = true;

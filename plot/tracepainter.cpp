@@ -8,14 +8,68 @@
 #include <algorithm>
 #include <cmath>
 
+namespace {
+
+// Lines are cut to a square so far beyond any plot that rounding their ends does not turn them, and
+// still small enough for painting.
+constexpr double farAway = 1 << 20;
+
+// Positions are kept so small that what is computed of two of them is finite.
+constexpr double farthest = 1e100;
+
+bool isNear(const QPointF &point)
+{
+    return std::abs(point.x()) <= farAway && std::abs(point.y()) <= farAway;
+}
+
+// Cuts a line to the square; false where none of it lies in there.
+bool cutToSquare(QPointF &from, QPointF &to)
+{
+    const QPointF start = from;
+    const QPointF way = to - from;
+    double enters = 0; // as shares of the way
+    double leaves = 1;
+    const auto cut = [&](double position, double step) {
+        if (step == 0)
+            return std::abs(position) <= farAway;
+        const double low = (-farAway - position) / step;
+        const double high = (farAway - position) / step;
+        enters = std::max(enters, std::min(low, high));
+        leaves = std::min(leaves, std::max(low, high));
+        return enters <= leaves;
+    };
+    if (!cut(start.x(), way.x()) || !cut(start.y(), way.y()))
+        return false;
+    if (enters > 0)
+        from = start + enters * way;
+    if (leaves < 1)
+        to = start + leaves * way;
+    return true;
+}
+
+double kept(double position)
+{
+    return std::clamp(position, -farthest, farthest);
+}
+
+} // namespace
+
 TracePainter::TracePainter(QPainter &painter, const PlotGeometry &geometry, const TimeAxis &axis)
-    : m_painter(painter), m_geometry(geometry), m_axis(axis)
+    : m_painter(painter),
+      m_geometry(geometry),
+      m_axis(axis),
+      m_ratio(painter.device()->devicePixelRatioF())
 {
 }
 
-int TracePainter::yOf(float value, double factor) const
+double TracePainter::xOf(double time) const
 {
-    return PlotGeometry::pixel(m_geometry.traceY(static_cast<double>(value) * factor));
+    return kept(m_geometry.traceX(time) * m_ratio);
+}
+
+double TracePainter::yOf(float value, double factor) const
+{
+    return kept(m_geometry.traceY(static_cast<double>(value) * factor) * m_ratio);
 }
 
 void TracePainter::draw(const TraceSummary &series, double factor)
@@ -23,7 +77,7 @@ void TracePainter::draw(const TraceSummary &series, double factor)
     if (!std::isfinite(factor))
         return;
     const int count = std::min(series.values().size(), m_axis.times().size());
-    if (m_axis.isAscending() && count > 2 * m_geometry.plotWidth())
+    if (m_axis.isAscending() && count > 2 * m_ratio * m_geometry.plotWidth())
         drawThinned(series, factor);
     else
         drawAll(series.values(), factor);
@@ -34,13 +88,13 @@ void TracePainter::drawAll(const QVector<float> &values, double factor)
     const QVector<double> &times = m_axis.times();
     const int count = std::min(values.size(), times.size());
     const double minX = m_geometry.view().minX;
-    const int right = m_geometry.area().right();
+    const double right = m_ratio * (m_geometry.area().right() + 1);
     for (int i = m_axis.isAscending() ? m_axis.firstAtOrAfter(minX) : 0; i < count; ++i) {
         if (!(times[i] >= minX))
             continue;
-        const int x = PlotGeometry::pixel(m_geometry.traceX(times[i]));
+        const double x = xOf(times[i]);
         if (std::isfinite(values[i]))
-            addPoint(x, yOf(values[i], factor));
+            addPoint({x, yOf(values[i], factor)});
         else
             endLine();
         if (x > right && m_axis.isAscending())
@@ -52,7 +106,7 @@ void TracePainter::drawAll(const QVector<float> &values, double factor)
 void TracePainter::drawThinned(const TraceSummary &series, double factor)
 {
     if (m_columns.isEmpty())
-        m_columns = m_axis.columns(m_geometry);
+        m_columns = m_axis.columns(m_geometry, m_ratio);
     const int count = series.values().size();
     for (const TimeAxis::Column &column : qAsConst(m_columns)) {
         if (column.first < count)
@@ -61,7 +115,7 @@ void TracePainter::drawThinned(const TraceSummary &series, double factor)
     paintLines();
 }
 
-// All samples stand on one pixel column, so the line covers it from the smallest to the largest; it
+// All samples stand on one column, so the line covers it from the smallest to the largest; it
 // enters at the first and leaves at the last. A run with gaps is halved until its parts have none.
 void TracePainter::addColumn(const TraceSummary &series, double factor, int x, int first, int last)
 {
@@ -73,23 +127,30 @@ void TracePainter::addColumn(const TraceSummary &series, double factor, int x, i
         addColumn(series, factor, x, first, middle);
         addColumn(series, factor, x, middle, last);
     } else {
-        addPoint(x, yOf(series.values().at(first), factor));
-        m_lines.append({x, yOf(extent.min, factor), x, yOf(extent.max, factor)});
-        m_end = {x, yOf(series.values().at(last - 1), factor)};
+        const QVector<double> &times = m_axis.times();
+        addPoint({xOf(times.at(first)), yOf(series.values().at(first), factor)});
+        addLine({double(x), yOf(extent.min, factor)}, {double(x), yOf(extent.max, factor)}, true);
+        m_end = {xOf(times.at(last - 1)), yOf(series.values().at(last - 1), factor)};
     }
 }
 
 // Lines of their own rather than one polyline: each then covers both of its ends, and the picture
 // does not depend on which points of a column are joined in between.
-void TracePainter::addPoint(int x, int y)
+void TracePainter::addPoint(const QPointF &point)
 {
-    const QPoint point(x, y);
-    if (!m_isInLine)
-        m_lines.append({point, point});
-    else if (point != m_end)
-        m_lines.append({m_end, point});
+    addLine(m_isInLine ? m_end : point, point, !m_isInLine);
     m_end = point;
     m_isInLine = true;
+}
+
+void TracePainter::addLine(QPointF from, QPointF to, bool evenIfPoint)
+{
+    if (!(isNear(from) && isNear(to)) && !cutToSquare(from, to))
+        return;
+    const QLine line(PlotGeometry::pixel(from.x()), PlotGeometry::pixel(from.y()),
+        PlotGeometry::pixel(to.x()), PlotGeometry::pixel(to.y()));
+    if (evenIfPoint || line.p1() != line.p2())
+        m_lines.append(line);
 }
 
 void TracePainter::endLine()
@@ -99,7 +160,10 @@ void TracePainter::endLine()
 
 void TracePainter::paintLines()
 {
+    m_painter.save();
+    m_painter.scale(1 / m_ratio, 1 / m_ratio);
     m_painter.drawLines(m_lines);
+    m_painter.restore();
     m_lines.clear();
     m_isInLine = false;
 }

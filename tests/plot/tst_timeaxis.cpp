@@ -78,15 +78,18 @@ void TestTimeAxis::searchesMayStartLateWhereTimesAscend()
 void TestTimeAxis::columnsHoldEverySampleOnce_data()
 {
     QTest::addColumn<QVector<double>>("times");
+    QTest::addColumn<double>("ratio");
     const auto steady = [](int count) {
         QVector<double> times;
         for (int i = 0; i < count; ++i)
             times.append(1000.0 * i / count);
         return times;
     };
-    QTest::newRow("fewer samples than columns") << steady(50);
-    QTest::newRow("many samples") << steady(100000);
-    QTest::newRow("all at one time") << QVector<double>(1000, 500.0);
+    QTest::newRow("fewer samples than columns") << steady(50) << 1.0;
+    QTest::newRow("many samples") << steady(100000) << 1.0;
+    QTest::newRow("many samples at 1.5") << steady(100000) << 1.5;
+    QTest::newRow("many samples at 3") << steady(100000) << 3.0;
+    QTest::newRow("all at one time") << QVector<double>(1000, 500.0) << 1.0;
 
     std::mt19937 random(1);
     QVector<double> bursts;
@@ -95,27 +98,29 @@ void TestTimeAxis::columnsHoldEverySampleOnce_data()
         time += random() % 100 == 0 ? 20 : 0.001 * double(random() % 10);
         bursts.append(time);
     }
-    QTest::newRow("bursts with gaps") << bursts;
+    QTest::newRow("bursts with gaps") << bursts << 1.0;
+    QTest::newRow("bursts with gaps at 1.25") << bursts << 1.25;
 }
 
 void TestTimeAxis::columnsHoldEverySampleOnce()
 {
     QFETCH(QVector<double>, times);
+    QFETCH(double, ratio);
     const TimeAxis axis(times);
     const PlotGeometry geometry(QSize(900, 300), 0, {0, times.constLast() + 1, 4, 0, 1, 4});
     int next = 0;
     int lastX = -1;
-    for (const TimeAxis::Column &column : axis.columns(geometry)) {
+    for (const TimeAxis::Column &column : axis.columns(geometry, ratio)) {
         QCOMPARE(column.first, next);
         QVERIFY(column.last > column.first);
         QVERIFY(column.x > lastX);
         for (int i = column.first; i < column.last; ++i) {
             const double x = 100 + times[i] * 800 / (times.constLast() + 1);
-            QCOMPARE(int(std::lround(x)), column.x);
+            QCOMPARE(int(std::lround(x * ratio)), column.x);
         }
         lastX = column.x;
         next = column.last;
-        if (column.x > geometry.area().right())
+        if (column.x >= 898 * ratio) // the area ends at x = 897
             return;
     }
     QCOMPARE(next, times.size());
@@ -125,13 +130,17 @@ void TestTimeAxis::columnsEndRightOfTheArea()
 {
     const TimeAxis axis({0, 10, 20, 30, 40});
     const PlotGeometry geometry(QSize(900, 300), 0, {10, 20, 4, 0, 1, 4});
-    const QVector<TimeAxis::Column> columns = axis.columns(geometry);
+    const QVector<TimeAxis::Column> columns = axis.columns(geometry, 1);
     QCOMPARE(columns.size(), 2);
     QCOMPARE(columns[0].x, 100);
     QCOMPARE(columns[0].first, 1);
     QCOMPARE(columns[1].x, 900);
     QCOMPARE(columns[1].first, 2);
     QCOMPARE(columns[1].last, 3);
+    const QVector<TimeAxis::Column> columnsAtTwo = axis.columns(geometry, 2);
+    QCOMPARE(columnsAtTwo.size(), 2);
+    QCOMPARE(columnsAtTwo[0].x, 200);
+    QCOMPARE(columnsAtTwo[1].x, 1800);
 }
 
 void TestTimeAxis::extentOfAnyRun_data()

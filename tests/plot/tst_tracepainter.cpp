@@ -11,6 +11,7 @@
 #include <cmath>
 #include <functional>
 #include <limits>
+#include <numeric>
 #include <random>
 
 using Generator = std::function<float(int)>;
@@ -30,21 +31,25 @@ QVector<double> steadyTimes(int count)
     return times;
 }
 
-QImage paint(const std::function<void(QPainter &)> &draw)
+const QVector<double> ratios{1, 1.25, 1.5, 1.75, 2, 3}; // of device pixels to widget pixels
+
+QImage paint(
+    double ratio, const PlotGeometry &geometry, const std::function<void(QPainter &)> &draw)
 {
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    QImage image(size * ratio, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setPen(QPen(Qt::green, 0));
+    painter.setClipRect(geometry.area());
     draw(painter);
     return image;
 }
 
 QImage traceImage(const PlotGeometry &geometry, const QVector<double> &times,
-    const QVector<float> &values, double factor, bool thinned)
+    const QVector<float> &values, double factor, bool thinned, double ratio = 1)
 {
-    return paint([&](QPainter &painter) {
-        painter.setClipRect(geometry.area());
+    return paint(ratio, geometry, [&](QPainter &painter) {
         const TimeAxis axis(times);
         TracePainter traces(painter, geometry, axis);
         if (thinned)
@@ -75,26 +80,39 @@ int differentPixels(const QImage &a, const QImage &b)
     return different;
 }
 
+// How many pixels are lit in each column of device pixels.
+QVector<int> litInColumns(const QImage &image)
+{
+    QVector<int> lit(image.width());
+    for (int y = 0; y < image.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x)
+            lit[x] += qAlpha(line[x]) != 0;
+    }
+    return lit;
+}
+
 int litPixels(const QImage &image)
 {
-    QImage empty(image.size(), image.format());
-    empty.fill(Qt::transparent);
-    return differentPixels(image, empty);
+    const QVector<int> lit = litInColumns(image);
+    return std::accumulate(lit.cbegin(), lit.cend(), 0);
 }
 
 // Pictures that differ are left in the build folder.
-void compare(const QImage &thinned, const QImage &full)
+void compare(const QImage &thinned, const QImage &full, double ratio)
 {
-    const int different = differentPixels(thinned, full);
+    const int different = thinned == full ? 0 : differentPixels(thinned, full);
     if (different > 0) {
         const QString stem = QStringLiteral(TEST_OUTPUT_DIR "/trace-")
             + QString::fromLatin1(QTest::currentDataTag())
-                  .replace(QLatin1Char(' '), QLatin1Char('-'));
+                  .replace(QLatin1Char(' '), QLatin1Char('-'))
+            + QStringLiteral("-at-%1").arg(ratio);
         QVERIFY(thinned.save(stem + QStringLiteral("-actual.png")));
         QVERIFY(full.save(stem + QStringLiteral("-expected.png")));
         QVERIFY(difference(thinned, full).save(stem + QStringLiteral("-difference.png")));
     }
-    QVERIFY2(different == 0, qPrintable(QStringLiteral("%1 pixels differ").arg(different)));
+    QVERIFY2(different == 0,
+        qPrintable(QStringLiteral("%1 pixels differ at %2").arg(different).arg(ratio)));
 }
 
 } // namespace
@@ -105,6 +123,12 @@ class TestTracePainter : public QObject {
 private slots:
     void thinnedPictureEqualsFull_data();
     void thinnedPictureEqualsFull();
+    void coversWhatThePaintersOwnLineDoes_data();
+    void coversWhatThePaintersOwnLineDoes();
+    void aFlatLineIsOneDevicePixelThick_data();
+    void aFlatLineIsOneDevicePixelThick();
+    void linesFromFarOutsideAreNotBent_data();
+    void linesFromFarOutsideAreNotBent();
     void descendingTimesAreNotThinned();
     void samplesLeftOfTheViewAreSkipped();
     void theLineLeavesTheAreaOnTheRight();
@@ -173,8 +197,118 @@ void TestTracePainter::thinnedPictureEqualsFull()
         values[i] = value(i);
     const PlotGeometry geometry(size, 0, {view[0], view[1], 4, view[2], view[3], 4});
     const QVector<double> times = steadyTimes(count);
-    compare(traceImage(geometry, times, values, factor, true),
-        traceImage(geometry, times, values, factor, false));
+    for (const double ratio : ratios) {
+        compare(traceImage(geometry, times, values, factor, true, ratio),
+            traceImage(geometry, times, values, factor, false, ratio), ratio);
+    }
+}
+
+void TestTracePainter::coversWhatThePaintersOwnLineDoes_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<Generator>("value");
+    const auto random = std::make_shared<std::mt19937>(5);
+    QTest::newRow("noise") << 100000 << Generator([random](int) {
+        return float((*random)() % 2001) / 1000 - 1;
+    });
+    QTest::newRow("sine of 160 periods")
+        << 100000 << Generator([](int i) { return float(std::sin(i * 0.01)); });
+    QTest::newRow("sine of 640 periods")
+        << 100000 << Generator([](int i) { return float(std::sin(i * 0.04)); });
+    QTest::newRow("pulses") << 100000 << Generator([](int i) { return i / 5 % 2 ? 0.9F : -0.9F; });
+}
+
+// Of points that are not rounded, by the number of lit pixels.
+void TestTracePainter::coversWhatThePaintersOwnLineDoes()
+{
+    QFETCH(int, count);
+    QFETCH(Generator, value);
+    const PlotGeometry geometry(size, 0, {0, 1000, 4, -1.2, 1.2, 4}); // 800 x 199 pixels
+    const QVector<double> times = steadyTimes(count);
+    QVector<float> values;
+    QPolygonF points;
+    for (int i = 0; i < count; ++i) {
+        values.append(value(i));
+        points.append({100 + times[i] * 800 / 1000, 60 + (1.2 - double(values[i])) * 199 / 2.4});
+    }
+    for (const double ratio : ratios) {
+        const QImage expected
+            = paint(ratio, geometry, [&](QPainter &painter) { painter.drawPolyline(points); });
+        for (const bool thinned : {true, false}) {
+            const QImage actual = traceImage(geometry, times, values, 1, thinned, ratio);
+            const double share = double(litPixels(actual)) / litPixels(expected);
+            QVERIFY2(share > 0.98 && share < 1.02,
+                qPrintable(QStringLiteral("%1 of the pixels at %2").arg(share).arg(ratio)));
+        }
+    }
+}
+
+void TestTracePainter::aFlatLineIsOneDevicePixelThick_data()
+{
+    QTest::addColumn<double>("ratio");
+    for (const double ratio : ratios)
+        QTest::addRow("at %g", ratio) << ratio;
+}
+
+// In 100 heights; one sample stands on the right edge of the plot area or beyond.
+void TestTracePainter::aFlatLineIsOneDevicePixelThick()
+{
+    QFETCH(double, ratio);
+    const PlotGeometry geometry(size, 0, {0, 1000, 4, -1.2, 1.2, 4});
+    QVector<double> times = steadyTimes(6000);
+    times.append(1000);
+    const int left = int(std::lround(100 * ratio));
+    const int right = int(std::lround(898 * ratio)) - 1; // the frame's right edge is 897
+    for (int i = 0; i < 100; ++i) {
+        const QVector<float> values(6001, float(i - 50) / 50);
+        const QImage image = traceImage(geometry, times, values, 1, true, ratio);
+        QVector<int> expected(image.width(), 0);
+        std::fill(expected.begin() + left, expected.begin() + right + 1, 1);
+        QCOMPARE(litInColumns(image), expected);
+    }
+}
+
+void TestTracePainter::linesFromFarOutsideAreNotBent_data()
+{
+    QTest::addColumn<QVector<double>>("times"); // of the ends; 800 pixels a millisecond from 100 on
+    QTest::addColumn<QVector<float>>("values"); // 0 stands at 160, one a pixel
+    QTest::addColumn<QPointF>("crossing"); // a point of the line in the plot area
+    QTest::addColumn<bool>("isSteep");
+    using Times = QVector<double>;
+    using Values = QVector<float>;
+    // From (100, 160) to (100 + 1e9, 160 + 2.5e8).
+    QTest::newRow("to the lower right")
+        << Times{0, 1.25e6} << Values{0, -2.5e8F} << QPointF(260, 200) << false;
+    QTest::newRow("to the upper right")
+        << Times{0, 1.25e6} << Values{0, 2.5e8F} << QPointF(260, 120) << false;
+    // From (100, 160 - 4e9) to (300, 160 + 1e9).
+    QTest::newRow("from above to below")
+        << Times{0, 0.25} << Values{4e9F, -1e9F} << QPointF(260, 160) << true;
+    QTest::newRow("from below to above")
+        << Times{0, 0.25} << Values{-4e9F, 1e9F} << QPointF(260, 160) << true;
+    // From (100, 160 - 1e9) to (100 + 1e9, 160 + 6.25e15): by 6.25e6 a pixel.
+    QTest::newRow("from above to the lower right, all far outside")
+        << Times{0, 1.25e6} << Values{1e9F, -6.25e15F} << QPointF(260, 160) << true;
+}
+
+void TestTracePainter::linesFromFarOutsideAreNotBent()
+{
+    QFETCH(QVector<double>, times);
+    QFETCH(QVector<float>, values);
+    QFETCH(QPointF, crossing);
+    QFETCH(bool, isSteep);
+    const PlotGeometry geometry({900, 301}, 0, {0, 1, 4, -100, 100, 4});
+    for (const double ratio : ratios) {
+        const QPoint pixel = (crossing * ratio).toPoint();
+        const QImage full = traceImage(geometry, times, values, 1, false, ratio);
+        QVERIFY2(qAlpha(full.pixel(pixel)) != 0, qPrintable(QString::number(ratio)));
+        QVERIFY(isSteep || litInColumns(full)[pixel.x()] == 1);
+        QVector<double> manyTimes(3000, times[0]);
+        manyTimes += QVector<double>(3000, times[1]);
+        QVector<float> manyValues(3000, values[0]);
+        manyValues += QVector<float>(3000, values[1]);
+        compare(traceImage(geometry, manyTimes, manyValues, 1, true, ratio), full, ratio);
+    }
 }
 
 void TestTracePainter::descendingTimesAreNotThinned()
