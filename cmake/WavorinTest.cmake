@@ -13,6 +13,7 @@ function(wavorin_precompiled name)
 endfunction()
 
 add_library(wavorin_test_options INTERFACE)
+target_include_directories(wavorin_test_options INTERFACE "${PROJECT_SOURCE_DIR}/tests/support")
 if(WAVORIN_QUICK_TESTS)
     target_compile_options(wavorin_test_options INTERFACE
         $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-O1 -g1>)
@@ -20,30 +21,47 @@ if(WAVORIN_QUICK_TESTS)
     wavorin_precompiled(wavorin_widget_test_headers Qt5::Widgets)
 endif()
 
-# A QtTest executable of one unit: wavorin_test(tst_<unit> LIBRARIES ... [SOURCES ...] [PATHS])
-# Its source is tst_<unit>.cpp in the current folder; further sources may be added. PATHS defines
-# SOURCE_DIR and TEST_OUTPUT_DIR, the project's folder and the one for what a test leaves to look at.
-# It runs without a display, in UTC and in the C locale, with settings and data folders of its own.
-function(wavorin_test name)
-    cmake_parse_arguments(arg "PATHS" "TIMEOUT" "LIBRARIES;SOURCES" ${ARGN})
-    if(NOT arg_TIMEOUT)
-        set(arg_TIMEOUT 300)
-    endif()
-    add_executable(${name} ${name}.cpp ${arg_SOURCES})
-    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests/support")
-    target_link_libraries(${name} PRIVATE
-        wavorin_options wavorin_test_options Qt5::Test ${arg_LIBRARIES})
-    if(arg_PATHS)
-        target_compile_definitions(${name} PRIVATE
-            TEST_OUTPUT_DIR="${CMAKE_BINARY_DIR}/test-output"
-            SOURCE_DIR="${PROJECT_SOURCE_DIR}")
-    endif()
+# Compiles an executable of the tests, with the libraries it links, as fast as may be.
+function(wavorin_test_executable name)
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+    target_link_libraries(${name} PRIVATE wavorin_options wavorin_test_options Qt5::Test ${ARGN})
     if(WAVORIN_QUICK_TESTS)
-        if(arg_LIBRARIES MATCHES "plot|label|dialogs|app")
+        if(ARGN MATCHES "plot|label|dialogs|app|hosts")
             target_precompile_headers(${name} REUSE_FROM wavorin_widget_test_headers)
         else()
             target_precompile_headers(${name} REUSE_FROM wavorin_test_headers)
         endif()
+    endif()
+endfunction()
+
+# A QtTest executable of one unit: wavorin_test(tst_<unit> LIBRARIES ... [PATHS])
+# Its source is tst_<unit>.cpp in the current folder. It includes tst_<unit>.moc, for which moc reads no
+# headers but those of our interfaces; what is shared with other tests and needs moc is in the libraries of
+# tests/support. PATHS defines SOURCE_DIR and TEST_OUTPUT_DIR, the project's folder and the one for what a
+# test leaves to look at.
+# It runs without a display, in UTC and in the C locale, with settings and data folders of its own.
+function(wavorin_test name)
+    cmake_parse_arguments(arg "PATHS" "TIMEOUT" "LIBRARIES" ${ARGN})
+    if(arg_UNPARSED_ARGUMENTS)
+        message(FATAL_ERROR "wavorin_test does not know '${arg_UNPARSED_ARGUMENTS}'")
+    endif()
+    if(NOT arg_TIMEOUT)
+        set(arg_TIMEOUT 300)
+    endif()
+    set(source "${CMAKE_CURRENT_SOURCE_DIR}/${name}.cpp")
+    set(interfaces ${PROJECT_SOURCE_DIR}/plot ${PROJECT_SOURCE_DIR}/dialogs ${PROJECT_SOURCE_DIR}/dialogs/label)
+    list(TRANSFORM interfaces PREPEND -I)
+    set(moc "${CMAKE_CURRENT_BINARY_DIR}/${name}.moc")
+    add_custom_command(OUTPUT "${moc}"
+        COMMAND Qt5::moc $<$<BOOL:${UNIX}>:-DQ_OS_UNIX> ${interfaces} "${source}" -o "${moc}"
+        DEPENDS "${source}" VERBATIM)
+    add_executable(${name} "${source}" "${moc}")
+    target_include_directories(${name} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}")
+    wavorin_test_executable(${name} ${arg_LIBRARIES})
+    if(arg_PATHS)
+        target_compile_definitions(${name} PRIVATE
+            TEST_OUTPUT_DIR="${CMAKE_BINARY_DIR}/test-output"
+            SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     endif()
     add_test(NAME ${name} COMMAND ${name})
     set(home "${CMAKE_BINARY_DIR}/test-home/${name}")

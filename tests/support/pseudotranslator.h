@@ -8,8 +8,6 @@
 // Translates "text" of any context to "<context>text", so that a test sees what is translated, and
 // in which context.
 class PseudoTranslator : public QTranslator {
-    Q_OBJECT
-
 public:
     bool isEmpty() const override { return false; }
     QString translate(const char *context, const char *text, const char *, int) const override

@@ -10,8 +10,6 @@
 // Installed before every other translator, it is asked last, and keeps what none of them
 // translates.
 class UntranslatedTexts : public QTranslator {
-    Q_OBJECT
-
 public:
     using Text = QPair<QString, QString>; // context and source text
 
