@@ -324,18 +324,18 @@ void MainWindow::removePlotter()
 
 void MainWindow::removeCursors()
 {
-    for (Plotter *plot : plots()) {
+    for (Plotter *plot : plots())
         plot->clearCursors();
-        plot->refreshPixmap();
-    }
+    if (analogPlotter)
+        analogPlotter->zoomIn(); // which refreshes all plots
 }
 
 void MainWindow::refreshPlots()
 {
-    for (Plotter *plot : plots()) {
+    for (Plotter *plot : plots())
         plot->rescaleValues();
-        plot->refreshPixmap();
-    }
+    if (analogPlotter)
+        analogPlotter->zoomIn();
 }
 
 void MainWindow::primSecChanged(int index)
@@ -361,7 +361,7 @@ void MainWindow::refreshSpectra()
 {
     for (Plotter *plot : plots()) {
         if (plot->showsSpectrum()) {
-            plot->setupPlot();
+            plot->rescaleValues();
             plot->refreshPixmap();
         }
     }

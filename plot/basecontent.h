@@ -5,6 +5,7 @@
 
 #include "plotsettings.h"
 #include "readout.h"
+#include "shownchannel.h"
 
 #include <QFont>
 #include <QRgb>
@@ -13,34 +14,35 @@
 
 // All that the base layer of a plot is drawn from. The layer is drawn again only when some of it
 // has changed: most refreshes reach a plot through the ones linked to it, and change nothing.
+// Series are compared by what they hold; those that share their data, as nearly all do, at once.
 struct BaseContent {
     struct Trace {
         int channel;
         double factor;
         QRgb color;
-        const void *samples;
-        const void *angles;
+        ShownChannel shown;
 
         bool operator==(const Trace &other) const
         {
             return channel == other.channel && factor == other.factor && color == other.color
-                && samples == other.samples && angles == other.angles;
+                && shown == other.shown;
         }
     };
 
     PlotSettings view;
     QSize size; // of the plot
-    QSize layerSize;
     qreal pixelRatio = 0;
     QFont font;
     QString trigger; // text of its mark, which tells its time
     Readout readout;
+    int readoutWidth = 0;
+    QVector<double> times;
     QVector<Trace> traces;
 
     bool operator==(const BaseContent &other) const
     {
-        return view == other.view && size == other.size && layerSize == other.layerSize
-            && pixelRatio == other.pixelRatio && font == other.font && trigger == other.trigger
-            && readout.rows == other.readout.rows && traces == other.traces;
+        return view == other.view && size == other.size && pixelRatio == other.pixelRatio
+            && font == other.font && trigger == other.trigger && readout.rows == other.readout.rows
+            && readoutWidth == other.readoutWidth && times == other.times && traces == other.traces;
     }
 };

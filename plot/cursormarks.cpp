@@ -47,6 +47,8 @@ int CursorMarks::cursorOf(const QLabel *label) const
 
 void CursorMarks::add(double time)
 {
+    if (isFull())
+        return;
     Cursor cursor{time,
         std::make_unique<PlotLine>(m_plot, QStringLiteral("cursorLine"), QStringLiteral("#fffa50")),
         std::make_unique<CustomLabel>(m_plot)};

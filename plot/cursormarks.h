@@ -35,7 +35,7 @@ public:
     // The cursor that a label belongs to; -1 for any other label.
     int cursorOf(const QLabel *label) const;
 
-    void add(double time);
+    void add(double time); // nothing where it is full
     void move(int cursor, double time) { m_cursors.at(static_cast<size_t>(cursor)).time = time; }
     void remove(int cursor); // nothing where there is no such cursor
     void clear();

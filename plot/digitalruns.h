@@ -11,6 +11,12 @@ public:
     DigitalRuns() = default;
     explicit DigitalRuns(const QVector<int> &states);
 
+    bool operator==(const DigitalRuns &other) const
+    {
+        return m_starts == other.m_starts && m_lastSample == other.m_lastSample
+            && m_startsOn == other.m_startsOn;
+    }
+
     int count() const { return m_starts.size(); }
     // The first sample of a stretch, counted from 0.
     int start(int run) const { return m_starts.at(run); }

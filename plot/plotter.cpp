@@ -11,6 +11,7 @@
 #include "plothost.h"
 #include "plotline.h"
 #include "plotstyle.h"
+#include "plottitle.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -21,46 +22,43 @@
 #include <QStyleOptionFocusRect>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
-double Plotter::sharedHorizontalZoom = 1.0;
-double Plotter::sharedVerticalZoom = 1.0;
-PlotSettings Plotter::sharedAnalogSettings;
+SharedView Plotter::s_shared;
 
 namespace {
 
-constexpr int titleX = 70;
-constexpr int titleWidth = 100;
-constexpr int titleHeight = 20;
-constexpr int smallestTitleFont = 9; // pixels
+const std::array<QColor, 13> channelColors{QColor(245, 30, 18), QColor(220, 220, 0),
+    QColor(66, 66, 255), QColor(0, 255, 0), QColor(223, 105, 209), QColor(250, 140, 20),
+    QColor(80, 150, 180), QColor(193, 137, 62), QColor(60, 150, 0), QColor(0, 255, 255),
+    QColor(112, 146, 190), QColor(200, 191, 231), QColor(177, 177, 177)};
+
+// The largest or smallest of a channel, or of its finite samples where some are not.
+double finiteExtreme(float extreme, float ofFiniteSamples)
+{
+    return static_cast<double>(std::isfinite(extreme) ? extreme : ofFiniteSamples);
+}
 
 } // namespace
 
 Plotter::Plotter(QWidget *parent)
     : QWidget(parent),
       plotType(QStringLiteral("Analog")),
-      plotterLabel(new QLabel(this)),
+      plotterLabel(new PlotTitle(this)),
       timeLabel(new QLabel(this)),
       timeLine(new PlotLine(this, QStringLiteral("timeline"), QStringLiteral("white"))),
-      labelEditor(new QLineEdit(this)),
-      startMarker(new PlotLine(this, QStringLiteral("startMarker"), QStringLiteral("red"))),
-      endMarker(new PlotLine(this, QStringLiteral("endMarker"), QStringLiteral("red"))),
+      startMarker{new PlotLine(this, QStringLiteral("startMarker"), QStringLiteral("red"))},
+      endMarker{new PlotLine(this, QStringLiteral("endMarker"), QStringLiteral("red"))},
       cursorMarks(this),
-      hostWidget(parent),
+      m_channelLabels(this),
       colorDialog(new QColorDialog(Qt::white, this)),
-      channelColors({QColor(245, 30, 18), QColor(220, 220, 0), QColor(66, 66, 255),
-          QColor(0, 255, 0), QColor(223, 105, 209), QColor(250, 140, 20), QColor(80, 150, 180),
-          QColor(193, 137, 62), QColor(60, 150, 0), QColor(0, 255, 255), QColor(112, 146, 190),
-          QColor(200, 191, 231), QColor(177, 177, 177)})
+      hostWidget(parent)
 {
     setObjectName(QStringLiteral("Plotter"));
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-
-    plotterLabel->setObjectName(QStringLiteral("Plotter Label"));
-    plotterLabel->setStyleSheet(QStringLiteral("QLabel{border: 1px solid #00b9f2; color:white;}"));
-    plotterLabel->setTextFormat(Qt::PlainText);
 
     timeLabel->setObjectName(QStringLiteral("timelabel"));
     timeLabel->setStyleSheet(QStringLiteral("QLabel{color: white;}"));
@@ -71,11 +69,8 @@ Plotter::Plotter(QWidget *parent)
     timeLabel->lower();
     timeLine->lower();
 
-    labelEditor->setWindowFlags(labelEditor->windowFlags() | Qt::FramelessWindowHint);
-    labelEditor->setStyleSheet(QStringLiteral("QLineEdit{background-color: black; color: white;}"));
-    labelEditor->hide();
-    connect(labelEditor, &QLineEdit::editingFinished, this, &Plotter::labelEditFinished);
-    connect(labelEditor, &QLineEdit::returnPressed, this, &Plotter::labelEditConfirm);
+    connect(plotterLabel->editor(), &QLineEdit::editingFinished, this, &Plotter::labelEditFinished);
+    connect(plotterLabel->editor(), &QLineEdit::returnPressed, this, &Plotter::labelEditConfirm);
 
     setStyleSheet(screenStyle);
 }
@@ -97,52 +92,27 @@ CFGProperties *Plotter::recording() const
 
 void Plotter::setName(const QString &name)
 {
-    plotName = name;
+    plotterLabel->setName(name);
 }
 
-void Plotter::placeTitle(int y)
+QString Plotter::name() const
 {
-    plotterLabel->setGeometry(titleX, y, titleWidth, titleHeight);
-    if (plotTitle.isEmpty())
-        setTitleByName();
-    plotterLabel->show();
+    return plotterLabel->name();
 }
 
-void Plotter::setTitleByName()
+void Plotter::setTitle(const QString &title)
 {
-    titleByName = tr("%1 Plotter").arg(plotName);
-    setTitle(titleByName);
+    plotterLabel->setTitle(title);
 }
 
-// A title that someone has typed stays.
 void Plotter::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
-        if (!plotTitle.isEmpty() && plotTitle == titleByName)
-            setTitleByName();
+        plotterLabel->retranslate();
         colorDialog->setWindowTitle(QColorDialog::tr("Select Color"));
         refreshPixmap();
     }
     QWidget::changeEvent(event);
-}
-
-// The title's place is fixed: a long text gets a smaller font, and one that is too long even then
-// shows its beginning.
-void Plotter::setTitle(const QString &title)
-{
-    constexpr int room = titleWidth - 6;
-    const QFont titleFont = fittingFont(font(), title, room, smallestTitleFont);
-    const bool fits = QFontMetrics(titleFont).horizontalAdvance(title) <= room;
-    plotterLabel->setFont(titleFont);
-    plotterLabel->setText(title);
-    plotterLabel->setAlignment(fits ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
-    plotterLabel->setToolTip(fits ? QString() : plainToolTip(title));
-    plotTitle = title;
-}
-
-void Plotter::setLinkedPlotters(const QList<Plotter *> &plotters)
-{
-    linkedPlotters = plotters;
 }
 
 void Plotter::removeLinkedPlotter(const QString &name)
@@ -184,14 +154,14 @@ double Plotter::factorOf(int number) const
 
 QColor Plotter::colorOf(int number) const
 {
-    if (chosenColors.contains(number))
-        return chosenColors.value(number);
+    if (m_chosenColors.contains(number))
+        return m_chosenColors.value(number);
     int index = number;
     if (isSpectrum(number)) {
         const auto position = std::distance(channelMap.cbegin(), channelMap.constFind(number));
         index = recording()->analogChannels.size() + static_cast<int>(position);
     }
-    return channelColors.at(index % channelColors.size());
+    return channelColors.at(static_cast<size_t>(index) % channelColors.size());
 }
 
 ShownChannel Plotter::shownChannel(int number) const
@@ -229,45 +199,34 @@ void Plotter::showChannels(const QList<int> &numbers)
     channelOrder = numbers;
 }
 
-void Plotter::readTimes()
+// The full view of what is shown, with all of its values; the time range of a live view stays.
+void Plotter::setHome(const ValueExtremes &extremes)
 {
     const CFGProperties *source = recording();
     const QVector<double> times = source ? source->sampleTimes : QVector<double>();
-    if (times.constData() != timeAxis.times().constData()
-        || times.size() != timeAxis.times().size())
+    if (times != timeAxis.times())
         timeAxis = TimeAxis(times);
-}
-
-void Plotter::setHome(double minY, double maxY)
-{
-    homeSettings.minX = timeAxis.smallest();
-    homeSettings.maxX = timeAxis.largest();
-    homeSettings.minY = minY;
-    homeSettings.maxY = maxY;
-    homeSettings.adjust();
-    if (zoomStack.isEmpty()) {
-        zoomStack.append(homeSettings);
-        return;
-    }
-    verticalZoom = defaultVerticalZoom;
-    zoomStack[0].minY = homeSettings.minY;
-    zoomStack[0].maxY = homeSettings.maxY;
-    zoomStack[0].numYTicks = homeSettings.numYTicks;
+    m_view.setHome(timeAxis.smallest(), timeAxis.largest(), extremes);
 }
 
 void Plotter::setupPlot()
 {
-    readTimes();
+    setHome(prepareTraces());
+    plotterLabel->place(20);
+}
+
+// Makes the angle traces of the spectra and gives the extremes of all that is drawn.
+ValueExtremes Plotter::prepareTraces()
+{
     const bool showsAngles = mainWindow && mainWindow->showsAngles();
     const AnalogChannel *reference = mainWindow && mainWindow->referenceIndex() > 0
         ? channelOf(mainWindow->referenceIndex() - 1)
         : nullptr;
-    double minY = 0;
-    double maxY = 0;
+    ValueExtremes extremes;
     const auto widen = [&](double value) {
         if (std::isfinite(value)) {
-            minY = std::min(minY, value);
-            maxY = std::max(maxY, value);
+            extremes.lowest = std::min(extremes.lowest, value);
+            extremes.highest = std::max(extremes.highest, value);
         }
     };
     for (auto it = channelMap.begin(); it != channelMap.end(); ++it) {
@@ -275,79 +234,36 @@ void Plotter::setupPlot()
         if (!channel)
             continue;
         const double factor = factorOf(it.key());
+        const TraceExtent extent = it->trace.extent(0, it->trace.values().size());
         if (!isSpectrum(it.key())) {
-            widen(static_cast<double>(channel->minValue) * factor);
-            widen(static_cast<double>(channel->maxValue) * factor);
+            widen(finiteExtreme(channel->minValue, extent.min) * factor);
+            widen(finiteExtreme(channel->maxValue, extent.max) * factor);
             continue;
         }
-        widen(static_cast<double>(channel->maxMagnitude) * factor);
+        widen(finiteExtreme(channel->maxMagnitude, extent.max) * factor);
         it->angle = TraceSummary();
         if (showsAngles) {
             it->angle = TraceSummary(
                 angleTrace(channel->fftAngles, reference ? &reference->fftAngles : nullptr));
-            widen(reference ? fullTurnRadians : fullTurnDegrees);
+            extremes.angles = reference ? fullTurnRadians : fullTurnDegrees;
+            widen(extremes.angles);
         }
     }
-    lowestValue = minY;
-    highestValue = maxY;
-    setHome(minY, maxY);
-    placeTitle(20);
-}
-
-PlotSettings Plotter::view() const
-{
-    return zoomStack.isEmpty() ? PlotSettings() : zoomStack.constFirst();
-}
-
-PlotGeometry Plotter::geometryOfView() const
-{
-    return {size(), readoutWidth, view()};
-}
-
-void Plotter::followFromNowOn(const Plotter &other)
-{
-    if (zoomStack.isEmpty() || other.zoomStack.isEmpty())
-        return;
-    for (const double time : other.cursors())
-        insertCursor(time);
-    startMarkerSet = other.startMarkerSet;
-    startMarkerTime = other.startMarkerTime;
-    endMarkerSet = other.endMarkerSet;
-    endMarkerTime = other.endMarkerTime;
-    lastScrollValue = other.lastScrollValue;
-    scrollDelta = other.scrollDelta;
-    const PlotSettings source = other.view();
-    zoomStack[0].minX = source.minX;
-    zoomStack[0].maxX = source.maxX;
-    zoomStack[0].numXTicks = source.numXTicks;
-    horizontalZoom = sharedHorizontalZoom;
+    return extremes;
 }
 
 void Plotter::rescaleValues()
 {
-    if (zoomStack.isEmpty())
-        return;
-    const PlotSettings before = view();
-    const bool wasWhole = before.minY == homeSettings.minY && before.maxY == homeSettings.maxY;
-    const double lowestBefore = lowestValue;
-    const double heightBefore = highestValue - lowestValue;
-    const double zoomBefore = verticalZoom;
-    setupPlot();
-    const double ratio = (highestValue - lowestValue) / heightBefore;
-    const double shift = lowestValue - lowestBefore * ratio;
-    const double minY = before.minY * ratio + shift;
-    const double maxY = before.maxY * ratio + shift;
-    // Channels whose factors differ, or turn them upside down, take other places. A whole view
-    // stays a whole one then.
-    const bool isInPlace = std::abs(shift) <= (highestValue - lowestValue) * 1e-9;
-    if (!PlotSettings::isUsable(minY, maxY) || (wasWhole && !isInPlace))
-        return;
-    zoomStack[0].minY = minY;
-    zoomStack[0].maxY = maxY;
-    zoomStack[0].numYTicks = before.numYTicks;
-    verticalZoom = zoomBefore;
-    if (!isInPlace)
-        PlotSettings::adjustAxis(zoomStack[0].minY, zoomStack[0].maxY, zoomStack[0].numYTicks);
+    m_view.rescale(prepareTraces());
+}
+
+void Plotter::followFromNowOn(const Plotter &other)
+{
+    for (const double time : other.cursors())
+        cursorMarks.add(time);
+    startMarker.copy(other.startMarker);
+    endMarker.copy(other.endMarker);
+    follow(other);
 }
 
 void Plotter::resetPlot()
@@ -355,10 +271,8 @@ void Plotter::resetPlot()
     customResetZoom();
     channelMap.clear();
     channelOrder.clear();
-    zoomStack.clear();
-    homeSettings = PlotSettings();
+    m_view.clear();
     zoomLevel = 0;
-    lastScrollValue = 0;
     scrollDelta = 0;
     restX = 0;
     restY = 0;

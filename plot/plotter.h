@@ -4,10 +4,13 @@
 #pragma once
 
 #include "basecontent.h"
+#include "channellabels.h"
 #include "cursormarks.h"
 #include "customlabel.h"
 #include "mousemovereceiver.h"
 #include "plotgeometry.h"
+#include "plotview.h"
+#include "savemarker.h"
 #include "shownchannel.h"
 #include "timeaxis.h"
 
@@ -15,22 +18,22 @@
 #include <QList>
 #include <QMap>
 #include <QPixmap>
-#include <QVector>
 #include <QWidget>
 
 class AnalogChannel;
 class CFGProperties;
 class PlotHost;
 class PlotLine;
+class PlotTitle;
 class QColorDialog;
 class QLabel;
-class QLineEdit;
 
 // Shows analog channels of a recording as waveforms or spectra against time. A plot paints into two
 // pixmaps, the base layer (grid, traces, readout) and the overlay (cursors); a repaint only copies
 // them. All plots of a window are linked: zooms, cursors and the time line of one are repeated by
-// the others. Channel numbers count from 0; numbers from the count of analog channels on stand for
-// the spectrum of channel (number - count).
+// the others that are on screen; one that is hidden follows when it is shown. Channel numbers count
+// from 0; numbers from the count of analog channels on stand for the spectrum of channel
+// (number - count).
 class Plotter : public QWidget, public MouseMoveReceiver {
     Q_OBJECT
     Q_INTERFACES(MouseMoveReceiver)
@@ -43,12 +46,12 @@ public:
     void setMainWindow(QObject *window);
     // "Analog" shows as "Analog Plotter", from the next setupPlot() or change of language on.
     void setName(const QString &name);
-    QString name() const { return plotName; }
+    QString name() const;
     // Replaces the text of the title; the name stays.
     void setTitle(const QString &title);
 
     // The other plots of the window.
-    void setLinkedPlotters(const QList<Plotter *> &plotters);
+    void setLinkedPlotters(const QList<Plotter *> &plotters) { linkedPlotters = plotters; }
     const QList<Plotter *> &linked() const { return linkedPlotters; }
     // Removes the last linked plot of that name, and where there is none the first linked plot.
     void removeLinkedPlotter(const QString &name);
@@ -62,21 +65,18 @@ public:
     bool showsSpectrum() const;
 
     // The live view, all zero before setupPlot(), and the full view.
-    PlotSettings view() const;
-    const PlotSettings &home() const { return homeSettings; }
-    PlotGeometry geometryOfView() const;
-    // What all plots have in common: the last analog view and the last zooms, as fractions shown.
-    static const PlotSettings &sharedView() { return sharedAnalogSettings; }
-    static double sharedTimeZoom() { return sharedHorizontalZoom; }
-    static double sharedValueZoom() { return sharedVerticalZoom; }
-    // Takes over the time range, the cursors and the save markers of another plot, and its share of
-    // the horizontal zoom.
+    const PlotSettings &view() const { return m_view.live(); }
+    const PlotSettings &home() const { return m_view.home(); }
+    PlotGeometry geometryOfView() const { return {size(), readoutWidth, view()}; }
+    static const SharedView &shared() { return s_shared; }
+    // Takes over the time range and its zoom, the cursors and the save markers of another plot.
     void followFromNowOn(const Plotter &other);
-    // Fits the value axis to changed factors so that a trace keeps its place.
+    // After a change of factors or angles: fits the value axis to them, keeping what was zoomed to.
     void rescaleValues();
     void resetPlot();
 
     // Cursor times in ms, in the order in which they were set.
+    void addCursorAt(double time);
     QList<double> cursors() const { return cursorMarks.times(); }
     // The time difference of the last neighbouring pair of cursors, ms; 0 with fewer than two.
     double pairDifference() const { return cursorMarks.pairDifference(); }
@@ -144,103 +144,94 @@ protected:
     virtual ShownChannel shownChannel(int number) const;
 
     CFGProperties *recording() const; // null without a host or a recording
-    void readTimes();
-    void setHome(double minY, double maxY);
-    void placeTitle(int y);
+    void setHome(const ValueExtremes &extremes);
 
-    PlotSettings homeSettings;
     QString plotType; // "Analog" or "Digital"; the zooms ask whether it contains one of them
     int digitalFlag = 0;
-    QVector<PlotSettings> zoomStack; // element 0 is the live view; empty before setupPlot()
-    QLabel *plotterLabel;
+    PlotTitle *plotterLabel;
     QMap<int, ShownChannel> channelMap; // traces are drawn in the order of the numbers
     QList<int> channelOrder; // the same numbers in the order in which they were added
     TimeAxis timeAxis;
-    int pressedKey = -1; // the key held down, as far as this plot has seen
-    int readoutWidth = 0; // kept free at the right of the plot area
+    static constexpr int noKey = -1;
+    int pressedKey = noKey; // the key held down, as far as this plot has seen
 
 private:
     bool isSpectrum(int number) const;
     const AnalogChannel *channelOf(int number) const;
     double factorOf(int number) const;
     QColor colorOf(int number) const;
+    ValueExtremes prepareTraces();
+
+    bool isOnScreen() const;
+    void refreshAll();
+    void refreshOverlay();
     Readout readout() const;
+    void settleReadout();
+    void shareReadoutWidth();
     BaseContent baseContent() const;
-    QSize layerSize() const;
     QPixmap clearLayer() const;
     void paintBase();
     void paintOverlay();
-    void placeChannelLabels();
     void placeMarks();
-    void setTitleByName();
+    void showChannelLabels();
 
-    // Each gives false and keeps the view where the zoomed range could not be shown.
+    // What a zoom leaves to the view that all plots share.
     enum class Sharing { Always, UnlessDigital, IfAnalog };
+    void shareView(Sharing sharing);
     bool zoomTime(double factor, Sharing sharing);
+    void zoomLinked(double factor, Sharing sharing);
     bool zoomValues(double factor, bool keepsCentre);
     bool zoomToBand(bool withValues);
-    PlotSettings bandView(const QRect &band, bool withValues) const;
-    void shareView(Sharing sharing);
+    void leadLinked();
+    void follow(const Plotter &leader);
+    void followLinked();
     void rangeScrollBar();
+    void takeBarPosition();
     void scrollView(int dx, int dy);
     void updateBand();
     void hideBand();
 
     void showTimeLine(int x);
     QRect timeLabelPlace() const;
-    void insertCursor(double time);
     void moveCursor(int cursor, double time);
     void removeCursors(int first, int last);
     void dragCursor(int x);
+    void takeKeyboard();
+    void holdKey(int key);
     void releaseGrab();
     void letGo();
-    void closeTitleEditor();
-    void takePress(const QPoint &position);
-    void editTitle();
+    void takePress();
     void chooseColor(const QLabel *label);
 
-    QString plotName;
-    QString plotTitle; // in full; empty before the first setupPlot()
-    QString titleByName; // the latest one that was made from the name
+    PlotView m_view;
+    Readout m_readout; // as of the last refresh
+    int m_readoutNeed = 0;
+    int readoutWidth = 0; // kept free at the right of the plot area
     QLabel *timeLabel;
     PlotLine *timeLine;
-    QLineEdit *labelEditor;
-    PlotLine *startMarker;
-    PlotLine *endMarker;
-    bool startMarkerSet = false;
-    bool endMarkerSet = false;
-    int startMarkerTime = 0; // ms
-    int endMarkerTime = 0; // ms
     double timeLineTime = 0; // ms
+    SaveMarker startMarker;
+    SaveMarker endMarker;
     CursorMarks cursorMarks;
-    double defaultVerticalZoom = 1.0;
     QPixmap basePixmap;
-    BaseContent drawnContent; // what basePixmap shows
+    BaseContent m_drawn; // what basePixmap shows
     QPixmap overlayPixmap; // null while there is nothing to show
     PlotHost *mainWindow = nullptr;
-    QWidget *hostWidget; // the pixmaps have its size
-    QList<QLabel *> channelLabels;
+    ChannelLabels m_channelLabels;
     bool draggingTimeLine = false;
     CustomLabel *draggedLabel = nullptr;
-    bool skipBaseLayer = false;
-    double horizontalZoom = 1.0; // fraction of the full time span shown
-    double verticalZoom = 1.0; // fraction of the full value range shown
-    double lowestValue = 0; // shown, at most 0, under the factors of the last set-up
-    double highestValue = 0; // at least 0
     QColorDialog *colorDialog;
-    QList<QColor> channelColors;
-    QMap<int, QColor> chosenColors; // by channel number
+    QMap<int, QColor> m_chosenColors; // by channel number
     int zoomLevel = 0;
     bool rubberBandShown = false;
     QRect rubberBandRect;
-    QPoint linkedPress; // where another plot was pressed last
     QList<Plotter *> linkedPlotters;
-    int lastScrollValue = 0;
+
+    // Kept for their values; nothing reads them.
+    QWidget *hostWidget;
     int scrollDelta = 0;
-    int restX = 710; // kept with restY for their values; nothing reads them
+    int restX = 710;
     int restY = 138;
 
-    static double sharedHorizontalZoom;
-    static double sharedVerticalZoom;
-    static PlotSettings sharedAnalogSettings;
+    static SharedView s_shared;
 };

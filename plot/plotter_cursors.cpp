@@ -9,6 +9,7 @@
 #include "labeltext.h"
 #include "plothost.h"
 #include "plotline.h"
+#include "plottitle.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -23,7 +24,7 @@ constexpr int smallestTimeFont = 7; // pixels
 
 void Plotter::showTimeLine(int x)
 {
-    if (zoomStack.isEmpty())
+    if (m_view.isEmpty())
         return;
     const PlotGeometry geometry = geometryOfView();
     timeLineTime = geometry.lineTime(x);
@@ -50,36 +51,32 @@ QRect Plotter::timeLabelPlace() const
 
 void Plotter::addCursor(int x, int /*y*/)
 {
-    if (cursorMarks.isFull() || zoomStack.isEmpty())
-        return;
-    const double time = geometryOfView().lineTime(x);
-    insertCursor(time);
-    for (Plotter *plotter : qAsConst(linkedPlotters)) {
-        if (plotter != this && !plotter->zoomStack.isEmpty())
-            plotter->insertCursor(time);
-    }
+    if (!m_view.isEmpty())
+        addCursorAt(geometryOfView().lineTime(x));
 }
 
-void Plotter::insertCursor(double time)
+void Plotter::addCursorAt(double time)
 {
     if (cursorMarks.isFull())
         return;
     cursorMarks.add(time);
-    refreshPixmap();
+    for (Plotter *plotter : qAsConst(linkedPlotters)) {
+        if (plotter != this)
+            plotter->cursorMarks.add(time);
+    }
+    refreshAll();
 }
 
 void Plotter::moveCursor(int cursor, double time)
 {
     cursorMarks.move(cursor, time);
-    skipBaseLayer = true;
-    refreshPixmap();
-    skipBaseLayer = false;
+    refreshOverlay();
 }
 
 void Plotter::dragCursor(int x)
 {
     const int cursor = cursorMarks.cursorOf(draggedLabel);
-    if (cursor < 0 || zoomStack.isEmpty())
+    if (cursor < 0 || m_view.isEmpty())
         return;
     const QRect area = geometryOfView().area();
     const double time = geometryOfView().lineTime(
@@ -99,7 +96,7 @@ void Plotter::removeCursors(int first, int last)
             plotter->cursorMarks.remove(cursor);
         cursorMarks.remove(cursor);
     }
-    zoomIn();
+    refreshAll();
 }
 
 void Plotter::clearCursors()
@@ -112,16 +109,16 @@ void Plotter::clearCursors()
 void Plotter::paintOverlay()
 {
     const PlotGeometry geometry = geometryOfView();
-    if (zoomStack.isEmpty() || cursorMarks.count() < 2 || !geometry.isDrawable()) {
+    if (m_view.isEmpty() || cursorMarks.count() < 2 || !geometry.isDrawable()) {
         overlayPixmap = QPixmap();
         return;
     }
-    if (overlayPixmap.size() != layerSize() * devicePixelRatioF())
+    if (overlayPixmap.size() != size() * devicePixelRatioF())
         overlayPixmap = clearLayer();
     QPainter painter(&overlayPixmap);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.fillRect(0, CursorMarks::differencesTop, layerSize().width(),
-        CursorMarks::differencesHeight, Qt::transparent);
+    painter.fillRect(
+        0, CursorMarks::differencesTop, width(), CursorMarks::differencesHeight, Qt::transparent);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     painter.setFont(smallFont(font()));
     cursorMarks.paintDifferences(painter, geometry, {plotterLabel->geometry(), timeLabelPlace()});
@@ -130,41 +127,30 @@ void Plotter::paintOverlay()
 // Sets the lines of the cursors and the save markers to their places in the view.
 void Plotter::placeMarks()
 {
-    if (zoomStack.isEmpty())
+    if (m_view.isEmpty())
         return;
     const PlotGeometry geometry = geometryOfView();
     cursorMarks.place(geometry);
     if (timeLine->isVisible())
         showTimeLine(timeLine->x()); // at another time now
-    const auto placeMarker = [&](PlotLine *marker, bool isSet, int time) {
-        const int x = PlotGeometry::pixel(geometry.traceX(time));
-        marker->place(x, geometry);
-        marker->setVisible(isSet && x <= geometry.plotWidth() + 99);
-    };
-    placeMarker(startMarker, startMarkerSet, startMarkerTime);
-    placeMarker(endMarker, endMarkerSet, endMarkerTime);
+    startMarker.place(geometry);
+    endMarker.place(geometry);
 }
 
 void Plotter::setStartPoint(double time)
 {
-    startMarkerTime = PlotGeometry::truncated(time);
-    startMarkerSet = true;
+    startMarker.set(time);
     placeMarks();
 }
 
 void Plotter::setEndPoint(double time)
 {
-    endMarkerTime = PlotGeometry::truncated(time);
-    endMarkerSet = true;
+    endMarker.set(time);
     placeMarks();
 }
 
 void Plotter::clearSaveMarkers()
 {
-    startMarkerTime = 0;
-    endMarkerTime = 0;
-    startMarkerSet = false;
-    endMarkerSet = false;
-    startMarker->hide();
-    endMarker->hide();
+    startMarker.clear();
+    endMarker.clear();
 }

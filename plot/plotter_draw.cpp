@@ -14,30 +14,15 @@
 #include "readout.h"
 #include "tracepainter.h"
 
-#include <QLabel>
 #include <QPainter>
 
 #include <algorithm>
-
-namespace {
-
-constexpr int firstLabelX = 180;
-constexpr int labelGap = 10;
-constexpr int labelY = 20;
-constexpr int labelHeight = 20;
-
-} // namespace
-
-// That of the widget that holds the plots.
-QSize Plotter::layerSize() const
-{
-    return hostWidget ? hostWidget->size() : size();
-}
+#include <utility>
 
 QPixmap Plotter::clearLayer() const
 {
     const qreal ratio = devicePixelRatioF();
-    QPixmap layer(layerSize() * ratio);
+    QPixmap layer(size() * ratio);
     layer.setDevicePixelRatio(ratio);
     layer.fill(Qt::transparent);
     return layer;
@@ -45,14 +30,21 @@ QPixmap Plotter::clearLayer() const
 
 void Plotter::refreshPixmap()
 {
-    if (!skipBaseLayer) {
-        BaseContent content = baseContent();
-        if (!(content == drawnContent)) {
-            drawnContent = std::move(content);
-            placeChannelLabels();
-            paintBase();
-        }
+    if (!isOnScreen())
+        return;
+    settleReadout();
+    shareReadoutWidth();
+    BaseContent content = baseContent();
+    if (!(content == m_drawn)) {
+        m_drawn = std::move(content);
+        showChannelLabels();
+        paintBase();
     }
+    refreshOverlay();
+}
+
+void Plotter::refreshOverlay()
+{
     paintOverlay();
     placeMarks();
     update();
@@ -65,26 +57,23 @@ BaseContent Plotter::baseContent() const
     BaseContent content;
     content.view = view();
     content.size = size();
-    content.layerSize = layerSize();
     content.pixelRatio = devicePixelRatioF();
     content.font = font();
     content.trigger = triggerText(recording() ? recording()->triggerOffsetMs : 0);
-    content.readout = readout();
+    content.readout = m_readout;
+    content.readoutWidth = readoutWidth;
+    content.times = timeAxis.times();
     for (const int number : channelOrder) {
         const ShownChannel &shown = *channelMap.constFind(number);
-        content.traces.append({number, factorOf(number), colorOf(number).rgb(),
-            shown.trace.values().constData(), shown.angle.values().constData()});
+        content.traces.append({number, factorOf(number), colorOf(number).rgb(), shown});
     }
     return content;
 }
 
 void Plotter::paintBase()
 {
-    // At least half of the plot stays plot.
-    readoutWidth = std::clamp(
-        width() / 2 - PlotGeometry::left, 0, drawnContent.readout.neededWidth(smallFont(font())));
     basePixmap = clearLayer();
-    if (zoomStack.isEmpty() || basePixmap.isNull())
+    if (m_view.isEmpty() || basePixmap.isNull())
         return;
     QPainter painter(&basePixmap);
     drawGrid(&painter);
@@ -161,64 +150,55 @@ Readout Plotter::readout() const
     return table;
 }
 
+void Plotter::settleReadout()
+{
+    m_readout = readout();
+    m_readoutNeed = m_readout.neededWidth(smallFont(font()));
+}
+
+// Linked plots keep the widest room that one of them needs, so that they line up in time; but at
+// least half of a plot stays plot.
+void Plotter::shareReadoutWidth()
+{
+    const auto keepsRoom
+        = [](const Plotter *plotter) { return !plotter->digitalFlag && plotter->isOnScreen(); };
+    int widest = m_readoutNeed;
+    for (const Plotter *plotter : qAsConst(linkedPlotters)) {
+        if (keepsRoom(plotter))
+            widest = std::max(widest, plotter->m_readoutNeed);
+    }
+    const auto roomIn = [&](const Plotter *plotter) {
+        return std::clamp(plotter->width() / 2 - PlotGeometry::left, 0, widest);
+    };
+    if (keepsRoom(this))
+        readoutWidth = roomIn(this);
+    for (Plotter *plotter : qAsConst(linkedPlotters)) {
+        if (keepsRoom(plotter)
+            && std::exchange(plotter->readoutWidth, roomIn(plotter)) != plotter->readoutWidth)
+            plotter->refreshPixmap();
+    }
+}
+
 void Plotter::drawValueTable(QPainter *painter)
 {
     const PlotGeometry geometry = geometryOfView();
     if (geometry.isDrawable())
-        drawnContent.readout.draw(*painter, geometry, smallFont(font()));
+        m_drawn.readout.draw(*painter, geometry, smallFont(font()));
 }
 
-// The labels are reused from one refresh to the next. Where they need more room than there is, each
-// is elided to an equal share.
-void Plotter::placeChannelLabels()
+void Plotter::showChannelLabels()
 {
     if (digitalFlag)
         return;
-    while (channelLabels.size() > channelMap.size())
-        delete channelLabels.takeLast();
-    while (channelLabels.size() < channelMap.size()) {
-        auto *label = new CustomLabel(this);
-        label->setObjectName(QStringLiteral("channelLabel"));
-        label->setPlotter(this);
-        label->setTextFormat(Qt::PlainText);
-        channelLabels.append(label);
-    }
-    QFont bold(font());
-    bold.setWeight(QFont::Bold);
-    const QFontMetrics metrics(bold);
-    const int count = channelMap.size();
-    QStringList texts;
-    int needed = 0;
+    QVector<ChannelLabels::Entry> entries;
     for (const int number : qAsConst(channelOrder)) {
         const ShownChannel &shown = *channelMap.constFind(number);
         QString text = shown.id + QLatin1Char('(') + shown.unit + QLatin1Char(')');
         if (isSpectrum(number))
             text += QStringLiteral("_FFT");
-        texts.append(text);
-        needed += metrics.horizontalAdvance(text) + 2 + labelGap;
-    }
-    const int room = width() - firstLabelX;
-    const int share
-        = count == 0 || needed <= room ? room : std::max(labelGap, room / count) - labelGap;
-    int x = firstLabelX;
-    for (int i = 0; i < count; ++i) {
-        const int number = channelOrder.at(i);
-        const ShownChannel &shownChannel = *channelMap.constFind(number);
-        QLabel *label = channelLabels.at(i);
-        const QString shown = metrics.elidedText(texts.at(i), Qt::ElideRight, share);
-        QPalette colors = label->palette();
-        colors.setColor(label->foregroundRole(), colorOf(number));
-        label->setPalette(colors);
-        label->setFont(bold);
-        label->setText(shown);
-        label->setProperty("channel", number);
-        QStringList tip{texts.at(i)};
-        tip << shownChannel.phase << shownChannel.circuit;
+        QStringList tip{text, shown.phase, shown.circuit};
         tip.removeAll(QString());
-        label->setToolTip(plainToolTip(tip.join(QLatin1Char('\n'))));
-        const int width = metrics.horizontalAdvance(shown) + 2;
-        label->setGeometry(x, labelY, width, labelHeight);
-        label->show();
-        x += (needed <= room ? width : share) + labelGap;
+        entries.append({number, text, colorOf(number), tip.join(QLatin1Char('\n'))});
     }
+    m_channelLabels.show(entries);
 }

@@ -8,6 +8,7 @@
 #include "baselayer.h"
 #include "labeltext.h"
 #include "plothost.h"
+#include "plottitle.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -45,12 +46,13 @@ bool Plotter::event(QEvent *event)
 {
     if (event->type() == QEvent::WindowDeactivate)
         letGo();
+    if (event->type() == QEvent::ShowToParent)
+        followLinked();
     if (event->type() != QEvent::ToolTip)
         return QWidget::event(event);
     // The cells of the readout are elided where there are many cursors.
     const auto *help = static_cast<QHelpEvent *>(event);
-    const QString text
-        = drawnContent.readout.textAt(help->pos(), geometryOfView(), smallFont(font()));
+    const QString text = m_drawn.readout.textAt(help->pos(), geometryOfView(), smallFont(font()));
     QToolTip::showText(help->globalPos(), plainToolTip(text), this);
     return true;
 }
@@ -59,7 +61,7 @@ void Plotter::releaseGrab()
 {
     if (QWidget::keyboardGrabber() == this)
         releaseKeyboard();
-    pressedKey = -1;
+    pressedKey = noKey;
 }
 
 // Neither keys nor buttons are told of any more.
@@ -68,7 +70,7 @@ void Plotter::letGo()
     releaseGrab();
     draggedLabel = nullptr;
     if (std::exchange(draggingTimeLine, false))
-        zoomIn(); // the readouts follow the end of a drag
+        refreshAll(); // the readouts follow the end of a drag
     if (rubberBandShown)
         hideBand();
 }
@@ -77,7 +79,7 @@ void Plotter::letGo()
 bool Plotter::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::KeyRelease) {
-        pressedKey = -1;
+        pressedKey = noKey;
         qApp->removeEventFilter(this);
     }
     return QWidget::eventFilter(watched, event);
@@ -103,23 +105,33 @@ void Plotter::mousePressEvent(QMouseEvent *event)
         return;
     }
     for (Plotter *plotter : qAsConst(linkedPlotters))
-        plotter->takePress(event->pos());
+        plotter->takePress();
 }
 
-void Plotter::takePress(const QPoint &position)
+void Plotter::takePress()
 {
-    linkedPress = position;
     if (rubberBandShown)
         hideBand();
-    closeTitleEditor();
+    plotterLabel->closeEditor();
+}
+
+// A title editor, of this plot or another, keeps the keyboard while it is shown. A key that is held
+// goes along from one plot to the next.
+void Plotter::takeKeyboard()
+{
+    if (QWidget::keyboardGrabber() == this || !isActiveWindow()
+        || qobject_cast<QLineEdit *>(QWidget::keyboardGrabber()))
+        return;
+    grabKeyboard();
+    for (Plotter *plotter : qAsConst(linkedPlotters)) {
+        if (plotter->pressedKey != noKey)
+            holdKey(std::exchange(plotter->pressedKey, noKey));
+    }
 }
 
 void Plotter::mouseMoveEvent(QMouseEvent *event)
 {
-    // A title editor, of this plot or another, keeps the keyboard while it is shown.
-    if (QWidget::keyboardGrabber() != this && isActiveWindow()
-        && !qobject_cast<QLineEdit *>(QWidget::keyboardGrabber()))
-        grabKeyboard();
+    takeKeyboard();
     const QPoint point = event->pos();
     if (draggingTimeLine)
         dragCursor(point.x());
@@ -138,7 +150,7 @@ void Plotter::mouseReleaseEvent(QMouseEvent * /*event*/)
     if (draggingTimeLine) {
         draggingTimeLine = false;
         draggedLabel = nullptr;
-        zoomIn();
+        refreshAll();
         if (mainWindow)
             mainWindow->refreshVectors();
         return;
@@ -146,18 +158,22 @@ void Plotter::mouseReleaseEvent(QMouseEvent * /*event*/)
     if (!rubberBandShown || !zoomToBand(true))
         return;
     for (Plotter *plotter : qAsConst(linkedPlotters)) {
-        plotter->rubberBandRect = rubberBandRect;
-        plotter->applyRubberBand();
+        if (plotter->isOnScreen()) {
+            plotter->rubberBandRect = rubberBandRect;
+            plotter->applyRubberBand();
+        }
     }
+    leadLinked();
     rangeScrollBar();
-    refreshPixmap();
+    refreshAll();
 }
 
 void Plotter::mouseDoubleClickEvent(QMouseEvent *event)
 {
     auto *label = qobject_cast<QLabel *>(childAt(event->pos()));
     if (label == plotterLabel) {
-        editTitle();
+        releaseGrab();
+        plotterLabel->openEditor();
         return;
     }
     if (label && label->objectName() == QLatin1String("channelLabel")) {
@@ -174,34 +190,14 @@ void Plotter::mouseDoubleClickEvent(QMouseEvent *event)
         mainWindow->refreshVectors();
 }
 
-void Plotter::editTitle()
-{
-    releaseGrab();
-    labelEditor->setGeometry(plotterLabel->geometry());
-    labelEditor->setText(plotTitle);
-    labelEditor->selectAll();
-    labelEditor->show();
-    labelEditor->raise();
-    labelEditor->setFocus();
-    labelEditor->grabKeyboard();
-}
-
-void Plotter::closeTitleEditor()
-{
-    if (QWidget::keyboardGrabber() == labelEditor)
-        labelEditor->releaseKeyboard();
-    labelEditor->hide();
-}
-
 void Plotter::labelEditFinished()
 {
-    closeTitleEditor();
+    plotterLabel->closeEditor();
 }
 
 void Plotter::labelEditConfirm()
 {
-    setTitle(labelEditor->text());
-    closeTitleEditor();
+    plotterLabel->takeEdited();
 }
 
 void Plotter::chooseColor(const QLabel *label)
@@ -213,7 +209,7 @@ void Plotter::chooseColor(const QLabel *label)
     const bool isAccepted = colorDialog->exec() == QDialog::Accepted;
     if (!self || !isAccepted || !colorDialog->selectedColor().isValid())
         return;
-    chosenColors.insert(channel, colorDialog->selectedColor());
+    m_chosenColors.insert(channel, colorDialog->selectedColor());
     refreshPixmap();
 }
 
@@ -235,14 +231,20 @@ void Plotter::wheelEvent(QWheelEvent *event)
     event->accept();
 }
 
+// Until its release is seen, wherever that goes.
+void Plotter::holdKey(int key)
+{
+    pressedKey = key;
+    qApp->installEventFilter(this);
+}
+
 void Plotter::keyPressEvent(QKeyEvent *event)
 {
-    if (labelEditor->isVisible()) { // a key that the editor has no use for
+    if (plotterLabel->editor()->isVisible()) { // a key that the editor has no use for
         QWidget::keyPressEvent(event);
         return;
     }
-    pressedKey = event->key();
-    qApp->installEventFilter(this);
+    holdKey(event->key());
     QScrollBar *bar = mainWindow ? mainWindow->horizontalScrollBar() : nullptr;
     const auto turnBar = [&](int steps) {
         if (bar)
@@ -280,7 +282,7 @@ void Plotter::keyPressEvent(QKeyEvent *event)
 
 void Plotter::keyReleaseEvent(QKeyEvent * /*event*/)
 {
-    pressedKey = -1;
+    pressedKey = noKey;
 }
 
 void Plotter::leaveEvent(QEvent * /*event*/)

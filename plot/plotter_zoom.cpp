@@ -14,13 +14,27 @@
 #include <algorithm>
 #include <cmath>
 
-void Plotter::zoomIn()
+// A plot that was hidden takes no part in what the others do.
+bool Plotter::isOnScreen() const
 {
+    return !isHidden() || !testAttribute(Qt::WA_WState_ExplicitShowHide);
+}
+
+void Plotter::refreshAll()
+{
+    settleReadout();
+    for (Plotter *plotter : qAsConst(linkedPlotters))
+        plotter->settleReadout();
     refreshPixmap();
     for (Plotter *plotter : qAsConst(linkedPlotters)) {
         if (plotter != this)
             plotter->refreshPixmap();
     }
+}
+
+void Plotter::zoomIn()
+{
+    refreshAll();
 }
 
 void Plotter::zoomIn2()
@@ -47,7 +61,7 @@ void Plotter::zoomOut2()
 
 void Plotter::refreshSlot()
 {
-    zoomIn2();
+    refreshPixmap();
 }
 
 // Each zoom has its own rule for what a digital plot leaves to the shared view.
@@ -57,42 +71,61 @@ void Plotter::shareView(Sharing sharing)
         || (sharing == Sharing::UnlessDigital && !plotType.contains(QLatin1String("Digital")))
         || (sharing == Sharing::IfAnalog && plotType.contains(QLatin1String("Analog")));
     if (shares)
-        sharedAnalogSettings = zoomStack.constFirst();
+        s_shared.analog = m_view.live();
+}
+
+// The linked plots show the time range of this one from here on; one that is hidden follows when it
+// is shown.
+void Plotter::leadLinked()
+{
+    for (Plotter *plotter : qAsConst(linkedPlotters)) {
+        if (plotter->isOnScreen())
+            plotter->follow(*this);
+    }
+}
+
+void Plotter::follow(const Plotter &leader)
+{
+    m_view.follow(leader.m_view);
+    shareView(Sharing::IfAnalog);
+}
+
+// Of a plot that was hidden or is new.
+void Plotter::followLinked()
+{
+    for (const Plotter *plotter : qAsConst(linkedPlotters)) {
+        if (plotter->isOnScreen()) {
+            follow(*plotter);
+            return;
+        }
+    }
 }
 
 bool Plotter::zoomTime(double factor, Sharing sharing)
 {
-    if (zoomStack.isEmpty())
+    if (!m_view.zoomTime(factor))
         return false;
-    PlotSettings zoomed = zoomStack.constFirst();
-    zoomed.maxX = zoomed.minX + horizontalZoom * factor * homeSettings.maxX;
-    if (!PlotSettings::isUsable(zoomed.minX, zoomed.maxX))
-        return false;
-    PlotSettings::adjustAxis(zoomed.minX, zoomed.maxX, zoomed.numXTicks);
-    horizontalZoom *= factor;
-    sharedHorizontalZoom = horizontalZoom;
-    zoomStack[0] = zoomed;
+    s_shared.timeZoom = m_view.timeZoom();
     shareView(sharing);
     return true;
 }
 
 void Plotter::customZoomIn()
 {
-    if (!zoomTime(0.5, Sharing::Always))
-        return;
-    zoomIn();
-    for (Plotter *plotter : qAsConst(linkedPlotters))
-        plotter->customZoomIn2();
-    rangeScrollBar();
+    zoomLinked(0.5, Sharing::Always);
 }
 
 void Plotter::customZoomOut()
 {
-    if (!zoomTime(2, Sharing::UnlessDigital))
+    zoomLinked(2, Sharing::UnlessDigital);
+}
+
+void Plotter::zoomLinked(double factor, Sharing sharing)
+{
+    if (!zoomTime(factor, sharing))
         return;
-    zoomIn();
-    for (Plotter *plotter : qAsConst(linkedPlotters))
-        plotter->customZoomOut2();
+    leadLinked();
+    refreshAll();
     rangeScrollBar();
 }
 
@@ -112,38 +145,33 @@ void Plotter::customZoomOut2()
 void Plotter::rangeScrollBar()
 {
     QScrollBar *bar = mainWindow ? mainWindow->horizontalScrollBar() : nullptr;
-    if (!bar || !recording() || zoomStack.isEmpty())
+    if (!bar || !recording() || m_view.isEmpty())
         return;
-    const PlotSettings &view = zoomStack.constFirst();
-    const double step = view.spanX() / view.numXTicks;
+    const double step = view().spanX() / view().numXTicks;
     const double doubled = 2.0 * static_cast<double>(recording()->durationMs);
     const double limit = std::trunc(doubled / 100) * 100 + 100;
     const QSignalBlocker blocker(bar);
-    bar->setRange(0, PlotGeometry::truncated(bar->value() + (limit - view.maxX) / step));
-    bar->setValue(PlotGeometry::truncated(view.minX / step));
+    bar->setRange(0, PlotGeometry::truncated(bar->value() + (limit - view().maxX) / step));
+    bar->setValue(PlotGeometry::truncated(view().minX / step));
+    takeBarPosition();
+}
+
+// From here on the bar's position counts as that of the views, which it moves only by turning on.
+void Plotter::takeBarPosition()
+{
+    const QScrollBar *bar = mainWindow ? mainWindow->horizontalScrollBar() : nullptr;
+    if (!bar)
+        return;
+    m_view.setBarPosition(bar->value());
+    for (Plotter *plotter : qAsConst(linkedPlotters))
+        plotter->m_view.setBarPosition(bar->value());
 }
 
 bool Plotter::zoomValues(double factor, bool keepsCentre)
 {
-    if (zoomStack.isEmpty())
+    if (!m_view.zoomValues(factor, keepsCentre))
         return false;
-    PlotSettings zoomed = zoomStack.constFirst();
-    const double centre = (zoomed.minY + zoomed.maxY) * 0.5;
-    zoomed.minY = homeSettings.minY * verticalZoom * factor;
-    zoomed.maxY = homeSettings.maxY * verticalZoom * factor;
-    if (!PlotSettings::isUsable(zoomed.minY, zoomed.maxY))
-        return false;
-    PlotSettings::adjustAxis(zoomed.minY, zoomed.maxY, zoomed.numYTicks);
-    if (keepsCentre) {
-        const double shift = centre - (zoomed.minY + zoomed.maxY) * 0.5;
-        zoomed.minY += shift;
-        zoomed.maxY += shift;
-        if (!PlotSettings::isUsable(zoomed.minY, zoomed.maxY))
-            return false;
-    }
-    verticalZoom *= factor;
-    sharedVerticalZoom = verticalZoom;
-    zoomStack[0] = zoomed;
+    s_shared.valueZoom = m_view.valueZoom();
     shareView(Sharing::IfAnalog);
     return true;
 }
@@ -151,13 +179,13 @@ bool Plotter::zoomValues(double factor, bool keepsCentre)
 void Plotter::customVZoomIn()
 {
     if (zoomValues(0.5, true))
-        zoomIn();
+        refreshAll();
 }
 
 void Plotter::customVZoomOut()
 {
     if (zoomValues(2, true))
-        zoomIn();
+        refreshAll();
 }
 
 void Plotter::customVZoomIn2()
@@ -174,84 +202,52 @@ void Plotter::customVZoomOut2()
 
 void Plotter::customResetZoom()
 {
-    horizontalZoom = 1.0;
-    verticalZoom = defaultVerticalZoom;
-    sharedHorizontalZoom = horizontalZoom;
-    sharedVerticalZoom = verticalZoom;
-    if (zoomStack.isEmpty())
+    m_view.reset();
+    s_shared.timeZoom = m_view.timeZoom();
+    s_shared.valueZoom = m_view.valueZoom();
+    if (m_view.isEmpty())
         return;
-    zoomStack[0] = homeSettings;
     shareView(Sharing::Always);
-    zoomIn();
+    leadLinked();
+    takeBarPosition();
+    refreshAll();
 }
 
 // The new position itself is the number of grid intervals by which the view moves.
 void Plotter::scrolling(int r)
 {
-    if (r == lastScrollValue)
+    const int before = m_view.barPosition();
+    if (r == before || !isOnScreen())
         return;
-    scrollDelta = PlotGeometry::truncated(std::abs(static_cast<double>(r) - lastScrollValue));
-    scrollView(r, 0);
-    lastScrollValue = r;
+    scrollDelta = PlotGeometry::truncated(std::abs(static_cast<double>(r) - before));
+    m_view.turnTo(r);
+    refreshPixmap();
 }
 
 void Plotter::scrollView(int dx, int dy)
 {
-    if (!zoomStack.isEmpty())
-        zoomStack[0].scroll(dx, dy);
+    m_view.scroll(dx, dy);
     refreshPixmap();
-}
-
-// A band's pixels are turned into times and values with an offset and a scale of their own, which
-// are not those of the traces.
-PlotSettings Plotter::bandView(const QRect &band, bool withValues) const
-{
-    constexpr int offset = 50;
-    constexpr int frame = 100;
-    const PlotSettings before = view();
-    PlotSettings zoomed = before;
-    const double dx = before.spanX() / (width() - frame);
-    zoomed.minX = before.minX + dx * (band.left() - offset);
-    zoomed.maxX = before.minX + dx * (band.right() - offset);
-    if (withValues) {
-        const double dy = before.spanY() / (height() - frame);
-        zoomed.minY = before.maxY - dy * (band.bottom() - offset);
-        zoomed.maxY = before.maxY - dy * (band.top() - offset);
-    }
-    return zoomed;
 }
 
 bool Plotter::zoomToBand(bool withValues)
 {
     hideBand();
     const QRect band = rubberBandRect.normalized();
-    if (zoomStack.isEmpty() || band.right() - band.left() <= 2 || band.bottom() - band.top() <= 2)
+    if (band.right() - band.left() <= 2 || band.bottom() - band.top() <= 2
+        || !m_view.zoomToBand(band, size(), withValues))
         return false;
-    PlotSettings zoomed = bandView(band, withValues);
-    if (!PlotSettings::isUsable(zoomed.minX, zoomed.maxX))
-        return false;
-    // A range of values too narrow to be shown stays, and the time is zoomed alone.
-    if (!PlotSettings::isUsable(zoomed.minY, zoomed.maxY)) {
-        withValues = false;
-        zoomed = bandView(band, withValues);
-    }
-    horizontalZoom = zoomed.spanX() / homeSettings.spanX();
-    sharedHorizontalZoom = horizontalZoom;
-    PlotSettings::adjustAxis(zoomed.minX, zoomed.maxX, zoomed.numXTicks);
-    if (withValues) {
-        verticalZoom = zoomed.spanY() / homeSettings.spanY();
-        sharedVerticalZoom = verticalZoom;
-        PlotSettings::adjustAxis(zoomed.minY, zoomed.maxY, zoomed.numYTicks);
-    }
-    zoomStack[0] = zoomed;
+    s_shared.timeZoom = m_view.timeZoom();
+    if (withValues)
+        s_shared.valueZoom = m_view.valueZoom();
     shareView(Sharing::IfAnalog);
-    zoomIn();
     return true;
 }
 
 void Plotter::applyRubberBand()
 {
-    zoomToBand(false);
+    if (zoomToBand(false))
+        refreshPixmap();
 }
 
 void Plotter::updateBand()

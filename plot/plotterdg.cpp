@@ -5,8 +5,8 @@
 
 #include "baselayer.h"
 #include "cfgproperties.h"
+#include "plottitle.h"
 
-#include <QLabel>
 #include <QPainter>
 #include <QWheelEvent>
 
@@ -27,9 +27,8 @@ plotterDg::plotterDg(QWidget *parent) : Plotter(parent)
 
 void plotterDg::setupPlot()
 {
-    readTimes();
-    setHome(0, 1);
-    placeTitle(30);
+    setHome({0, 1});
+    plotterLabel->place(30);
     plotterLabel->setLineWidth(2);
     plotterLabel->setFrameStyle(QFrame::Box);
 }

@@ -17,4 +17,11 @@ struct ShownChannel {
     TraceSummary trace; // scaled values, or the magnitudes of a spectrum
     TraceSummary angle; // of a spectrum whose angle is drawn, else empty
     DigitalRuns runs;
+
+    bool operator==(const ShownChannel &other) const
+    {
+        return id == other.id && unit == other.unit && phase == other.phase
+            && circuit == other.circuit && trace.values() == other.trace.values()
+            && angle.values() == other.angle.values() && runs == other.runs;
+    }
 };

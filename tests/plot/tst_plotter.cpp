@@ -757,7 +757,7 @@ void TestPlotter::anUnchangedBaseLayerIsNotDrawnAgain()
              host->source->analogChannels[0]->primary = 5;
          }),
             std::function<void()>([&] { host->source->triggerOffsetMs = 3; }),
-            std::function<void()>([&] { area->resize(790, 301); }),
+            std::function<void()>([&] { plot->resize(790, 301); }),
             std::function<void()>([&] { plot->addCursor(300, 100); })}) {
         const int last = plot->draws;
         change();

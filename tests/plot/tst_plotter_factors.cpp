@@ -32,10 +32,16 @@ void TestPlotterFactors::aWholeViewStaysWholeUnderFactorsThatDiffer()
     QCOMPARE(pair.plot->view().maxY, 90000.0);
     pair.host.mode = 1;
     pair.plot->rescaleValues();
-    pair.plot->customVZoomIn(); // -170 to 70, of -250 to 125
+    // Half of the full range, -125 to 75, is widened to -150 to 90 and set 20 lower, to the centre
+    // of the view.
+    pair.plot->customVZoomIn();
+    QCOMPARE(pair.plot->view().minY, -170.0);
+    QCOMPARE(pair.plot->view().maxY, 70.0);
+    // Before widening -145 to 55, of -250 to 125; so -35200 to 50133 of -80000 to 80000, and then
+    // to steps of 10000.
     pair.host.mode = 0;
-    pair.plot->rescaleValues(); // -45867 to 56533, of -80000 to 80000, and to steps of 10000
-    QCOMPARE(pair.plot->view().minY, -50000.0);
+    pair.plot->rescaleValues();
+    QCOMPARE(pair.plot->view().minY, -40000.0);
     QCOMPARE(pair.plot->view().maxY, 60000.0);
 }
 

@@ -30,9 +30,9 @@ Ends ends(const PlotSettings &view)
 
 // What the zooms of one plot leave for all.
 struct Shared {
-    Ends view = ends(Plotter::sharedView());
-    double time = rounded(Plotter::sharedTimeZoom());
-    double value = rounded(Plotter::sharedValueZoom());
+    Ends view = ends(Plotter::shared().analog);
+    double time = rounded(Plotter::shared().timeZoom);
+    double value = rounded(Plotter::shared().valueZoom);
 };
 
 void zoomThrice(Plotter *plot)

@@ -5,19 +5,13 @@
 
 #include "plotter.h"
 
-// A plot whose cursors stand at times that the test chooses: each is set at the left edge of a view
-// that begins there.
+// A plot whose cursors stand at times that the test chooses.
 class CursorPlotter : public Plotter {
 public:
     CursorPlotter(const QList<double> &times, QWidget *parent) : Plotter(parent)
     {
         resize(600, 400);
-        for (const double time : times) {
-            PlotSettings view;
-            view.minX = time;
-            view.maxX = time + 1;
-            zoomStack = {view};
-            CursorPlotter::addCursor(PlotGeometry::left, 100);
-        }
+        for (const double time : times)
+            addCursorAt(time);
     }
 };
