@@ -77,13 +77,8 @@ private slots:
 
     void zoomInHalvesTheTimeOfAllPlots();
     void zoomOutDoublesIt();
-    void eachZoomInHalvesAgain();
-    void zoomingInWithoutEndKeepsAUsableView();
-    void zoomingOutWithoutEndKeepsAUsableView();
     void zoomsForOnePlotLeaveTheOthers();
     void verticalZoomKeepsTheCentre();
-    void verticalZoomForOnePlotStartsFromTheFullRange();
-    void verticalZoomWithoutEndKeepsAUsableView();
     void resetShowsTheFullViewAgain();
     void zoomInRefreshesAllPlotsOnce();
     void zoomOutAtLevelZeroDoesNothing();
@@ -322,38 +317,6 @@ void TestPlotter::zoomOutDoublesIt()
     QCOMPARE(ends(other->view()), Ends({0, 2100, 7, -12, 12, 8}));
 }
 
-void TestPlotter::eachZoomInHalvesAgain()
-{
-    for (const double maxX : {500.0, 250.0, 150.0, 70.0}) {
-        plot->customZoomIn();
-        QCOMPARE(plot->view().maxX, maxX);
-    }
-}
-
-void TestPlotter::zoomingInWithoutEndKeepsAUsableView()
-{
-    area->resize(20, 20); // the layers have its size
-    plot->customZoomIn();
-    for (int i = 0; i < 2000; ++i)
-        plot->customZoomIn2();
-    QVERIFY(PlotSettings::isUsable(plot->view().minX, plot->view().maxX));
-    plot->refreshPixmap();
-    plot->customResetZoom();
-    plot->customZoomIn();
-    QCOMPARE(plot->view().maxX, 500.0);
-}
-
-void TestPlotter::zoomingOutWithoutEndKeepsAUsableView()
-{
-    area->resize(20, 20); // the layers have its size
-    for (int i = 0; i < 2000; ++i)
-        plot->customZoomOut2();
-    QVERIFY(PlotSettings::isUsable(plot->view().minX, plot->view().maxX));
-    plot->customZoomOut();
-    plot->customResetZoom();
-    QCOMPARE(plot->view().maxX, 1000.0);
-}
-
 void TestPlotter::zoomsForOnePlotLeaveTheOthers()
 {
     plot->customZoomIn2();
@@ -383,29 +346,6 @@ void TestPlotter::verticalZoomKeepsTheCentre()
     QCOMPARE(plot->view().minY, -9.0);
     QCOMPARE(plot->view().maxY, 21.0);
     QCOMPARE(other->view().maxY, 12.0);
-}
-
-void TestPlotter::verticalZoomForOnePlotStartsFromTheFullRange()
-{
-    plot->customVZoomIn2();
-    QCOMPARE(ends(plot->view()), Ends({0, 1000, 10, -6, 6, 12}));
-    plot->customVZoomOut2();
-    QCOMPARE(ends(plot->view()), Ends({0, 1000, 10, -15, 15, 6}));
-}
-
-void TestPlotter::verticalZoomWithoutEndKeepsAUsableView()
-{
-    area->resize(20, 20); // the layers have its size
-    for (int i = 0; i < 1200; ++i)
-        plot->customVZoomIn2();
-    QVERIFY(PlotSettings::isUsable(plot->view().minY, plot->view().maxY));
-    plot->customVZoomIn();
-    for (int i = 0; i < 3000; ++i)
-        plot->customVZoomOut2();
-    plot->customVZoomOut();
-    QVERIFY(PlotSettings::isUsable(plot->view().minY, plot->view().maxY));
-    plot->customResetZoom();
-    QCOMPARE(plot->view().maxY, 12.0);
 }
 
 void TestPlotter::resetShowsTheFullViewAgain()
