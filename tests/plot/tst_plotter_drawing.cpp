@@ -90,6 +90,8 @@ private slots:
     void aSpectrumShowsItsMagnitudes();
     void anglesStandOnTheValueAxis_data();
     void anglesStandOnTheValueAxis();
+    void eachReferenceShowsItsOwnAngle();
+    void changedSeriesAreDrawnAgain();
     void coloursFollowTheTable();
     void spectrumColours_data();
     void spectrumColours();
@@ -260,6 +262,40 @@ void TestPlotterDrawing::anglesStandOnTheValueAxis()
     host->reference = reference;
     show({3}); // of the first channel
     QCOMPARE(rowsOf(colorTable.at(3), picture(plot), 500), rows);
+}
+
+// As anglesStandOnTheValueAxis(), with one plot and nothing changed but the reference. New angles
+// may come to lie where old ones lay.
+void TestPlotterDrawing::eachReferenceShowsItsOwnAngle()
+{
+    for (const float angle : {3.0F, 1.0F, 2.0F}) {
+        AnalogChannel *channel = addChannel(QStringLiteral("I"), 1);
+        channel->fftMagnitudes = QVector<float>(1001, 0.0F);
+        channel->fftAngles = QVector<float>(1001, angle);
+    }
+    host->angles = true;
+    host->reference = 1;
+    show({3}); // of the first channel
+    const QVector<QVector<int>> rows{{260}, {203, 260}, {231, 260}}; // by reference
+    for (const int reference : {2, 3, 1, 2, 1, 3, 2}) {
+        host->reference = reference;
+        plot->rescaleValues();
+        plot->refreshPixmap();
+        QCOMPARE(rowsOf(colorTable.at(3), picture(plot), 500), rows.at(reference - 1));
+    }
+}
+
+void TestPlotterDrawing::changedSeriesAreDrawnAgain()
+{
+    addChannel(QStringLiteral("I"), 5);
+    addChannel(QStringLiteral("U"), 20); // values stand at 60 + (21 - value) x 200 / 21
+    show({0, 1});
+    QCOMPARE(rowsOf(red, picture(plot), 500), QVector<int>({212}));
+    plot->showChannels({1});
+    host->source->analogChannels[0]->values = QVector<float>(1001, 10.0F);
+    plot->showChannels({0, 1});
+    plot->refreshPixmap();
+    QCOMPARE(rowsOf(red, picture(plot), 500), QVector<int>({165}));
 }
 
 // Channels with the values 0 to 13 in a view of 0 to 15, and the fourteenth in the colour of the

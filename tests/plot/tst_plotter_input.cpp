@@ -79,6 +79,10 @@ private slots:
     void returnCommitsTheTitle();
     void leavingTheEditorKeepsTheTitle();
     void theEditorBeginsWithTheTitleSelected();
+    void theEndOfAnEditGivesTheKeysToThePlot_data();
+    void theEndOfAnEditGivesTheKeysToThePlot();
+    void escapeKeepsTheTitle();
+    void anUntouchedEditorFollowsTheLanguage();
 
     void aChannelLabelOffersColours_data();
     void aChannelLabelOffersColours();
@@ -547,6 +551,54 @@ void TestPlotterInput::theEditorBeginsWithTheTitleSelected()
     QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {100, 30});
     QCOMPARE(
         pair->plot->findChild<QLineEdit *>()->selectedText(), QStringLiteral("Analog Plotter"));
+}
+
+void TestPlotterInput::theEndOfAnEditGivesTheKeysToThePlot_data()
+{
+    QTest::addColumn<Qt::Key>("key");
+    QTest::newRow("Return") << Qt::Key_Return;
+    QTest::newRow("Escape") << Qt::Key_Escape;
+}
+
+void TestPlotterInput::theEndOfAnEditGivesTheKeysToThePlot()
+{
+    QFETCH(Qt::Key, key);
+    auto *editor = pair->plot->findChild<QLineEdit *>();
+    for (int i = 0; i < 2; ++i) {
+        QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {90, 25});
+        QTRY_VERIFY(editor->hasFocus());
+        QTest::keyClick(editor, key);
+        QVERIFY(!editor->isVisible());
+        QVERIFY(pair->plot->hasFocus());
+        QVERIFY(QWidget::keyboardGrabber() != editor);
+    }
+}
+
+void TestPlotterInput::escapeKeepsTheTitle()
+{
+    auto *editor = pair->plot->findChild<QLineEdit *>();
+    QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {90, 25});
+    QTest::keyClicks(editor, QStringLiteral("Feeder"));
+    QTest::keyClick(editor, Qt::Key_Escape);
+    QCOMPARE(pair->plot->findChild<QLabel *>(QStringLiteral("Plotter Label"))->text(),
+        QStringLiteral("Analog Plotter"));
+}
+
+// The window names its plots anew before the news of a language reaches them.
+void TestPlotterInput::anUntouchedEditorFollowsTheLanguage()
+{
+    auto *editor = pair->plot->findChild<QLineEdit *>();
+    QEvent change(QEvent::LanguageChange);
+    QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {90, 25});
+    pair->plot->setName(QStringLiteral("Analoginen"));
+    QApplication::sendEvent(pair->plot, &change);
+    QCOMPARE(editor->text(), QStringLiteral("Analoginen Plotter"));
+    QCOMPARE(editor->selectedText(), editor->text());
+
+    QTest::keyClicks(editor, QStringLiteral("Feeder"));
+    pair->plot->setName(QStringLiteral("Analog"));
+    QApplication::sendEvent(pair->plot, &change);
+    QCOMPARE(editor->text(), QStringLiteral("Feeder"));
 }
 
 void TestPlotterInput::aChannelLabelOffersColours_data()

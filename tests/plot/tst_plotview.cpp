@@ -10,6 +10,8 @@
 #include <cmath>
 #include <random>
 
+Q_DECLARE_METATYPE(ValueExtremes)
+
 namespace {
 
 using Ends = QVector<double>;
@@ -328,8 +330,8 @@ void TestPlotView::thereAndBackIsTheSame()
     }
 }
 
-// Of a magnitude of 70 all is shown, with angles to 360 then all from 0 to 400. The upper half of 70
-// becomes that of 360.
+// Of a magnitude of 70 all is shown, with angles to 360 then all from 0 to 400. The upper half of
+// 70 becomes that of 360.
 void TestPlotView::anglesFitTheWholeAndKeepTheShareOfAPart()
 {
     PlotView whole;
@@ -375,8 +377,8 @@ void TestPlotView::randomSequencesComeBack()
             break;
         case 2: {
             const QPoint from(100 + upTo(600), 60 + upTo(180));
-            view.zoomToBand(QRect(from, from + QPoint(3 + upTo(300), 3 + upTo(100))), {800, 300},
-                upTo(2));
+            view.zoomToBand(
+                QRect(from, from + QPoint(3 + upTo(300), 3 + upTo(100))), {800, 300}, upTo(2));
             break;
         }
         case 3:
@@ -403,8 +405,6 @@ void TestPlotView::randomSequencesComeBack()
         QVERIFY(PlotSettings::isUsable(view.live().minY, view.live().maxY));
     }
 }
-
-Q_DECLARE_METATYPE(ValueExtremes)
 
 QTEST_APPLESS_MAIN(TestPlotView)
 #include "tst_plotview.moc"
