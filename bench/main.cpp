@@ -31,6 +31,7 @@ struct Figure {
 };
 
 const Figure figures[] = {
+    {"memory of thirty plots less one / 250 MB", memoryOfThirtyPlots, Goal::AtMost, 1},
     {"memory after a load less 60 MB / series", memoryAgainstSeries, Goal::AtMost, 1.25},
     {"reading, plain reader / reader", readingPlainlyAgainstReading, Goal::AtLeast, 10},
     {"reading, reader / converting alone", readingAgainstConverting, Goal::AtMost, 1.5},
@@ -47,6 +48,7 @@ const Figure figures[] = {
         [] { return redrawingAgainstRedrawing(1000000, 2000); }, Goal::AtMost, 5},
     {"redrawing, 10,000,000 samples / 1,000,000",
         [] { return redrawingAgainstRedrawing(10000000, 1000000); }, Goal::AtMost, 1.2},
+    {"zooming thirty plots / one", zoomingThirtyPlotsAgainstOne, Goal::AtMost, 36},
     {"drawing a trace, in full / thinned", drawingInFullAgainstThinned, Goal::AtLeast, 40},
     {"redrawing / a move of the pointer", redrawingAgainstPointing, Goal::None, 0},
 };

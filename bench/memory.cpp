@@ -1,14 +1,19 @@
 // SPDX-FileCopyrightText: 2026 Norvale
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The memory that a recording of 1,000,000 samples stands in.
+// The memory that a recording of 1,000,000 samples and thirty plots stand in.
 
 #include "cfgproperties.h"
 #include "figures.h"
+#include "noisyplot.h"
 #include "recordingtext.h"
 
 #include <QFile>
 #include <QTemporaryDir>
+
+#include <malloc.h>
+
+#include <memory>
 
 namespace {
 
@@ -41,6 +46,26 @@ double seriesMemory(const CFGProperties &recording)
 }
 
 } // namespace
+
+Ratio memoryOfThirtyPlots()
+{
+    constexpr double goal = 250; // MB
+    const auto memoryOf = [](int count) {
+        const double before = residentMemory();
+        const NoisyPlots plots(count, 20000, {1700, 320});
+        plots.first().addCursorAt(300);
+        plots.first().addCursorAt(700);
+        plots.first().customZoomIn();
+        return residentMemory() - before;
+    };
+    memoryOf(1); // what the first plot of a process loads
+    malloc_trim(0);
+    const double one = memoryOf(1);
+    malloc_trim(0);
+    const double thirty = memoryOf(30);
+    malloc_trim(0); // so that the next figure does not take freed memory unnoticed
+    return {thirty - one, goal, "MB"};
+}
 
 Ratio memoryAgainstSeries()
 {

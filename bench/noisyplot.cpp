@@ -5,7 +5,7 @@
 
 #include <random>
 
-NoisyPlots::NoisyPlots(int plots, int samples)
+NoisyPlots::NoisyPlots(int plots, int samples, const QSize &size)
 {
     QVector<double> times(samples);
     for (int i = 0; i < samples; ++i)
@@ -20,7 +20,6 @@ NoisyPlots::NoisyPlots(int plots, int samples)
             value = static_cast<float>(random() % 20001) / 100 - 100;
         m_host.addAnalog(QStringLiteral("I%1").arg(k), values);
     }
-    const QSize size(1600, 400);
     m_area.resize(size.width(), size.height() * plots);
     for (int i = 0; i < plots; ++i) {
         auto *plot = new Plotter(&m_area);

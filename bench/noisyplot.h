@@ -8,13 +8,13 @@
 
 #include <QWidget>
 
-// Linked plots of 1600 x 400, one over the other, each of which shows the same eight channels of
-// noise over 1000 ms.
+// Linked plots, one over the other, each of which shows the same eight channels of noise over
+// 1000 ms.
 class NoisyPlots {
 public:
     static constexpr int channels = 8;
 
-    NoisyPlots(int plots, int samples);
+    NoisyPlots(int plots, int samples, const QSize &size = {1600, 400});
 
     Plotter &first() const { return *m_plots.constFirst(); }
     // Draws the base layer of the first plot, with the trigger at another time than before: a layer

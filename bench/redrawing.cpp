@@ -39,6 +39,23 @@ Ratio redrawingAgainstRedrawing(int samples, int fewerSamples)
         rounds, [&] { many.redraw(); }, [&] { few.redraw(); });
 }
 
+Ratio zoomingThirtyPlotsAgainstOne()
+{
+    constexpr int zooms = 11;
+    const NoisyPlots many(30, 20000, {1700, 320});
+    const NoisyPlots one(1, 20000, {1700, 320});
+    for (const NoisyPlots *plots : {&many, &one}) {
+        plots->first().addCursorAt(100);
+        plots->first().addCursorAt(300);
+    }
+    const auto zoom = [](Plotter &plot) {
+        plot.customZoomIn();
+        plot.customZoomOut();
+    };
+    return timesInTurn(
+        zooms, [&] { zoom(many.first()); }, [&] { zoom(one.first()); });
+}
+
 Ratio drawingInFullAgainstThinned()
 {
     const NoisyPlots plots(1, million);
