@@ -34,19 +34,20 @@ function(wavorin_test_executable name)
     endif()
 endfunction()
 
-# A QtTest executable of one unit: wavorin_test(tst_<unit> LIBRARIES ... [PATHS])
+# A QtTest executable of one unit: wavorin_test(tst_<unit> LIBRARIES ... [PATHS] [COST seconds])
 # Its source is tst_<unit>.cpp in the current folder. It includes tst_<unit>.moc, for which moc reads no
 # headers but those of our interfaces; what is shared with other tests and needs moc is in the libraries of
 # tests/support. PATHS defines SOURCE_DIR and TEST_OUTPUT_DIR, the project's folder and the one for what a
 # test leaves to look at.
+# Tests that take some seconds name them as their COST: the longest begin first.
 # It runs without a display, in UTC and in the C locale, with settings and data folders of its own.
 function(wavorin_test name)
-    cmake_parse_arguments(arg "PATHS" "TIMEOUT" "LIBRARIES" ${ARGN})
+    cmake_parse_arguments(arg "PATHS" "COST" "LIBRARIES" ${ARGN})
     if(arg_UNPARSED_ARGUMENTS)
         message(FATAL_ERROR "wavorin_test does not know '${arg_UNPARSED_ARGUMENTS}'")
     endif()
-    if(NOT arg_TIMEOUT)
-        set(arg_TIMEOUT 300)
+    if(NOT arg_COST)
+        set(arg_COST 0)
     endif()
     set(source "${CMAKE_CURRENT_SOURCE_DIR}/${name}.cpp")
     set(interfaces ${PROJECT_SOURCE_DIR}/plot ${PROJECT_SOURCE_DIR}/dialogs ${PROJECT_SOURCE_DIR}/dialogs/label)
@@ -67,6 +68,7 @@ function(wavorin_test name)
     set(home "${CMAKE_BINARY_DIR}/test-home/${name}")
     file(MAKE_DIRECTORY "${home}" "${CMAKE_BINARY_DIR}/test-output")
     set_tests_properties(${name} PROPERTIES
-        TIMEOUT ${arg_TIMEOUT}
+        TIMEOUT 300
+        COST ${arg_COST}
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TZ=UTC;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0")
 endfunction()

@@ -6,16 +6,22 @@
 #include <QSettings>
 #include <QtTest>
 
+#include <map>
+
 namespace {
 
-// What the program of a brand tells of itself, line by line.
-QStringList toldBy(int brand, const QStringList &arguments)
+void start(QProcess &program, int brand, const QStringList &arguments = {})
 {
-    QProcess program;
     program.start(
         QCoreApplication::applicationDirPath() + QStringLiteral("/wavorin_brand%1").arg(brand),
         arguments);
-    if (!program.waitForFinished() || program.exitCode() != 0)
+}
+
+// What the program of a brand tells of itself, line by line.
+QStringList toldBy(QProcess &program)
+{
+    program.waitForFinished();
+    if (program.error() != QProcess::UnknownError || program.exitCode() != 0)
         return {QStringLiteral("failed")};
     return QString::fromUtf8(program.readAllStandardOutput())
         .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
@@ -94,7 +100,9 @@ private slots:
             QLatin1String("about: ") + about};
         for (const QString &language : languages)
             expected.append(QLatin1String("language: ") + language);
-        QCOMPARE(toldBy(brand, {QStringLiteral(SOURCE_DIR "/examples/earth-fault.cfg")}), expected);
+        QProcess program;
+        start(program, brand, {QStringLiteral(SOURCE_DIR "/examples/earth-fault.cfg")});
+        QCOMPARE(toldBy(program), expected);
         const QSettings settings(QStringLiteral("Norvale"), QStringLiteral("Wavorin"));
         QTEST(settings.value(QStringLiteral("language")).toString(), "kept");
     }
@@ -112,8 +120,15 @@ private slots:
     void showsTheMakersSplashWithoutARecording()
     {
         QFETCH(int, brand);
-        QCOMPARE(toldBy(brand, {}).first(), QStringLiteral("splash: the maker's"));
+        if (m_waiting.empty()) {
+            for (int each = 0; each <= 4; ++each)
+                start(m_waiting[each], each);
+        }
+        QCOMPARE(toldBy(m_waiting[brand]).first(), QStringLiteral("splash: the maker's"));
     }
+
+private:
+    std::map<int, QProcess> m_waiting; // programs of the brands, all in their splash's two seconds
 };
 
 QTEST_GUILESS_MAIN(TestBrandBuilds)

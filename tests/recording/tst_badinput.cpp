@@ -387,7 +387,7 @@ void TestBadInput::aLineWithoutEndEndsTheReading()
 
 void TestBadInput::aPairCutOffAnywhereIsSurvived()
 {
-    const RecordingFolder folder;
+    const RecordingFolder folder = RecordingFolder::inMemory();
     const QByteArray configuration = twoAndOne().text();
     for (int length = 0; length <= configuration.size(); ++length) {
         CFGProperties recording;
@@ -427,7 +427,7 @@ void TestBadInput::aPairWithBytesChangedIsSurvived()
         }
         return text;
     };
-    const RecordingFolder folder;
+    const RecordingFolder folder = RecordingFolder::inMemory();
     for (int i = 0; i < 1500; ++i) {
         CFGProperties recording;
         const QByteArray configuration = changed(twoAndOne().text());
@@ -444,7 +444,7 @@ void TestBadInput::anExportWithBytesChangedIsSurvived()
     const QByteArray text = "#Ua[kV],Ub[kV]\n01/02/2020-10:00:00:000,1.5,-2\n"
                             "01/02/2020-10:00:00:020,3,4.25\n";
     std::mt19937 random(12);
-    const RecordingFolder folder;
+    const RecordingFolder folder = RecordingFolder::inMemory();
     for (int i = 0; i < 1500; ++i) {
         QByteArray changed = text;
         for (auto changes = 1 + random() % 6; changes > 0; --changes)

@@ -7,6 +7,7 @@
 #include "smallrecording.h"
 
 #include <QByteArrayList>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 // The text of a configuration, put together from parts that a test may change. Counts that are not
@@ -63,9 +64,13 @@ inline QByteArray digitalLine(int number)
     return text + ",DI" + text + ",,,0";
 }
 
-// A folder of its own, in which recordings are written and loaded.
+// A folder of its own, in which recordings are written and loaded; where the system has one for
+// that, it may lie in memory.
 class RecordingFolder {
 public:
+    RecordingFolder() = default;
+    static RecordingFolder inMemory() { return RecordingFolder(QStringLiteral("/dev/shm")); }
+
     QString path(const char *name) const { return m_folder.filePath(QString::fromUtf8(name)); }
 
     // Writes <name>.cfg and <name>.dat and loads them; the result of init() is in loaded.
@@ -82,5 +87,12 @@ public:
     }
 
 private:
+    explicit RecordingFolder(const QString &parent)
+        : m_folder(QFileInfo(parent).isWritable()
+                ? parent + QLatin1String("/wavorin-XXXXXX")
+                : QDir::tempPath() + QLatin1String("/wavorin-XXXXXX"))
+    {
+    }
+
     QTemporaryDir m_folder;
 };

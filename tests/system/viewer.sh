@@ -54,6 +54,11 @@ different_pixels() { # of two screenshots
     printf '%.0f' "${pixels%% *}" || fail "$1 and $2 cannot be compared: $pixels"
 }
 
+differs() { # differs PICTURE NEW PIXELS: takes a new one and tells whether more pixels than that changed
+    shot "$2"
+    [ "$(different_pixels "$1" "$2")" -gt "$3" ]
+}
+
 menu() { xdotool windowfocus "$window" key "alt+$1" sleep 0.4 key "$2"; } # by the letters of a menu and an entry
 
 click() { xdotool mousemove "$1" "$2" click 1; }
