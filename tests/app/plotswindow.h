@@ -4,23 +4,18 @@
 #pragma once
 
 #include "addplotterdialog.h"
-#include "mainwindow.h"
-#include "plotter.h"
 #include "smallrecording.h"
-#include "windowtest.h"
+#include "windowfixture.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
 
 #include <algorithm>
-#include <memory>
 
 // A recording of 100 samples, 1 ms apart, with the analog channels named and digital ones that are
 // 1 from sample 50 on, but for those whose names end with "0".
@@ -68,23 +63,10 @@ inline QStringList texts(const QComboBox *combo)
     return result;
 }
 
-// For tests of the plots in a window: a window, small recordings, and hands to work with both.
-class PlotsWindow : public QObject {
+// For tests of the plots in a window of 1200 x 900.
+class PlotsWindow : public WindowFixture {
 protected:
-    void openWindow()
-    {
-        folder = std::make_unique<QTemporaryDir>();
-        const MissingSignalAlarm alarm;
-        window = std::make_unique<MainWindow>();
-        window->resize(1200, 900);
-        window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    }
-    void closeWindow()
-    {
-        window.reset();
-        folder.reset();
-    }
+    void openWindow() { WindowFixture::openWindow(1200, 900); }
     void open(const QStringList &analog, const QStringList &digital, const QByteArray &flag = "P")
     {
         window->open(writeRecording(folder->path(), analog, digital, flag));
@@ -98,24 +80,9 @@ protected:
             [](const Plotter *a, const Plotter *b) { return a->y() < b->y(); });
         return found;
     }
-    Plotter *plot(const QString &name) const
-    {
-        for (Plotter *candidate : window->findChildren<Plotter *>()) {
-            if (candidate->name() == name)
-                return candidate;
-        }
-        return nullptr;
-    }
+    Plotter *plot(const QString &name) const { return plotNamed(name); }
     Plotter *analog() const { return plot(QStringLiteral("Analog")); }
     Plotter *digital() const { return plot(QStringLiteral("Digital")); }
-    QAction *action(const char *text) const
-    {
-        for (QAction *candidate : window->findChildren<QAction *>()) {
-            if (candidate->text() == QLatin1String(text))
-                return candidate;
-        }
-        return nullptr;
-    }
     // Composes a plot through the dialog; without channels, accepts an empty choice.
     void compose(
         const QStringList &channels, const QString &name = QString(), bool accepted = true);
@@ -133,8 +100,6 @@ protected:
         return window->findChild<QComboBox *>(QLatin1String(name));
     }
 
-    std::unique_ptr<QTemporaryDir> folder;
-    std::unique_ptr<MainWindow> window;
     QStringList offered;
 };
 

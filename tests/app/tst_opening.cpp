@@ -2,12 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "cfgproperties.h"
-#include "mainwindow.h"
-#include "plotter.h"
 #include "plotvalues.h"
 #include "smallrecording.h"
 #include "vectordialog.h"
-#include "windowtest.h"
+#include "windowfixture.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -29,11 +27,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-class TestOpening : public QObject {
+class TestOpening : public WindowFixture {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> folder;
-    std::unique_ptr<MainWindow> window;
     std::unique_ptr<BoxReader> boxes;
 
     template <class T> T *child(const char *name) const
@@ -57,14 +53,7 @@ class TestOpening : public QObject {
         return texts;
     }
 
-    bool enabled(const char *text) const
-    {
-        for (const QAction *action : window->findChildren<QAction *>()) {
-            if (action->text() == QLatin1String(text))
-                return action->isEnabled();
-        }
-        return false;
-    }
+    bool enabled(const char *text) const { return action(text) && action(text)->isEnabled(); }
 
     bool recordingActionsEnabled() const
     {
@@ -95,8 +84,6 @@ class TestOpening : public QObject {
         return window->findChildren<QMovie *>().isEmpty();
     }
 
-    QString path(const char *name) const { return folder->filePath(QLatin1String(name)); }
-
     QString goodRecording(const char *name = "good")
     {
         return writeSmallRecording(folder->path(), QLatin1String(name));
@@ -112,15 +99,14 @@ private slots:
     void init()
     {
         startAsMaker();
-        folder = std::make_unique<QTemporaryDir>();
         boxes = std::make_unique<BoxReader>();
-        window = std::make_unique<MainWindow>();
+        makeWindow();
         window->statusBar()->clearMessage();
     }
 
     void cleanup()
     {
-        window.reset();
+        closeWindow();
         boxes.reset();
     }
 
@@ -182,10 +168,7 @@ private slots:
     {
         window->show();
         window->open(goodRecording());
-        for (QAction *action : window->findChildren<QAction *>()) {
-            if (action->text() == QLatin1String("&Show Vectors"))
-                action->trigger();
-        }
+        trigger("&Show Vectors");
         const auto *dialog = window->findChild<VectorDialog *>();
         QVERIFY(dialog->isVisible());
         const auto *magnitudes = dialog->findChild<QLabel *>(QStringLiteral("labelMagnitudes"));

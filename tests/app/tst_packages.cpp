@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "cfgproperties.h"
-#include "mainwindow.h"
 #include "ownfilesystem.h"
 #include "smallrecording.h"
 #include "startup.h"
-#include "windowtest.h"
+#include "windowfixture.h"
 
 #include <QElapsedTimer>
 #include <QProcess>
@@ -21,16 +20,12 @@
 
 // Packages, unpacked by the real archiver where one is installed and by scripts in its place where
 // its behaviour must be arranged.
-class TestPackages : public QObject {
+class TestPackages : public WindowFixture {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> folder;
-    std::unique_ptr<MainWindow> window;
     std::unique_ptr<BoxReader> boxes;
     QByteArray searchPath;
     QString realArchiver; // one that makes ZIP files; empty where there is none
-
-    QString path(const char *name) const { return folder->filePath(QLatin1String(name)); }
 
     static QString unpackingFolder(int number)
     {
@@ -136,15 +131,14 @@ private slots:
     {
         startAsMaker();
         qputenv("PATH", searchPath);
-        folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("in")));
         boxes = std::make_unique<BoxReader>();
-        window = std::make_unique<MainWindow>();
+        makeWindow();
+        QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("in")));
     }
 
     void cleanup()
     {
-        window.reset();
+        closeWindow();
         boxes.reset();
     }
 

@@ -6,14 +6,10 @@
 #include "cfgproperties.h"
 #include "customlabel.h"
 #include "drawingcounter.h"
-#include "mainwindow.h"
-#include "plotter.h"
 #include "smallrecording.h"
 #include "vectorpanel.h"
-#include "windowtest.h"
+#include "windowfixture.h"
 
-#include <QAction>
-#include <QTemporaryDir>
 #include <QToolButton>
 
 #include <cmath>
@@ -67,13 +63,13 @@ QString writeSignals(
 
 } // namespace
 
-class TestPhasorsOnScreen : public QObject {
+class TestPhasorsOnScreen : public WindowFixture {
     Q_OBJECT
 
 private slots:
     void initTestCase() { startAsMaker(); }
-    void init();
-    void cleanup();
+    void init() { openWindow(1400, 700); }
+    void cleanup() { closeWindow(); }
     void balancedPhasesStandAThirdApart_data();
     void balancedPhasesStandAThirdApart();
     void harmonicsAloneReadNothing();
@@ -91,10 +87,9 @@ private:
     // Opens the signals and shows the dialog, with every channel of the first panel checked.
     void open(int frequency, int rate, const QList<Signal> &analogSignals);
     void checkAll(QWidget *panel) const;
-    void trigger(const char *action) const;
     // Sets a cursor at the sample by a double-click on the first plot.
     void setCursor(int sample);
-    Plotter *plot() const;
+    Plotter *plot() const { return plotNamed(QStringLiteral("Analog")); }
     VectorDialog *dialog() const { return window->findChild<VectorDialog *>(); }
     QList<VectorWidget *> panels() const { return dialog()->findChildren<VectorWidget *>(); }
     void addPanel() const
@@ -104,43 +99,7 @@ private:
             Qt::LeftButton);
     }
     void dragCursor(int x) const;
-
-    std::unique_ptr<QTemporaryDir> folder;
-    std::unique_ptr<MainWindow> window;
 };
-
-void TestPhasorsOnScreen::init()
-{
-    folder = std::make_unique<QTemporaryDir>();
-    window = std::make_unique<MainWindow>();
-    window->resize(1400, 700);
-    window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-}
-
-void TestPhasorsOnScreen::cleanup()
-{
-    window.reset();
-    folder.reset();
-}
-
-Plotter *TestPhasorsOnScreen::plot() const
-{
-    for (Plotter *candidate : window->findChildren<Plotter *>()) {
-        if (candidate->name() == QLatin1String("Analog"))
-            return candidate;
-    }
-    return nullptr;
-}
-
-void TestPhasorsOnScreen::trigger(const char *action) const
-{
-    for (QAction *candidate : window->findChildren<QAction *>()) {
-        if (candidate->text() == QLatin1String(action))
-            return candidate->trigger();
-    }
-    QFAIL(action);
-}
 
 void TestPhasorsOnScreen::checkAll(QWidget *panel) const
 {

@@ -6,17 +6,13 @@
 #include "baselayer.h"
 #include "cfgproperties.h"
 #include "ctvtdialog.h"
-#include "mainwindow.h"
-#include "plotter.h"
 #include "smallrecording.h"
 #include "vectorpanel.h"
-#include "windowtest.h"
+#include "windowfixture.h"
 
-#include <QAction>
 #include <QHelpEvent>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QToolTip>
 
 #include <cmath>
@@ -44,13 +40,13 @@ const QRgb yellow = qRgb(220, 220, 0); // of the second channel
 
 } // namespace
 
-class TestRatiosOnScreen : public QObject {
+class TestRatiosOnScreen : public WindowFixture {
     Q_OBJECT
 
 private slots:
     void initTestCase() { startAsMaker(); }
-    void init();
-    void cleanup();
+    void init() { openWindow(1400, 900); }
+    void cleanup() { closeWindow(); }
     void valuesAndReadoutsFollowTheFactors_data();
     void valuesAndReadoutsFollowTheFactors();
     void aReloadBringsTheRatiosOfTheFile();
@@ -58,38 +54,11 @@ private slots:
 private:
     void open(const QString &flag);
     void setRatios(const QString &primary, const QString &secondary) const;
-    void trigger(const char *action) const;
     QString readout(int row) const;
     CTVTDialog *ratios() const { return window->findChild<CTVTDialog *>(); }
 
-    std::unique_ptr<QTemporaryDir> folder;
-    std::unique_ptr<MainWindow> window;
     Plotter *plot = nullptr; // an added one, of the waveforms and the spectrum of the first
 };
-
-void TestRatiosOnScreen::init()
-{
-    folder = std::make_unique<QTemporaryDir>();
-    window = std::make_unique<MainWindow>();
-    window->resize(1400, 900);
-    window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-}
-
-void TestRatiosOnScreen::cleanup()
-{
-    window.reset();
-    folder.reset();
-}
-
-void TestRatiosOnScreen::trigger(const char *action) const
-{
-    for (QAction *candidate : window->findChildren<QAction *>()) {
-        if (candidate->text() == QLatin1String(action))
-            return candidate->trigger();
-    }
-    QFAIL(action);
-}
 
 // With a cursor at sample 100 and the phasors of the first channel on screen.
 void TestRatiosOnScreen::open(const QString &flag)
