@@ -5,6 +5,11 @@
 
 #include <QStylePainter>
 
+QSize ElidingLabel::minimumSizeHint() const
+{
+    return {fontMetrics().horizontalAdvance(QChar(0x2026)), QLabel::minimumSizeHint().height()};
+}
+
 void ElidingLabel::paintEvent(QPaintEvent * /*event*/)
 {
     const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());

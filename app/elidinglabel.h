@@ -12,6 +12,8 @@ class ElidingLabel : public QLabel {
 public:
     using QLabel::QLabel;
 
+    QSize minimumSizeHint() const override; // room for the ellipsis alone
+
 protected:
     void paintEvent(QPaintEvent *event) override;
 };

@@ -6,6 +6,7 @@
 #include "applicationidentity.h"
 #include "brand.h"
 #include "cfgproperties.h"
+#include "elidinglabel.h"
 #include "ui_mainwindow.h"
 #include "vectordialog.h"
 
@@ -130,11 +131,12 @@ void MainWindow::createToolBarWidgets()
     connect(referenceCombo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
         &MainWindow::referenceChanged);
 
-    primSecLabel = new QLabel(tr("Primary/Secondary:"), this);
+    primSecLabel = new ElidingLabel(tr("Primary/Secondary:"), this);
     primSecLabel->setStyleSheet(QStringLiteral("QLabel{color:white;}"));
 
     primSecCombo = new QComboBox(this);
     primSecCombo->setObjectName(QStringLiteral("comboBox_primSec"));
+    primSecCombo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     connect(primSecCombo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
         &MainWindow::primSecChanged);
 }

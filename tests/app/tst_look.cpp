@@ -394,6 +394,70 @@ private slots:
         QCOMPARE(widget->property("text").toByteArray(), name);
     }
 
+    // Tool bars
+
+    void toolBarsFitTheFirstWidth_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<double>("points");
+        for (const char *language : {"English", "Suomi", "中文"}) {
+            for (const double points : {9.0, 10.0, 10.5, 11.0, 12.0, 13.0})
+                QTest::addRow("%s, %g points", language, points)
+                    << QString::fromUtf8(language) << points;
+        }
+    }
+
+    void toolBarsFitTheFirstWidth()
+    {
+        QFETCH(QString, language);
+        QFETCH(double, points);
+        const QFont before = QApplication::font();
+        const auto restore = qScopeGuard([&] { QApplication::setFont(before); });
+        QFont font = before;
+        font.setPointSizeF(points);
+        QApplication::setFont(font);
+        dialog.reset();
+        window = std::make_unique<MainWindow>();
+        window->open(writeSmallRecording(folder.path(), QStringLiteral("rec")));
+        window->show();
+        for (QAction *action : window->findChildren<QAction *>()) {
+            if (action->text() == language)
+                action->trigger();
+        }
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        QTest::qWait(50);
+        QCOMPARE(window->width(), 1000);
+        for (const QToolBar *bar : window->findChildren<QToolBar *>()) {
+            for (QAction *action : bar->actions()) {
+                const QWidget *widget = bar->widgetForAction(action);
+                QVERIFY(widget->isVisible());
+                QVERIFY2(bar->rect().contains(widget->geometry())
+                        && widget->width() >= widget->sizeHint().width(),
+                    qPrintable(bar->windowTitle()));
+            }
+        }
+        // The longest entry of the value mode and its arrow.
+        const auto *mode = child<QComboBox>("comboBox_primSec");
+        const int longest = mode->fontMetrics().horizontalAdvance(mode->itemText(2));
+        QVERIFY2(mode->width() >= longest + 34, qPrintable(QString::number(mode->width())));
+    }
+
+    // A font beyond those, or a wider one.
+    void theLabelInTheToolBarGivesWayFirst()
+    {
+        auto *mode = child<QComboBox>("comboBox_primSec");
+        auto *label = qobject_cast<QLabel *>(mode->parentWidget()->findChild<QLabel *>());
+        mode->setMinimumWidth(150);
+        child<QComboBox>("comboBox_mainReference")->setMinimumWidth(150);
+        QTest::qWait(50);
+        QCOMPARE(window->width(), 1000);
+        QVERIFY(mode->isVisible());
+        QVERIFY(mode->parentWidget()->rect().contains(mode->geometry()));
+        QVERIFY(label->isVisible());
+        QVERIFY(label->width() < label->sizeHint().width());
+        QVERIFY(label->width() >= 40);
+    }
+
     // Tool tips
 
     void controlsTellWhatTheyAreFor_data()
