@@ -36,6 +36,7 @@ class TestBrandBuilds : public QObject {
 private slots:
     void initTestCase()
     {
+        qputenv("QT_FONT_DPI", "96"); // a scale of 1, for which there is one picture
         const QStringList tools{QStringLiteral("Setterra"), QStringLiteral("Tolvik"),
             QStringLiteral("Kesto Utility Software"), QStringLiteral("Quill Lab"),
             QStringLiteral("Ostrel")};

@@ -10,10 +10,78 @@
 #include <QFontDatabase>
 #include <QGlyphRun>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTextLayout>
 #include <QtTest>
+
+#include <memory>
+
+namespace {
+
+// Waits for the window and prints its number. The splash bears no such title.
+const QStringList search{QStringLiteral("search"), QStringLiteral("--sync"),
+    QStringLiteral("--onlyvisible"), QStringLiteral("--name"), QStringLiteral("^Wavorin$")};
+
+// A display for the program alone.
+class OwnDisplay {
+public:
+    explicit OwnDisplay(const QString &size)
+    {
+        m_server.start(QStringLiteral("Xvfb"),
+            {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+                QStringLiteral("0"), size + QLatin1String("x24")});
+        m_isReady = m_server.waitForStarted() && m_server.waitForReadyRead();
+        set("DISPLAY",
+            QLatin1Char(':') + QString::fromLatin1(m_server.readAllStandardOutput().trimmed()));
+        set("QT_QPA_PLATFORM", QStringLiteral("xcb"));
+    }
+    ~OwnDisplay()
+    {
+        m_server.terminate();
+        m_server.waitForFinished();
+    }
+    Q_DISABLE_COPY_MOVE(OwnDisplay)
+
+    bool isReady() const { return m_isReady; }
+    void set(const char *variable, const QString &value)
+    {
+        m_environment.insert(QLatin1String(variable), value);
+    }
+    struct Killer {
+        void operator()(QProcess *process) const
+        {
+            process->kill();
+            process->waitForFinished();
+            delete process;
+        }
+    };
+    using Process = std::unique_ptr<QProcess, Killer>;
+    // A program on this display, killed with the pointer.
+    Process started(const QString &program, const QStringList &arguments) const
+    {
+        Process process(new QProcess);
+        process->setProcessEnvironment(m_environment);
+        process->start(program, arguments);
+        return process;
+    }
+    // Empty where the program is not installed.
+    QString outputOf(const QString &program, const QStringList &arguments) const
+    {
+        const auto process = started(program, arguments);
+        return process->waitForFinished(20000)
+            ? QString::fromUtf8(process->readAllStandardOutput().trimmed())
+            : QString();
+    }
+
+private:
+    QProcess m_server;
+    QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
+    bool m_isReady = false;
+};
+
+} // namespace
 
 class TestStartup : public QObject {
     Q_OBJECT
@@ -137,46 +205,66 @@ private slots:
     void program()
     {
         QFETCH(bool, withFile);
-        QProcess display;
-        display.start(QStringLiteral("Xvfb"),
-            {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                QStringLiteral("0"), QStringLiteral("1600x1000x24")});
-        if (!display.waitForStarted() || !display.waitForReadyRead())
+        const OwnDisplay display(QStringLiteral("1600x1000"));
+        if (!display.isReady())
             QSKIP("Xvfb is not installed");
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("DISPLAY"),
-            QLatin1Char(':') + QString::fromLatin1(display.readAllStandardOutput().trimmed()));
-        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
-
         const QTemporaryDir folder;
         QStringList arguments;
         if (withFile)
             arguments.append(writeSmallRecording(folder.path(), QStringLiteral("rec")));
-        QProcess program;
-        program.setProcessEnvironment(environment);
         QElapsedTimer timer;
         timer.start();
-        program.start(
+        const auto program = display.started(
             QCoreApplication::applicationDirPath() + QLatin1String("/wavorin"), arguments);
-        QVERIFY(program.waitForStarted());
-
-        // The splash bears no such title; the window is the widest one of the program.
-        QProcess search;
-        search.setProcessEnvironment(environment);
-        search.start(QStringLiteral("xdotool"),
-            {QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"),
-                QStringLiteral("--name"), QStringLiteral("^Wavorin$")});
-        if (!search.waitForStarted())
+        QVERIFY(program->waitForStarted());
+        if (display.outputOf(QStringLiteral("xdotool"), search).isEmpty())
             QSKIP("xdotool is not installed");
-        QVERIFY(search.waitForFinished(20000));
         const qint64 elapsed = timer.elapsed();
-        QCOMPARE(program.state(), QProcess::Running);
+        QCOMPARE(program->state(), QProcess::Running);
         if (!withFile)
             QVERIFY2(elapsed >= 2000, qPrintable(QString::number(elapsed)));
-        program.kill();
-        program.waitForFinished();
-        display.terminate();
-        display.waitForFinished();
+    }
+
+    // By the dots of an inch: a factor given to the toolkit is never rounded.
+    void windowIsScaledAsTheDesktopIs_data()
+    {
+        QTest::addColumn<int>("dotsPerInch");
+        QTest::addColumn<int>("width"); // 1000 times the scale
+        QTest::newRow("100 %") << 96 << 1000;
+        QTest::newRow("125 %") << 120 << 1250;
+        QTest::newRow("150 %") << 144 << 1500;
+    }
+
+    void windowIsScaledAsTheDesktopIs()
+    {
+        QFETCH(int, dotsPerInch);
+        QFETCH(int, width);
+        OwnDisplay display(QStringLiteral("1920x1080"));
+        if (!display.isReady())
+            QSKIP("Xvfb is not installed");
+        display.set("QT_FONT_DPI", QString::number(dotsPerInch));
+        const QTemporaryDir folder;
+        const auto program
+            = display.started(QCoreApplication::applicationDirPath() + QLatin1String("/wavorin"),
+                {writeSmallRecording(folder.path(), QStringLiteral("rec"))});
+        QVERIFY(program->waitForStarted());
+        const QString window
+            = display.outputOf(QStringLiteral("xdotool"), search).section(QLatin1Char('\n'), -1);
+        const QString hints = display.outputOf(QStringLiteral("xprop"),
+            {QStringLiteral("-id"), window, QStringLiteral("WM_NORMAL_HINTS")});
+        if (window.isEmpty() || hints.isEmpty())
+            QSKIP("xdotool or xprop is not installed");
+        // The least size, with which all of the window is seen, and the present one.
+        const QRegularExpression size(QStringLiteral("size: (\\d+) by (\\d+)"));
+        int count = 0;
+        for (auto found = size.globalMatch(hints); found.hasNext(); ++count) {
+            const QRegularExpressionMatch match = found.next();
+            if (match.captured(1) == QLatin1String("0"))
+                continue; // the base size, which none has
+            QCOMPARE(match.captured(1).toInt(), width);
+            QVERIFY2(match.captured(2).toInt() <= 1080, qPrintable(match.captured(2)));
+        }
+        QVERIFY2(count >= 2, qPrintable(hints));
     }
 };
 

@@ -10,7 +10,7 @@ on_own_display() {
     shift
     [ -z "${OWN_DISPLAY:-}" ] || return 0
     export OWN_DISPLAY=$size
-    exec xvfb-run -a -s "-screen 0 ${size}x24" "$@"
+    exec xvfb-run -a -s "-screen 0 ${size}x24 -dpi 96" "$@"
 }
 
 # start_viewer VIEWER RECORDING: starts it over the whole display, with settings and folders of its own,
