@@ -67,6 +67,7 @@ MainWindow::MainWindow(QWidget *parent)
     connect(ui->listWidget2, &QListWidget::itemSelectionChanged, this,
         &MainWindow::setRequiredDigitalChannels);
     setAcceptDrops(true);
+    ui->listWidget->setFocus(); // not the first of the Tab order, which changes what is shown
 }
 
 MainWindow::~MainWindow()

@@ -75,6 +75,7 @@ void showTimesAsLocal(
 void MainWindow::clearView()
 {
     const bool disposes = std::exchange(hasRecording, false);
+    ui->listWidget->setFocus(); // as at the start
     enableRecordingActions(false);
     const QList<QLabel *> values{
         ui->label4, ui->label5, ui->label9, ui->label10, ui->label11, ui->label12};

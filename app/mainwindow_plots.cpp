@@ -136,6 +136,7 @@ void MainWindow::createPlots()
     showChosenChannels();
     vectorDialog->setPlotter(analogPlotter);
     vectorDialog->setChannelNames(names);
+    analogPlotter->setFocus();
 }
 
 void MainWindow::retranslatePlots()
@@ -311,6 +312,9 @@ void MainWindow::removePlotter()
 {
     if (!addedPlotters.isEmpty()) {
         Plotter *removed = addedPlotters.takeLast();
+        const QWidget *focused = focusWidget();
+        if (focused == removed || removed->isAncestorOf(focused))
+            (addedPlotters.isEmpty() ? analogPlotter : addedPlotters.constLast())->setFocus();
         for (Plotter *plot : plots())
             plot->removeLinkedPlotter(removed->name());
         plotLayout->removeWidget(removed);

@@ -3,15 +3,19 @@
 
 #include "contrast.h"
 #include "mainwindow.h"
+#include "plotter.h"
 #include "smallrecording.h"
 #include "windowtest.h"
 
 #include <QDialog>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QScrollArea>
 #include <QTemporaryDir>
 #include <QToolButton>
+#include <QWindow>
 
 #include <memory>
 
@@ -67,6 +71,45 @@ class TestFocus : public QObject {
             shown = window->findChild<QDialog *>(dialog);
         shown->show();
         return QTest::qWaitForWindowActive(shown) ? shown : nullptr;
+    }
+
+    // After another window has closed, which is for a window manager to do.
+    bool reactivated() const
+    {
+        window->activateWindow();
+        return QTest::qWaitForWindowActive(window.get());
+    }
+
+    // Through the shortcut and the dialog.
+    void openByKeys(const QString &path)
+    {
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [&] {
+            auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            if (!dialog || !dialog->isActiveWindow())
+                return;
+            timer.stop();
+            auto *edit = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+            edit->setText(path);
+            QTest::keyClick(edit, Qt::Key_Return);
+        });
+        timer.start(10);
+        QTest::keyClick(window->windowHandle(), Qt::Key_O, Qt::ControlModifier);
+    }
+
+    // What is chosen of the values: mode, reference, angles, channels.
+    QString measured() const
+    {
+        QString text = QStringLiteral("%1 %2 %3")
+                           .arg(window->valueMode())
+                           .arg(window->referenceIndex())
+                           .arg(window->showsAngles());
+        for (const char *name : {"listWidget", "listWidget2"}) {
+            const auto *list = window->findChild<QListWidget *>(QLatin1String(name));
+            for (int row = 0; row < list->count(); ++row)
+                text += list->item(row)->isSelected() ? QLatin1Char('+') : QLatin1Char('-');
+        }
+        return text;
     }
 
 private slots:
@@ -134,6 +177,111 @@ private slots:
                 "checkBox_showAngles comboBox_mainReference comboBox_primSec groupBox "
                 "checkBox_convertToLocal listWidget listWidget2 scrollWidget "
                 "[Analog Plotter] [Graph 1 Plotter] [Graph 3 Plotter] [Digital Plotter]"));
+    }
+
+    // Where the keys go
+
+    void keysGoToTheAnalogListAtTheStart()
+    {
+        window = std::make_unique<MainWindow>();
+        window->show();
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        QCOMPARE(nameOf(QApplication::focusWidget()), QStringLiteral("listWidget"));
+        // Another window comes and goes.
+        for (int i = 0; i < 2; ++i) {
+            auto *phasors = activated(QStringLiteral("VectorDialog"));
+            QVERIFY(phasors);
+            phasors->close();
+            QVERIFY(reactivated());
+            QCOMPARE(nameOf(QApplication::focusWidget()), QStringLiteral("listWidget"));
+        }
+    }
+
+    void keysGoToTheFirstPlotOfARecordingOpenedBeforeTheWindowIsShown()
+    {
+        window = std::make_unique<MainWindow>();
+        window->open(folder.filePath(QStringLiteral("rec.cfg")));
+        window->show();
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        QCOMPARE(nameOf(QApplication::focusWidget()), QStringLiteral("[Analog Plotter]"));
+    }
+
+    void keysAfterOpeningChangeNothingMeasured_data()
+    {
+        QTest::addColumn<QString>("before"); // has the focus before; empty for the second plot
+        for (const char *name : {"checkBox_showAngles", "comboBox_mainReference",
+                 "comboBox_primSec", "listWidget", "listWidget2", ""})
+            QTest::newRow(*name ? name : "plot") << QString::fromLatin1(name);
+    }
+
+    void keysAfterOpeningChangeNothingMeasured()
+    {
+        QFETCH(QString, before);
+        for (int i = 0; i < 2; ++i) {
+            window->addPlotter({QStringLiteral("IL1")});
+            QWidget *widget = before.isEmpty() ? window->findChildren<Plotter *>().last()
+                                               : window->findChild<QWidget *>(before);
+            widget->setFocus();
+            QVERIFY(widget->hasFocus());
+            openByKeys(folder.filePath(QStringLiteral("rec.cfg")));
+            QVERIFY(reactivated());
+            QCOMPARE(nameOf(QApplication::focusWidget()), QStringLiteral("[Analog Plotter]"));
+            const QString shown = measured();
+            for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Space, Qt::Key_Up, Qt::Key_Right,
+                     Qt::Key_Left, Qt::Key_PageDown, Qt::Key_S})
+                QTest::keyClick(window->windowHandle(), key);
+            QCOMPARE(measured(), shown);
+        }
+    }
+
+    void keysAfterAFailedLoadChangeNothing()
+    {
+        BoxReader boxes;
+        const QString broken = folder.filePath(QStringLiteral("broken.cfg"));
+        QVERIFY(writeTextFile(broken, smallConfiguration())); // without data
+        for (int i = 0; i < 2; ++i) {
+            for (const char *name : {"comboBox_primSec", "checkBox_showAngles"}) {
+                window->findChild<QWidget *>(QLatin1String(name))->setFocus();
+                window->open(broken);
+                QVERIFY(!window->recording());
+                QVERIFY(reactivated());
+                QCOMPARE(nameOf(QApplication::focusWidget()), QStringLiteral("listWidget"));
+                window->open(folder.filePath(QStringLiteral("rec.cfg")));
+                QCOMPARE(nameOf(QApplication::focusWidget()), QStringLiteral("[Analog Plotter]"));
+            }
+        }
+        QCOMPARE(boxes.count(), 4);
+    }
+
+    void keysOfARemovedPlotGoToTheOneBefore()
+    {
+        window->open(writeSmallRecording(folder.path(), QStringLiteral("analog"),
+            smallConfiguration().replace("3,2A,1D", "2,2A,0D")));
+        for (int i = 0; i < 2; ++i) {
+            for (int k = 0; k < 2; ++k)
+                window->addPlotter({QStringLiteral("IL1")});
+            QCOMPARE(nameOf(QApplication::focusWidget()), QStringLiteral("[Analog Plotter]"));
+            for (Plotter *plot : window->findChildren<Plotter *>()) {
+                if (plot->name() == QStringLiteral("Graph %1").arg(2 * i + 2))
+                    plot->setFocus();
+            }
+            window->removePlotter();
+            QCOMPARE(nameOf(QApplication::focusWidget()),
+                QStringLiteral("[Graph %1 Plotter]").arg(2 * i + 1));
+            window->removePlotter();
+            QCOMPARE(nameOf(QApplication::focusWidget()), QStringLiteral("[Analog Plotter]"));
+        }
+    }
+
+    // Neither a plot added nor another one removed takes them.
+    void keysStayWhereTheyAreOtherwise()
+    {
+        auto *list = window->findChild<QWidget *>(QStringLiteral("listWidget"));
+        list->setFocus();
+        window->addPlotter({QStringLiteral("IL1")});
+        QVERIFY(list->hasFocus());
+        window->removePlotter();
+        QVERIFY(list->hasFocus());
     }
 
     void focusIsSeen_data() { tabFollowsTheReadingOrder_data(); }

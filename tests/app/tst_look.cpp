@@ -192,7 +192,7 @@ private slots:
 
     void listsAreFlatInsideTheirBorder()
     {
-        const QImage picture = child<QListWidget>("listWidget")->grab().toImage();
+        const QImage picture = child<QListWidget>("listWidget2")->grab().toImage();
         QVERIFY(isAlmost(picture.pixel(50, 100), "#313034"));
         QVERIFY(isAlmost(picture.pixel(0, 100), "#00b9f2"));
     }
