@@ -125,6 +125,7 @@ private:
     void smoothLetters(bool smooth); // of the plots
     void stylePlots(const QString &styleSheet);
     QList<Plotter *> plots() const; // all that exist
+    bool mayReplace(QStringList files); // asks where some exist
     RecordingWriter recordingWriter() const; // with the ratings of the CT/VT dialog
     void reportSaving(const QString &failedFile, const QString &error); // empty: none failed
 

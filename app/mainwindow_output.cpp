@@ -7,6 +7,7 @@
 #include "brand.h"
 #include "cfgproperties.h"
 #include "ctvtdialog.h"
+#include "overwritequestion.h"
 #include "plotcapture.h"
 #include "plotstyle.h"
 #include "plotterdg.h"
@@ -18,6 +19,8 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
+
+#include <algorithm>
 
 QList<Plotter *> MainWindow::plots() const
 {
@@ -117,10 +120,21 @@ void MainWindow::saveRecording(const QString &path, double start, double end)
     reportSaving(outcome.failedFile, outcome.error);
 }
 
+bool MainWindow::mayReplace(QStringList files)
+{
+    const auto isNew = [](const QString &file) { return !QFileInfo::exists(file); };
+    files.erase(std::remove_if(files.begin(), files.end(), isNew), files.end());
+    return files.isEmpty() || mayOverwrite(this, styleSheet(), files);
+}
+
 void MainWindow::saveAsPrimary()
 {
-    const QString path
-        = QFileDialog::getSaveFileName(this, tr("Save recording"), recordingsFolder());
+    // The file dialog knows the name as typed alone, and would ask for nothing else.
+    QString path = recordingsFolder();
+    do {
+        path = QFileDialog::getSaveFileName(this, tr("Save recording"), path, QString(), nullptr,
+            QFileDialog::DontConfirmOverwrite);
+    } while (!path.isEmpty() && !mayReplace(RecordingWriter::filesFor(path)));
     if (path.isEmpty() || !hasRecording)
         return;
     const RecordingWriter::Outcome outcome = recordingWriter().writeAsPrimary(path);

@@ -4,13 +4,12 @@
 #include "savedialog.h"
 
 #include "dialoghost.h"
+#include "overwritequestion.h"
 #include "ui_savedialog.h"
 
 #include <QEvent>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QShowEvent>
 
 namespace {
@@ -152,15 +151,6 @@ void SaveDialog::updateExistenceLabel()
 // Asks before a file is overwritten; only the path as typed counts.
 bool SaveDialog::mayWrite()
 {
-    if (!fileExists(filePath))
-        return true;
-    QMessageBox box(this);
-    if (parentWidget())
-        box.setStyleSheet(parentWidget()->styleSheet());
-    box.setWindowTitle(tr("Save file"));
-    box.setText(tr("File already exists. Are you sure you want to overwrite it?"));
-    const QAbstractButton *proceed = box.addButton(tr("Continue"), QMessageBox::AcceptRole);
-    box.addButton(tr("Cancel"), QMessageBox::RejectRole);
-    box.exec();
-    return box.clickedButton() == proceed;
+    return !fileExists(filePath)
+        || mayOverwrite(this, parentWidget() ? parentWidget()->styleSheet() : QString());
 }

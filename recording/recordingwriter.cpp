@@ -22,7 +22,6 @@
 
 namespace {
 
-const QLatin1String extension(".cfg");
 constexpr int blockSize = 1 << 18; // bytes written at once
 constexpr int mostDigits = 320; // of a double without decimals, and its sign
 constexpr int mostDigitsOfSample = 48; // of a float or an int without decimals, sign and comma
@@ -150,6 +149,13 @@ RecordingWriter::RecordingWriter(
 {
 }
 
+QStringList RecordingWriter::filesFor(const QString &path)
+{
+    const QLatin1String extension(".cfg");
+    const QString stem = path.endsWith(extension) ? path.chopped(extension.size()) : path;
+    return {stem + extension, stem + QLatin1String(".dat")};
+}
+
 RecordingWriter::Outcome RecordingWriter::write(const QString &path, double start, double end) const
 {
     return writePair(path, start, end, Side::AsRead);
@@ -208,9 +214,9 @@ RecordingWriter::Outcome RecordingWriter::writePair(
         });
         writeAll(file, text.data(), at - text.data());
     };
-    const QString stem = path.endsWith(extension) ? path.chopped(extension.size()) : path;
-    return writeFiles({{{stem + extension, writeConfiguration, nullptr},
-        {stem + QLatin1String(".dat"), writeData, nullptr}}});
+    const QStringList files = filesFor(path);
+    return writeFiles(
+        {{{files.first(), writeConfiguration, nullptr}, {files.last(), writeData, nullptr}}});
 }
 
 QString RecordingWriter::configuration(const Span &span, Side side) const

@@ -26,8 +26,12 @@ public:
     RecordingWriter(const CFGProperties &recording, const QStringList &primaries,
         const QStringList &secondaries);
 
+    // The configuration and the data file that are written for a path, which may end with ".cfg" or
+    // not.
+    static QStringList filesFor(const QString &path);
+
     // The samples from start to end (ms of recording time, both inclusive), with the numbers they
-    // have in the recording and stamps that begin at 0. The path may end with ".cfg" or not.
+    // have in the recording and stamps that begin at 0.
     Outcome write(const QString &path, double start, double end) const;
 
     // The whole recording, every channel as one of primary values.

@@ -559,6 +559,96 @@ private slots:
         QCOMPARE(QDir(folder->path()).entryList(QDir::Files).size(), 2);
     }
 
+    void saveAsPrimaryAsksBeforeItReplaces_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QStringList>("existing");
+        QTest::addColumn<QStringList>("named"); // in the question; empty for none
+        const QString cfg = QStringLiteral("old.cfg");
+        const QString dat = QStringLiteral("old.dat");
+        const QStringList both{cfg, dat};
+        QTest::newRow("both, typed without .cfg") << "old" << both << both;
+        QTest::newRow("both, typed with .cfg") << "old.cfg" << both << both;
+        QTest::newRow("the configuration alone") << "old" << QStringList(cfg) << QStringList(cfg);
+        QTest::newRow("the data alone") << "old" << QStringList(dat) << QStringList(dat);
+        QTest::newRow("the data alone, typed with .cfg")
+            << "old.cfg" << QStringList(dat) << QStringList(dat);
+        QTest::newRow("the name as typed, which is not written")
+            << "old" << QStringList(QStringLiteral("old")) << QStringList();
+        QTest::newRow("none") << "old" << QStringList() << QStringList();
+    }
+
+    void saveAsPrimaryAsksBeforeItReplaces()
+    {
+        QFETCH(QString, typed);
+        QFETCH(QStringList, existing);
+        QFETCH(QStringList, named);
+        for (const QString &name : existing)
+            QVERIFY(writeTextFile(folder->filePath(name), "before"));
+        BoxReader boxes; // which answers "Continue"
+        answerFileDialog(folder->filePath(typed));
+        trigger("Save As &Primary");
+        const QList<BoxReader::Box> seen = boxes.take();
+        QCOMPARE(seen.size(), named.isEmpty() ? 0 : 1);
+        if (!named.isEmpty()) {
+            QStringList lines{
+                QStringLiteral("File already exists. Are you sure you want to overwrite it?")};
+            for (const QString &name : named)
+                lines.append(folder->filePath(name));
+            QCOMPARE(seen[0].title, QStringLiteral("Save file"));
+            QCOMPARE(seen[0].text, lines.join(QLatin1Char('\n')));
+            QCOMPARE(seen[0].format, Qt::PlainText);
+        }
+        QCOMPARE(window->statusBar()->currentMessage(), QStringLiteral("File saved."));
+        QCOMPARE(fileText(path("old.dat")).count(QLatin1Char('\n')), 39);
+        QVERIFY(fileText(path("old.cfg")).startsWith(QLatin1String("Harju 110/20 kV,")));
+        if (existing.contains(QStringLiteral("old")))
+            QCOMPARE(fileText(path("old")), QStringLiteral("before"));
+    }
+
+    // Back to the file dialog, for another name or for none.
+    void saveAsPrimaryReplacesNothingAgainstTheWill_data()
+    {
+        QTest::addColumn<bool>("byEscape");
+        QTest::addColumn<QString>("then"); // empty for cancelled
+        QTest::newRow("Escape, then none") << true << QString();
+        QTest::newRow("Escape, then another") << true << QStringLiteral("new");
+        QTest::newRow("Cancel, then none") << false << QString();
+        QTest::newRow("Cancel, then another") << false << QStringLiteral("new");
+    }
+
+    void saveAsPrimaryReplacesNothingAgainstTheWill()
+    {
+        QFETCH(bool, byEscape);
+        QFETCH(QString, then);
+        const QString configuration = fileText(path("rec.cfg"));
+        const QString data = fileText(path("rec.dat"));
+        int questions = 0;
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [&] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (!box)
+                return;
+            // At the first one only; after it comes the file dialog anew.
+            if (++questions == 1)
+                answerFileDialog(then.isEmpty() ? then : folder->filePath(then));
+            if (byEscape)
+                QTest::keyClick(box, Qt::Key_Escape);
+            else
+                QTest::mouseClick(box->buttons().last(), Qt::LeftButton);
+        });
+        timer.start(20);
+        answerFileDialog(path("rec"));
+        trigger("Save As &Primary");
+        QCOMPARE(questions, 1);
+        QCOMPARE(fileText(path("rec.cfg")), configuration);
+        QCOMPARE(fileText(path("rec.dat")), data);
+        QCOMPARE(QFile::exists(path("new.cfg")), !then.isEmpty());
+        QCOMPARE(QFile::exists(path("new.dat")), !then.isEmpty());
+        QCOMPARE(window->statusBar()->currentMessage(),
+            then.isEmpty() ? QString() : QStringLiteral("File saved."));
+    }
+
     void saveAsPrimaryStartsInTheRecordingsFolder()
     {
         QSettings(QStringLiteral("Norvale"), QStringLiteral("Setterra"))
