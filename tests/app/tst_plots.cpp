@@ -27,6 +27,7 @@ private slots:
     void plotsOfARecording();
     void firstPlotShowsAtMostSixChannels();
     void listsShowWhatThePlotsShow();
+    void listsAndPlotsAgreeAfterEveryLoad();
     void valueModeStartsFromTheFirstChannel_data();
     void valueModeStartsFromTheFirstChannel();
     void referenceOffersEveryAnalogChannel();
@@ -108,6 +109,47 @@ void TestPlots::listsShowWhatThePlotsShow()
     QCOMPARE(digital()->channels(), QList<int>{1}); // those that are 0 throughout are left out
     for (int row = 0; row < 3; ++row)
         QCOMPARE(list("listWidget2")->item(row)->isSelected(), row == 1);
+}
+
+// Chosen from, added to, opened anew, failed to open; and all of it again.
+void TestPlots::listsAndPlotsAgreeAfterEveryLoad()
+{
+    const auto selected = [this](const char *name) {
+        QList<int> rows;
+        for (int row = 0; row < list(name)->count(); ++row) {
+            if (list(name)->item(row)->isSelected())
+                rows.append(row);
+        }
+        return rows;
+    };
+    const QString broken = folder->filePath(QStringLiteral("broken.cfg")); // without data
+    QVERIFY(writeTextFile(broken, smallConfiguration()));
+    BoxReader boxes;
+    for (int i = 0; i < 2; ++i) {
+        for (int k = 0; k < 2; ++k) {
+            open({QStringLiteral("Ia"), QStringLiteral("Ib")},
+                {QStringLiteral("D1"), QStringLiteral("D2")});
+            QCOMPARE(selected("listWidget"), QList<int>({0, 1}));
+            QCOMPARE(analog()->channels(), QList<int>({0, 1}));
+            QCOMPARE(selected("listWidget2"), QList<int>({0, 1}));
+            QCOMPARE(digital()->channels(), QList<int>({0, 1}));
+            QVERIFY(digital()->isVisible());
+            click(list("listWidget"), 0);
+            click(list("listWidget2"), 0);
+            click(list("listWidget2"), 1);
+            window->addPlotter({QStringLiteral("Ia")});
+            window->removePlotter();
+            QCOMPARE(selected("listWidget"), QList<int>{1});
+            QCOMPARE(analog()->channels(), QList<int>{1});
+            QCOMPARE(selected("listWidget2"), QList<int>());
+            QVERIFY(!digital()->isVisible());
+        }
+        window->open(broken);
+        QVERIFY(!window->recording());
+        QCOMPARE(list("listWidget")->count() + list("listWidget2")->count(), 0);
+        QVERIFY(plots().isEmpty());
+    }
+    QCOMPARE(boxes.count(), 2);
 }
 
 void TestPlots::valueModeStartsFromTheFirstChannel_data()
