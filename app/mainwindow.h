@@ -15,10 +15,10 @@
 
 class AddPlotterDialog;
 class CTVTDialog;
+class ElidingComboBox;
 class PackageUnpacker;
 class Plotter;
 class QCheckBox;
-class QComboBox;
 class QLabel;
 class QMenu;
 class QTranslator;
@@ -135,6 +135,8 @@ private:
     QStringList analogNames() const;
     bool hasPhasors() const; // of the recording on screen; spectra are offered then
     void equip(Plotter *plot); // a new one, with what it needs of the window
+    // A plot of the channels named; of several of one name, their 0-based numbers tell which.
+    void addPlot(const QStringList &names, const QList<int> &channels);
     void linkPlots();
     void setRequiredDigitalChannels(); // as setRequiredAnChannels()
     void showChosenChannels();
@@ -184,9 +186,9 @@ private:
     QMenu *helpMenu = nullptr;
     QMenu *languageMenu = nullptr;
     QCheckBox *showAnglesCheckBox = nullptr;
-    QComboBox *referenceCombo = nullptr;
+    ElidingComboBox *referenceCombo = nullptr;
     QLabel *primSecLabel = nullptr;
-    QComboBox *primSecCombo = nullptr;
+    ElidingComboBox *primSecCombo = nullptr;
 
     QScrollBar *horizontalScroll = nullptr;
     Plotter *analogPlotter = nullptr;

@@ -6,13 +6,13 @@
 #include "applicationidentity.h"
 #include "brand.h"
 #include "cfgproperties.h"
+#include "elidingcombobox.h"
 #include "elidinglabel.h"
 #include "ui_mainwindow.h"
 #include "vectordialog.h"
 
 #include <QActionGroup>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QEvent>
 #include <QFile>
 #include <QIcon>
@@ -122,7 +122,7 @@ void MainWindow::createToolBarWidgets()
     showAnglesCheckBox->setEnabled(false);
     connect(showAnglesCheckBox, &QCheckBox::toggled, this, &MainWindow::showAnglesSlot);
 
-    referenceCombo = new QComboBox(this);
+    referenceCombo = new ElidingComboBox(this);
     referenceCombo->setObjectName(QStringLiteral("comboBox_mainReference"));
     referenceCombo->setEnabled(false);
     // Long channel names widen the list, not the tool bar, which just fits the window.
@@ -134,7 +134,7 @@ void MainWindow::createToolBarWidgets()
     primSecLabel = new ElidingLabel(tr("Primary/Secondary:"), this);
     primSecLabel->setStyleSheet(QStringLiteral("QLabel{color:white;}"));
 
-    primSecCombo = new QComboBox(this);
+    primSecCombo = new ElidingComboBox(this);
     primSecCombo->setObjectName(QStringLiteral("comboBox_primSec"));
     primSecCombo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     connect(primSecCombo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,

@@ -7,7 +7,9 @@
 
 #include "addplotterdialog.h"
 #include "cfgproperties.h"
+#include "channelnames.h"
 #include "ctvtdialog.h"
+#include "elidingcombobox.h"
 #include "labeltext.h"
 #include "plotvalues.h"
 #include "savedialog.h"
@@ -16,7 +18,6 @@
 #include "vectordialog.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QSignalBlocker>
 
 #include <utility>
@@ -28,33 +29,30 @@ QDateTime toLocalTime(const QString &date, const QString &time, const QString &d
     return joinedAsUtc(date.trimmed(), dateFormat, time.trimmed()).toLocalTime();
 }
 
-// A name as it is shown. The standard allows 64 letters; millions would keep the window from its
-// work.
-QString shownName(const QString &name)
+QString shownText(const QString &text)
 {
-    constexpr int mostLetters = 1000;
-    return name.trimmed().left(mostLetters);
+    return shownName(text.trimmed());
 }
 
 // Names may be longer than the room for them, so each tells itself in a tool tip, too.
 void addName(QListWidget &list, const QString &name)
 {
-    auto *item = new QListWidgetItem(shownName(name), &list);
+    auto *item = new QListWidgetItem(shownText(name), &list);
     item->setToolTip(plainToolTip(item->text()));
 }
 
 void showName(QLabel &label, const QString &name)
 {
-    label.setText(shownName(name));
+    label.setText(shownText(name));
     label.setToolTip(plainToolTip(label.text()));
 }
 
 void showTimes(const Ui::MainWindow &ui, const CFGProperties &recording)
 {
-    ui.label9->setText(recording.startDate.trimmed());
-    ui.label10->setText(recording.startTime.trimmed());
-    ui.label11->setText(recording.triggerDate.trimmed());
-    ui.label12->setText(recording.triggerTime.trimmed());
+    ui.label9->setText(shownText(recording.startDate));
+    ui.label10->setText(shownText(recording.startTime));
+    ui.label11->setText(shownText(recording.triggerDate));
+    ui.label12->setText(shownText(recording.triggerTime));
 }
 
 void showTimesAsLocal(
@@ -87,10 +85,8 @@ void MainWindow::clearView()
     }
     ui->label4->setToolTip(QString());
     ui->label5->setToolTip(QString());
-    for (QComboBox *combo : {referenceCombo, primSecCombo}) {
-        const QSignalBlocker blocker(combo);
-        combo->clear();
-    }
+    for (ElidingComboBox *combo : {referenceCombo, primSecCombo})
+        combo->setTexts({}, -1);
     PlotValues::shared().timesAndPositions.fill(0.0);
 
     addPlotterDialog->reject();

@@ -7,21 +7,22 @@
 
 #include "addplotterdialog.h"
 #include "cfgproperties.h"
+#include "channelnames.h"
 #include "ctvtdialog.h"
+#include "elidingcombobox.h"
 #include "plotterdg.h"
 #include "savedialog.h"
 #include "ui_mainwindow.h"
 #include "vectordialog.h"
 
-#include <QAbstractItemView>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QElapsedTimer>
 #include <QPointer>
 #include <QScrollBar>
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
@@ -31,15 +32,6 @@ constexpr int largestPlotHeight = 1000;
 constexpr int scrolledPlotHeight = 320;
 constexpr char numberOfUnnamed[] = "numberOfUnnamed"; // property of a plot that was given no name
 const QString spectrumSuffix = QStringLiteral("_FFT");
-
-void fill(QComboBox &combo, const QStringList &items, int current)
-{
-    const QSignalBlocker blocker(combo);
-    combo.clear();
-    combo.addItems(items);
-    combo.setCurrentIndex(current);
-    combo.view()->setMinimumWidth(combo.view()->sizeHintForColumn(0) + 30); // a scroll bar, too
-}
 
 void select(QListWidget &list, const QList<int> &rows)
 {
@@ -111,7 +103,7 @@ void MainWindow::createPlots()
     const bool isSecondary = !cfgProperties->analogChannels.isEmpty()
         && cfgProperties->analogChannels.constFirst()->ps == QLatin1String("S");
     mode = isSecondary ? 1 : 0;
-    fill(*referenceCombo, QStringList(QStringLiteral("-")) + names, 0);
+    referenceCombo->setTexts(QStringList(QStringLiteral("-")) + names, 0);
 
     analogPlotter = new Plotter(ui->scrollWidget);
     analogPlotter->setMaximumHeight(largestPlotHeight);
@@ -150,7 +142,7 @@ void MainWindow::retranslatePlots()
         if (number > 0)
             plot->setName(tr("Graph %1").arg(number));
     }
-    fill(*primSecCombo, {tr("P"), tr("S"), tr("Per Unit")}, mode);
+    primSecCombo->setTexts({tr("P"), tr("S"), tr("Per Unit")}, mode);
 }
 
 void MainWindow::disposePlots()
@@ -253,27 +245,39 @@ void MainWindow::setAnalogChannels()
 {
     if (!hasRecording)
         return;
-    QStringList names = analogNames();
-    if (hasPhasors()) {
-        for (const QString &name : analogNames()) {
-            if (!name.startsWith(QLatin1String("MEAS")))
-                names.append(name + spectrumSuffix);
+    const QStringList ids = analogNames();
+    QStringList offered = ids;
+    QVector<int> channels(ids.size()); // of the names offered
+    std::iota(channels.begin(), channels.end(), 0);
+    for (int i = 0; hasPhasors() && i < ids.size(); ++i) {
+        if (!ids.at(i).startsWith(QLatin1String("MEAS"))) {
+            offered.append(ids.at(i) + spectrumSuffix);
+            channels.append(i);
         }
     }
-    addPlotterDialog->setChannelNames(names);
-    if (addPlotterDialog->exec() == QDialog::Accepted && hasRecording)
-        addPlotter(addPlotterDialog->selectedChannels());
+    addPlotterDialog->setChannelNames(offered);
+    if (addPlotterDialog->exec() != QDialog::Accepted || !hasRecording)
+        return;
+    QList<int> chosen;
+    for (const int number : addPlotterDialog->selectedNumbers())
+        chosen.append(channels.at(number));
+    addPlot(addPlotterDialog->selectedChannels(), chosen);
 }
 
 void MainWindow::addPlotter(const QList<QString> &AnCheckedChannels)
 {
-    if (!hasRecording)
-        return;
+    if (hasRecording)
+        addPlot(AnCheckedChannels, {});
+}
+
+void MainWindow::addPlot(const QStringList &names, const QList<int> &channels)
+{
     const QStringList ids = analogNames();
     QList<int> numbers;
-    for (const QString &name : AnCheckedChannels) {
-        const bool isSpectrum = name.endsWith(spectrumSuffix);
-        const int number = ids.indexOf(isSpectrum ? name.chopped(spectrumSuffix.size()) : name);
+    for (int i = 0; i < names.size(); ++i) {
+        const bool isSpectrum = names.at(i).endsWith(spectrumSuffix);
+        const QString id = isSpectrum ? names.at(i).chopped(spectrumSuffix.size()) : names.at(i);
+        const int number = positionOf(id, ids, channels.value(i, -1));
         if (number >= 0)
             numbers.append(isSpectrum ? ids.size() + number : number);
     }

@@ -3,6 +3,7 @@
 
 #include "addplotterdialog.h"
 
+#include "channelnames.h"
 #include "ui_addplotterdialog.h"
 
 #include <QEvent>
@@ -30,7 +31,10 @@ void AddPlotterDialog::setChannelNames(const QStringList &names)
     ui->listWidget_unSelected->clear();
     ui->listWidget_Selected->clear();
     channelNames = names;
-    ui->listWidget_unSelected->addItems(channelNames);
+    for (int i = 0; i < names.size(); ++i) {
+        auto *item = new QListWidgetItem(shownName(names.at(i)), ui->listWidget_unSelected);
+        item->setData(Qt::UserRole, i);
+    }
     // The earlier name stays, to be typed over.
     ui->lineEdit_graphName->setFocus();
     ui->lineEdit_graphName->selectAll();
@@ -43,11 +47,19 @@ QString AddPlotterDialog::graphName() const
 
 QStringList AddPlotterDialog::selectedChannels() const
 {
-    // Row by row: the wildcard search of the list leaves out names with a slash.
     QStringList names;
-    for (int row = 0; row < ui->listWidget_Selected->count(); ++row)
-        names.append(ui->listWidget_Selected->item(row)->text());
+    for (const int number : selectedNumbers())
+        names.append(channelNames.at(number));
     return names;
+}
+
+QList<int> AddPlotterDialog::selectedNumbers() const
+{
+    // Row by row: the wildcard search of the list leaves out names with a slash.
+    QList<int> numbers;
+    for (int row = 0; row < ui->listWidget_Selected->count(); ++row)
+        numbers.append(ui->listWidget_Selected->item(row)->data(Qt::UserRole).toInt());
+    return numbers;
 }
 
 void AddPlotterDialog::on_pushButton_add_clicked()

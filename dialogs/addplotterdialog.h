@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QList>
 #include <QStringList>
 #include <memory>
 
@@ -24,6 +25,7 @@ public:
 
     QString graphName() const; // may be empty
     QStringList selectedChannels() const; // in the graph's order; may be empty
+    QList<int> selectedNumbers() const; // their positions among the names given
 
 public slots:
     void on_pushButton_add_clicked();

@@ -4,6 +4,7 @@
 #include "ctvtdialog.h"
 
 #include "cfgproperties.h"
+#include "channelnames.h"
 #include "dialoghost.h"
 #include "ui_ctvtdialog.h"
 
@@ -46,7 +47,7 @@ void CTVTDialog::setChannels(
     appliedPrimaries = primaries;
     appliedSecondaries = secondaries;
     for (int i = 0; i < names.size(); ++i) {
-        nameLabels.append(new QLabel(names.at(i), this));
+        nameLabels.append(new QLabel(shownName(names.at(i)), this));
         nameLabels.last()->setTextFormat(Qt::PlainText);
         primaryEdits.append(new QLineEdit(primaries.value(i), this));
         secondaryEdits.append(new QLineEdit(secondaries.value(i), this));

@@ -81,7 +81,12 @@ double PhasorDiagram::offset(int k) const
     return std::isfinite(position) ? position : k * width() / 10.0;
 }
 
+int magnitudeTextWidth(int pixmapWidth)
+{
+    return pixmapWidth / 3;
+}
+
 QPoint magnitudeTextPosition(int number, int pixmapWidth)
 {
-    return {pixmapWidth / 3 * (number % 3), (number / 3 + 1) * 15};
+    return {magnitudeTextWidth(pixmapWidth) * (number % 3), (number / 3 + 1) * 15};
 }

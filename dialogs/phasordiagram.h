@@ -49,6 +49,7 @@ private:
     float scale; // pixels per unit
 };
 
-// The base point of the magnitude text with this 0-based number in a pixmap of that width: three
-// texts a row.
+// The room of a magnitude text in a pixmap of that width, three texts a row, and the base point of
+// the one with this 0-based number.
+int magnitudeTextWidth(int pixmapWidth);
 QPoint magnitudeTextPosition(int number, int pixmapWidth);

@@ -8,9 +8,7 @@
 #include "ui_vectordialog.h"
 #include "vectorwidget.h"
 
-#include <QAbstractItemView>
 #include <QEvent>
-#include <QSignalBlocker>
 
 VectorDialog::VectorDialog(QWidget *parent)
     : QDialog(parent), ui(std::make_unique<Ui::VectorDialog>())
@@ -40,15 +38,7 @@ void VectorDialog::setPlotter(Plotter *source)
 void VectorDialog::setChannelNames(const QStringList &names)
 {
     channelNames = names;
-    {
-        const QSignalBlocker blocker(ui->comboBox_reference);
-        ui->comboBox_reference->clear();
-        ui->comboBox_reference->addItem(QStringLiteral("-"));
-        ui->comboBox_reference->addItems(names);
-    }
-    // Long names widen the list, not the box.
-    QAbstractItemView &list = *ui->comboBox_reference->view();
-    list.setMinimumWidth(list.sizeHintForColumn(0) + 30); // a scroll bar, too
+    ui->comboBox_reference->setTexts(QStringList(QStringLiteral("-")) + names, 0);
     for (VectorWidget *panel : panels())
         panel->setChannelNames(names);
     refresh();
@@ -56,7 +46,12 @@ void VectorDialog::setChannelNames(const QStringList &names)
 
 QString VectorDialog::referenceName() const
 {
-    return ui->comboBox_reference->currentText();
+    return ui->comboBox_reference->currentData().toString();
+}
+
+int VectorDialog::referencePosition() const
+{
+    return ui->comboBox_reference->currentIndex() - 1;
 }
 
 void VectorDialog::refresh()

@@ -31,7 +31,10 @@ public:
     // Also resets the reference to "-".
     void setChannelNames(const QStringList &names);
 
+    // Of the current item, "-" for none. Of several channels of one name, the position among the
+    // names given tells which it is; negative for none.
     QString referenceName() const;
+    int referencePosition() const;
 
     // Draws all panels again in 10 ms; many requests make one drawing. Nothing while hidden.
     void refresh();

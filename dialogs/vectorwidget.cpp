@@ -4,6 +4,7 @@
 #include "vectorwidget.h"
 
 #include "cfgproperties.h"
+#include "channelnames.h"
 #include "dialoghost.h"
 #include "labeltext.h"
 #include "phasordiagram.h"
@@ -27,7 +28,18 @@ constexpr int refreshDelay = 10; // ms
 constexpr int firstDrawDelay = 100; // ms, from being shown
 constexpr int checkBoxesPerRow = 3;
 
-// A check box that ends a text too long for it with an ellipsis.
+// The text of a check box that shows a name as it stands: an ampersand is no keyboard shortcut.
+QString withoutShortcut(QString name)
+{
+    return name.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+QString plainText(QString text)
+{
+    return text.replace(QLatin1String("&&"), QLatin1String("&"));
+}
+
+// A check box that elides a name too long for it in the middle.
 class ElidingCheckBox : public QCheckBox {
 public:
     using QCheckBox::QCheckBox;
@@ -40,8 +52,8 @@ protected:
         initStyleOption(&option);
         const int room
             = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, this).width();
-        option.text
-            = fontMetrics().elidedText(option.text, Qt::ElideRight, room, Qt::TextShowMnemonic);
+        option.text = withoutShortcut(
+            fontMetrics().elidedText(plainText(option.text), Qt::ElideMiddle, room));
         painter.drawControl(QStyle::CE_CheckBox, option);
     }
 };
@@ -140,9 +152,9 @@ void VectorWidget::setChannelNames(const QStringList &names)
         connect(checkBox, &QCheckBox::toggled, this, &VectorWidget::drawAll);
         ui->gridLayout->addWidget(checkBox, i / checkBoxesPerRow, i % checkBoxesPerRow);
         checkBox->setStyleSheet(colorSheet(channelColors.at(i % channelColors.size())));
-        // An ampersand of the name is no keyboard shortcut.
-        checkBox->setText(QString(names.at(i)).replace(QLatin1Char('&'), QLatin1String("&&")));
-        checkBox->setToolTip(plainToolTip(names.at(i)));
+        const QString name = shownName(names.at(i));
+        checkBox->setText(withoutShortcut(name));
+        checkBox->setToolTip(plainToolTip(name));
         // The panel's width is fixed, however long the names are.
         checkBox->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         checkBoxes.append(checkBox);
@@ -274,7 +286,7 @@ void VectorWidget::drawPhasors(QPainter &diagramPainter, QPainter &magnitudesPai
     diagramPainter.setFont(font);
     magnitudesPainter.setFont(font);
     const QStringList names = recordingNames();
-    const int reference = owner ? names.indexOf(owner->referenceName()) + 1 : 0;
+    const int reference = referenceChannel();
     // Texts that stand on it or lower lie outside the pixmap.
     const int lowestBaseLine = ui->labelMagnitudes->height() + 2 * font.pixelSize();
     int texts = 0;
@@ -302,10 +314,19 @@ void VectorWidget::drawPhasors(QPainter &diagramPainter, QPainter &magnitudesPai
             const QPoint position = magnitudeTextPosition(texts++, ui->labelMagnitudes->width());
             if (position.y() < lowestBaseLine)
                 magnitudesPainter.drawText(position,
-                    names.value(channel - 1) + QStringLiteral(": ")
-                        + QString::number(static_cast<double>(phasor.magnitude), 'g', 6));
+                    fittingName(names.value(channel - 1),
+                        QStringLiteral(": ")
+                            + QString::number(static_cast<double>(phasor.magnitude), 'g', 6),
+                        magnitudesPainter.fontMetrics(),
+                        magnitudeTextWidth(ui->labelMagnitudes->width())));
         }
     }
+}
+
+int VectorWidget::referenceChannel() const
+{
+    const int position = owner ? owner->referencePosition() : -1;
+    return position < 0 ? 0 : positionOf(owner->referenceName(), recordingNames(), position) + 1;
 }
 
 // Numbers of the checked channels in the recording, 1-based; 0 for a name that it does not have.
@@ -315,7 +336,7 @@ QList<int> VectorWidget::checkedChannels() const
     QList<int> channels;
     for (int i = 0; i < checkBoxes.size(); ++i)
         if (checkBoxes.at(i)->isChecked())
-            channels.append(names.indexOf(channelNames.at(i)) + 1);
+            channels.append(positionOf(channelNames.at(i), names, i) + 1);
     return channels;
 }
 

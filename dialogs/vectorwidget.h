@@ -68,6 +68,7 @@ private:
     void renderPixmaps();
     void drawPhasors(QPainter &diagramPainter, QPainter &magnitudesPainter,
         const PhasorDiagram &diagram, const QList<int> &channels);
+    int referenceChannel() const; // its number in the recording, 1-based; 0 for none
     QList<int> checkedChannels() const;
     double extremeOf(const QList<int> &channels) const;
     Phasor phasorOf(int channel, double time) const;

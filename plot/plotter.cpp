@@ -6,6 +6,7 @@
 #include "analogchannel.h"
 #include "baselayer.h"
 #include "cfgproperties.h"
+#include "channelnames.h"
 #include "channelvalues.h"
 #include "labeltext.h"
 #include "plothost.h"
@@ -172,10 +173,10 @@ ShownChannel Plotter::shownChannel(int number) const
         return shown;
     const CFGProperties *source = recording();
     const int row = number % source->analogChannels.size();
-    shown.id = channel->id;
-    shown.unit = source->analogUnits.value(row);
-    shown.phase = source->analogPhases.value(row);
-    shown.circuit = source->analogCircuits.value(row);
+    shown.id = shownName(channel->id);
+    shown.unit = shownName(source->analogUnits.value(row));
+    shown.phase = shownName(source->analogPhases.value(row));
+    shown.circuit = shownName(source->analogCircuits.value(row));
     shown.trace = TraceSummary(isSpectrum(number) ? channel->fftMagnitudes : channel->values);
     return shown;
 }

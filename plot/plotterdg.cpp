@@ -5,6 +5,7 @@
 
 #include "baselayer.h"
 #include "cfgproperties.h"
+#include "channelnames.h"
 #include "plottitle.h"
 
 #include <QPainter>
@@ -39,7 +40,7 @@ ShownChannel plotterDg::shownChannel(int number) const
     const DigitalChannel *channel
         = recording() ? recording()->digitalChannels.value(number) : nullptr;
     if (channel) {
-        shown.id = channel->id;
+        shown.id = shownName(channel->id);
         shown.runs = DigitalRuns(channel->values);
     }
     return shown;

@@ -360,7 +360,6 @@ private slots:
         QTest::addColumn<QString>("path");
         QTest::newRow("location") << QStringLiteral("label4");
         QTest::newRow("device") << QStringLiteral("label5");
-        QTest::newRow("channel of a phasor diagram") << QStringLiteral("VectorWidget");
     }
 
     void namesTooLongForTheirPlaceEndInAnEllipsis()
@@ -368,12 +367,8 @@ private slots:
         QFETCH(QString, path);
         const QByteArray name(200, 'W');
         QByteArray configuration = smallConfiguration(name).replace("Feeder J07", name);
-        window->open(writeSmallRecording(
-            folder.path(), QStringLiteral("long"), configuration.replace("IL1", name)));
-        child<QDialog>("VectorDialog")->show();
-        QWidget *widget = path.startsWith(QLatin1String("Vector"))
-            ? child<QWidget>("VectorWidget")->findChild<QCheckBox *>()
-            : child<QWidget>(path.toLatin1().constData());
+        window->open(writeSmallRecording(folder.path(), QStringLiteral("long"), configuration));
+        QWidget *widget = child<QWidget>(path.toLatin1().constData());
         QCoreApplication::processEvents();
         const QImage picture
             = widget->window()

@@ -20,6 +20,9 @@ private slots:
     void namesOfferedForANewPlot();
     void aPlotIsComposed();
     void aPlotOfSpectraOnly();
+    void equalNamesAddTheirOwnChannels();
+    void equalNamesInAPlainListAddTheFirst();
+    void namesThatDifferBeyondTheCutAddTheirOwnChannels();
     void namesOfNoChannelAddNothing();
     void pendingEventsRunBeforeTheColumnIsScrolled();
     void anotherRecordingEndsTheDialog();
@@ -98,6 +101,62 @@ void TestOwnPlots::aPlotOfSpectraOnly()
     QCOMPARE(added->channels(), QList<int>{3});
     QVERIFY(added->showsSpectrum());
     QCOMPARE(added->home().minY, 0.0);
+}
+
+// All entries are chosen; the spectra follow the waveforms.
+void TestOwnPlots::equalNamesAddTheirOwnChannels()
+{
+    const QString name = QStringLiteral("Ia");
+    open({name, QStringLiteral("MEAS"), name, QStringLiteral("Ia_FFT")}, {});
+    compose({name}, QStringLiteral("Waves"));
+    QCOMPARE(plot(QStringLiteral("Waves"))->channels(), QList<int>({0, 2}));
+    // The channel of that name and the spectra of both others; the first is the first one's.
+    compose({QStringLiteral("Ia_FFT")}, QStringLiteral("Spectra"));
+    QCOMPARE(plot(QStringLiteral("Spectra"))->channels(), QList<int>({4, 6}));
+    compose({QStringLiteral("Ia_FFT_FFT"), name}, QStringLiteral("Both"));
+    QCOMPARE(plot(QStringLiteral("Both"))->channels(), QList<int>({7, 0, 2}));
+}
+
+void TestOwnPlots::equalNamesInAPlainListAddTheFirst()
+{
+    const QString name = QStringLiteral("Ia");
+    open({QStringLiteral("Ib"), name, name}, {});
+    window->addPlotter({name, QStringLiteral("Ia_FFT")});
+    QCOMPARE(plot(QStringLiteral("Graph 1"))->channels(), QList<int>({1, 4}));
+    window->addPlotter({name, name});
+    QCOMPARE(plot(QStringLiteral("Graph 2"))->channels(), QList<int>({1}));
+}
+
+void TestOwnPlots::namesThatDifferBeyondTheCutAddTheirOwnChannels()
+{
+    const QString same(1000, QLatin1Char('W'));
+    open({same + QLatin1Char('1'), same + QLatin1Char('2')}, {});
+    compose({}, {}, false);
+    QCOMPARE(offered, QStringList({same, same, same, same}));
+    QTimer::singleShot(0, window.get(), [&] {
+        auto *dialog = qobject_cast<AddPlotterDialog *>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        auto *left = dialog->findChild<QListWidget *>(QStringLiteral("listWidget_unSelected"));
+        for (const int row : {3, 1}) {
+            const int y = left->visualItemRect(left->item(row)).center().y();
+            QTest::mouseClick(left->viewport(), Qt::LeftButton, Qt::ControlModifier, {5, y});
+        }
+        QTest::mouseClick(
+            dialog->findChild<QPushButton *>(QStringLiteral("pushButton_add")), Qt::LeftButton);
+        dialog->findChild<QLineEdit *>(QStringLiteral("lineEdit_graphName"))
+            ->setText(QStringLiteral("Second"));
+        dialog->accept();
+    });
+    action("&Add Plotter")->trigger();
+    QVERIFY(plot(QStringLiteral("Second")));
+    QCOMPARE(plot(QStringLiteral("Second"))->channels(), QList<int>({3, 1}));
+    QStringList tips;
+    for (const QLabel *label :
+        plot(QStringLiteral("Second"))->findChildren<QLabel *>(QStringLiteral("channelLabel")))
+        tips.append(label->toolTip());
+    QCOMPARE(tips,
+        QStringList(
+            {same + QStringLiteral("(A)_FFT\nA\nline"), same + QStringLiteral("(A)\nA\nline")}));
 }
 
 // A name that ends with "_FFT" is the spectrum of a channel, of which there is none here.

@@ -507,7 +507,9 @@ void TestPlots::longNamesFitTheWindowAndAreToldInFull()
     QCoreApplication::processEvents();
     QVERIFY(combo("comboBox_primSec")->isVisible());
     QVERIFY(combo("comboBox_primSec")->geometry().right() < window->width());
-    QVERIFY(combo("comboBox_mainReference")->view()->minimumWidth() > 150);
+    combo("comboBox_mainReference")->showPopup();
+    QVERIFY(combo("comboBox_mainReference")->view()->width() > 150);
+    combo("comboBox_mainReference")->hidePopup();
     QCOMPARE(list("listWidget")->item(0)->toolTip(), name);
     QCOMPARE(list("listWidget")->item(1)->toolTip(), QStringLiteral("&lt;b&gt;I0&lt;/b&gt;"));
     QCOMPARE(list("listWidget2")->item(0)->toolTip(),

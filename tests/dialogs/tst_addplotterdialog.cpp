@@ -25,6 +25,8 @@ private slots:
     void putsAReturnedNameLast();
     void givesTheRightListInItsOrder();
     void givesNamesOfEveryKind();
+    void tellsEqualNamesApart();
+    void givesWholeTheNamesThatItCuts();
     void acceptsAnEmptyChoice();
     void rejectsOnCancel();
     void keepsItsListsUntilNamesAreGivenAgain();
@@ -160,6 +162,48 @@ void TestAddPlotterDialog::givesNamesOfEveryKind()
     child<QListWidget>("listWidget_unSelected")->selectAll();
     QTest::mouseClick(child<QPushButton>("pushButton_add"), Qt::LeftButton);
     QCOMPARE(dialog->selectedChannels(), names);
+}
+
+// There and back, and again.
+void TestAddPlotterDialog::tellsEqualNamesApart()
+{
+    const QStringList names{QStringLiteral("I"), QStringLiteral("U"), QStringLiteral("I")};
+    dialog->setChannelNames(names);
+    auto *offered = child<QListWidget>("listWidget_unSelected");
+    auto *chosen = child<QListWidget>("listWidget_Selected");
+    const auto click = [](QListWidget *list, int row) {
+        QTest::mouseClick(
+            list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(row)).center());
+    };
+    click(offered, 2);
+    QTest::mouseClick(child<QPushButton>("pushButton_add"), Qt::LeftButton);
+    QCOMPARE(dialog->selectedNumbers(), QList<int>({2}));
+    click(offered, 0);
+    QTest::mouseClick(child<QPushButton>("pushButton_add"), Qt::LeftButton);
+    QCOMPARE(dialog->selectedNumbers(), QList<int>({2, 0}));
+    QCOMPARE(dialog->selectedChannels(), QStringList({QStringLiteral("I"), QStringLiteral("I")}));
+    click(chosen, 0);
+    QTest::mouseClick(child<QPushButton>("pushButton_remove"), Qt::LeftButton);
+    QCOMPARE(dialog->selectedNumbers(), QList<int>({0}));
+    click(offered, 1); // moved back, it is the last one
+    QTest::mouseClick(child<QPushButton>("pushButton_add"), Qt::LeftButton);
+    QCOMPARE(dialog->selectedNumbers(), QList<int>({0, 2}));
+    dialog->setChannelNames(names);
+    QCOMPARE(dialog->selectedNumbers(), QList<int>());
+}
+
+void TestAddPlotterDialog::givesWholeTheNamesThatItCuts()
+{
+    const QString same(1000, QLatin1Char('W'));
+    const QStringList names{same + QLatin1Char('1'), same + QLatin1Char('2')};
+    dialog->setChannelNames(names);
+    QCOMPARE(left(), QStringList({same, same}));
+    auto *list = child<QListWidget>("listWidget_unSelected");
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+        QPoint(5, list->visualItemRect(list->item(1)).y() + 5));
+    QTest::mouseClick(child<QPushButton>("pushButton_add"), Qt::LeftButton);
+    QCOMPARE(dialog->selectedChannels(), QStringList({same + QLatin1Char('2')}));
+    QCOMPARE(dialog->selectedNumbers(), QList<int>({1}));
 }
 
 void TestAddPlotterDialog::acceptsAnEmptyChoice()

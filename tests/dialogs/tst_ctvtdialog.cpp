@@ -34,6 +34,7 @@ private slots:
     void showsItsTexts();
     void showsARowPerChannel();
     void showsNamesAsPlainText();
+    void cutsEndlessNames();
     void setsTheFactors_data();
     void setsTheFactors();
     void setsEachChannelByItsRow();
@@ -139,6 +140,12 @@ void TestCTVTDialog::showsNamesAsPlainText()
 {
     dialog->setChannels({QStringLiteral("<b>I</b>")}, {QString()}, {QString()});
     QCOMPARE(qobject_cast<QLabel *>(cell(0, 0))->textFormat(), Qt::PlainText);
+}
+
+void TestCTVTDialog::cutsEndlessNames()
+{
+    dialog->setChannels({QString(1001, QLatin1Char('W'))}, {QString()}, {QString()});
+    QCOMPARE(qobject_cast<QLabel *>(cell(0, 0))->text(), QString(1000, QLatin1Char('W')));
 }
 
 void TestCTVTDialog::setsTheFactors_data()
