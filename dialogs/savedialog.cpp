@@ -10,6 +10,7 @@
 #include <QEvent>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QShowEvent>
 
 namespace {
@@ -34,20 +35,18 @@ SaveDialog::SaveDialog(QWidget *parent)
 {
     ui->setupUi(this);
     ui->label_FileExists->hide();
-    followKeyboardAndWheel(
-        ui->horizontalSlider_StartPoint, &SaveDialog::on_horizontalSlider_StartPoint_sliderMoved);
-    followKeyboardAndWheel(
-        ui->horizontalSlider_EndPoint, &SaveDialog::on_horizontalSlider_EndPoint_sliderMoved);
+    followKeyboardAndWheel(ui->horizontalSlider_StartPoint, &SaveDialog::chooseStart);
+    followKeyboardAndWheel(ui->horizontalSlider_EndPoint, &SaveDialog::chooseEnd);
 }
 
 SaveDialog::~SaveDialog() = default;
 
 void SaveDialog::setSampleTimes(const QVector<double> &times)
 {
-    ownedTimes = times;
+    m_times = times;
     sampleTimes.clear();
     sampleTimes.reserve(times.size());
-    for (const double &time : qAsConst(ownedTimes))
+    for (const double &time : qAsConst(m_times))
         sampleTimes.append(&time);
 }
 
@@ -79,18 +78,12 @@ void SaveDialog::on_pushButton_Cancel_clicked()
 
 void SaveDialog::on_horizontalSlider_StartPoint_sliderMoved(int position)
 {
-    if (position >= sampleTimes.size())
-        return;
-    ui->lineEdit_Start->setText(wholeMilliseconds(*sampleTimes.at(position)));
-    emit setStartPoint(*sampleTimes.at(position));
+    chooseStart(position);
 }
 
 void SaveDialog::on_horizontalSlider_EndPoint_sliderMoved(int position)
 {
-    if (position >= sampleTimes.size())
-        return;
-    ui->lineEdit_End->setText(wholeMilliseconds(*sampleTimes.at(position)));
-    emit setEndPoint(*sampleTimes.at(position));
+    chooseEnd(position);
 }
 
 void SaveDialog::on_lineEdit_FilePath_textChanged()
@@ -104,6 +97,15 @@ void SaveDialog::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange)
         ui->retranslateUi(this);
     QDialog::changeEvent(event);
+}
+
+// Not in reject(), which closing through the title bar calls, too.
+void SaveDialog::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Cancel))
+        ui->pushButton_Cancel->click();
+    else
+        QDialog::keyPressEvent(event);
 }
 
 void SaveDialog::showEvent(QShowEvent *event)
@@ -133,12 +135,28 @@ void SaveDialog::reset()
     }
 }
 
-// sliderMoved is the mouse's alone; the other ways to move a slider show up as actions.
-void SaveDialog::followKeyboardAndWheel(QSlider *slider, void (SaveDialog::*moved)(int))
+void SaveDialog::chooseStart(int sample)
 {
-    connect(slider, &QSlider::actionTriggered, this, [this, slider, moved] {
+    if (sample >= sampleTimes.size())
+        return;
+    ui->lineEdit_Start->setText(wholeMilliseconds(*sampleTimes.at(sample)));
+    emit setStartPoint(*sampleTimes.at(sample));
+}
+
+void SaveDialog::chooseEnd(int sample)
+{
+    if (sample >= sampleTimes.size())
+        return;
+    ui->lineEdit_End->setText(wholeMilliseconds(*sampleTimes.at(sample)));
+    emit setEndPoint(*sampleTimes.at(sample));
+}
+
+// sliderMoved is the mouse's alone; the other ways to move a slider show up as actions.
+void SaveDialog::followKeyboardAndWheel(QSlider *slider, void (SaveDialog::*choose)(int))
+{
+    connect(slider, &QSlider::actionTriggered, this, [this, slider, choose] {
         if (!slider->isSliderDown())
-            (this->*moved)(slider->sliderPosition());
+            (this->*choose)(slider->sliderPosition());
     });
 }
 

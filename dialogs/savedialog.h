@@ -43,17 +43,20 @@ public slots:
 
 protected:
     void changeEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
-    void followKeyboardAndWheel(QSlider *slider, void (SaveDialog::*moved)(int));
+    void followKeyboardAndWheel(QSlider *slider, void (SaveDialog::*choose)(int));
     void reset();
+    void chooseStart(int sample);
+    void chooseEnd(int sample);
     void updateExistenceLabel();
     bool mayWrite();
 
     QString filePath;
     DialogHost *mainWindow;
-    QVector<double> ownedTimes;
-    QList<const double *> sampleTimes; // into ownedTimes
+    QList<const double *> sampleTimes; // into m_times
     std::unique_ptr<Ui::SaveDialog> ui;
+    QVector<double> m_times;
 };
