@@ -48,9 +48,9 @@ private:
     QList<QLineEdit *> primaryEdits;
     QList<QLineEdit *> secondaryEdits;
     QList<QLabel *> nameLabels;
-    QStringList channelNames;
     QStringList appliedPrimaries;
     QStringList appliedSecondaries;
     std::unique_ptr<Ui::CTVTDialog> ui;
     DialogHost *mainWindow;
+    QStringList channelNames; // stored, though nothing reads them: the labels show the names
 };

@@ -3,6 +3,7 @@
 
 #include "phasordiagram.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -11,7 +12,7 @@ int toPixel(double value)
 {
     // Far outside every label; keeps the conversion defined and the painter's work small.
     constexpr double limit = 10000;
-    return std::isnan(value) ? 0 : static_cast<int>(qBound(-limit, value, limit));
+    return std::isnan(value) ? 0 : static_cast<int>(std::clamp(value, -limit, limit));
 }
 
 double roundedUp(double value)
@@ -30,10 +31,10 @@ QString axisText(double maximum, int k)
 
 } // namespace
 
-PhasorDiagram::PhasorDiagram(double extreme, const QSize &label)
-    : labelSize(label),
-      maximum(roundedUp(extreme * 1.05)),
-      scale(static_cast<float>((width() * 0.5) / maximum))
+PhasorDiagram::PhasorDiagram(double extreme, const QSize &labelSize)
+    : m_labelSize(labelSize),
+      m_maximum(roundedUp(extreme * 1.05)),
+      m_scale(static_cast<float>((width() * 0.5) / m_maximum))
 {
 }
 
@@ -44,12 +45,12 @@ int PhasorDiagram::gridLine(int k) const
 
 QString PhasorDiagram::verticalText(int k) const
 {
-    return axisText(maximum, lineCount - 1 - k);
+    return axisText(m_maximum, lineCount - 1 - k);
 }
 
 QString PhasorDiagram::horizontalText(int k) const
 {
-    return axisText(maximum, k);
+    return axisText(m_maximum, k);
 }
 
 QRect PhasorDiagram::verticalTextRect(int k) const
@@ -60,7 +61,7 @@ QRect PhasorDiagram::verticalTextRect(int k) const
 QRect PhasorDiagram::horizontalTextRect(int k) const
 {
     // One cell to the right: that makes up for the grid's left margin.
-    return {toPixel(offset(k + 1) - 14), labelSize.height() - 50, 30, 10};
+    return {toPixel(offset(k + 1) - 14), m_labelSize.height() - 50, 30, 10};
 }
 
 QPoint PhasorDiagram::origin() const
@@ -71,13 +72,13 @@ QPoint PhasorDiagram::origin() const
 QPoint PhasorDiagram::lineEnd(const Phasor &phasor, float referenceAngle) const
 {
     const double angle = phasor.angle - referenceAngle;
-    return {toPixel(std::cos(angle) * phasor.magnitude * scale),
-        toPixel(scale * phasor.magnitude * std::sin(angle))};
+    return {toPixel(std::cos(angle) * phasor.magnitude * m_scale),
+        toPixel(m_scale * phasor.magnitude * std::sin(angle))};
 }
 
 double PhasorDiagram::offset(int k) const
 {
-    const double position = 2 * (k * maximum / 10) * scale;
+    const double position = 2 * (k * m_maximum / 10) * m_scale;
     return std::isfinite(position) ? position : k * width() / 10.0;
 }
 

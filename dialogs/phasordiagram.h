@@ -22,9 +22,9 @@ public:
     // numbers.
     PhasorDiagram(double extreme, const QSize &labelSize);
 
-    int width() const { return labelSize.width() - 60; }
-    int height() const { return labelSize.height() - 60; }
-    double axisMaximum() const { return maximum; }
+    int width() const { return m_labelSize.width() - 60; }
+    int height() const { return m_labelSize.height() - 60; }
+    double axisMaximum() const { return m_maximum; }
 
     // Distance of grid line k from the first one, the same in both directions.
     int gridLine(int k) const;
@@ -44,9 +44,9 @@ public:
 private:
     double offset(int k) const;
 
-    QSize labelSize;
-    double maximum; // largest value of the axes, two significant digits
-    float scale; // pixels per unit
+    QSize m_labelSize;
+    double m_maximum; // largest value of the axes, two significant digits
+    float m_scale; // pixels per unit
 };
 
 // The room of a magnitude text in a pixmap of that width, three texts a row, and the base point of

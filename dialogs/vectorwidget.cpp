@@ -58,6 +58,32 @@ protected:
     }
 };
 
+// The sample at a time. The channels of a recording share their list of times, so that one search
+// serves them all.
+class SampleAtTime {
+public:
+    // The axis may be of the same times; it then says where the search begins.
+    SampleAtTime(double time, const TimeAxis &axis) : m_time(time), m_axis(axis) { }
+
+    int of(const AnalogChannel &channel)
+    {
+        if (!m_times.isSharedWith(channel.times) || m_sampleRate != channel.sampleRate) {
+            m_times = channel.times;
+            m_sampleRate = channel.sampleRate;
+            int from = m_axis.times().isSharedWith(m_times) ? m_axis.searchStart(m_time) : 0;
+            m_sample = sampleAt(m_times, m_sampleRate, m_time, from);
+        }
+        return m_sample;
+    }
+
+private:
+    double m_time;
+    const TimeAxis &m_axis;
+    QVector<double> m_times; // of the channel searched last
+    double m_sampleRate = 0;
+    int m_sample = -1;
+};
+
 QString colorSheet(const QColor &color)
 {
     return QStringLiteral("QCheckBox{color: rgb(%1,%2,%3);}")
@@ -125,7 +151,7 @@ VectorWidget::VectorWidget(QWidget *parent)
 
 VectorWidget::~VectorWidget()
 {
-    if (removalClicked) { // the button is still handling the click that led here
+    if (m_removalClicked) { // the button is still handling the click that led here
         ui->toolButton->setParent(nullptr);
         ui->toolButton->deleteLater();
     }
@@ -177,7 +203,7 @@ void VectorWidget::requestRedraw()
 
 void VectorWidget::drawAll()
 {
-    if (drawing) { // asked for by an event that the running call handles while it waits
+    if (m_drawing) { // asked for by an event that the running call handles while it waits
         requestRedraw();
         return;
     }
@@ -200,7 +226,7 @@ void VectorWidget::drawAll()
 // Handles events other than the user's for 10 ms; false when one of them has deleted the widget.
 bool VectorWidget::waitForPaintEvent()
 {
-    drawing = true;
+    m_drawing = true;
     const QPointer<VectorWidget> self(this);
     QElapsedTimer elapsed;
     elapsed.start();
@@ -209,13 +235,13 @@ bool VectorWidget::waitForPaintEvent()
         if (!self)
             return false;
     } while (elapsed.elapsed() < refreshDelay);
-    drawing = false;
+    m_drawing = false;
     return true;
 }
 
 void VectorWidget::on_toolButton_clicked()
 {
-    removalClicked = true;
+    m_removalClicked = true;
     emit deleteSignal(this);
 }
 
@@ -301,7 +327,12 @@ void VectorWidget::drawPhasors(QPainter &diagramPainter, QPainter &magnitudesPai
     diagramPainter.translate(diagram.origin());
     diagramPainter.scale(1, -1);
     for (const double time : times) {
-        const float referenceAngle = phasorOf(reference, time).angle;
+        SampleAtTime sample(time, plotter->sampleTimes());
+        const auto phasorOf = [&](int channel) {
+            const AnalogChannel *record = recordOf(channel);
+            return record ? ::phasorOf(*record, sample.of(*record)) : Phasor();
+        };
+        const float referenceAngle = phasorOf(reference).angle;
         for (const int channel : channels) {
             // Unsigned, so that channel 0, a name unknown to the recording, has a colour as well.
             const QColor color
@@ -309,7 +340,7 @@ void VectorWidget::drawPhasors(QPainter &diagramPainter, QPainter &magnitudesPai
                     % static_cast<unsigned>(channelColors.size())));
             setPenColor(diagramPainter, color);
             setPenColor(magnitudesPainter, color);
-            const Phasor phasor = phasorOf(channel, time);
+            const Phasor phasor = phasorOf(channel);
             diagramPainter.drawLine(QPoint(0, 0), diagram.lineEnd(phasor, referenceAngle));
             const QPoint position = magnitudeTextPosition(texts++, ui->labelMagnitudes->width());
             if (position.y() < lowestBaseLine)
@@ -345,21 +376,11 @@ double VectorWidget::extremeOf(const QList<int> &channels) const
     double extreme = 0;
     for (const int number : channels) {
         if (const AnalogChannel *channel = recordOf(number)) {
-            extreme = qMax(extreme, static_cast<double>(channel->maxReal));
-            extreme = qMax(extreme, static_cast<double>(channel->maxImaginary));
+            extreme = std::max(extreme, static_cast<double>(channel->maxReal));
+            extreme = std::max(extreme, static_cast<double>(channel->maxImaginary));
         }
     }
     return extreme;
-}
-
-Phasor VectorWidget::phasorOf(int channel, double time) const
-{
-    const AnalogChannel *record = recordOf(channel);
-    if (!record)
-        return {};
-    const TimeAxis &axis = plotter->sampleTimes();
-    int searchFrom = axis.times().isSharedWith(record->times) ? axis.searchStart(time) : 0;
-    return phasorAt(*record, time, searchFrom);
 }
 
 // Not by the recording's own accessor, which wraps numbers beyond the records around.

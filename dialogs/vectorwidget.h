@@ -20,7 +20,6 @@ class QCheckBox;
 class QPainter;
 class QTimer;
 class VectorDialog;
-struct Phasor;
 namespace Ui {
 class VectorWidget;
 }
@@ -71,7 +70,6 @@ private:
     int referenceChannel() const; // its number in the recording, 1-based; 0 for none
     QList<int> checkedChannels() const;
     double extremeOf(const QList<int> &channels) const;
-    Phasor phasorOf(int channel, double time) const;
     const AnalogChannel *recordOf(int channel) const;
     const CFGProperties *recording() const;
     QStringList recordingNames() const;
@@ -87,7 +85,7 @@ private:
     QList<QCheckBox *> checkBoxes; // parallel to channelNames
     VectorDialog *owner;
     bool renderPending = false;
-    bool drawing = false;
-    bool removalClicked = false;
     std::unique_ptr<Ui::VectorWidget> ui;
+    bool m_drawing = false;
+    bool m_removalClicked = false;
 };

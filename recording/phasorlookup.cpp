@@ -46,9 +46,8 @@ int sampleAt(const QVector<double> &times, double sampleRate, double time)
     return sampleAt(times, sampleRate, time, searchFrom);
 }
 
-Phasor phasorAt(const AnalogChannel &channel, double time, int &searchFrom)
+Phasor phasorOf(const AnalogChannel &channel, int sample)
 {
-    const int sample = sampleAt(channel.times, channel.sampleRate, time, searchFrom);
     if (sample < 0 || sample >= channel.fftAngles.size() || sample >= channel.fftMagnitudes.size())
         return {};
     return {channel.fftAngles.at(sample), channel.fftMagnitudes.at(sample)};
@@ -56,6 +55,5 @@ Phasor phasorAt(const AnalogChannel &channel, double time, int &searchFrom)
 
 Phasor phasorAt(const AnalogChannel &channel, double time)
 {
-    int searchFrom = firstSearched;
-    return phasorAt(channel, time, searchFrom);
+    return phasorOf(channel, sampleAt(channel.times, channel.sampleRate, time));
 }

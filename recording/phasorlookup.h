@@ -19,6 +19,6 @@ struct Phasor {
 int sampleAt(const QVector<double> &times, double sampleRate, double time, int &searchFrom);
 int sampleAt(const QVector<double> &times, double sampleRate, double time);
 
-// The phasor of the sample nearest to a time; zeros where there is none.
+// The phasor of a sample, or of the one nearest to a time; zeros where there is none.
+Phasor phasorOf(const AnalogChannel &channel, int sample);
 Phasor phasorAt(const AnalogChannel &channel, double time);
-Phasor phasorAt(const AnalogChannel &channel, double time, int &searchFrom);

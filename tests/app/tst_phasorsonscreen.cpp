@@ -79,6 +79,7 @@ private slots:
     void aDraggedCursorDrawsOnceATurn();
     void phasorsMoveWithTheCursor();
     void aReloadBeginsAnew();
+    void equalNamesKeepApartOverReloads();
     void aReloadDuringADrawingIsSurvived();
     void closingDuringADrawingIsSurvived_data();
     void closingDuringADrawingIsSurvived();
@@ -302,6 +303,34 @@ void TestPhasorsOnScreen::aReloadBeginsAnew()
     for (const VectorWidget *panel : panels())
         QTRY_COMPARE(
             magnitudes(panel), pictureOf({{{0, 15}, orange, QStringLiteral("X: 7.07107")}}));
+}
+
+// Twice, with a panel added after the first reload.
+void TestPhasorsOnScreen::equalNamesKeepApartOverReloads()
+{
+    open(50, 1000, {{"I", cosine(10, 20)}, {"I", cosine(20, 20)}});
+    setCursor(60);
+    QTRY_COMPARE(magnitudes(panels().first()),
+        pictureOf({{{0, 15}, orange, QStringLiteral("I: 7.07107")},
+            {{121, 15}, green, QStringLiteral("I: 14.1421")}}));
+
+    open(50, 1000, {{"U", cosine(10, 20)}, {"I", cosine(30, 20)}, {"I", cosine(40, 20)}});
+    addPanel();
+    QTRY_VERIFY(!diagram(panels().last()).isNull());
+    setCursor(60);
+    QCheckBox *last = panels().last()->findChildren<QCheckBox *>().last();
+    QTest::mouseClick(last, Qt::LeftButton, {}, QPoint(8, last->height() / 2));
+    QTRY_COMPARE(
+        magnitudes(panels().last()), pictureOf({{{0, 15}, blue, QStringLiteral("I: 28.2843")}}));
+
+    open(50, 1000, {{"I", cosine(20, 20)}, {"U", cosine(30, 20)}, {"I", cosine(10, 20)}});
+    setCursor(60);
+    checkAll(panels().last());
+    for (const VectorWidget *panel : panels())
+        QTRY_COMPARE(magnitudes(panel),
+            pictureOf({{{0, 15}, orange, QStringLiteral("I: 14.1421")},
+                {{121, 15}, green, QStringLiteral("U: 21.2132")},
+                {{242, 15}, blue, QStringLiteral("I: 7.07107")}}));
 }
 
 void TestPhasorsOnScreen::aReloadDuringADrawingIsSurvived()
