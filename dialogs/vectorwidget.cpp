@@ -6,20 +6,17 @@
 #include "cfgproperties.h"
 #include "channelnames.h"
 #include "dialoghost.h"
-#include "labeltext.h"
+#include "elidingcheckbox.h"
 #include "phasordiagram.h"
 #include "plotter.h"
 #include "ui_vectorwidget.h"
 #include "vectordialog.h"
 
-#include <QCheckBox>
 #include <QColorDialog>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyleOptionButton>
-#include <QStylePainter>
 #include <QTimer>
 
 namespace {
@@ -27,36 +24,6 @@ namespace {
 constexpr int refreshDelay = 10; // ms
 constexpr int firstDrawDelay = 100; // ms, from being shown
 constexpr int checkBoxesPerRow = 3;
-
-// The text of a check box that shows a name as it stands: an ampersand is no keyboard shortcut.
-QString withoutShortcut(QString name)
-{
-    return name.replace(QLatin1Char('&'), QLatin1String("&&"));
-}
-
-QString plainText(QString text)
-{
-    return text.replace(QLatin1String("&&"), QLatin1String("&"));
-}
-
-// A check box that elides a name too long for it in the middle.
-class ElidingCheckBox : public QCheckBox {
-public:
-    using QCheckBox::QCheckBox;
-
-protected:
-    void paintEvent(QPaintEvent * /*event*/) override
-    {
-        QStylePainter painter(this);
-        QStyleOptionButton option;
-        initStyleOption(&option);
-        const int room
-            = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, this).width();
-        option.text = withoutShortcut(
-            fontMetrics().elidedText(plainText(option.text), Qt::ElideMiddle, room));
-        painter.drawControl(QStyle::CE_CheckBox, option);
-    }
-};
 
 // The sample at a time. The channels of a recording share their list of times, so that one search
 // serves them all.
@@ -178,9 +145,7 @@ void VectorWidget::setChannelNames(const QStringList &names)
         connect(checkBox, &QCheckBox::toggled, this, &VectorWidget::drawAll);
         ui->gridLayout->addWidget(checkBox, i / checkBoxesPerRow, i % checkBoxesPerRow);
         checkBox->setStyleSheet(colorSheet(channelColors.at(i % channelColors.size())));
-        const QString name = shownName(names.at(i));
-        checkBox->setText(withoutShortcut(name));
-        checkBox->setToolTip(plainToolTip(name));
+        checkBox->setName(names.at(i));
         // The panel's width is fixed, however long the names are.
         checkBox->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         checkBoxes.append(checkBox);
