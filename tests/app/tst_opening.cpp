@@ -22,6 +22,7 @@
 #include <QThread>
 #include <QtTest>
 
+#include <algorithm>
 #include <ctime>
 #include <memory>
 #include <sys/stat.h>
@@ -520,6 +521,61 @@ private slots:
         QVERIFY(window->recording());
     }
 
+    void triedFileStaysOpenUntilTheEnd_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("a recording") << "next.cfg";
+        QTest::newRow("a recording that cannot be loaded") << "bad.cfg";
+        QTest::newRow("a recording that is not there") << "none.cfg";
+        QTest::newRow("nothing that is loaded") << "notes.pdf";
+    }
+
+    void triedFileStaysOpenUntilTheEnd()
+    {
+        QFETCH(QString, name);
+        window->open(goodRecording());
+        goodRecording("next");
+        QVERIFY(writeTextFile(path("bad.cfg"), "x"));
+        QVERIFY(writeTextFile(path("notes.pdf"), "x"));
+        const QString tried = folder->filePath(name);
+        bool checked = false;
+        connect(window.get(), &MainWindow::initProperties, this, [&] {
+            checked = true;
+            QVERIFY(isOpen(tried));
+        });
+        delayLoader(); // which opens the file itself
+        QVERIFY(!isOpen(tried));
+        window->open(tried);
+        QVERIFY(!isOpen(tried));
+        QCOMPARE(checked, name == QLatin1String("next.cfg") || name == QLatin1String("bad.cfg"));
+    }
+
+    void triedFileIsClosedWithTheWindow_data()
+    {
+        QTest::addColumn<bool>("deleted");
+        QTest::newRow("that is closed") << false;
+        QTest::newRow("that is deleted") << true;
+    }
+
+    void triedFileIsClosedWithTheWindow()
+    {
+        QFETCH(bool, deleted);
+        window->open(goodRecording());
+        const QString tried = goodRecording("slow");
+        delayLoader();
+        bool wasOpen = false;
+        QTimer::singleShot(0, this, [&] {
+            wasOpen = isOpen(tried);
+            if (deleted)
+                window.reset();
+            else
+                window->close();
+        });
+        window->open(tried);
+        QVERIFY(wasOpen);
+        QVERIFY(!isOpen(tried));
+    }
+
     void closingBeforeTheLoadHasBegun()
     {
         connect(window.get(), &MainWindow::initProperties, window.get(), &QWidget::close);
@@ -696,6 +752,14 @@ private slots:
     }
 
 private:
+    // Whether this process has the file open.
+    static bool isOpen(const QString &path)
+    {
+        const QFileInfoList files = QDir(QStringLiteral("/proc/self/fd")).entryInfoList();
+        return std::any_of(files.begin(), files.end(),
+            [&](const QFileInfo &file) { return file.symLinkTarget() == path; });
+    }
+
     // Keeps the loader thread busy for a while before its next load.
     void delayLoader()
     {
