@@ -201,22 +201,21 @@ void Plotter::showChannels(const QList<int> &numbers)
 }
 
 // The full view of what is shown, with all of its values; the time range of a live view stays.
-void Plotter::setHome(const ValueExtremes &extremes)
+void Plotter::setHome()
 {
     const CFGProperties *source = recording();
     const QVector<double> times = source ? source->sampleTimes : QVector<double>();
     if (times != timeAxis.times())
         timeAxis = TimeAxis(times);
-    m_view.setHome(timeAxis.smallest(), timeAxis.largest(), extremes);
+    m_view.setHome(timeAxis.smallest(), timeAxis.largest(), prepareTraces());
 }
 
 void Plotter::setupPlot()
 {
-    setHome(prepareTraces());
+    setHome();
     plotterLabel->place(20);
 }
 
-// Makes the angle traces of the spectra and gives the extremes of all that is drawn.
 ValueExtremes Plotter::prepareTraces()
 {
     const bool showsAngles = mainWindow && mainWindow->showsAngles();

@@ -142,9 +142,11 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
 
     virtual ShownChannel shownChannel(int number) const;
+    // Makes ready what is drawn under the present factors, and gives its extremes.
+    virtual ValueExtremes prepareTraces();
 
     CFGProperties *recording() const; // null without a host or a recording
-    void setHome(const ValueExtremes &extremes);
+    void setHome();
 
     QString plotType; // "Analog" or "Digital"; the zooms ask whether it contains one of them
     int digitalFlag = 0;
@@ -160,7 +162,6 @@ private:
     const AnalogChannel *channelOf(int number) const;
     double factorOf(int number) const;
     QColor colorOf(int number) const;
-    ValueExtremes prepareTraces();
 
     bool isOnScreen() const;
     void refreshAll();

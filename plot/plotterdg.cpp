@@ -28,7 +28,7 @@ plotterDg::plotterDg(QWidget *parent) : Plotter(parent)
 
 void plotterDg::setupPlot()
 {
-    setHome({0, 1});
+    setHome();
     plotterLabel->place(30);
     plotterLabel->setLineWidth(2);
     plotterLabel->setFrameStyle(QFrame::Box);
@@ -44,6 +44,11 @@ ShownChannel plotterDg::shownChannel(int number) const
         shown.runs = DigitalRuns(channel->values);
     }
     return shown;
+}
+
+ValueExtremes plotterDg::prepareTraces()
+{
+    return {0, 1};
 }
 
 int plotterDg::neededHeight() const

@@ -30,4 +30,5 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     ShownChannel shownChannel(int number) const override;
+    ValueExtremes prepareTraces() override;
 };
