@@ -12,22 +12,18 @@
 
 #include <algorithm>
 #include <cmath>
+#include <complex>
 #include <memory>
+#include <new>
+#include <optional>
 #include <vector>
 
 namespace {
 
-constexpr int samplesBetweenLooks = 256; // whether the program ends
-constexpr int largestCycle = 1 << 20; // samples
-// A longer cycle than this, of which the recording does not hold one, has no fundamental to speak
-// of, and a transform for every sample of it would cost out of all proportion.
-constexpr int largestUnfilledCycle = 1 << 12;
+using Complex = std::complex<double>;
 
-bool isMeaningful(int samplesPerCycle, int samples)
-{
-    return samplesPerCycle >= 2 && samplesPerCycle <= largestCycle
-        && samplesPerCycle <= std::max(samples, largestUnfilledCycle);
-}
+constexpr int largestCycle = 1 << 20; // samples
+constexpr int workBetweenLooks = 1 << 20; // values taken up before a look whether the program ends
 
 struct FreeComplex {
     void operator()(fftw_complex *array) const { fftw_free(array); }
@@ -36,8 +32,17 @@ using ComplexArray = std::unique_ptr<fftw_complex, FreeComplex>;
 
 ComplexArray complexArray(int size)
 {
-    return ComplexArray(
+    ComplexArray array(
         static_cast<fftw_complex *>(fftw_malloc(sizeof(fftw_complex) * static_cast<size_t>(size))));
+    if (!array)
+        throw std::bad_alloc();
+    return array;
+}
+
+// The library ends the program where it finds no memory for a plan. So much it may need.
+void requireMemoryForPlan(int size)
+{
+    complexArray(8 * size + (1 << 16));
 }
 
 class Plan {
@@ -55,16 +60,125 @@ private:
     fftw_plan m_plan;
 };
 
-// The scaled samples without the offset, between the zeros that stand in beyond both ends: the
-// window of a sample, 2 * half values, begins at the sample's own index.
-std::vector<double> paddedWave(const AnalogChannel &channel, int half)
+// Transforms of the cycle around a sample, of which they give the fundamental.
+class Transforms {
+public:
+    Transforms(const AnalogChannel &channel, int size)
+        : m_size(size), m_wave(paddedWave(channel, size / 2))
+    {
+        requireMemoryForPlan(size);
+        m_keptIn = complexArray(size);
+        m_keptOut = complexArray(size);
+        m_kept.emplace(size, m_keptIn.get(), m_keptOut.get());
+    }
+
+    Complex around(int sample) const
+    {
+        const ComplexArray in = complexArray(m_size);
+        const ComplexArray out = complexArray(m_size);
+        const Plan plan(m_size, in.get(), out.get());
+        const double *const window = m_wave.data() + sample;
+        const int values = m_size / 2 * 2; // not the last one of an odd cycle
+        for (int i = 0; i < m_size; ++i) {
+            in.get()[i][0] = i < values ? window[i] : 0;
+            in.get()[i][1] = 0;
+        }
+        plan.execute();
+        return {out.get()[1][0], out.get()[1][1]};
+    }
+
+private:
+    // The scaled samples without the offset, between the zeros that stand in beyond both ends: the
+    // window of a sample, 2 * half values, begins at the sample's own index.
+    static std::vector<double> paddedWave(const AnalogChannel &channel, int half)
+    {
+        const auto before = static_cast<size_t>(half - 1);
+        const auto after = static_cast<size_t>(half);
+        std::vector<double> wave(before + static_cast<size_t>(channel.rawValues.size()) + after);
+        std::transform(channel.rawValues.cbegin(), channel.rawValues.cend(),
+            wave.begin() + half - 1,
+            [a = static_cast<double>(channel.a)](float x) { return static_cast<double>(x) * a; });
+        return wave;
+    }
+
+    const int m_size;
+    const std::vector<double> m_wave;
+    // While a plan of this size lives, the library keeps its tables for all others.
+    ComplexArray m_keptIn;
+    ComplexArray m_keptOut;
+    std::optional<Plan> m_kept;
+};
+
+// Sums of the cycle around a sample, from its values that are not 0 alone: the fundamental as a
+// transform gives it.
+class Sums {
+public:
+    Sums(const AnalogChannel &channel, int size)
+        : m_channel(channel),
+          m_size(size),
+          m_half(size / 2),
+          m_firstTurn(std::max(m_half - channel.rawValues.size(), 0))
+    {
+        const QVector<float> &values = channel.rawValues;
+        m_places.reserve(static_cast<size_t>(values.size() - values.count(0.0F)));
+        for (int i = 0; i < values.size(); ++i) {
+            if (values.at(i) != 0.0F)
+                m_places.push_back(i);
+        }
+    }
+
+    // Goes on to the cycle of a later sample and gives the number of its values that are not 0.
+    int moveTo(int sample)
+    {
+        m_begin = sample - m_half + 1;
+        while (m_first < m_places.size() && m_places[m_first] < m_begin)
+            ++m_first;
+        while (m_last < m_places.size() && m_places[m_last] < m_begin + 2 * m_half)
+            ++m_last;
+        return static_cast<int>(m_last - m_first);
+    }
+
+    // Of the cycle that it moved to.
+    Complex sum()
+    {
+        if (m_turns.empty())
+            makeTurns();
+        const auto a = static_cast<double>(m_channel.a);
+        Complex sum;
+        for (size_t k = m_first; k < m_last; ++k) {
+            const double x = static_cast<double>(m_channel.rawValues.at(m_places[k])) * a;
+            sum += x * m_turns[static_cast<size_t>(m_places[k] - m_begin - m_firstTurn)];
+        }
+        return sum;
+    }
+
+private:
+    // For the places that a sample of the recording can have in a cycle around another one.
+    void makeTurns()
+    {
+        constexpr double turn = 6.283185307179586;
+        const int end = std::min(2 * m_half, m_half + m_channel.rawValues.size());
+        m_turns.reserve(static_cast<size_t>(end - m_firstTurn));
+        for (int i = m_firstTurn; i < end; ++i)
+            m_turns.push_back(std::polar(1.0, -turn * i / m_size));
+    }
+
+    const AnalogChannel &m_channel;
+    const int m_size;
+    const int m_half;
+    const int m_firstTurn;
+    int m_begin = 0; // place of the first value of the cycle
+    std::vector<int> m_places; // of the values that are not 0
+    size_t m_first = 0; // of these the ones in the cycle
+    size_t m_last = 0; // behind them
+    std::vector<Complex> m_turns;
+};
+
+// Whether a cycle is worth a transform, whose cost goes by the size: for a cycle that is longer
+// than the recording, or mostly zeros, it would be out of all proportion to what was read.
+bool isWorthTransform(int size, int samples, int valuesInCycle)
 {
-    const auto before = static_cast<size_t>(half - 1);
-    const auto after = static_cast<size_t>(half);
-    std::vector<double> wave(before + static_cast<size_t>(channel.rawValues.size()) + after);
-    std::transform(channel.rawValues.cbegin(), channel.rawValues.cend(), wave.begin() + half - 1,
-        [a = static_cast<double>(channel.a)](float x) { return static_cast<double>(x) * a; });
-    return wave;
+    return samples >= size && valuesInCycle > size / 2;
 }
 
 } // namespace
@@ -79,38 +193,35 @@ void computePhasors(AnalogChannel &channel, int samplesPerCycle)
         channel.fftAngles.append(narrowed(angle));
         channel.fftMagnitudes.append(narrowed(magnitude));
     };
-    const auto isZero = [](float value) { return value == 0.0F; };
-    if (!isMeaningful(size, samples)
-        || std::all_of(channel.rawValues.cbegin(), channel.rawValues.cend(), isZero)) {
+    if (size < 2 || size > largestCycle) {
         for (int i = 0; i < samples; ++i)
             append(0, 0);
         return;
     }
 
-    // While a plan of this size lives, the library keeps its tables for all others.
-    const ComplexArray keptIn = complexArray(size);
-    const ComplexArray keptOut = complexArray(size);
-    const Plan kept(size, keptIn.get(), keptOut.get());
-    const int half = size / 2;
-    const std::vector<double> wave = paddedWave(channel, half);
+    Sums sums(channel, size);
+    std::optional<Transforms> transforms;
+    int work = 0;
     for (int sample = 0; sample < samples; ++sample) {
-        if (sample % samplesBetweenLooks == 0
-            && QThread::currentThread()->isInterruptionRequested())
-            return;
-        const ComplexArray in = complexArray(size);
-        const ComplexArray out = complexArray(size);
-        const Plan plan(size, in.get(), out.get());
-        const double *const window = wave.data() + sample;
-        for (int i = 0; i < size; ++i) {
-            const bool isInside = i < 2 * half; // not the last value of an odd cycle
-            in.get()[i][0] = isInside ? window[i] : 0;
-            in.get()[i][1] = 0;
+        const int values = sums.moveTo(sample);
+        if (values == 0) {
+            append(0, 0);
+            continue;
         }
-        plan.execute();
-        const double real = out.get()[1][0];
-        const double imaginary = out.get()[1][1];
+        const bool isTransformed = isWorthTransform(size, samples, values);
+        work += isTransformed ? size : values;
+        if (work >= workBetweenLooks) {
+            if (QThread::currentThread()->isInterruptionRequested())
+                return;
+            work = 0;
+        }
+        if (isTransformed && !transforms)
+            transforms.emplace(channel, size);
+        const Complex fundamental = isTransformed ? transforms->around(sample) : sums.sum();
+        const double real = fundamental.real();
+        const double imaginary = fundamental.imag();
         const double magnitude
-            = std::sqrt(real * real + imaginary * imaginary) / half / 1.4142135623730951;
+            = std::sqrt(real * real + imaginary * imaginary) / (size / 2) / 1.4142135623730951;
         const double angle = std::atan2(imaginary, real);
         channel.maxMagnitude = std::max(channel.maxMagnitude, narrowed(magnitude));
         channel.maxReal

@@ -112,6 +112,8 @@ private slots:
     void oddNumbersTakeAMomentAndLittleMemory();
     void oddFilesTakeAMomentAndLittleMemory_data();
     void oddFilesTakeAMomentAndLittleMemory();
+    void aSmallPairTakesAMomentWhateverItsCycle_data();
+    void aSmallPairTakesAMomentWhateverItsCycle();
     void aBadExportTakesAMomentAndLittleMemory_data();
     void aBadExportTakesAMomentAndLittleMemory();
     void aLineWithoutEndEndsTheReading_data();
@@ -247,6 +249,52 @@ void TestBadInput::oddNumbersTakeAMomentAndLittleMemory()
 void TestBadInput::oddFilesTakeAMomentAndLittleMemory()
 {
     oddNumbersTakeAMomentAndLittleMemory();
+}
+
+void TestBadInput::aSmallPairTakesAMomentWhateverItsCycle_data()
+{
+    QTest::addColumn<int>("channels"); // without definitions, each with values in its first lines
+    QTest::addColumn<int>("lines"); // with values
+    QTest::addColumn<int>("shortLines"); // behind them, of two empty fields
+    QTest::addColumn<int>("cycle");
+    QTest::addColumn<int>("size"); // of both files, bytes
+    QTest::addColumn<double>("seconds");
+    const auto row = [](const char *name, int channels, int lines, int shortLines, int cycle,
+                         int size, double seconds) {
+        QTest::newRow(name) << channels << lines << shortLines << cycle << size << seconds;
+    };
+    row("a thousand bytes, a cycle of 4093", 230, 1, 130, 4093, 1000, 0.5);
+    row("a thousand bytes, a cycle as long as the recording", 200, 1, 180, 181, 1000, 0.5);
+    row("a thousand bytes, the longest cycle", 230, 1, 130, 1048576, 1000, 0.5);
+    row("a thousand bytes, a long prime cycle", 1, 150, 0, 1048573, 1000, 0.5);
+    row("a hundred thousand bytes, a cycle of 4093", 1200, 20, 2800, 4093, 100000, 10);
+    row("a hundred thousand bytes, many values", 200, 150, 15000, 4093, 100000, 10);
+    row("a hundred thousand bytes, the longest cycle", 40, 1000, 5000, 1048576, 100000, 10);
+}
+
+void TestBadInput::aSmallPairTakesAMomentWhateverItsCycle()
+{
+    QFETCH(int, channels);
+    QFETCH(int, lines);
+    QFETCH(int, shortLines);
+    QFETCH(int, cycle);
+    QFETCH(int, size);
+    QFETCH(double, seconds);
+    const QByteArray count = QByteArray::number(channels);
+    const QByteArray configuration = "S,D,1999\n" + count + ',' + count + "A,0D\n"
+        + QByteArray(channels, '\n') + "50\n1\n" + QByteArray::number(50 * cycle) + ",9\n";
+    const QByteArray data = (',' + QByteArray(",1").repeated(channels) + '\n').repeated(lines)
+        + QByteArray(",\n").repeated(shortLines);
+    QVERIFY(configuration.size() + data.size() <= size);
+    const RecordingFolder folder;
+    CFGProperties recording;
+    const double start = processorSeconds();
+    folder.load(recording, configuration, data);
+    const double taken = processorSeconds() - start;
+    QCOMPARE(recording.loaded, 1);
+    QCOMPARE(recording.samplesPerCycle, cycle);
+    QCOMPARE(recording.sampleCount, lines + shortLines);
+    QVERIFY2(taken < seconds, qPrintable(QString::number(taken)));
 }
 
 void TestBadInput::aBadExportTakesAMomentAndLittleMemory_data()

@@ -74,6 +74,11 @@ private slots:
     void cyclesWithoutMeaningGiveZeros_data();
     void cyclesWithoutMeaningGiveZeros();
     void aCycleLongerThanTheRecordingIsPadded();
+    void aLongCycleThatIsNearlyFilledReadsTheRms_data();
+    void aLongCycleThatIsNearlyFilledReadsTheRms();
+    void aLoneValueIsFoundInEveryCycleAroundIt_data();
+    void aLoneValueIsFoundInEveryCycleAroundIt();
+    void zerosHaveNoAngle();
     void valuesBeyondAllBoundsAreSurvived_data();
     void valuesBeyondAllBoundsAreSurvived();
     void anySeriesIsTheDefinitionWrittenOut_data();
@@ -299,7 +304,6 @@ void TestPhasors::cyclesWithoutMeaningGiveZeros_data()
     QTest::newRow("the most negative cycle") << std::numeric_limits<int>::min();
     QTest::newRow("beyond a million samples a cycle") << 1048577;
     QTest::newRow("a cycle without end") << std::numeric_limits<int>::max();
-    QTest::newRow("more than 4096 samples a cycle in a recording of 60") << 4097;
 }
 
 void TestPhasors::cyclesWithoutMeaningGiveZeros()
@@ -319,6 +323,78 @@ void TestPhasors::aCycleLongerThanTheRecordingIsPadded()
     computePhasors(channel, 4096);
     QVERIFY(isNear(channel.fftMagnitudes.at(0), 5.0 / 2048 / rootOfTwo, 1e-9));
     QVERIFY(isSameAngle(channel.fftAngles.at(0), -2 * pi * 2047 / 4096, 1e-6));
+}
+
+void TestPhasors::aLongCycleThatIsNearlyFilledReadsTheRms_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::addColumn<int>("samples");
+    QTest::newRow("one sample short of 5000") << 5000 << 4999;
+    QTest::newRow("of 5000") << 5000 << 5000;
+    QTest::newRow("one sample short of 4096") << 4096 << 4095;
+    QTest::newRow("one sample short of 20000") << 20000 << 19999;
+}
+
+void TestPhasors::aLongCycleThatIsNearlyFilledReadsTheRms()
+{
+    QFETCH(int, size);
+    QFETCH(int, samples);
+    AnalogChannel channel
+        = channelOf(series(samples, [size](int i) { return 10000 * std::sin(2 * pi * i / size); }));
+    computePhasors(channel, size);
+    // The cycle around this sample begins with the first one; what it lacks is nearly 0.
+    const float magnitude = channel.fftMagnitudes.at(size / 2 - 1);
+    QVERIFY2(isNear(magnitude, 7071.07, 0.01), qPrintable(shown(magnitude)));
+    QVERIFY(isSameAngle(channel.fftAngles.at(size / 2 - 1), -pi / 2, 1e-5));
+    QCOMPARE(channel.fftMagnitudes.size(), samples);
+}
+
+void TestPhasors::aLoneValueIsFoundInEveryCycleAroundIt_data()
+{
+    QTest::addColumn<int>("size");
+    QTest::addColumn<int>("samples");
+    QTest::addColumn<int>("place");
+    QTest::addColumn<int>("first"); // sample whose cycle holds it
+    QTest::addColumn<int>("last");
+    QTest::newRow("in the middle") << 64 << 300 << 100 << 68 << 131;
+    QTest::newRow("at the beginning") << 64 << 300 << 0 << 0 << 31;
+    QTest::newRow("at the end") << 64 << 300 << 299 << 267 << 299;
+    QTest::newRow("in an odd cycle") << 65 << 300 << 100 << 68 << 131;
+    QTest::newRow("in a short recording") << 1000 << 300 << 100 << 0 << 299;
+    QTest::newRow("in the longest cycle") << 1048576 << 300 << 299 << 0 << 299;
+}
+
+void TestPhasors::aLoneValueIsFoundInEveryCycleAroundIt()
+{
+    QFETCH(int, size);
+    QFETCH(int, samples);
+    QFETCH(int, place);
+    QFETCH(int, first);
+    QFETCH(int, last);
+    AnalogChannel channel
+        = channelOf(series(samples, [place](int i) { return i == place ? 1000 : 0; }), -0.5F);
+    computePhasors(channel, size);
+    const int half = size / 2;
+    for (int s = 0; s < samples; ++s) {
+        const bool isInside = first <= s && s <= last;
+        const double magnitude = isInside ? 500 / rootOfTwo / half : 0;
+        QVERIFY2(
+            isNear(channel.fftMagnitudes.at(s), magnitude, 1e-5), qPrintable(QString::number(s)));
+        // The cycle of a sample begins half a cycle less one before it. -500 points the other way.
+        const double angle = isInside ? pi - 2 * pi * (place - (s - half + 1)) / size : 0;
+        QVERIFY2(isSameAngle(channel.fftAngles.at(s), angle, 1e-5), qPrintable(QString::number(s)));
+    }
+}
+
+void TestPhasors::zerosHaveNoAngle()
+{
+    AnalogChannel channel
+        = channelOf(series(200, [](int i) { return i < 100 ? 0.0 : -0.0; }), -0.5F);
+    channel.rawValues[199] = 5;
+    computePhasors(channel, 20);
+    QCOMPARE(channel.fftAngles.mid(0, 189), QVector<float>(189, 0.0F));
+    QCOMPARE(channel.fftMagnitudes.mid(0, 189), QVector<float>(189, 0.0F));
+    QVERIFY(channel.fftMagnitudes.at(189) > 0);
 }
 
 void TestPhasors::valuesBeyondAllBoundsAreSurvived_data()
@@ -348,16 +424,22 @@ void TestPhasors::valuesBeyondAllBoundsAreSurvived()
 void TestPhasors::anySeriesIsTheDefinitionWrittenOut_data()
 {
     QTest::addColumn<int>("size");
-    for (const int size : {2, 3, 4, 5, 7, 12, 16, 17, 20, 21, 33, 64, 97, 100})
-        QTest::addRow("%d samples a cycle", size) << size;
+    QTest::addColumn<int>("zeros"); // of a hundred values
+    for (const int size : {2, 3, 4, 5, 7, 12, 16, 17, 20, 21, 33, 64, 97, 100, 151, 1000}) {
+        for (const int zeros : {0, 50, 75, 95})
+            QTest::addRow("%d samples a cycle, %d%% of them 0", size, zeros) << size << zeros;
+    }
 }
 
 void TestPhasors::anySeriesIsTheDefinitionWrittenOut()
 {
     QFETCH(int, size);
+    QFETCH(int, zeros);
     std::mt19937 random(static_cast<unsigned>(size));
-    const QVector<float> raw
-        = series(150, [&](int /*i*/) { return static_cast<double>(random() % 65536) - 32768.0; });
+    const QVector<float> raw = series(150, [&](int /*i*/) {
+        const double value = static_cast<double>(random() % 65536) - 32768.0;
+        return static_cast<int>(random() % 100) < zeros ? 0.0 : value;
+    });
     AnalogChannel channel = channelOf(raw, 0.125F);
     computePhasors(channel, size);
     const int half = size / 2;
