@@ -3,9 +3,9 @@
 
 #include "numbers.h"
 
-#include <QString>
-
+#include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -81,6 +81,39 @@ int fieldToInt(const char *begin, const char *end)
     if (end - begin == 1 && isDigit(*begin))
         return *begin - '0';
     return text(begin, end).toInt();
+}
+
+QString general(double value)
+{
+    return QString::number(value, 'g', 6);
+}
+
+QString sixDecimals(double value)
+{
+    const QString text = QString::number(value, 'f', 6);
+    return text == QLatin1String("-0.000000") ? text.mid(1) : text;
+}
+
+char *writeWhole(char *at, double value)
+{
+    // Nearly all are small enough to need no string.
+    constexpr double exact = 1e15;
+    if (std::abs(value) <= exact) {
+        const auto truncated = static_cast<qint64>(value);
+        const double rest = value - static_cast<double>(truncated);
+        const qint64 whole = truncated + (rest >= 0.5 ? 1 : 0) - (rest <= -0.5 ? 1 : 0);
+        return writeWhole(at, whole);
+    }
+    const QByteArray digits = QByteArray::number(value, 'f', 0);
+    return std::copy(digits.cbegin(), digits.cend(), at);
+}
+
+char *writeWhole(char *at, qint64 value)
+{
+    if (value < 0 || value > 9)
+        return std::to_chars(at, at + std::numeric_limits<qint64>::digits10 + 2, value).ptr;
+    *at = static_cast<char>('0' + value);
+    return at + 1;
 }
 
 int roundedToInt(double value)

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QByteArray>
+#include <QString>
 
 #include <cmath>
 #include <limits>
@@ -14,6 +14,17 @@
 double fieldToDouble(const char *begin, const char *end);
 float fieldToFloat(const char *begin, const char *end);
 int fieldToInt(const char *begin, const char *end);
+
+// Texts of numbers. A value that rounds to zero has no sign: read again, "-0" would be written as
+// "0".
+QString general(double value); // six digits, with an exponent where that is shorter
+QString sixDecimals(double value);
+
+// Write a number without decimals, rounded as the toolkit does, and give the end of it.
+constexpr int mostDigitsOfDouble = 320; // with a sign
+constexpr int mostDigitsOfFloat = 40; // or of an int
+char *writeWhole(char *at, double value);
+char *writeWhole(char *at, qint64 value);
 
 // A double as a float; beyond its range an infinity.
 inline float narrowed(double value)

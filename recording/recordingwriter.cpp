@@ -4,62 +4,18 @@
 #include "recordingwriter.h"
 
 #include "cfgproperties.h"
+#include "filepair.h"
 #include "numbers.h"
 #include "timeofday.h"
 
-#include <QFileInfo>
-#include <QSaveFile>
-
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
-#include <functional>
 #include <limits>
-#include <memory>
-#include <utility>
 #include <vector>
 
 namespace {
 
 constexpr int blockSize = 1 << 18; // bytes written at once
-constexpr int mostDigits = 320; // of a double without decimals, and its sign
-constexpr int mostDigitsOfSample = 48; // of a float or an int without decimals, sign and comma
-
-QString general(double value)
-{
-    return QString::number(value, 'g', 6);
-}
-
-// A value that rounds to zero has no sign: read again, "-0" would be written as "0".
-QString sixDecimals(double value)
-{
-    const QString text = QString::number(value, 'f', 6);
-    return text == QLatin1String("-0.000000") ? text.mid(1) : text;
-}
-
-char *writeWhole(char *at, qint64 value)
-{
-    if (value < 0 || value > 9)
-        return std::to_chars(at, at + mostDigits, value).ptr;
-    *at = static_cast<char>('0' + value);
-    return at + 1;
-}
-
-// A value without decimals, rounded as the toolkit does, but for the sign of a value that rounds to
-// zero. Nearly all are small enough to need no string.
-char *writeWhole(char *at, double value)
-{
-    constexpr double exact = 1e15;
-    if (std::abs(value) <= exact) {
-        const auto truncated = static_cast<qint64>(value);
-        const double rest = value - static_cast<double>(truncated);
-        const qint64 whole = truncated + (rest >= 0.5 ? 1 : 0) - (rest <= -0.5 ? 1 : 0);
-        return writeWhole(at, whole);
-    }
-    const QByteArray digits = QByteArray::number(value, 'f', 0);
-    return std::copy(digits.cbegin(), digits.cend(), at);
-}
 
 // The bytes that were read where they were Latin-1.
 QByteArray encoded(const QString &text)
@@ -74,71 +30,6 @@ QTime moved(const QTime &time, double milliseconds)
 {
     constexpr qint64 day = 86400000;
     return time.addMSecs(static_cast<int>(truncatedToInt64(milliseconds) % day));
-}
-
-// A file that takes its place when it is complete. Where its folder takes no new file, or its name
-// leaves no room for a temporary one, it is the file itself. Null where it cannot be opened;
-// folders and devices, also those behind a link, are not: they would be replaced by a file.
-std::unique_ptr<QFileDevice> openForWriting(const QString &path)
-{
-    constexpr int longestName = 255; // bytes, on most systems
-    constexpr int temporaryEnding = 7; // of the toolkit: a point and six letters
-    const QFileInfo there(path);
-    if (there.exists() && !there.isFile())
-        return nullptr;
-    std::unique_ptr<QFileDevice> file;
-    if (QFile::encodeName(there.fileName()).size() + temporaryEnding > longestName) {
-        file = std::make_unique<QFile>(path);
-    } else {
-        auto replacement = std::make_unique<QSaveFile>(path);
-        replacement->setDirectWriteFallback(true);
-        file = std::move(replacement);
-    }
-    return file->open(QIODevice::WriteOnly | QIODevice::Unbuffered) ? std::move(file) : nullptr;
-}
-
-// Writes a text, but nothing behind one that did not fit. A file that took a part of a text has no
-// error until the rest is tried.
-void writeAll(QFileDevice &file, const char *text, qint64 size)
-{
-    while (size > 0 && file.error() == QFileDevice::NoError) {
-        const qint64 count = std::max<qint64>(file.write(text, size), 0);
-        text += count;
-        size -= count;
-    }
-}
-
-struct Target {
-    QString path;
-    std::function<void(QFileDevice &)> write; // the contents
-    std::unique_ptr<QFileDevice> file;
-};
-
-// Writes the files that can be opened and puts them in their places, none before all are complete:
-// an old data file beside a new configuration would be neither recording. A file that may not be
-// replaced, as that of another user in a folder shared by all, is written in place.
-RecordingWriter::Outcome writeFiles(std::array<Target, 2> targets)
-{
-    for (Target &target : targets) {
-        target.file = openForWriting(target.path);
-        if (target.file)
-            target.write(*target.file);
-    }
-    for (const Target &target : targets) {
-        if (target.file && target.file->error() != QFileDevice::NoError)
-            return {target.path, target.file->errorString()};
-    }
-    for (const Target &target : targets) {
-        auto *replacement = qobject_cast<QSaveFile *>(target.file.get());
-        if (!replacement || replacement->commit())
-            continue;
-        QFile inPlace(target.path);
-        if (inPlace.open(QIODevice::WriteOnly | QIODevice::ExistingOnly | QIODevice::Unbuffered))
-            target.write(inPlace);
-        if (inPlace.error() != QFileDevice::NoError)
-            return {target.path, inPlace.errorString()};
-    }
-    return {};
 }
 
 } // namespace
@@ -196,8 +87,8 @@ RecordingWriter::Outcome RecordingWriter::writePair(
         writeAll(file, text.constData(), text.size());
     };
     const auto writeData = [&](QFileDevice &file) {
-        const int lineRoom = 2 * mostDigits
-            + mostDigitsOfSample
+        const int lineRoom = 2 * mostDigitsOfDouble
+            + (mostDigitsOfFloat + 1)
                 * (m_recording.analogChannels.size() + m_recording.digitalChannels.size());
         std::vector<char> text(static_cast<size_t>(blockSize + lineRoom));
         char *at = text.data();
@@ -215,8 +106,7 @@ RecordingWriter::Outcome RecordingWriter::writePair(
         writeAll(file, text.data(), at - text.data());
     };
     const QStringList files = filesFor(path);
-    return writeFiles(
-        {{{files.first(), writeConfiguration, nullptr}, {files.last(), writeData, nullptr}}});
+    return ::writePair({files.first(), writeConfiguration}, {files.last(), writeData});
 }
 
 QString RecordingWriter::configuration(const Span &span, Side side) const

@@ -3,23 +3,18 @@
 
 #pragma once
 
+#include "filepair.h"
+
 #include <QString>
 #include <QStringList>
 
 class CFGProperties;
 
-// Writes a recording as a new pair of an ASCII 1999 configuration and data file. Each file replaces
-// what was there only when both are complete, but where nothing may be replaced or the name leaves
-// no room for a temporary file: such a file is written in place.
+// Writes a recording as a new pair of an ASCII 1999 configuration and data file, which replaces a
+// former pair as a whole (filepair.h).
 class RecordingWriter {
 public:
-    // What became of a pair. A file that could not be opened is passed over in silence; of one that
-    // could be opened but not written in full, the path and the error are told.
-    struct Outcome {
-        QString failedFile;
-        QString error;
-        bool hasFailed() const { return !failedFile.isEmpty(); }
-    };
+    using Outcome = WriteOutcome;
 
     // The ratings of the analog channels as texts, in channel order; where the lists are shorter,
     // the ratings that were read stand in. The recording must outlive the writer.

@@ -7,6 +7,7 @@
 
 #include <QtTest>
 
+#include <array>
 #include <limits>
 
 namespace {
@@ -34,6 +35,9 @@ private slots:
     void doublesRoundToIntegers();
     void doublesTruncateToWideIntegers_data();
     void doublesTruncateToWideIntegers();
+    void aNumberIsWritten_data();
+    void aNumberIsWritten();
+    void wideIntegersAreWritten();
 };
 
 void TestNumbers::aFieldReadsAsADouble_data()
@@ -225,6 +229,58 @@ void TestNumbers::doublesTruncateToWideIntegers()
     QFETCH(double, value);
     QFETCH(qint64, expected);
     QCOMPARE(truncatedToInt64(value), expected);
+}
+
+void TestNumbers::aNumberIsWritten_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<QString>("inGeneral");
+    QTest::addColumn<QString>("withSixDecimals");
+    QTest::addColumn<QByteArray>("whole");
+    const auto row = [](const char *name, double value, const char *inGeneral,
+                         const char *withSixDecimals, const char *whole) {
+        QTest::newRow(name) << value << QString::fromLatin1(inGeneral)
+                            << QString::fromLatin1(withSixDecimals) << QByteArray(whole);
+    };
+    row("zero", 0, "0", "0.000000", "0");
+    row("a digit", 7, "7", "7.000000", "7");
+    row("a half goes up", 2.5, "2.5", "2.500000", "3");
+    row("a half below zero goes down", -2.5, "-2.5", "-2.500000", "-3");
+    row("less than a half", 0.49999999, "0.5", "0.500000", "0");
+    row("what rounds to zero has no sign", -0.0000004, "-4e-07", "0.000000", "0");
+    row("the smallest with a sign", -0.0000006, "-6e-07", "-0.000001", "0");
+    row("seven digits", 1234567, "1.23457e+06", "1234567.000000", "1234567");
+    row("more digits than a double has", 1e22, "1e+22", "10000000000000000000000.000000",
+        "10000000000000000000000");
+    row("without end", infinite, "inf", "inf", "inf");
+    row("no number", notANumber, "nan", "nan", "nan");
+}
+
+void TestNumbers::aNumberIsWritten()
+{
+    QFETCH(double, value);
+    QTEST(general(value), "inGeneral");
+    QTEST(sixDecimals(value), "withSixDecimals");
+    std::array<char, mostDigitsOfDouble> text{};
+    const char *const end = writeWhole(text.data(), value);
+    QTEST(QByteArray(text.data(), static_cast<int>(end - text.data())), "whole");
+}
+
+void TestNumbers::wideIntegersAreWritten()
+{
+    const auto written = [](qint64 value) {
+        std::array<char, mostDigitsOfDouble> text{};
+        return QByteArray(
+            text.data(), static_cast<int>(writeWhole(text.data(), value) - text.data()));
+    };
+    QCOMPARE(written(0), QByteArray("0"));
+    QCOMPARE(written(10), QByteArray("10"));
+    QCOMPARE(written(-1), QByteArray("-1"));
+    QCOMPARE(written(std::numeric_limits<qint64>::max()), QByteArray("9223372036854775807"));
+    QCOMPARE(written(std::numeric_limits<qint64>::min()), QByteArray("-9223372036854775808"));
+    // The largest double has 309 digits.
+    std::array<char, mostDigitsOfDouble> text{};
+    QCOMPARE(writeWhole(text.data(), -std::numeric_limits<double>::max()) - text.data(), 310L);
 }
 
 QTEST_APPLESS_MAIN(TestNumbers)

@@ -24,6 +24,26 @@ namespace {
 
 const double infinite = std::numeric_limits<double>::infinity();
 
+#ifdef Q_OS_UNIX
+// While it lives, the administrator has the rights of an ordinary user.
+class OrdinaryUser {
+public:
+    static constexpr uid_t id = 65534;
+
+    OrdinaryUser() : m_wasRoot(geteuid() == 0 && setresuid(id, id, 0) == 0) { }
+    ~OrdinaryUser()
+    {
+        if (m_wasRoot && setresuid(0, 0, 0) != 0)
+            qFatal("The rights of the administrator are gone.");
+    }
+    OrdinaryUser(const OrdinaryUser &) = delete;
+    OrdinaryUser &operator=(const OrdinaryUser &) = delete;
+
+private:
+    const bool m_wasRoot;
+};
+#endif
+
 } // namespace
 
 class TestWrittenFiles : public QObject {
@@ -43,11 +63,13 @@ private slots:
 #ifdef Q_OS_UNIX
     void aFolderThatTakesNoNewFilesHasItsFilesReplaced_data();
     void aFolderThatTakesNoNewFilesHasItsFilesReplaced();
-    void aFileThatMayNotBeReplacedIsWrittenInPlace();
+    void aProtectedFileKeepsItsPair_data();
+    void aProtectedFileKeepsItsPair();
+    void aFileThatMayNotBeReplacedKeepsItsPair_data();
+    void aFileThatMayNotBeReplacedKeepsItsPair();
     void linksAreFollowedToFilesAlone();
     void aFileThatCannotBeWrittenInFullIsTold_data();
     void aFileThatCannotBeWrittenInFullIsTold();
-    void aFileThatIsWrittenInPlaceAndDoesNotFitIsTold();
 #endif
     void aCopyReadsAsTheOriginalAndCopiesToTheSameBytes_data();
     void aCopyReadsAsTheOriginalAndCopiesToTheSameBytes();
@@ -113,10 +135,11 @@ void TestWrittenFiles::longNames_data()
     const auto name = [](int letters) { return QString(letters, QLatin1Char('n')); };
     const QString wide = QString(81, QChar(0x7535)); // of three bytes each
     QTest::newRow("that leave room for a temporary name") << name(244) << true;
-    QTest::newRow("that leave none") << name(245) << true;
-    QTest::newRow("as long as may be") << name(251) << true;
+    QTest::newRow("that leave none") << name(245) << false;
+    QTest::newRow("as long as may be") << name(251) << false;
     QTest::newRow("too long") << name(252) << false;
-    QTest::newRow("that leave none by their bytes") << wide + name(2) << true;
+    QTest::newRow("that leave room by their bytes") << wide + name(1) << true;
+    QTest::newRow("that leave none by their bytes") << wide + name(2) << false;
     QTest::newRow("too long by their bytes") << wide + name(9) << false;
 }
 
@@ -257,20 +280,16 @@ void TestWrittenFiles::aFolderThatTakesNoNewFilesHasItsFilesReplaced()
         QCOMPARE(chmod(qPrintable(path), 0666), 0);
     }
     QCOMPARE(chmod(qPrintable(folder.path()), 0555), 0);
-    // What a folder does not allow, it does not allow to ordinary users alone.
-    constexpr uid_t nobody = 65534;
-    const bool isRoot = geteuid() == 0;
-    if (isRoot)
-        QCOMPARE(seteuid(nobody), 0);
-    const bool isReached
-        = QFile(folder.filePath(QStringLiteral("out.cfg"))).open(QIODevice::ReadWrite);
-    const auto outcome = [&] {
+    bool isReached = false;
+    RecordingWriter::Outcome outcome;
+    {
+        // What a folder does not allow, it does not allow to ordinary users alone.
+        const OrdinaryUser user;
+        isReached = QFile(folder.filePath(QStringLiteral("out.cfg"))).open(QIODevice::ReadWrite);
         const FileSizeLimit limit(static_cast<rlim_t>(room));
-        return RecordingWriter(recording, {}, {})
-            .write(folder.filePath(QStringLiteral("out")), 0, infinite);
-    }();
-    if (isRoot)
-        QCOMPARE(seteuid(0), 0);
+        outcome = RecordingWriter(recording, {}, {})
+                      .write(folder.filePath(QStringLiteral("out")), 0, infinite);
+    }
     QCOMPARE(chmod(qPrintable(folder.path()), 0755), 0);
     if (!isReached)
         QSKIP("The folder for tests cannot be entered by an ordinary user.");
@@ -284,35 +303,104 @@ void TestWrittenFiles::aFolderThatTakesNoNewFilesHasItsFilesReplaced()
     }
 }
 
-// In a folder shared by all, everybody may make files, but only replace their own.
-void TestWrittenFiles::aFileThatMayNotBeReplacedIsWrittenInPlace()
+void TestWrittenFiles::aProtectedFileKeepsItsPair_data()
 {
+    QTest::addColumn<int>("configurationRights"); // 0: there is no such file
+    QTest::addColumn<int>("dataRights");
+    QTest::addColumn<bool>("isConfigurationWritten");
+    QTest::addColumn<bool>("isDataWritten");
+    QTest::newRow("none is protected") << 0666 << 0666 << true << true;
+    QTest::newRow("the configuration") << 0444 << 0666 << false << false;
+    QTest::newRow("the data") << 0666 << 0444 << false << false;
+    QTest::newRow("both") << 0444 << 0444 << false << false;
+    QTest::newRow("a configuration without data") << 0444 << 0 << false << true;
+    QTest::newRow("data without a configuration") << 0 << 0444 << true << false;
+}
+
+void TestWrittenFiles::aProtectedFileKeepsItsPair()
+{
+    QFETCH(int, configurationRights);
+    QFETCH(int, dataRights);
+    const RecordingFolder source;
+    CFGProperties recording;
+    source.load(recording, configurationText().text(), dataUpTo(3));
+    const QTemporaryDir folder(QDir::temp().filePath(QStringLiteral("protected-XXXXXX")));
+    QCOMPARE(chmod(qPrintable(folder.path()), 0777), 0);
+    const QString configuration = folder.filePath(QStringLiteral("out.cfg"));
+    const QString data = folder.filePath(QStringLiteral("out.dat"));
+    const auto makeFile = [](const QString &path, int rights) {
+        return rights == 0
+            || (writeTextFile(path, "as before")
+                && chmod(qPrintable(path), static_cast<mode_t>(rights)) == 0);
+    };
+    QVERIFY(makeFile(configuration, configurationRights));
+    QVERIFY(makeFile(data, dataRights));
+    bool isReached = false;
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        const OrdinaryUser user;
+        isReached = QFileInfo(folder.path()).isWritable();
+        const auto outcome = RecordingWriter(recording, {}, {}).write(configuration, 1, 1);
+        QVERIFY2(!outcome.hasFailed(), qPrintable(outcome.error)); // no word of it
+    }
+    if (!isReached)
+        QSKIP("The folder for tests cannot be entered by an ordinary user.");
+    QTEST(contents(configuration).startsWith("Harju,"), "isConfigurationWritten");
+    QTEST(contents(data) == "2,0,1,-1,1", "isDataWritten");
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+}
+
+void TestWrittenFiles::aFileThatMayNotBeReplacedKeepsItsPair_data()
+{
+    QTest::addColumn<QByteArray>("configuration"); // whose file it is
+    QTest::addColumn<QByteArray>("data");
+    QTest::addColumn<QString>("failed");
+    const QString configuration = QStringLiteral("out.cfg");
+    const QString data = QStringLiteral("out.dat");
+    QTest::newRow("the data") << QByteArray("own") << QByteArray("other") << data;
+    QTest::newRow("the data, no configuration") << QByteArray() << QByteArray("other") << data;
+    QTest::newRow("the configuration") << QByteArray("other") << QByteArray("own") << configuration;
+    QTest::newRow("both") << QByteArray("other") << QByteArray("other") << configuration;
+}
+
+// In a folder shared by all, everybody may make files and write to these, but only replace their
+// own.
+void TestWrittenFiles::aFileThatMayNotBeReplacedKeepsItsPair()
+{
+    QFETCH(QByteArray, configuration);
+    QFETCH(QByteArray, data);
+    QFETCH(QString, failed);
     if (geteuid() != 0)
         QSKIP("Only the administrator can make files of other users.");
     const RecordingFolder source;
     CFGProperties recording;
     source.load(recording, configurationText().text(), dataUpTo(3));
     const QTemporaryDir folder(QDir::temp().filePath(QStringLiteral("shared-XXXXXX")));
-    const QString configuration = folder.filePath(QStringLiteral("out.cfg"));
-    const QString data = folder.filePath(QStringLiteral("out.dat"));
-    QVERIFY(writeTextFile(configuration, "as before"));
-    QVERIFY(writeTextFile(data, QByteArray(100000, 'x')));
-    constexpr uid_t nobody = 65534;
-    QCOMPARE(chown(qPrintable(configuration), nobody, nobody), 0);
-    QCOMPARE(chmod(qPrintable(data), 0666), 0);
+    const auto makeFile = [&folder](const char *name, const QByteArray &owner) {
+        const QString path = folder.filePath(QLatin1String(name));
+        const uid_t user = owner == "own" ? OrdinaryUser::id : 0;
+        return owner.isEmpty()
+            || (writeTextFile(path, "as before") && chmod(qPrintable(path), 0666) == 0
+                && chown(qPrintable(path), user, user) == 0);
+    };
+    QVERIFY(makeFile("out.cfg", configuration));
+    QVERIFY(makeFile("out.dat", data));
     QCOMPARE(chmod(qPrintable(folder.path()), 01777), 0);
-    QCOMPARE(seteuid(nobody), 0);
-    const bool isReached = QFile(data).open(QIODevice::ReadWrite | QIODevice::ExistingOnly);
-    const auto outcome = RecordingWriter(recording, {}, {}).write(configuration, 1, 1);
-    QCOMPARE(seteuid(0), 0);
+    bool isReached = false;
+    RecordingWriter::Outcome outcome;
+    {
+        const OrdinaryUser user;
+        isReached = QFileInfo(folder.path()).isWritable();
+        const QString path = folder.filePath(QStringLiteral("out"));
+        outcome = RecordingWriter(recording, {}, {}).write(path, 1, 1);
+    }
     if (!isReached)
         QSKIP("The folder for tests cannot be entered by an ordinary user.");
-    QVERIFY2(!outcome.hasFailed(), qPrintable(outcome.error));
-    QVERIFY(contents(configuration).startsWith("Harju,"));
-    QCOMPARE(contents(data), QByteArray("2,0,1,-1,1"));
-    QCOMPARE(QFileInfo(configuration).ownerId(), nobody);
-    QCOMPARE(QFileInfo(data).ownerId(), 0U);
-    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+    QCOMPARE(outcome.failedFile, folder.filePath(failed));
+    QCOMPARE(outcome.error, QStringLiteral("Operation not permitted"));
+    const QStringList files = QDir(folder.path()).entryList(QDir::Files | QDir::Hidden);
+    QCOMPARE(files.size(), configuration.isEmpty() ? 1 : 2);
+    for (const QString &name : files)
+        QCOMPARE(contents(folder.filePath(name)), QByteArray("as before"));
 }
 
 void TestWrittenFiles::linksAreFollowedToFilesAlone()
@@ -395,20 +483,6 @@ void TestWrittenFiles::aFileThatCannotBeWrittenInFullIsTold()
     QCOMPARE(contents(configuration), QByteArray("as before"));
     QCOMPARE(contents(data), QByteArray("as before"));
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
-}
-
-void TestWrittenFiles::aFileThatIsWrittenInPlaceAndDoesNotFitIsTold()
-{
-    const QTemporaryDir folder;
-    const RecordingFolder source;
-    CFGProperties recording;
-    source.load(recording, configurationText().text(), dataUpTo(300));
-    const RecordingWriter writer(recording, {}, {});
-    const QString target = folder.filePath(QString(250, QLatin1Char('n')));
-    const FileSizeLimit limit(1000);
-    const auto outcome = writer.write(target, -infinite, infinite);
-    QCOMPARE(outcome.failedFile, target + QLatin1String(".dat"));
-    QCOMPARE(outcome.error, QStringLiteral("File too large"));
 }
 #endif
 
