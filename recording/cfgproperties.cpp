@@ -15,23 +15,27 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <new>
 
 namespace {
 
 // Where a path does not exist, the file of the same folder whose name differs in case only, as
-// Windows finds it by itself.
+// Windows finds it by itself. Of several, one that differs in the case of its ending alone is
+// nearest.
 QString existingPath(const QString &path)
 {
     const QFileInfo wanted(path);
     if (wanted.exists())
         return path;
     const QDir folder = wanted.dir();
+    QString found;
     const QStringList names = folder.entryList(QDir::Files);
     for (const QString &name : names) {
-        if (name.compare(wanted.fileName(), Qt::CaseInsensitive) == 0)
-            return folder.filePath(name);
+        const bool isAlike = name.compare(wanted.fileName(), Qt::CaseInsensitive) == 0;
+        if (isAlike && (found.isEmpty() || name.startsWith(wanted.completeBaseName())))
+            found = name;
     }
-    return path;
+    return found.isEmpty() ? path : folder.filePath(found);
 }
 
 } // namespace
@@ -43,6 +47,22 @@ CFGProperties::~CFGProperties() = default;
 void CFGProperties::init()
 {
     clearConfig();
+    try {
+        load();
+    } catch (const std::bad_alloc &) {
+        // Records are kept for those who hold them; these no one has seen yet.
+        for (AnalogChannel *channel : qAsConst(analogChannels))
+            *channel = AnalogChannel();
+        for (DigitalChannel *channel : qAsConst(digitalChannels))
+            *channel = DigitalChannel();
+        clearConfig();
+        loaded = 0;
+    }
+    emit initFinished();
+}
+
+void CFGProperties::load()
+{
     if (isTextExport(filePath)) {
         readTxtFile();
         loaded = 1;
@@ -51,7 +71,6 @@ void CFGProperties::init()
         loaded = readDatFile() ? 1 : 0;
         fftTransform();
     }
-    emit initFinished();
 }
 
 void CFGProperties::readConfgFile()

@@ -17,7 +17,7 @@ public:
 
     // These three survive clearConfig().
     QString filePath; // file to load; names the ".dat" file after a COMTRADE load
-    int loaded = 0; // result of the last init(): 1 loaded, 0 failed
+    int loaded = 0; // result of the last init(): 1 loaded, 0 failed, also for want of memory
     double timeMultiplier = 1.0; // read, not applied
 
     // Reads the ASCII data file beside the configuration (clause 6) and makes the channel records.
@@ -45,4 +45,7 @@ public slots:
     void init();
     void fftTransform();
     void clearConfig();
+
+private:
+    void load();
 };

@@ -48,6 +48,8 @@ private slots:
     void capitalTxtIsAConfiguration();
     void theDataFileIsNamedAfterTheConfiguration_data();
     void theDataFileIsNamedAfterTheConfiguration();
+    void ofSeveralDataFilesTheNearestIsRead_data();
+    void ofSeveralDataFilesTheNearestIsRead();
     void analogChannelsAreNumberedFromOneAndWrapOnce();
     void digitalChannelsAreNumberedFromOne();
     void extremesOfAllChannels();
@@ -292,6 +294,43 @@ void TestCfgProperties::theDataFileIsNamedAfterTheConfiguration()
     QCOMPARE(recording.loaded, 1);
     QCOMPARE(recording.sampleCount, 2);
     QCOMPARE(recording.filePath, folder.filePath(pathAfterwards));
+}
+
+void TestCfgProperties::ofSeveralDataFilesTheNearestIsRead_data()
+{
+    QTest::addColumn<QString>("configuration");
+    QTest::addColumn<QStringList>("others"); // of one sample
+    QTest::addColumn<QString>("data"); // of two samples
+    const auto row
+        = [](const char *name, const char *configuration, const char *others, const char *data) {
+              QTest::newRow(name) << QString::fromLatin1(configuration)
+                                  << QString::fromLatin1(others).split(QLatin1Char(' '))
+                                  << QString::fromLatin1(data);
+          };
+    row("capitals among small letters", "REC.CFG", "Rec.DAT rec.DAT rec.dat", "REC.DAT");
+    row("small letters among capitals", "rec.CFG", "REC.DAT Rec.DAT REC.dat", "rec.DAT");
+    row("mixed letters", "Rec.Cfg", "REC.DAT rec.DAT rEC.dat", "Rec.Dat");
+    row("points in the name", "A.b.CFG", "A.B.DAT a.b.dat", "A.b.Dat");
+    row("the very name before all", "REC.CFG", "REC.DAT rec.dat", "REC.dat");
+}
+
+void TestCfgProperties::ofSeveralDataFilesTheNearestIsRead()
+{
+    QFETCH(QString, configuration);
+    QFETCH(QStringList, others);
+    QFETCH(QString, data);
+    const QTemporaryDir folder;
+    QVERIFY(writeTextFile(folder.filePath(configuration), twoChannels()));
+    QVERIFY(writeTextFile(folder.filePath(data), twoSamples));
+    if (QFileInfo::exists(
+            folder.filePath(data.toLower() == data ? data.toUpper() : data.toLower())))
+        QSKIP("Names that differ in case alone are one here.");
+    for (const QString &other : others)
+        QVERIFY(writeTextFile(folder.filePath(other), "1,0,9,9,0,0\n"));
+    CFGProperties recording;
+    recording.filePath = folder.filePath(configuration);
+    recording.init();
+    QCOMPARE(recording.sampleCount, 2);
 }
 
 void TestCfgProperties::analogChannelsAreNumberedFromOneAndWrapOnce()
