@@ -51,7 +51,7 @@ void TestLackOfMemory::aLoadFailsAndTheNextOneDoesNot()
     QFETCH(QString, name);
     const RecordingFolder folder;
     QVERIFY(writeTextFile(folder.path("long.cfg"), configuration().text()));
-    QVERIFY(writeTextFile(folder.path("long.dat"), QByteArray("1,0,3,4,0,1\n").repeated(30000)));
+    QVERIFY(writeTextFile(folder.path("long.dat"), QByteArray("1,0,3,4,0,1\n").repeated(10000)));
     QVERIFY(writeTextFile(folder.path("wide.cfg"), "S,D,1999\n4000,2000A,2000D\n"));
     QVERIFY(writeTextFile(folder.path("wide.dat"), QByteArray(4001, ',') + '\n'));
     QVERIFY(writeTextFile(
@@ -61,7 +61,7 @@ void TestLackOfMemory::aLoadFailsAndTheNextOneDoesNot()
     QVERIFY(writeTextFile(folder.path("transforms.dat"), QByteArray("1,0,3,4\n").repeated(1500)));
     QVERIFY(writeTextFile(folder.path("cycle.dat"), QByteArray("1,0,3,4\n").repeated(1000)));
     QVERIFY(writeTextFile(folder.path("long.txt"),
-        "#Ua,Ub\n" + QByteArray("01/02/2020-10:00:00:000,1,2\n").repeated(30000)));
+        "#Ua,Ub\n" + QByteArray("01/02/2020-10:00:00:000,1,2\n").repeated(10000)));
     QVERIFY(writeTextFile(folder.path("small.cfg"), configuration().text()));
     QVERIFY(writeTextFile(folder.path("small.dat"), "1,0,3,-4,0,1\n2,1000,-5,6,0,0\n"));
 
@@ -70,7 +70,7 @@ void TestLackOfMemory::aLoadFailsAndTheNextOneDoesNot()
     const QString path = recording.filePath;
     int failures = 0;
     int successes = 0;
-    for (int kilobytes = 0; kilobytes < 32768 && successes < 2; kilobytes += 128) {
+    for (int kilobytes = 0; kilobytes < 16384 && successes < 2; kilobytes += 16) {
         recording.clearConfig();
         recording.filePath = path;
         const QSignalSpy finished(&recording, &CFGProperties::initFinished);
