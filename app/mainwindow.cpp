@@ -38,18 +38,18 @@ MainWindow::MainWindow(QWidget *parent)
     setStyleSheet(applicationStyleSheet());
     PlotValues::shared() = PlotValues();
 
-    addPlotterDialog = new AddPlotterDialog(this);
-    vectorDialog = new VectorDialog(this);
-    vectorDialog->setMainWindow(this);
-    saveDialog = new SaveDialog(this);
-    ctvtDialog = new CTVTDialog(this);
-    translator = new QTranslator(this);
+    m_addPlotterDialog = new AddPlotterDialog(this);
+    m_vectorDialog = new VectorDialog(this);
+    m_vectorDialog->setMainWindow(this);
+    m_saveDialog = new SaveDialog(this);
+    m_ctvtDialog = new CTVTDialog(this);
+    m_translator = new QTranslator(this);
 
     for (QWidget *widget : {static_cast<QWidget *>(ui->groupBox), ui->scrollWidget}) {
         widget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
         widget->setFocusPolicy(Qt::WheelFocus);
     }
-    plotLayout = new QVBoxLayout(ui->scrollWidget);
+    m_plotLayout = new QVBoxLayout(ui->scrollWidget);
 
     createActions();
     createMenus();
@@ -72,38 +72,38 @@ MainWindow::MainWindow(QWidget *parent)
 
 MainWindow::~MainWindow()
 {
-    unpacker->stop();
+    m_unpacker->stop();
     stopLoader();
     disposePlots();
 }
 
 CFGProperties *MainWindow::recording() const
 {
-    return hasRecording ? cfgProperties : nullptr;
+    return m_hasRecording ? m_cfgProperties : nullptr;
 }
 
 QString MainWindow::recordingsFolder() const
 {
-    return drFilesPath;
+    return m_drFilesPath;
 }
 
 void MainWindow::refreshVectors()
 {
-    vectorDialog->refresh();
+    m_vectorDialog->refresh();
 }
 
 void MainWindow::slotLanguageChanged(QAction *action)
 {
-    languageFileName = action->data().toString();
-    QCoreApplication::removeTranslator(translator);
-    loadTranslation(*translator, languageFileName);
-    QCoreApplication::installTranslator(translator);
+    m_languageFileName = action->data().toString();
+    QCoreApplication::removeTranslator(m_translator);
+    loadTranslation(*m_translator, m_languageFileName);
+    QCoreApplication::installTranslator(m_translator);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    unpacker->stop();
-    writeSettings({pos(), size(), isMaximized()}, languageFileName);
+    m_unpacker->stop();
+    writeSettings({pos(), size(), isMaximized()}, m_languageFileName);
     event->accept();
     stopLoader();
     enableRecordingActions(false);
@@ -112,11 +112,11 @@ void MainWindow::closeEvent(QCloseEvent *event)
 void MainWindow::readSettings()
 {
     const WindowPlace place = readWindowPlace();
-    languageFileName = brandDetails(ApplicationIdentity::brand()).defaultTranslation;
-    loadTranslation(*translator, languageFileName);
-    QCoreApplication::installTranslator(translator);
+    m_languageFileName = brandDetails(ApplicationIdentity::brand()).defaultTranslation;
+    loadTranslation(*m_translator, m_languageFileName);
+    QCoreApplication::installTranslator(m_translator);
     for (QAction *action : qAsConst(languageActions)) {
-        if (action->data().toString() == languageFileName) {
+        if (action->data().toString() == m_languageFileName) {
             action->setChecked(true);
             break;
         }
@@ -127,35 +127,35 @@ void MainWindow::readSettings()
         resize(place.size);
         move(place.position);
     }
-    drFilesPath = companionRecordingsFolder();
+    m_drFilesPath = companionRecordingsFolder();
 }
 
 void MainWindow::createLoader()
 {
-    unpacker = new PackageUnpacker(this);
-    connect(unpacker->process(), &QProcess::readyRead, this, &MainWindow::processZip);
-    connect(unpacker->process(), QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished),
+    m_unpacker = new PackageUnpacker(this);
+    connect(m_unpacker->process(), &QProcess::readyRead, this, &MainWindow::processZip);
+    connect(m_unpacker->process(), QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished),
         this, &MainWindow::endZip);
-    connect(unpacker, &PackageUnpacker::packageInvalid, this, &MainWindow::showInvalidPackage);
+    connect(m_unpacker, &PackageUnpacker::packageInvalid, this, &MainWindow::showInvalidPackage);
 
-    loaderThread = new QThread;
-    cfgProperties = new CFGProperties;
-    cfgProperties->moveToThread(loaderThread);
-    connect(this, &MainWindow::initProperties, cfgProperties, &CFGProperties::init);
-    connect(loaderThread, &QThread::finished, cfgProperties, &QObject::deleteLater);
-    loaderThread->start(QThread::InheritPriority);
+    m_loaderThread = new QThread;
+    m_cfgProperties = new CFGProperties;
+    m_cfgProperties->moveToThread(m_loaderThread);
+    connect(this, &MainWindow::initProperties, m_cfgProperties, &CFGProperties::init);
+    connect(m_loaderThread, &QThread::finished, m_cfgProperties, &QObject::deleteLater);
+    m_loaderThread->start(QThread::InheritPriority);
 }
 
 void MainWindow::stopLoader()
 {
-    if (!cfgProperties)
+    if (!m_cfgProperties)
         return;
-    queuedPath.reset();
-    loaderThread->requestInterruption();
-    loaderThread->quit();
-    loaderThread->wait();
-    delete loaderThread;
-    loaderThread = nullptr;
-    hasRecording = false;
-    cfgProperties = nullptr;
+    m_queuedPath.reset();
+    m_loaderThread->requestInterruption();
+    m_loaderThread->quit();
+    m_loaderThread->wait();
+    delete m_loaderThread;
+    m_loaderThread = nullptr;
+    m_hasRecording = false;
+    m_cfgProperties = nullptr;
 }

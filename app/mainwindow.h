@@ -122,17 +122,13 @@ private:
     void setCurrentFile(const QString &path);
 
     QPixmap capture(CaptureTarget target);
-    void smoothLetters(bool smooth); // of the plots
-    void stylePlots(const QString &styleSheet);
     QList<Plotter *> plots() const; // all that exist
-    bool mayReplace(QStringList files); // asks where some exist
     RecordingWriter recordingWriter() const; // with the ratings of the CT/VT dialog
     void reportSaving(const QString &failedFile, const QString &error); // empty: none failed
 
     void createPlots(); // for the recording just loaded
     void retranslatePlots(); // their names and the entries of the value modes
     void disposePlots();
-    QStringList analogNames() const;
     bool hasPhasors() const; // of the recording on screen; spectra are offered then
     void equip(Plotter *plot); // a new one, with what it needs of the window
     // A plot of the channels named; of several of one name, their 0-based numbers tell which.
@@ -144,60 +140,61 @@ private:
     void refreshSpectra();
 
     std::unique_ptr<Ui::MainWindow> ui;
-    AddPlotterDialog *addPlotterDialog = nullptr;
-    VectorDialog *vectorDialog = nullptr;
-    SaveDialog *saveDialog = nullptr;
-    CTVTDialog *ctvtDialog = nullptr;
-    QTranslator *translator = nullptr;
-
-    PackageUnpacker *unpacker = nullptr;
-    QThread *loaderThread = nullptr;
-    CFGProperties *cfgProperties = nullptr; // lives on loaderThread; null once that has stopped
-    bool opening = false;
-    std::optional<QString> queuedPath; // to be opened next
-    bool isComtrade = false;
-    bool hasRecording = false;
-    bool localTimes = false;
-    QString currentFile;
-    QString drFilesPath; // recordings folder
-    QString languageFileName;
+    AddPlotterDialog *m_addPlotterDialog = nullptr;
+    VectorDialog *m_vectorDialog = nullptr;
+    SaveDialog *m_saveDialog = nullptr;
+    CTVTDialog *m_ctvtDialog = nullptr;
+    QTranslator *m_translator = nullptr;
+    PackageUnpacker *m_unpacker = nullptr;
+    QThread *m_loaderThread = nullptr;
+    CFGProperties *m_cfgProperties = nullptr; // lives on m_loaderThread; null once that has stopped
+    bool m_opening = false;
+    std::optional<QString> m_queuedPath; // to be opened next
+    bool m_hasRecording = false;
+    bool m_localTimes = false;
+    QString m_drFilesPath; // recordings folder
+    QString m_languageFileName;
     QList<QAction *> languageActions; // English, Suomi, 中文
 
-    QAction *openAct = nullptr;
-    QAction *saveAsAct = nullptr;
-    QAction *saveAsPrimaryAct = nullptr;
-    QAction *addPlotterAct = nullptr;
-    QAction *removePlotterAct = nullptr;
-    QAction *removeCursorsAct = nullptr;
-    QAction *showVectorsAct = nullptr;
-    QAction *rescaleAct = nullptr;
-    QAction *screenshotAct = nullptr;
-    QAction *clipboardAct = nullptr;
-    QAction *zoomInAct = nullptr;
-    QAction *zoomOutAct = nullptr;
-    QAction *zoomResetAct = nullptr;
-    QAction *vZoomInAct = nullptr;
-    QAction *vZoomOutAct = nullptr;
-    QAction *exitAct = nullptr;
-    QAction *aboutAct = nullptr;
-    QMenu *fileMenu = nullptr;
-    QMenu *editMenu = nullptr;
-    QMenu *toolsMenu = nullptr;
-    QMenu *helpMenu = nullptr;
-    QMenu *languageMenu = nullptr;
-    QCheckBox *showAnglesCheckBox = nullptr;
-    ElidingComboBox *referenceCombo = nullptr;
-    QLabel *primSecLabel = nullptr;
-    ElidingComboBox *primSecCombo = nullptr;
+    QAction *m_openAct = nullptr;
+    QAction *m_saveAsAct = nullptr;
+    QAction *m_saveAsPrimaryAct = nullptr;
+    QAction *m_addPlotterAct = nullptr;
+    QAction *m_removePlotterAct = nullptr;
+    QAction *m_removeCursorsAct = nullptr;
+    QAction *m_showVectorsAct = nullptr;
+    QAction *m_rescaleAct = nullptr;
+    QAction *m_screenshotAct = nullptr;
+    QAction *m_clipboardAct = nullptr;
+    QAction *m_zoomInAct = nullptr;
+    QAction *m_zoomOutAct = nullptr;
+    QAction *m_zoomResetAct = nullptr;
+    QAction *m_vZoomInAct = nullptr;
+    QAction *m_vZoomOutAct = nullptr;
+    QAction *m_exitAct = nullptr;
+    QAction *m_aboutAct = nullptr;
+    QMenu *m_fileMenu = nullptr;
+    QMenu *m_editMenu = nullptr;
+    QMenu *m_toolsMenu = nullptr;
+    QMenu *m_helpMenu = nullptr;
+    QMenu *m_languageMenu = nullptr;
+    QCheckBox *m_showAnglesCheckBox = nullptr;
+    ElidingComboBox *m_referenceCombo = nullptr;
+    QLabel *m_primSecLabel = nullptr;
+    ElidingComboBox *m_primSecCombo = nullptr;
 
-    QScrollBar *horizontalScroll = nullptr;
-    Plotter *analogPlotter = nullptr;
-    plotterDg *digitalPlotter = nullptr;
-    Plotter *spectrumPlotter = nullptr; // there is none
-    QList<Plotter *> addedPlotters; // in the order of adding
-    QVBoxLayout *plotLayout = nullptr; // of scrollWidget
-    int firstPlotChannels = 6; // at most so many in the first analog plot
-    int mode = 0; // value mode: 0 primary, 1 secondary, 2 per unit
-    int graphCount = 0; // plots named by number so far
-    bool anglesShown = false;
+    QScrollBar *m_horizontalScroll = nullptr;
+    Plotter *m_analogPlotter = nullptr;
+    plotterDg *m_digitalPlotter = nullptr;
+    QList<Plotter *> m_addedPlotters; // in the order of adding
+    QVBoxLayout *m_plotLayout = nullptr; // of scrollWidget
+    int m_firstPlotChannels = 6; // at most so many in the first analog plot
+    int m_mode = 0; // value mode: 0 primary, 1 secondary, 2 per unit
+    int m_graphCount = 0; // plots named by number so far
+    bool m_anglesShown = false;
+
+    // Agreed, though nothing reads them.
+    bool m_isComtrade = false; // whether the latest recording was no text export
+    QString m_currentFile;
+    Plotter *m_spectrumPlotter = nullptr; // there is none
 };

@@ -62,36 +62,36 @@ const QList<MainWindow::ActionEntry> &MainWindow::actionEntries()
 {
     using W = MainWindow;
     static const QList<ActionEntry> entries{
-        {&W::openAct, QT_TR_NOOP("&Open..."), QT_TR_NOOP("Open an existing file."), "open",
+        {&W::m_openAct, QT_TR_NOOP("&Open..."), QT_TR_NOOP("Open an existing file."), "open",
             &W::open, true, QKeySequence::Open},
-        {&W::saveAsAct, QT_TR_NOOP("&Save As.."), QT_TR_NOOP("Save recording to file."), "save",
+        {&W::m_saveAsAct, QT_TR_NOOP("&Save As.."), QT_TR_NOOP("Save recording to file."), "save",
             &W::showSaveDialog, false},
-        {&W::saveAsPrimaryAct, QT_TR_NOOP("Save As &Primary"),
+        {&W::m_saveAsPrimaryAct, QT_TR_NOOP("Save As &Primary"),
             QT_TR_NOOP("Save as a primary type."), "save", &W::saveAsPrimary, false},
-        {&W::addPlotterAct, QT_TR_NOOP("&Add Plotter"), QT_TR_NOOP("Add analog plotter."), "Plus",
+        {&W::m_addPlotterAct, QT_TR_NOOP("&Add Plotter"), QT_TR_NOOP("Add analog plotter."), "Plus",
             &W::setAnalogChannels, false},
-        {&W::removePlotterAct, QT_TR_NOOP("&Remove Plotter"), QT_TR_NOOP("Remoe analog plotter."),
+        {&W::m_removePlotterAct, QT_TR_NOOP("&Remove Plotter"), QT_TR_NOOP("Remoe analog plotter."),
             "minus", &W::removePlotter, false},
-        {&W::removeCursorsAct, QT_TR_NOOP("&Remove All Cursors"), QT_TR_NOOP("Remove all cursors."),
-            "RemoveCursors", &W::removeCursors, false},
-        {&W::showVectorsAct, QT_TR_NOOP("&Show Vectors"), QT_TR_NOOP("Show vectors dialog."),
+        {&W::m_removeCursorsAct, QT_TR_NOOP("&Remove All Cursors"),
+            QT_TR_NOOP("Remove all cursors."), "RemoveCursors", &W::removeCursors, false},
+        {&W::m_showVectorsAct, QT_TR_NOOP("&Show Vectors"), QT_TR_NOOP("Show vectors dialog."),
             "vector"},
-        {&W::rescaleAct, QT_TR_NOOP("Rescale CTVT"), QT_TR_NOOP("Set CTVT ratios."), "",
+        {&W::m_rescaleAct, QT_TR_NOOP("Rescale CTVT"), QT_TR_NOOP("Set CTVT ratios."), "",
             &W::showCTVTDialog, false},
-        {&W::screenshotAct, QT_TR_NOOP("&Save screenshot"), QT_TR_NOOP("Save screenshot."),
+        {&W::m_screenshotAct, QT_TR_NOOP("&Save screenshot"), QT_TR_NOOP("Save screenshot."),
             "screenshot", &W::saveScreenShot},
-        {&W::clipboardAct, QT_TR_NOOP("&Copy to clipboard"), QT_TR_NOOP("Copy to clipboard."),
+        {&W::m_clipboardAct, QT_TR_NOOP("&Copy to clipboard"), QT_TR_NOOP("Copy to clipboard."),
             "clipboard", &W::copyToClipboard},
-        {&W::zoomInAct, QT_TR_NOOP("Zoom In"), QT_TR_NOOP("Zoom in."), "zoomin"},
-        {&W::zoomOutAct, QT_TR_NOOP("Zoom Out"), QT_TR_NOOP("Zoom out."), "zoomout"},
-        {&W::zoomResetAct, QT_TR_NOOP("Zoom Reset"), QT_TR_NOOP("Zoom reset."), "zoomreset"},
-        {&W::vZoomInAct, QT_TR_NOOP("Vertical Zoom In"), QT_TR_NOOP("Vertical zoom in."),
+        {&W::m_zoomInAct, QT_TR_NOOP("Zoom In"), QT_TR_NOOP("Zoom in."), "zoomin"},
+        {&W::m_zoomOutAct, QT_TR_NOOP("Zoom Out"), QT_TR_NOOP("Zoom out."), "zoomout"},
+        {&W::m_zoomResetAct, QT_TR_NOOP("Zoom Reset"), QT_TR_NOOP("Zoom reset."), "zoomreset"},
+        {&W::m_vZoomInAct, QT_TR_NOOP("Vertical Zoom In"), QT_TR_NOOP("Vertical zoom in."),
             "zoominh"},
-        {&W::vZoomOutAct, QT_TR_NOOP("Vertical Zoom Out"), QT_TR_NOOP("Vertical zoom out."),
+        {&W::m_vZoomOutAct, QT_TR_NOOP("Vertical Zoom Out"), QT_TR_NOOP("Vertical zoom out."),
             "zoomouth"},
-        {&W::exitAct, QT_TR_NOOP("E&xit"), QT_TR_NOOP("Exit the application."), "", nullptr, true,
+        {&W::m_exitAct, QT_TR_NOOP("E&xit"), QT_TR_NOOP("Exit the application."), "", nullptr, true,
             QKeySequence::Quit},
-        {&W::aboutAct, QT_TR_NOOP("&About Wavorin"), QT_TR_NOOP("About Wavorin"), "", &W::about},
+        {&W::m_aboutAct, QT_TR_NOOP("&About Wavorin"), QT_TR_NOOP("About Wavorin"), "", &W::about},
     };
     return entries;
 }
@@ -109,41 +109,41 @@ void MainWindow::createActions()
             connect(action, &QAction::triggered, this, entry.slot);
         this->*entry.action = action;
     }
-    connect(showVectorsAct, &QAction::triggered, vectorDialog, &QWidget::show);
-    connect(exitAct, &QAction::triggered, this, &QWidget::close);
+    connect(m_showVectorsAct, &QAction::triggered, m_vectorDialog, &QWidget::show);
+    connect(m_exitAct, &QAction::triggered, this, &QWidget::close);
     createToolBarWidgets();
     createLanguageMenu();
 }
 
 void MainWindow::createToolBarWidgets()
 {
-    showAnglesCheckBox = new QCheckBox(this);
-    showAnglesCheckBox->setObjectName(QStringLiteral("checkBox_showAngles"));
-    showAnglesCheckBox->setEnabled(false);
-    connect(showAnglesCheckBox, &QCheckBox::toggled, this, &MainWindow::showAnglesSlot);
+    m_showAnglesCheckBox = new QCheckBox(this);
+    m_showAnglesCheckBox->setObjectName(QStringLiteral("checkBox_showAngles"));
+    m_showAnglesCheckBox->setEnabled(false);
+    connect(m_showAnglesCheckBox, &QCheckBox::toggled, this, &MainWindow::showAnglesSlot);
 
-    referenceCombo = new ElidingComboBox(this);
-    referenceCombo->setObjectName(QStringLiteral("comboBox_mainReference"));
-    referenceCombo->setEnabled(false);
+    m_referenceCombo = new ElidingComboBox(this);
+    m_referenceCombo->setObjectName(QStringLiteral("comboBox_mainReference"));
+    m_referenceCombo->setEnabled(false);
     // Long channel names widen the list, not the tool bar, which just fits the window.
-    referenceCombo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    referenceCombo->setMinimumContentsLength(5);
-    connect(referenceCombo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+    m_referenceCombo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_referenceCombo->setMinimumContentsLength(5);
+    connect(m_referenceCombo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
         &MainWindow::referenceChanged);
 
-    primSecLabel = new ElidingLabel(tr("Primary/Secondary:"), this);
-    primSecLabel->setStyleSheet(QStringLiteral("QLabel{color:white;}"));
+    m_primSecLabel = new ElidingLabel(tr("Primary/Secondary:"), this);
+    m_primSecLabel->setStyleSheet(QStringLiteral("QLabel{color:white;}"));
 
-    primSecCombo = new ElidingComboBox(this);
-    primSecCombo->setObjectName(QStringLiteral("comboBox_primSec"));
-    primSecCombo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    connect(primSecCombo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+    m_primSecCombo = new ElidingComboBox(this);
+    m_primSecCombo->setObjectName(QStringLiteral("comboBox_primSec"));
+    m_primSecCombo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    connect(m_primSecCombo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
         &MainWindow::primSecChanged);
 }
 
 void MainWindow::createLanguageMenu()
 {
-    languageMenu = new QMenu(this);
+    m_languageMenu = new QMenu(this);
     auto *group = new QActionGroup(this);
     group->setExclusive(true);
     connect(group, &QActionGroup::triggered, this, &MainWindow::slotLanguageChanged);
@@ -152,76 +152,76 @@ void MainWindow::createLanguageMenu()
         action->setCheckable(true);
         action->setData(entry.fileName);
         action->setVisible(entry.visible);
-        languageMenu->addAction(action);
+        m_languageMenu->addAction(action);
         languageActions.append(action);
     }
 }
 
 void MainWindow::createMenus()
 {
-    fileMenu = menuBar()->addMenu(QString());
-    fileMenu->addActions({openAct, saveAsAct, saveAsPrimaryAct});
-    fileMenu->addSeparator();
-    fileMenu->addAction(exitAct);
+    m_fileMenu = menuBar()->addMenu(QString());
+    m_fileMenu->addActions({m_openAct, m_saveAsAct, m_saveAsPrimaryAct});
+    m_fileMenu->addSeparator();
+    m_fileMenu->addAction(m_exitAct);
 
-    editMenu = menuBar()->addMenu(QString());
-    editMenu->addActions({clipboardAct, screenshotAct});
+    m_editMenu = menuBar()->addMenu(QString());
+    m_editMenu->addActions({m_clipboardAct, m_screenshotAct});
 
-    toolsMenu = menuBar()->addMenu(QString());
-    toolsMenu->addActions(
-        {addPlotterAct, removePlotterAct, removeCursorsAct, showVectorsAct, rescaleAct});
-    toolsMenu->addMenu(languageMenu);
+    m_toolsMenu = menuBar()->addMenu(QString());
+    m_toolsMenu->addActions(
+        {m_addPlotterAct, m_removePlotterAct, m_removeCursorsAct, m_showVectorsAct, m_rescaleAct});
+    m_toolsMenu->addMenu(m_languageMenu);
 
     menuBar()->addSeparator();
-    helpMenu = menuBar()->addMenu(QString());
-    helpMenu->addAction(aboutAct);
+    m_helpMenu = menuBar()->addMenu(QString());
+    m_helpMenu->addAction(m_aboutAct);
     retranslateTexts();
 }
 
 void MainWindow::createToolBars()
 {
-    addToolBar(tr("File"))->addAction(openAct);
-    addToolBar(tr("Edit"))->addActions({clipboardAct, screenshotAct});
+    addToolBar(tr("File"))->addAction(m_openAct);
+    addToolBar(tr("Edit"))->addActions({m_clipboardAct, m_screenshotAct});
     addToolBar(tr("Tools"))
-        ->addActions({addPlotterAct, removePlotterAct, removeCursorsAct, showVectorsAct, zoomInAct,
-            zoomOutAct, zoomResetAct, vZoomInAct, vZoomOutAct});
+        ->addActions({m_addPlotterAct, m_removePlotterAct, m_removeCursorsAct, m_showVectorsAct,
+            m_zoomInAct, m_zoomOutAct, m_zoomResetAct, m_vZoomInAct, m_vZoomOutAct});
 
     QToolBar *spectrumBar = addToolBar(tr("FFT"));
-    spectrumBar->addWidget(showAnglesCheckBox);
-    spectrumBar->addWidget(referenceCombo);
+    spectrumBar->addWidget(m_showAnglesCheckBox);
+    spectrumBar->addWidget(m_referenceCombo);
 
     QToolBar *sideBar = addToolBar(tr("Prim/Sec"));
-    sideBar->addWidget(primSecLabel);
-    sideBar->addWidget(primSecCombo);
+    sideBar->addWidget(m_primSecLabel);
+    sideBar->addWidget(m_primSecCombo);
 
     // The Tab key goes from the tool bars through the form, then on to the plots. The group box
     // comes last here: the form's first widget follows the last one anyway, and would not be moved.
-    const QList<QWidget *> stops{primSecCombo, ui->checkBox_convertToLocal, ui->listWidget,
+    const QList<QWidget *> stops{m_primSecCombo, ui->checkBox_convertToLocal, ui->listWidget,
         ui->listWidget2, ui->scrollWidget};
     for (int i = 1; i < stops.size(); ++i)
         setTabOrder(stops.at(i - 1), stops.at(i));
-    setTabOrder(primSecCombo, ui->groupBox);
+    setTabOrder(m_primSecCombo, ui->groupBox);
 }
 
 void MainWindow::enableRecordingActions(bool enabled)
 {
     for (QAction *action :
-        {saveAsAct, saveAsPrimaryAct, addPlotterAct, removeCursorsAct, rescaleAct})
+        {m_saveAsAct, m_saveAsPrimaryAct, m_addPlotterAct, m_removeCursorsAct, m_rescaleAct})
         action->setEnabled(enabled);
     if (!enabled)
-        removePlotterAct->setEnabled(false); // adding a plot enables it
+        m_removePlotterAct->setEnabled(false); // adding a plot enables it
 
     const bool phasors = enabled && hasPhasors();
-    showAnglesCheckBox->setEnabled(phasors);
-    referenceCombo->setEnabled(phasors);
+    m_showAnglesCheckBox->setEnabled(phasors);
+    m_referenceCombo->setEnabled(phasors);
 }
 
 void MainWindow::retranslateTexts()
 {
-    fileMenu->setTitle(tr("&File"));
-    editMenu->setTitle(tr("&Edit"));
-    toolsMenu->setTitle(tr("&Tools"));
-    helpMenu->setTitle(tr("&Help"));
+    m_fileMenu->setTitle(tr("&File"));
+    m_editMenu->setTitle(tr("&Edit"));
+    m_toolsMenu->setTitle(tr("&Tools"));
+    m_helpMenu->setTitle(tr("&Help"));
     for (const ActionEntry &entry : actionEntries()) {
         QAction *action = this->*entry.action;
         const QString text = tr(entry.text);
@@ -229,12 +229,12 @@ void MainWindow::retranslateTexts()
         action->setToolTip(withoutMnemonic(text));
         action->setStatusTip(tr(entry.statusTip));
     }
-    showAnglesCheckBox->setText(tr("Show FFT Angles"));
-    showAnglesCheckBox->setToolTip(tr("Draw the angles of spectrum traces, too"));
-    referenceCombo->setToolTip(tr("Reference channel of the FFT angles"));
-    primSecLabel->setToolTip(tr("Values of the primary or the secondary side, or per unit"));
-    primSecCombo->setToolTip(primSecLabel->toolTip());
-    languageMenu->setTitle(tr("Language"));
+    m_showAnglesCheckBox->setText(tr("Show FFT Angles"));
+    m_showAnglesCheckBox->setToolTip(tr("Draw the angles of spectrum traces, too"));
+    m_referenceCombo->setToolTip(tr("Reference channel of the FFT angles"));
+    m_primSecLabel->setToolTip(tr("Values of the primary or the secondary side, or per unit"));
+    m_primSecCombo->setToolTip(m_primSecLabel->toolTip());
+    m_languageMenu->setTitle(tr("Language"));
 }
 
 // Tool-bar titles, the label in the tool bar, the languages and the message in the status bar keep

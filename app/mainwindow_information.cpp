@@ -72,7 +72,7 @@ void showTimesAsLocal(
 // the load has ended.
 void MainWindow::clearView()
 {
-    const bool disposes = std::exchange(hasRecording, false);
+    const bool disposes = std::exchange(m_hasRecording, false);
     ui->listWidget->setFocus(); // as at the start
     enableRecordingActions(false);
     const QList<QLabel *> values{
@@ -85,58 +85,58 @@ void MainWindow::clearView()
     }
     ui->label4->setToolTip(QString());
     ui->label5->setToolTip(QString());
-    for (ElidingComboBox *combo : {referenceCombo, primSecCombo})
+    for (ElidingComboBox *combo : {m_referenceCombo, m_primSecCombo})
         combo->setTexts({}, -1);
     PlotValues::shared().timesAndPositions.fill(0.0);
 
-    addPlotterDialog->reject();
-    saveDialog->close();
-    saveDialog->setSampleTimes({});
-    ctvtDialog->close();
-    ctvtDialog->clearChannels();
-    vectorDialog->setPlotter(nullptr);
-    vectorDialog->setChannelNames({});
+    m_addPlotterDialog->reject();
+    m_saveDialog->close();
+    m_saveDialog->setSampleTimes({});
+    m_ctvtDialog->close();
+    m_ctvtDialog->clearChannels();
+    m_vectorDialog->setPlotter(nullptr);
+    m_vectorDialog->setChannelNames({});
     if (disposes)
         disposePlots();
-    showAnglesCheckBox->setChecked(false); // reaches no plot any more
+    m_showAnglesCheckBox->setChecked(false); // reaches no plot any more
 }
 
 void MainWindow::showRecording()
 {
-    hasRecording = true; // the plots read the recording while they are made
+    m_hasRecording = true; // the plots read the recording while they are made
     QStringList ids;
     QStringList primaries;
     QStringList secondaries;
-    for (const AnalogChannel *channel : qAsConst(cfgProperties->analogChannels)) {
+    for (const AnalogChannel *channel : qAsConst(m_cfgProperties->analogChannels)) {
         ids.append(channel->id);
         primaries.append(QString::number(channel->primary, 'g', 6));
         secondaries.append(QString::number(channel->secondary, 'g', 6));
         addName(*ui->listWidget, channel->id);
     }
-    for (const DigitalChannel *channel : qAsConst(cfgProperties->digitalChannels))
+    for (const DigitalChannel *channel : qAsConst(m_cfgProperties->digitalChannels))
         addName(*ui->listWidget2, channel->id);
     ui->listWidget->setSelectionMode(QAbstractItemView::MultiSelection);
     ui->listWidget2->setSelectionMode(QAbstractItemView::MultiSelection);
 
-    showName(*ui->label4, cfgProperties->stationName);
-    showName(*ui->label5, cfgProperties->recordingDeviceId);
-    if (localTimes)
-        showTimesAsLocal(*ui, *cfgProperties, QStringLiteral("MM/dd/yyyy"));
+    showName(*ui->label4, m_cfgProperties->stationName);
+    showName(*ui->label5, m_cfgProperties->recordingDeviceId);
+    if (m_localTimes)
+        showTimesAsLocal(*ui, *m_cfgProperties, QStringLiteral("MM/dd/yyyy"));
     else
-        showTimes(*ui, *cfgProperties);
+        showTimes(*ui, *m_cfgProperties);
     createPlots();
     enableRecordingActions(true);
-    ctvtDialog->setChannels(ids, primaries, secondaries);
+    m_ctvtDialog->setChannels(ids, primaries, secondaries);
 }
 
 // The load reads the month first, the check box the day first: the two differ on purpose.
 void MainWindow::showLocalTimes(bool on)
 {
-    localTimes = on;
-    if (!hasRecording)
+    m_localTimes = on;
+    if (!m_hasRecording)
         return;
     if (on)
-        showTimesAsLocal(*ui, *cfgProperties, QStringLiteral("dd/MM/yyyy"));
+        showTimesAsLocal(*ui, *m_cfgProperties, QStringLiteral("dd/MM/yyyy"));
     else
-        showTimes(*ui, *cfgProperties);
+        showTimes(*ui, *m_cfgProperties);
 }

@@ -47,22 +47,22 @@ QString droppedFile(const QDropEvent &event)
 void MainWindow::open()
 {
     const QString path = QFileDialog::getOpenFileName(
-        this, tr("Open File"), drFilesPath, tr("DR-files (*.zip *.cfg *.txt)"));
+        this, tr("Open File"), m_drFilesPath, tr("DR-files (*.zip *.cfg *.txt)"));
     if (!path.isEmpty())
         open(path);
 }
 
 void MainWindow::open(const QString &path)
 {
-    queuedPath = path;
-    if (opening)
+    m_queuedPath = path;
+    if (m_opening)
         return;
-    opening = true;
+    m_opening = true;
     const QPointer<MainWindow> self(this);
-    while (self && cfgProperties && queuedPath)
-        load(*std::exchange(queuedPath, std::nullopt));
+    while (self && m_cfgProperties && m_queuedPath)
+        load(*std::exchange(m_queuedPath, std::nullopt));
     if (self)
-        opening = false;
+        m_opening = false;
 }
 
 void MainWindow::load(QString path)
@@ -87,15 +87,15 @@ void MainWindow::load(QString path)
 bool MainWindow::unpack(QString &path)
 {
     const QPointer<MainWindow> self(this);
-    unpacker->start(path);
+    m_unpacker->start(path);
     // An archiver that cannot be started never ends: the wait goes on until another file is asked
     // for.
-    const auto isGivenUp = [this] { return queuedPath && unpacker->isUnableToStart(); };
-    while (self && unpacker->isBusy() && !isGivenUp())
+    const auto isGivenUp = [this] { return m_queuedPath && m_unpacker->isUnableToStart(); };
+    while (self && m_unpacker->isBusy() && !isGivenUp())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    if (!self || !cfgProperties)
+    if (!self || !m_cfgProperties)
         return false;
-    const QString configuration = unpacker->configuration();
+    const QString configuration = m_unpacker->configuration();
     if (!configuration.isEmpty())
         path = configuration;
     return true;
@@ -103,12 +103,12 @@ bool MainWindow::unpack(QString &path)
 
 bool MainWindow::loadRecording(const QString &path)
 {
-    isComtrade = !isTextExport(path);
+    m_isComtrade = !isTextExport(path);
     const QPointer<QLabel> animation = newLoadingAnimation(this);
     clearView();
     if (!parse(path))
         return false;
-    const bool isLoaded = cfgProperties->loaded != 0;
+    const bool isLoaded = m_cfgProperties->loaded != 0;
     if (isLoaded) {
         showRecording();
         setWindowTitle(ApplicationIdentity::applicationName() + QLatin1String(" - ")
@@ -124,29 +124,29 @@ bool MainWindow::loadRecording(const QString &path)
 bool MainWindow::parse(const QString &path)
 {
     const QPointer<MainWindow> self(this);
-    cfgProperties->filePath = path;
+    m_cfgProperties->filePath = path;
     QEventLoop loop;
     bool finished = false;
-    connect(cfgProperties, &CFGProperties::initFinished, &loop, [&] {
+    connect(m_cfgProperties, &CFGProperties::initFinished, &loop, [&] {
         finished = true;
         loop.quit();
     });
     // A window that closes stops the thread, perhaps before the load has begun.
-    connect(loaderThread, &QThread::finished, &loop, &QEventLoop::quit);
+    connect(m_loaderThread, &QThread::finished, &loop, &QEventLoop::quit);
     emit initProperties();
     loop.exec();
     // The end of the application ends the loop, too: the loader may still be at work.
-    return finished && self && cfgProperties;
+    return finished && self && m_cfgProperties;
 }
 
 void MainWindow::processZip()
 {
-    unpacker->readOutput();
+    m_unpacker->readOutput();
 }
 
 void MainWindow::endZip(int /*exitcode*/)
 {
-    unpacker->end();
+    m_unpacker->end();
 }
 
 void MainWindow::showInvalidPackage()
@@ -176,7 +176,7 @@ void MainWindow::showFileWarning(const QString &text, const QString &path, const
 
 void MainWindow::setCurrentFile(const QString &path)
 {
-    currentFile = path;
+    m_currentFile = path;
     setWindowModified(false);
     setWindowFilePath(path.isEmpty() ? QStringLiteral("untitled.txt") : path);
 }

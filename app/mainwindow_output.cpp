@@ -22,17 +22,11 @@
 
 #include <algorithm>
 
-QList<Plotter *> MainWindow::plots() const
-{
-    QList<Plotter *> all{digitalPlotter, spectrumPlotter, analogPlotter};
-    all += addedPlotters;
-    all.removeAll(nullptr);
-    return all;
-}
+namespace {
 
-void MainWindow::smoothLetters(bool smooth)
+void smoothLetters(const QList<Plotter *> &plots, bool smooth)
 {
-    for (Plotter *plot : plots()) {
+    for (Plotter *plot : plots) {
         const QList<QWidget *> widgets = plot->findChildren<QWidget *>() << plot;
         for (QWidget *widget : widgets) {
             QFont font = widget->font();
@@ -43,19 +37,36 @@ void MainWindow::smoothLetters(bool smooth)
     }
 }
 
-void MainWindow::stylePlots(const QString &styleSheet)
+void stylePlots(const QList<Plotter *> &plots, const QString &styleSheet)
 {
-    for (Plotter *plot : plots())
+    for (Plotter *plot : plots)
         plot->setStyleSheet(styleSheet);
+}
+
+QStringList existing(QStringList files)
+{
+    const auto isNew = [](const QString &file) { return !QFileInfo::exists(file); };
+    files.erase(std::remove_if(files.begin(), files.end(), isNew), files.end());
+    return files;
+}
+
+} // namespace
+
+QList<Plotter *> MainWindow::plots() const
+{
+    QList<Plotter *> all{m_digitalPlotter, m_analogPlotter};
+    all += m_addedPlotters;
+    all.removeAll(nullptr);
+    return all;
 }
 
 QPixmap MainWindow::capture(CaptureTarget target)
 {
-    stylePlots(captureStyle);
+    stylePlots(plots(), captureStyle);
     // The smooth edges of letters would turn as black as the letters and fill their holes.
-    smoothLetters(false);
-    if (digitalPlotter)
-        digitalPlotter->repaint();
+    smoothLetters(plots(), false);
+    if (m_digitalPlotter)
+        m_digitalPlotter->repaint();
     // The frame of what takes the keys belongs to the screen.
     QWidget *focused = focusWidget();
     const bool isFramed
@@ -65,7 +76,7 @@ QPixmap MainWindow::capture(CaptureTarget target)
     const QPixmap captured = ui->scrollWidget->grab(ui->scrollWidget->rect());
     if (isFramed)
         focused->setFocus();
-    smoothLetters(true);
+    smoothLetters(plots(), true);
     const CFGProperties *loaded = recording();
     return printableCapture(captured, target,
         loaded ? captureCaption(loaded->startDate, loaded->startTime)
@@ -83,13 +94,13 @@ void MainWindow::saveScreenShot()
     if (path.isEmpty())
         return;
     picture.save(path, format.toLatin1().constData());
-    stylePlots(screenStyle);
+    stylePlots(plots(), screenStyle);
 }
 
 void MainWindow::copyToClipboard()
 {
     QGuiApplication::clipboard()->setPixmap(capture(CaptureTarget::Clipboard));
-    stylePlots(screenStyle);
+    stylePlots(plots(), screenStyle);
 }
 
 void MainWindow::about()
@@ -101,7 +112,7 @@ void MainWindow::about()
 RecordingWriter MainWindow::recordingWriter() const
 {
     return RecordingWriter(
-        *cfgProperties, ctvtDialog->primaryTexts(), ctvtDialog->secondaryTexts());
+        *m_cfgProperties, m_ctvtDialog->primaryTexts(), m_ctvtDialog->secondaryTexts());
 }
 
 void MainWindow::reportSaving(const QString &failedFile, const QString &error)
@@ -114,28 +125,24 @@ void MainWindow::reportSaving(const QString &failedFile, const QString &error)
 
 void MainWindow::saveRecording(const QString &path, double start, double end)
 {
-    if (!hasRecording)
+    if (!m_hasRecording)
         return;
     const RecordingWriter::Outcome outcome = recordingWriter().write(path, start, end);
     reportSaving(outcome.failedFile, outcome.error);
 }
 
-bool MainWindow::mayReplace(QStringList files)
-{
-    const auto isNew = [](const QString &file) { return !QFileInfo::exists(file); };
-    files.erase(std::remove_if(files.begin(), files.end(), isNew), files.end());
-    return files.isEmpty() || mayOverwrite(this, styleSheet(), files);
-}
-
 void MainWindow::saveAsPrimary()
 {
+    const auto mayReplace = [this](const QStringList &files) {
+        return files.isEmpty() || mayOverwrite(this, styleSheet(), files);
+    };
     // The file dialog knows the name as typed alone, and would ask for nothing else.
     QString path = recordingsFolder();
     do {
         path = QFileDialog::getSaveFileName(this, tr("Save recording"), path, QString(), nullptr,
             QFileDialog::DontConfirmOverwrite);
-    } while (!path.isEmpty() && !mayReplace(RecordingWriter::filesFor(path)));
-    if (path.isEmpty() || !hasRecording)
+    } while (!path.isEmpty() && !mayReplace(existing(RecordingWriter::filesFor(path))));
+    if (path.isEmpty() || !m_hasRecording)
         return;
     const RecordingWriter::Outcome outcome = recordingWriter().writeAsPrimary(path);
     reportSaving(outcome.failedFile, outcome.error);
@@ -143,13 +150,13 @@ void MainWindow::saveAsPrimary()
 
 void MainWindow::showSaveDialog()
 {
-    if (!hasRecording)
+    if (!m_hasRecording)
         return;
-    saveDialog->setSampleTimes(cfgProperties->sampleTimes);
-    saveDialog->show();
+    m_saveDialog->setSampleTimes(m_cfgProperties->sampleTimes);
+    m_saveDialog->show();
 }
 
 void MainWindow::showCTVTDialog()
 {
-    ctvtDialog->show();
+    m_ctvtDialog->show();
 }

@@ -33,6 +33,14 @@ constexpr int scrolledPlotHeight = 320;
 constexpr char numberOfUnnamed[] = "numberOfUnnamed"; // property of a plot that was given no name
 const QString spectrumSuffix = QStringLiteral("_FFT");
 
+QStringList analogNames(const CFGProperties &recording)
+{
+    QStringList names;
+    for (const AnalogChannel *channel : recording.analogChannels)
+        names.append(channel->id);
+    return names;
+}
+
 void select(QListWidget &list, const QList<int> &rows)
 {
     const QSignalBlocker blocker(&list);
@@ -58,30 +66,22 @@ bool showSelection(const QListWidget &list, Plotter &plot)
 
 QScrollBar *MainWindow::horizontalScrollBar() const
 {
-    return horizontalScroll;
+    return m_horizontalScroll;
 }
 
 int MainWindow::valueMode() const
 {
-    return mode;
+    return m_mode;
 }
 
 int MainWindow::referenceIndex() const
 {
-    return std::max(0, referenceCombo->currentIndex());
+    return std::max(0, m_referenceCombo->currentIndex());
 }
 
 bool MainWindow::showsAngles() const
 {
-    return anglesShown;
-}
-
-QStringList MainWindow::analogNames() const
-{
-    QStringList names;
-    for (const AnalogChannel *channel : qAsConst(cfgProperties->analogChannels))
-        names.append(channel->id);
-    return names;
+    return m_anglesShown;
 }
 
 bool MainWindow::hasPhasors() const
@@ -94,72 +94,72 @@ bool MainWindow::hasPhasors() const
 
 void MainWindow::createPlots()
 {
-    horizontalScroll = new QScrollBar(Qt::Horizontal, this);
-    horizontalScroll->setRange(0, 0);
-    ui->verticalLayout_2->addWidget(horizontalScroll);
-    horizontalScroll->show();
+    m_horizontalScroll = new QScrollBar(Qt::Horizontal, this);
+    m_horizontalScroll->setRange(0, 0);
+    ui->verticalLayout_2->addWidget(m_horizontalScroll);
+    m_horizontalScroll->show();
 
-    const QStringList names = analogNames();
-    const bool isSecondary = !cfgProperties->analogChannels.isEmpty()
-        && cfgProperties->analogChannels.constFirst()->ps == QLatin1String("S");
-    mode = isSecondary ? 1 : 0;
-    referenceCombo->setTexts(QStringList(QStringLiteral("-")) + names, 0);
+    const QStringList names = analogNames(*m_cfgProperties);
+    const bool isSecondary = !m_cfgProperties->analogChannels.isEmpty()
+        && m_cfgProperties->analogChannels.constFirst()->ps == QLatin1String("S");
+    m_mode = isSecondary ? 1 : 0;
+    m_referenceCombo->setTexts(QStringList(QStringLiteral("-")) + names, 0);
 
-    analogPlotter = new Plotter(ui->scrollWidget);
-    analogPlotter->setMaximumHeight(largestPlotHeight);
-    digitalPlotter = new plotterDg(ui->scrollWidget);
-    for (Plotter *plot : {analogPlotter, static_cast<Plotter *>(digitalPlotter)}) {
+    m_analogPlotter = new Plotter(ui->scrollWidget);
+    m_analogPlotter->setMaximumHeight(largestPlotHeight);
+    m_digitalPlotter = new plotterDg(ui->scrollWidget);
+    for (Plotter *plot : {m_analogPlotter, static_cast<Plotter *>(m_digitalPlotter)}) {
         equip(plot);
-        plotLayout->addWidget(plot);
+        m_plotLayout->addWidget(plot);
     }
     retranslatePlots();
     linkPlots();
 
-    const int shown = std::min(firstPlotChannels, cfgProperties->analogChannels.size());
+    const int shown = std::min(m_firstPlotChannels, m_cfgProperties->analogChannels.size());
     for (int i = 0; i < shown; ++i)
-        analogPlotter->addChannel(i);
-    for (int i = 0; i < cfgProperties->digitalChannels.size(); ++i) {
-        if (!cfgProperties->digitalChannels.at(i)->allZero)
-            digitalPlotter->addChannel(i);
+        m_analogPlotter->addChannel(i);
+    for (int i = 0; i < m_cfgProperties->digitalChannels.size(); ++i) {
+        if (!m_cfgProperties->digitalChannels.at(i)->allZero)
+            m_digitalPlotter->addChannel(i);
     }
-    analogPlotter->setupPlot();
-    digitalPlotter->setupPlot();
-    analogPlotter->show();
+    m_analogPlotter->setupPlot();
+    m_digitalPlotter->setupPlot();
+    m_analogPlotter->show();
     showChosenChannels();
-    vectorDialog->setPlotter(analogPlotter);
-    vectorDialog->setChannelNames(names);
-    analogPlotter->setFocus();
+    m_vectorDialog->setPlotter(m_analogPlotter);
+    m_vectorDialog->setChannelNames(names);
+    m_analogPlotter->setFocus();
 }
 
 void MainWindow::retranslatePlots()
 {
-    if (!analogPlotter)
+    if (!m_analogPlotter)
         return;
-    analogPlotter->setName(tr("Analog"));
-    digitalPlotter->setName(tr("Digital"));
-    for (Plotter *plot : qAsConst(addedPlotters)) {
+    m_analogPlotter->setName(tr("Analog"));
+    m_digitalPlotter->setName(tr("Digital"));
+    for (Plotter *plot : qAsConst(m_addedPlotters)) {
         const int number = plot->property(numberOfUnnamed).toInt();
         if (number > 0)
             plot->setName(tr("Graph %1").arg(number));
     }
-    primSecCombo->setTexts({tr("P"), tr("S"), tr("Per Unit")}, mode);
+    m_primSecCombo->setTexts({tr("P"), tr("S"), tr("Per Unit")}, m_mode);
 }
 
 void MainWindow::disposePlots()
 {
-    if (!analogPlotter)
+    if (!m_analogPlotter)
         return;
-    analogPlotter->setLinkedPlotters({});
-    analogPlotter->resetPlot(); // plots of the next recording begin at the full view
+    m_analogPlotter->setLinkedPlotters({});
+    m_analogPlotter->resetPlot(); // plots of the next recording begin at the full view
     for (Plotter *plot : plots())
         delete plot;
-    analogPlotter = nullptr;
-    digitalPlotter = nullptr;
-    addedPlotters.clear();
+    m_analogPlotter = nullptr;
+    m_digitalPlotter = nullptr;
+    m_addedPlotters.clear();
     ui->scrollWidget->setMinimumHeight(0);
-    graphCount = 0;
-    delete horizontalScroll;
-    horizontalScroll = nullptr;
+    m_graphCount = 0;
+    delete m_horizontalScroll;
+    m_horizontalScroll = nullptr;
 }
 
 // The digital plot and the added ones hear of time zooms through the first plot, never from the
@@ -168,20 +168,20 @@ void MainWindow::equip(Plotter *plot)
 {
     plot->setMainWindow(this);
     plot->setMinimumHeight(smallestPlotHeight);
-    connect(zoomResetAct, &QAction::triggered, plot, &Plotter::customResetZoom);
-    if (plot == analogPlotter) {
-        connect(zoomOutAct, &QAction::triggered, plot, &Plotter::customZoomOut);
-        connect(zoomInAct, &QAction::triggered, plot, &Plotter::customZoomIn);
+    connect(m_zoomResetAct, &QAction::triggered, plot, &Plotter::customResetZoom);
+    if (plot == m_analogPlotter) {
+        connect(m_zoomOutAct, &QAction::triggered, plot, &Plotter::customZoomOut);
+        connect(m_zoomInAct, &QAction::triggered, plot, &Plotter::customZoomIn);
     }
-    if (plot != digitalPlotter) {
-        connect(vZoomOutAct, &QAction::triggered, plot, &Plotter::customVZoomOut);
-        connect(vZoomInAct, &QAction::triggered, plot, &Plotter::customVZoomIn);
-        connect(ctvtDialog, &CTVTDialog::scaleChanged, plot, &Plotter::refreshSlot);
+    if (plot != m_digitalPlotter) {
+        connect(m_vZoomOutAct, &QAction::triggered, plot, &Plotter::customVZoomOut);
+        connect(m_vZoomInAct, &QAction::triggered, plot, &Plotter::customVZoomIn);
+        connect(m_ctvtDialog, &CTVTDialog::scaleChanged, plot, &Plotter::refreshSlot);
     }
-    connect(saveDialog, &SaveDialog::setStartPoint, plot, &Plotter::setStartPoint);
-    connect(saveDialog, &SaveDialog::setEndPoint, plot, &Plotter::setEndPoint);
-    connect(saveDialog, &SaveDialog::clearPoints, plot, &Plotter::clearSaveMarkers);
-    connect(horizontalScroll, &QScrollBar::valueChanged, plot, &Plotter::scrolling);
+    connect(m_saveDialog, &SaveDialog::setStartPoint, plot, &Plotter::setStartPoint);
+    connect(m_saveDialog, &SaveDialog::setEndPoint, plot, &Plotter::setEndPoint);
+    connect(m_saveDialog, &SaveDialog::clearPoints, plot, &Plotter::clearSaveMarkers);
+    connect(m_horizontalScroll, &QScrollBar::valueChanged, plot, &Plotter::scrolling);
 }
 
 void MainWindow::linkPlots()
@@ -197,18 +197,18 @@ void MainWindow::linkPlots()
 // digital plot stands only where it has some.
 void MainWindow::showChosenChannels()
 {
-    select(*ui->listWidget, analogPlotter->channels());
-    select(*ui->listWidget2, digitalPlotter->channels());
-    digitalPlotter->setMinimumHeight(digitalPlotter->neededHeight());
-    digitalPlotter->setVisible(!digitalPlotter->channels().isEmpty());
+    select(*ui->listWidget, m_analogPlotter->channels());
+    select(*ui->listWidget2, m_digitalPlotter->channels());
+    m_digitalPlotter->setMinimumHeight(m_digitalPlotter->neededHeight());
+    m_digitalPlotter->setVisible(!m_digitalPlotter->channels().isEmpty());
     setColumnHeight();
 }
 
 // A digital plot with many rows would leave the analog plots no more than their smallest height.
 void MainWindow::setColumnHeight()
 {
-    const int rows = digitalPlotter->neededHeight();
-    const int analogPlots = 1 + addedPlotters.size();
+    const int rows = m_digitalPlotter->neededHeight();
+    const int analogPlots = 1 + m_addedPlotters.size();
     ui->scrollWidget->setMinimumHeight(
         rows > smallestPlotHeight ? rows + analogPlots * scrolledPlotHeight : 0);
 }
@@ -227,25 +227,25 @@ void MainWindow::on_listWidget2_clicked(const QModelIndex & /*index*/)
 
 void MainWindow::setRequiredAnChannels()
 {
-    if (!analogPlotter || !showSelection(*ui->listWidget, *analogPlotter))
+    if (!m_analogPlotter || !showSelection(*ui->listWidget, *m_analogPlotter))
         return;
-    analogPlotter->setupPlot();
-    analogPlotter->refreshPixmap();
+    m_analogPlotter->setupPlot();
+    m_analogPlotter->refreshPixmap();
 }
 
 void MainWindow::setRequiredDigitalChannels()
 {
-    if (!digitalPlotter || !showSelection(*ui->listWidget2, *digitalPlotter))
+    if (!m_digitalPlotter || !showSelection(*ui->listWidget2, *m_digitalPlotter))
         return;
     showChosenChannels();
-    digitalPlotter->refreshPixmap();
+    m_digitalPlotter->refreshPixmap();
 }
 
 void MainWindow::setAnalogChannels()
 {
-    if (!hasRecording)
+    if (!m_hasRecording)
         return;
-    const QStringList ids = analogNames();
+    const QStringList ids = analogNames(*m_cfgProperties);
     QStringList offered = ids;
     QVector<int> channels(ids.size()); // of the names offered
     std::iota(channels.begin(), channels.end(), 0);
@@ -255,24 +255,24 @@ void MainWindow::setAnalogChannels()
             channels.append(i);
         }
     }
-    addPlotterDialog->setChannelNames(offered);
-    if (addPlotterDialog->exec() != QDialog::Accepted || !hasRecording)
+    m_addPlotterDialog->setChannelNames(offered);
+    if (m_addPlotterDialog->exec() != QDialog::Accepted || !m_hasRecording)
         return;
     QList<int> chosen;
-    for (const int number : addPlotterDialog->selectedNumbers())
+    for (const int number : m_addPlotterDialog->selectedNumbers())
         chosen.append(channels.at(number));
-    addPlot(addPlotterDialog->selectedChannels(), chosen);
+    addPlot(m_addPlotterDialog->selectedChannels(), chosen);
 }
 
 void MainWindow::addPlotter(const QList<QString> &AnCheckedChannels)
 {
-    if (hasRecording)
+    if (m_hasRecording)
         addPlot(AnCheckedChannels, {});
 }
 
 void MainWindow::addPlot(const QStringList &names, const QList<int> &channels)
 {
-    const QStringList ids = analogNames();
+    const QStringList ids = analogNames(*m_cfgProperties);
     QList<int> numbers;
     for (int i = 0; i < names.size(); ++i) {
         const bool isSpectrum = names.at(i).endsWith(spectrumSuffix);
@@ -283,23 +283,23 @@ void MainWindow::addPlot(const QStringList &names, const QList<int> &channels)
     }
     if (numbers.isEmpty())
         return;
-    removePlotterAct->setEnabled(true);
-    const QString given = addPlotterDialog->graphName().trimmed();
+    m_removePlotterAct->setEnabled(true);
+    const QString given = m_addPlotterDialog->graphName().trimmed();
     const QPointer<Plotter> plot = new Plotter(ui->scrollWidget);
     if (given.isEmpty())
-        plot->setProperty(numberOfUnnamed, ++graphCount);
-    plot->setName(given.isEmpty() ? tr("Graph %1").arg(graphCount) : given);
+        plot->setProperty(numberOfUnnamed, ++m_graphCount);
+    plot->setName(given.isEmpty() ? tr("Graph %1").arg(m_graphCount) : given);
     equip(plot);
-    plotLayout->insertWidget(plotLayout->indexOf(digitalPlotter), plot);
-    setTabOrder(addedPlotters.isEmpty() ? analogPlotter : addedPlotters.constLast(), plot);
-    addedPlotters.append(plot);
+    m_plotLayout->insertWidget(m_plotLayout->indexOf(m_digitalPlotter), plot);
+    setTabOrder(m_addedPlotters.isEmpty() ? m_analogPlotter : m_addedPlotters.constLast(), plot);
+    m_addedPlotters.append(plot);
     setColumnHeight();
     linkPlots();
 
     for (const int number : qAsConst(numbers))
         plot->addChannel(number);
     plot->setupPlot();
-    plot->followFromNowOn(*analogPlotter);
+    plot->followFromNowOn(*m_analogPlotter);
     plot->show();
 
     // The scroll area knows the plot's place only after its layout was done.
@@ -314,53 +314,53 @@ void MainWindow::addPlot(const QStringList &names, const QList<int> &channels)
 
 void MainWindow::removePlotter()
 {
-    if (!addedPlotters.isEmpty()) {
-        Plotter *removed = addedPlotters.takeLast();
+    if (!m_addedPlotters.isEmpty()) {
+        Plotter *removed = m_addedPlotters.takeLast();
         const QWidget *focused = focusWidget();
         if (focused == removed || removed->isAncestorOf(focused))
-            (addedPlotters.isEmpty() ? analogPlotter : addedPlotters.constLast())->setFocus();
+            (m_addedPlotters.isEmpty() ? m_analogPlotter : m_addedPlotters.constLast())->setFocus();
         for (Plotter *plot : plots())
             plot->removeLinkedPlotter(removed->name());
-        plotLayout->removeWidget(removed);
+        m_plotLayout->removeWidget(removed);
         delete removed;
         setColumnHeight();
         ui->scrollWidget->repaint();
     }
-    if (addedPlotters.isEmpty())
-        removePlotterAct->setEnabled(false);
+    if (m_addedPlotters.isEmpty())
+        m_removePlotterAct->setEnabled(false);
 }
 
 void MainWindow::removeCursors()
 {
     for (Plotter *plot : plots())
         plot->clearCursors();
-    if (analogPlotter)
-        analogPlotter->zoomIn(); // which refreshes all plots
+    if (m_analogPlotter)
+        m_analogPlotter->zoomIn(); // which refreshes all plots
 }
 
 void MainWindow::refreshPlots()
 {
     for (Plotter *plot : plots())
         plot->rescaleValues();
-    if (analogPlotter)
-        analogPlotter->zoomIn();
+    if (m_analogPlotter)
+        m_analogPlotter->zoomIn();
 }
 
 void MainWindow::primSecChanged(int index)
 {
-    mode = index;
+    m_mode = index;
     refreshPlots();
 }
 
 void MainWindow::referenceChanged(int /*index*/)
 {
-    if (anglesShown)
+    if (m_anglesShown)
         refreshSpectra();
 }
 
 void MainWindow::showAnglesSlot(bool on)
 {
-    anglesShown = on;
+    m_anglesShown = on;
     refreshSpectra();
 }
 
