@@ -156,8 +156,8 @@ void Plotter::settleReadout()
     m_readoutNeed = m_readout.neededWidth(smallFont(font()));
 }
 
-// Linked plots keep the widest room that one of them needs, so that they line up in time; but at
-// least half of a plot stays plot.
+// Linked plots keep the widest room that one of them needs, so that they line up in time; but no
+// more than half of a plot.
 void Plotter::shareReadoutWidth()
 {
     const auto keepsRoom
@@ -167,9 +167,8 @@ void Plotter::shareReadoutWidth()
         if (keepsRoom(plotter))
             widest = std::max(widest, plotter->m_readoutNeed);
     }
-    const auto roomIn = [&](const Plotter *plotter) {
-        return std::clamp(plotter->width() / 2 - PlotGeometry::left, 0, widest);
-    };
+    const auto roomIn
+        = [&](const Plotter *plotter) { return std::min(plotter->width() / 2, widest); };
     if (keepsRoom(this))
         readoutWidth = roomIn(this);
     for (Plotter *plotter : qAsConst(linkedPlotters)) {

@@ -15,73 +15,129 @@
 namespace {
 
 constexpr int cellPadding = 8;
+constexpr int cellBorder = 2; // of the padding, what stays free where room is short
 constexpr int rowPadding = 4;
 constexpr int margin = 4; // between the plot area, the table and the widget's border
 
+int textWidth(const QFontMetrics &metrics, const QString &text)
+{
+    int width = 0;
+    for (const QString &line : text.split(QLatin1Char('\n')))
+        width = std::max(width, metrics.horizontalAdvance(line));
+    return width;
+}
+
+int sum(const QVector<int> &widths)
+{
+    return std::accumulate(widths.cbegin(), widths.cend(), 0);
+}
+
+// Where the needs exceed the room, those below an equal share keep what they need.
+QVector<int> shared(QVector<int> needs, int room)
+{
+    int unsettled = needs.size();
+    QVector<int> order(needs.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::sort(order.begin(), order.end(), [&](int a, int b) { return needs[a] < needs[b]; });
+    for (const int column : qAsConst(order)) {
+        needs[column] = std::min(needs[column], room / unsettled);
+        room -= needs[column];
+        --unsettled;
+    }
+    return needs;
+}
+
 } // namespace
 
-QVector<int> Readout::columnWidths(const QFont &font) const
+QString Readout::headerText(QString text, Header shown)
+{
+    if (shown == Header::Name)
+        return text.section(QLatin1Char(' '), 0, 0);
+    return shown == Header::OneLine ? text : text.replace(QLatin1Char(' '), QLatin1Char('\n'));
+}
+
+QVector<int> Readout::columnWidths(const QFont &font, Header shown, bool withValues) const
 {
     const QFontMetrics metrics(font);
     QVector<int> widths(rows.isEmpty() ? 0 : rows.constFirst().size());
-    for (const Row &row : rows) {
-        for (int column = 0; column < row.size(); ++column)
-            widths[column]
-                = std::max(widths[column], metrics.horizontalAdvance(row.at(column)) + cellPadding);
+    for (int column = 0; column < widths.size(); ++column) {
+        const int counted = column == 0 || withValues ? rows.size() : 1;
+        for (int row = 0; row < counted; ++row) {
+            QString text = rows.at(row).at(column);
+            if (row == 0 && column > 0)
+                text = headerText(text, shown);
+            widths[column] = std::max(widths[column], textWidth(metrics, text) + cellPadding);
+        }
     }
     return widths;
 }
 
 int Readout::neededWidth(const QFont &font) const
 {
-    const QVector<int> widths = columnWidths(font);
-    if (widths.size() < 2)
-        return 0;
-    return std::accumulate(widths.cbegin(), widths.cend(), 2 * margin);
+    const QVector<int> widths = columnWidths(font, Header::OneLine, true);
+    return widths.size() < 2 ? 0 : sum(widths) + 2 * margin;
 }
 
 Readout::Layout Readout::layout(const PlotGeometry &geometry, const QFont &font) const
 {
     Layout layout;
-    QVector<int> widths = columnWidths(font);
+    const int columns = rows.isEmpty() ? 0 : rows.constFirst().size();
     const int room = geometry.readoutWidth() - 2 * margin;
-    if (widths.size() < 2 || room <= 0)
+    if (columns < 2 || room <= 0)
         return layout;
-    if (std::accumulate(widths.cbegin(), widths.cend(), 0) > room) {
-        // The columns that ask for less than an equal share keep what they need.
-        int left = room;
-        int unsettled = widths.size();
-        QVector<int> order(widths.size());
-        std::iota(order.begin(), order.end(), 0);
-        std::sort(order.begin(), order.end(), [&](int a, int b) { return widths[a] < widths[b]; });
-        for (const int column : qAsConst(order)) {
-            widths[column] = std::min(widths[column], left / unsettled);
-            left -= widths[column];
-            --unsettled;
-        }
+    // Names give way to times, but only where all of these can be shown for it.
+    const QVector<int> times = columnWidths(font, Header::TwoLines, false);
+    const QVector<int> fair = shared(times, room);
+    const Header least = std::equal(times.cbegin() + 1, times.cend(), fair.cbegin() + 1)
+        ? Header::TwoLines
+        : Header::Name;
+    layout.widths.resize(columns);
+    for (QVector<int> lacking : {columnWidths(font, least, false), columnWidths(font, least, true),
+             columnWidths(font, Header::OneLine, true)}) {
+        for (int column = 0; column < columns; ++column)
+            lacking[column] -= layout.widths[column];
+        lacking = shared(lacking, room - sum(layout.widths));
+        for (int column = 0; column < columns; ++column)
+            layout.widths[column] += lacking[column];
     }
-    layout.widths = widths;
+
+    const QFontMetrics metrics(font);
+    layout.header = rows.constFirst();
+    for (int column = 1; column < columns; ++column) {
+        const int width = layout.widths[column] - cellBorder;
+        for (const Header shown : {Header::OneLine, Header::TwoLines, Header::Name}) {
+            layout.header[column] = headerText(rows.constFirst().at(column), shown);
+            if (textWidth(metrics, layout.header[column]) <= width)
+                break;
+        }
+        if (layout.header[column].contains(QLatin1Char('\n')))
+            layout.headerLines = 2;
+    }
 
     // Rows move together before some of them are left out.
-    const QFontMetrics metrics(font);
     const int height = geometry.widgetSize().height() - PlotGeometry::top - margin;
-    layout.rowHeight
-        = std::clamp(height / rows.size(), metrics.height(), metrics.height() + rowPadding);
-    layout.fitting = std::clamp(height / layout.rowHeight, 1, rows.size());
+    const int more = layout.headerLines - 1;
+    layout.rowHeight = std::clamp(
+        height / (rows.size() + more), metrics.height(), metrics.height() + rowPadding);
+    layout.fitting = std::clamp(height / layout.rowHeight - more, 1, rows.size());
     return layout;
 }
 
 QRect Readout::Layout::cell(int row, int column, const PlotGeometry &geometry) const
 {
     const int left = geometry.widgetSize().width() - geometry.readoutWidth() + margin;
+    const int line = row == 0 ? 0 : row + headerLines - 1;
     return {std::accumulate(widths.cbegin(), widths.cbegin() + column, left),
-        PlotGeometry::top + row * rowHeight, widths.at(column), rowHeight};
+        PlotGeometry::top + line * rowHeight, widths.at(column),
+        row == 0 ? headerLines * rowHeight : rowHeight};
 }
 
 void Readout::draw(QPainter &painter, const PlotGeometry &geometry, const QFont &font) const
 {
     const Layout cells = layout(geometry, font);
     QVector<Row> shown = rows.mid(0, cells.fitting);
+    if (!shown.isEmpty())
+        shown.first() = cells.header;
     if (!shown.isEmpty() && shown.size() < rows.size()) { // an ellipsis stands for those left out
         shown.last().fill(QString());
         shown.last().first() = QChar(0x2026);
@@ -92,11 +148,11 @@ void Readout::draw(QPainter &painter, const PlotGeometry &geometry, const QFont 
     for (int row = 0; row < shown.size(); ++row) {
         for (int column = 0; column < cells.widths.size(); ++column) {
             const QRect cell = cells.cell(row, column, geometry);
-            QString text = shown.at(row).at(column);
-            if (row == 0 && column > 0 && metrics.horizontalAdvance(text) > cell.width() - 2)
-                text = text.section(QLatin1Char(' '), 0, 0); // the cursor without its time
-            painter.drawText(
-                cell, Qt::AlignCenter, metrics.elidedText(text, Qt::ElideRight, cell.width() - 2));
+            const auto elide = column == 0 ? Qt::ElideMiddle : Qt::ElideRight;
+            QStringList lines = shown.at(row).at(column).split(QLatin1Char('\n'));
+            for (QString &line : lines)
+                line = metrics.elidedText(line, elide, cell.width() - cellBorder);
+            painter.drawText(cell, Qt::AlignCenter, lines.join(QLatin1Char('\n')));
         }
     }
 }

@@ -18,11 +18,12 @@ struct Readout {
     using Row = QVector<QString>;
     QVector<Row> rows; // all of one length
 
-    // What the columns need in a font; 0 where there is no cursor.
+    // What the columns need in a font, with the header on one line; 0 where there is no cursor.
     int neededWidth(const QFont &font) const;
 
-    // Paints the table into the room kept free at the right. Columns that need more than that share
-    // it, with their texts elided.
+    // Paints the table into the room kept free at the right. Where the columns need more than that,
+    // names and headers, on two lines, have what they need first, and the values share the rest. A
+    // text that has too little is elided, a cursor's time left out.
     void draw(QPainter &painter, const PlotGeometry &geometry, const QFont &font) const;
 
     // What the cell at a point says in full, with its row's and its column's names; empty beside
@@ -30,14 +31,20 @@ struct Readout {
     QString textAt(const QPoint &point, const PlotGeometry &geometry, const QFont &font) const;
 
 private:
+    // How a cursor's header, "P1 (20.5)", is shown: without its time, with its time below, in full.
+    enum class Header { Name, TwoLines, OneLine };
+
     // Where the cells stand; empty where there is no table or no room for one.
     struct Layout {
         QVector<int> widths; // of the columns
-        int rowHeight = 0;
+        Row header; // as it is shown
+        int headerLines = 1;
+        int rowHeight = 0; // of each of these lines, too
         int fitting = 0; // rows
         QRect cell(int row, int column, const PlotGeometry &geometry) const;
     };
 
-    QVector<int> columnWidths(const QFont &font) const;
+    static QString headerText(QString text, Header shown);
+    QVector<int> columnWidths(const QFont &font, Header shown, bool withValues) const;
     Layout layout(const PlotGeometry &geometry, const QFont &font) const;
 };

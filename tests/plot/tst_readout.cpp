@@ -51,6 +51,10 @@ private slots:
     void nothingIsNeededWithoutACursor();
     void aColumnNeedsItsWidestText();
     void cellsStandInTheMiddleOfTheirColumns();
+    void aHeaderThatDoesNotFitHasTwoLines();
+    void fourTimesAreReadable_data();
+    void fourTimesAreReadable();
+    void namesGoBeforeValues();
     void columnsShareTheRoomWhenTooWide();
     void emptyCellsStayEmpty();
     void rowsMoveTogetherBeforeTheyAreLeftOut();
@@ -105,34 +109,91 @@ void TestReadout::cellsStandInTheMiddleOfTheirColumns()
     QVERIFY(inkRect(image, image.rect()).right() < 800);
 }
 
-// Of 180 pixels 172 are for the columns. The middle one needs less than a third and keeps it; the
-// others have half of the rest each and cut their texts.
+// Where the room is short, the header that is wider than its value is on two lines; all rows stand
+// one line lower.
+void TestReadout::aHeaderThatDoesNotFitHasTwoLines()
+{
+    const Readout readout = table(
+        {{QStringLiteral("Name"), QStringLiteral("P1 (17)"), QStringLiteral("P2 (3115.06)")},
+            {QStringLiteral("Ia"), QStringLiteral("-1234.56"), QStringLiteral("0.5")}});
+    const int width = readout.neededWidth(font);
+    const int rowHeight = metrics.height() + 4;
+    for (const bool fits : {true, false}) {
+        // A text may use six of the eight pixels of padding.
+        const QImage image = draw(readout, geometryOf({800, 301}, fits ? width : width - 7), font);
+        QCOMPARE(!findText(image, QStringLiteral("P2 (3115.06)"), font).isNull(), fits);
+        QVERIFY(!findText(image, QStringLiteral("P1 (17)"), font).isNull());
+        const QRect value = findText(image, QStringLiteral("0.5"), font);
+        QCOMPARE(value.top() >= 60 + 2 * rowHeight, !fits);
+        if (fits)
+            continue;
+        const QRect name = findText(image, QStringLiteral("P2"), font);
+        const QRect time = findText(image, QStringLiteral("(3115.06)"), font);
+        QVERIFY(!name.isNull() && !time.isNull());
+        QVERIFY(name.bottom() < time.top() && time.bottom() < value.top());
+        QVERIFY(std::abs(name.center().x() - time.center().x()) <= 2);
+    }
+}
+
+// In less than half of a plot in a window of 1000; the longest names have 31 letters.
+void TestReadout::fourTimesAreReadable_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("short names") << QStringLiteral("IL1");
+    QTest::newRow("long names") << QStringLiteral("Current of the northern feeder1");
+}
+
+void TestReadout::fourTimesAreReadable()
+{
+    QFETCH(QString, name);
+    const QStringList times{QStringLiteral("(1234.56)"), QStringLiteral("(2345.67)"),
+        QStringLiteral("(3115.06)"), QStringLiteral("(987.654)")};
+    QStringList header{QStringLiteral("Parameter")};
+    QStringList values{name};
+    for (int i = 0; i < times.size(); ++i) {
+        header << QStringLiteral("P%1 %2").arg(i + 1).arg(times.at(i));
+        values << QStringLiteral("-1234.5%1").arg(i);
+    }
+    const QImage image = draw(table({header, values}), geometryOf({815, 301}, 340), font);
+    for (const QString &time : times)
+        QVERIFY2(!findText(image, time, font).isNull(), qPrintable(time));
+    QVERIFY(inkRect(image, image.rect()).left() >= 815 - 340);
+}
+
+// Of 180 pixels 172 are for the columns. The name has what it needs, the values share the rest.
+void TestReadout::namesGoBeforeValues()
+{
+    const QString name = QStringLiteral("Current north");
+    const QString value = QStringLiteral("1234567890123456");
+    const Readout readout
+        = table({{QStringLiteral("Name"), QStringLiteral("P1"), QStringLiteral("P2")},
+            {name, value, value}});
+    const QImage image = draw(readout, geometryOf({800, 301}, 180), font);
+    const int share = (172 - metrics.horizontalAdvance(name) - 8) / 2;
+    const QString cut = metrics.elidedText(value, Qt::ElideRight, share - 2);
+    for (const QString &text : {name, QStringLiteral("P1"), QStringLiteral("P2"), cut})
+        QVERIFY2(!findText(image, text, font).isNull(), qPrintable(text));
+}
+
+// With more cursors than have room for their times, these are left out, and a name too long for an
+// equal share loses its middle.
 void TestReadout::columnsShareTheRoomWhenTooWide()
 {
     const QString longName = QStringLiteral("Current of the first feeder in the north");
-    const QString longHead = QStringLiteral("P2 (123456.78901234 and some more)");
-    const Readout readout = table({{longName, QStringLiteral("P1"), longHead},
-        {QStringLiteral("Ia"), QStringLiteral("17"), QStringLiteral("25")}});
-    const QImage image = draw(readout, geometryOf({800, 301}, 180), font);
-    const int middleWidth = metrics.horizontalAdvance(QStringLiteral("17"))
-            > metrics.horizontalAdvance(QStringLiteral("P1"))
-        ? metrics.horizontalAdvance(QStringLiteral("17")) + 8
-        : metrics.horizontalAdvance(QStringLiteral("P1")) + 8;
-    const int share = (172 - middleWidth) / 2;
-    const QVector<QRect> columns{{624, 60, share, 200}, {624 + share, 60, middleWidth, 200},
-        {624 + share + middleWidth, 60, 172 - share - middleWidth, 200}};
-
-    QVERIFY(columns.at(1).contains(findText(image, QStringLiteral("P1"), font)));
-    QVERIFY(columns.at(1).contains(findText(image, QStringLiteral("17"), font)));
-    QVERIFY(columns.at(0).contains(findText(image, QStringLiteral("Ia"), font)));
-    QVERIFY(columns.at(2).contains(findText(image, QStringLiteral("25"), font)));
-    const QString cut = metrics.elidedText(longName, Qt::ElideRight, share - 2);
-    QVERIFY(cut != longName && cut.size() > 3);
-    QVERIFY2(columns.at(0).contains(findText(image, cut, font)), qPrintable(cut));
-    // A cursor keeps its name before its time.
-    QVERIFY(columns.at(2).contains(findText(image, QStringLiteral("P2"), font)));
+    const Readout readout
+        = table({{longName, QStringLiteral("P1 (123456.7)"), QStringLiteral("P2 (234567.8)")},
+            {QStringLiteral("Ia"), QStringLiteral("17"), QStringLiteral("25")}});
+    const QImage image = draw(readout, geometryOf({800, 301}, 128), font); // 40 for each column
+    const int number = std::max({metrics.horizontalAdvance(QStringLiteral("P1")),
+                           metrics.horizontalAdvance(QStringLiteral("P2"))})
+        + 8;
+    const QString cut = metrics.elidedText(longName, Qt::ElideMiddle, 120 - 2 * number - 2);
+    QVERIFY(cut.size() > 3 && cut.endsWith(QLatin1Char('h')));
+    for (const QString &text : {cut, QStringLiteral("P1"), QStringLiteral("P2"),
+             QStringLiteral("Ia"), QStringLiteral("17"), QStringLiteral("25")})
+        QVERIFY2(!findText(image, text, font).isNull(), qPrintable(text));
     const QRect ink = inkRect(image, image.rect());
-    QVERIFY(ink.left() >= 624);
+    QVERIFY(ink.left() >= 800 - 128 + 4);
     QVERIFY(ink.right() < 796);
 }
 
@@ -203,7 +264,7 @@ void TestReadout::nothingIsDrawnWithoutRoom()
     QVERIFY(inkRect(names, names.rect()).isNull());
 }
 
-// Two columns of 50 pixels each share the room of 100, from x = 704 on.
+// The columns share the room of 100 pixels from x = 704 on; that of "P1" ends it.
 void TestReadout::cellsAreToldInFull()
 {
     const Readout readout
@@ -216,14 +277,14 @@ void TestReadout::cellsAreToldInFull()
         return readout.textAt({x, 60 + row * rowHeight + rowHeight / 2}, geometry, font);
     };
     QCOMPARE(textAt(710, 0), QStringLiteral("Parameter of a plot"));
-    QCOMPARE(textAt(760, 0), QStringLiteral("P1 (123456.789)"));
+    QCOMPARE(textAt(798, 0), QStringLiteral("P1 (123456.789)"));
     QCOMPARE(textAt(710, 1), QStringLiteral("Current of a feeder"));
     QCOMPARE(
-        textAt(760, 1), QStringLiteral("Current of a feeder, P1 (123456.789): -17.25 and more"));
-    QCOMPARE(textAt(760, 2), QString());
-    QCOMPARE(textAt(760, 3), QString());
+        textAt(798, 1), QStringLiteral("Current of a feeder, P1 (123456.789): -17.25 and more"));
+    QCOMPARE(textAt(798, 2), QString());
+    QCOMPARE(textAt(798, 3), QString());
     QCOMPARE(textAt(700, 1), QString());
-    QCOMPARE(Readout().textAt({760, 70}, geometry, font), QString());
+    QCOMPARE(Readout().textAt({798, 70}, geometry, font), QString());
 }
 
 QTEST_MAIN(TestReadout)
