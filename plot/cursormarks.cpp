@@ -6,6 +6,7 @@
 #include "baselayer.h"
 #include "labeltext.h"
 #include "plotgeometry.h"
+#include "textrow.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -67,16 +68,12 @@ void CursorMarks::remove(int cursor)
 {
     if (cursor < 0 || cursor >= count())
         return;
-    m_lastPair = {};
-    m_differences.clear();
     m_cursors.erase(m_cursors.begin() + cursor);
     number();
 }
 
 void CursorMarks::clear()
 {
-    m_lastPair = {};
-    m_differences.clear();
     m_cursors.clear();
 }
 
@@ -91,65 +88,108 @@ void CursorMarks::number()
 
 void CursorMarks::place(const PlotGeometry &geometry)
 {
+    struct Mark {
+        int x;
+        CustomLabel *label;
+        QRect place; // of the label
+    };
     constexpr int gap = 3; // between a line and its label
     const QRect area = geometry.area();
-    QVector<QRect> taken;
+    std::vector<Mark> marks; // in view
     for (const Cursor &cursor : m_cursors) {
         const int x = PlotGeometry::pixel(geometry.cursorX(cursor.time));
         const bool isInView = x >= area.left() && x <= area.right();
         cursor.line->place(x, geometry);
         cursor.line->setVisible(isInView);
         cursor.label->setVisible(isInView);
-        if (!isInView)
-            continue;
-        QRect place(QPoint(x + gap, area.top() + 2), cursor.label->size());
-        if (place.right() > area.right())
-            place.moveRight(x - gap);
-        while (!take(place, taken) && place.bottom() + place.height() < area.bottom())
-            place.translate(0, place.height());
-        cursor.label->move(place.topLeft());
+        if (isInView)
+            marks.push_back({x, cursor.label.get(),
+                QRect(QPoint(x + gap, area.top() + 2), cursor.label->size())});
     }
+
+    std::vector<Mark *> fromRight;
+    for (Mark &mark : marks)
+        fromRight.push_back(&mark);
+    std::stable_sort(fromRight.begin(), fromRight.end(),
+        [](const Mark *a, const Mark *b) { return a->x > b->x; });
+    int limit = area.right(); // where the labels that stand left of their lines begin
+    for (Mark *mark : fromRight) {
+        if (mark->place.right() <= limit)
+            continue;
+        mark->place.moveLeft(std::max(area.left(), mark->x - gap - mark->place.width() + 1));
+        limit = std::min(limit, mark->place.left() - 1);
+    }
+
+    QVector<QRect> taken;
+    for (Mark &mark : marks) {
+        while (
+            !take(mark.place, taken) && mark.place.bottom() + mark.place.height() < area.bottom())
+            mark.place.translate(0, mark.place.height());
+        mark.label->move(mark.place.topLeft());
+    }
+}
+
+double CursorMarks::difference(size_t later) const
+{
+    return std::abs(m_cursors.at(later).time - m_cursors.at(later - 1).time);
+}
+
+QVector<CursorMarks::Difference> CursorMarks::differences(
+    const PlotGeometry &geometry, const QFontMetrics &metrics, const QRect &title) const
+{
+    constexpr int boxWidth = 100;
+    constexpr int boxHeight = 20;
+    constexpr int padding = 4; // at both sides of a text
+    const QRect area = geometry.area();
+    QVector<Difference> differences;
+    QVector<RowText> texts;
+    const QRect strip(area.left(), differencesTop, area.width(), boxHeight);
+    if (strip.intersects(title))
+        texts.append({title.width(), title.left(), title.left(), title.left()});
+    for (size_t i = m_cursors.size(); i-- > 1;) {
+        const int x1 = PlotGeometry::pixel(geometry.cursorX(m_cursors.at(i - 1).time));
+        const int x2 = PlotGeometry::pixel(geometry.cursorX(m_cursors.at(i).time));
+        const QString text = QStringLiteral("dT=") + generalText(difference(i));
+        const QRect line(QPoint(std::min(x1, x2), PlotGeometry::top),
+            QPoint(std::max(x1, x2), PlotGeometry::top));
+        const QRect box((x1 + x2) / 2 - boxWidth / 2, differencesTop, boxWidth, boxHeight);
+        const int margin = (boxWidth - metrics.horizontalAdvance(text)) / 2 - padding;
+        const QRect place = box.adjusted(margin, 0, -margin, 0);
+        differences.append({text, line, place});
+
+        // Over its line is a text with its middle over it, and one that covers it.
+        const QRect seen = line & area;
+        const int width = place.width();
+        const int lowest
+            = std::max(area.left(), std::min(seen.left() - width / 2, seen.right() + 1 - width));
+        const int highest = seen.isEmpty()
+            ? lowest - 1
+            : std::min(area.right() + 1 - width, std::max(seen.right() - width / 2, seen.left()));
+        texts.append(
+            {width, std::clamp(place.left(), lowest, std::max(lowest, highest)), lowest, highest});
+    }
+    const QVector<std::optional<int>> places
+        = placeTexts(texts).mid(texts.size() - differences.size());
+    for (int i = 0; i < differences.size(); ++i) {
+        if (places.at(i))
+            differences[i].place.moveLeft(*places.at(i));
+        else
+            differences[i].place = QRect();
+    }
+    return differences;
 }
 
 void CursorMarks::paintDifferences(
-    QPainter &painter, const PlotGeometry &geometry, const QVector<QRect> &taken)
+    QPainter &painter, const PlotGeometry &geometry, const QRect &title) const
 {
     const QFontMetrics metrics(painter.font());
-    const QRect area = geometry.area();
-    QVector<QRect> notFree = taken;
-    m_differences.clear();
-    for (size_t i = m_cursors.size(); --i > 0;) {
-        const double from = m_cursors.at(i - 1).time;
-        const double to = m_cursors.at(i).time;
-        const double difference = std::abs(to - from);
-        if (i == m_cursors.size() - 1)
-            m_lastPair = {from, to, difference};
-        const int x1 = PlotGeometry::pixel(geometry.cursorX(from));
-        const int x2 = PlotGeometry::pixel(geometry.cursorX(to));
-        const QString text = QStringLiteral("dT=") + generalText(difference);
-        const QRect box((x1 + x2) / 2 - 50, differencesTop, 100, 20);
-        const int margin = (box.width() - metrics.horizontalAdvance(text)) / 2 - 2;
-        const QRect place = box.adjusted(margin, 0, -margin, 0);
-        m_differences.append(place);
-        const int centre = place.center().x();
-        const bool hasText = centre >= area.left() && centre <= area.right()
-            && place.left() >= area.left() && place.right() < geometry.widgetSize().width()
-            && take(place, notFree);
-        const auto drawMark = [&](const QColor &color, int offset) {
-            painter.setPen(QPen(color, 1, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
-            painter.setClipRect(area);
-            painter.drawLine(x1, PlotGeometry::top, x2, PlotGeometry::top);
-            painter.setClipping(false);
-            if (hasText)
-                painter.drawText(box.translated(offset, offset), Qt::AlignCenter, text);
-        };
-        drawMark(shadowColor, 1);
-        drawMark(markColor, 0);
+    for (const Difference &difference : differences(geometry, metrics, title)) {
+        painter.fillRect(difference.line & geometry.area(), markColor);
+        if (difference.place.isNull())
+            continue;
+        painter.setPen(shadowColor);
+        painter.drawText(difference.place.translated(1, 1), Qt::AlignCenter, difference.text);
+        painter.setPen(markColor);
+        painter.drawText(difference.place, Qt::AlignCenter, difference.text);
     }
-}
-
-bool CursorMarks::differencesChange(const QRect &from, const QRect &to) const
-{
-    return std::any_of(m_differences.cbegin(), m_differences.cend(),
-        [&](const QRect &place) { return place.intersects(from) != place.intersects(to); });
 }

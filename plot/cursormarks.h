@@ -9,11 +9,11 @@
 #include <QList>
 #include <QVector>
 
-#include <array>
 #include <memory>
 #include <vector>
 
 class PlotGeometry;
+class QFontMetrics;
 class QPainter;
 
 // The cursors of a plot: times, each with a line and with a label to drag it by, both children of
@@ -31,7 +31,7 @@ public:
     bool isFull() const { return count() >= most; }
     QList<double> times() const; // ms
     // The time difference of the last neighbouring pair, ms; 0 with fewer than two.
-    double pairDifference() const { return m_lastPair[2]; }
+    double pairDifference() const { return count() < 2 ? 0 : difference(m_cursors.size() - 1); }
     // The cursor that a label belongs to; -1 for any other label.
     int cursorOf(const QLabel *label) const;
 
@@ -40,17 +40,25 @@ public:
     void remove(int cursor); // nothing where there is no such cursor
     void clear();
 
-    // Sets lines and labels to their places in a view. Those out of view are hidden; labels that
-    // would overlap stand below each other.
+    // Sets lines and labels to their places in a view. Those out of view are hidden. A label stands
+    // right of its line; one that would leave the plot area there stands left of it, and so does
+    // any that would run into such a one. Labels that still would overlap stand below each other.
     void place(const PlotGeometry &geometry);
 
-    // Paints the time differences of neighbouring cursors above the plot area; there must be two or
-    // more. All pairs get their line; a text that would be cut off, or overlap that of a later pair
-    // or one of the rectangles that are taken, is left out.
+    // The time difference of two neighbouring cursors as it is painted, in widget pixels.
+    struct Difference {
+        QString text;
+        QRect line; // one pixel high; it may leave the plot area
+        QRect place; // of the text; null where there is none for it
+    };
+    // Those of all pairs; the later ones first. A text stands in the middle between its cursors,
+    // within the plot area. Where it would overlap another or the title it moves, staying over what
+    // is seen of its line; it has no place where none is left there.
+    QVector<Difference> differences(
+        const PlotGeometry &geometry, const QFontMetrics &metrics, const QRect &title) const;
+    // Paints them above the plot area.
     void paintDifferences(
-        QPainter &painter, const PlotGeometry &geometry, const QVector<QRect> &taken);
-    // Whether the texts to be left out are others when something moves over them.
-    bool differencesChange(const QRect &from, const QRect &to) const;
+        QPainter &painter, const PlotGeometry &geometry, const QRect &title) const;
 
 private:
     struct Cursor {
@@ -60,9 +68,8 @@ private:
     };
 
     void number();
+    double difference(size_t later) const; // of a cursor and the one before it, ms
 
     QWidget *m_plot;
     std::vector<Cursor> m_cursors;
-    std::array<double, 3> m_lastPair{}; // both times and their difference, ms
-    QVector<QRect> m_differences; // places of their texts, of those left out as well
 };

@@ -66,6 +66,8 @@ Plotter::Plotter(QWidget *parent)
     timeLabel->setFont(smallFont(font()));
     timeLabel->resize(70, 20);
     timeLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
+    timeLabel->setAutoFillBackground(true); // it covers the texts that it stands over
+    timeLabel->setPalette(QPalette(QColor(0x313034)));
     timeLabel->hide();
     timeLabel->lower();
     timeLine->lower();

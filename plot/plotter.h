@@ -193,7 +193,6 @@ private:
     void hideBand();
 
     void showTimeLine(int x);
-    QRect timeLabelPlace() const;
     void moveCursor(int cursor, double time);
     void removeCursors(int first, int last);
     void dragCursor(int x);

@@ -18,6 +18,8 @@
 
 namespace {
 
+constexpr int timeLabelGap = 15; // between the time line and its label
+constexpr int timeLabelTop = 45;
 constexpr int smallestTimeFont = 7; // pixels
 
 } // namespace
@@ -31,22 +33,14 @@ void Plotter::showTimeLine(int x)
     const QString text = QStringLiteral("t = ") + generalText(timeLineTime);
     timeLabel->setFont(fittingFont(smallFont(font()), text, timeLabel->width(), smallestTimeFont));
     timeLabel->setText(text);
-    const QRect before = timeLabelPlace();
-    timeLabel->move(x + 15, 45);
+    QRect place(QPoint(x + timeLabelGap, timeLabelTop), timeLabel->size());
+    if (place.right() > rect().right())
+        place.moveRight(x - timeLabelGap);
+    timeLabel->move(place.topLeft());
     timeLabel->show();
     timeLabel->lower();
     timeLine->place(x, geometry);
     timeLine->show();
-    if (cursorMarks.differencesChange(before, timeLabelPlace())) {
-        paintOverlay();
-        update();
-    }
-}
-
-// Null while the label is hidden.
-QRect Plotter::timeLabelPlace() const
-{
-    return timeLabel->isHidden() ? QRect() : timeLabel->geometry();
 }
 
 void Plotter::addCursor(int x, int /*y*/)
@@ -121,7 +115,7 @@ void Plotter::paintOverlay()
         0, CursorMarks::differencesTop, width(), CursorMarks::differencesHeight, Qt::transparent);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     painter.setFont(smallFont(font()));
-    cursorMarks.paintDifferences(painter, geometry, {plotterLabel->geometry(), timeLabelPlace()});
+    cursorMarks.paintDifferences(painter, geometry, plotterLabel->geometry());
 }
 
 // Sets the lines of the cursors and the save markers to their places in the view.

@@ -32,6 +32,8 @@ private slots:
     void theTimeLineTellsItsTimeInAnotherView();
     void theTimeLineFollowsThePointerOverChannelLabels();
     void aLongTimeFitsItsLabel();
+    void aTimeAtTheRightEndIsReadInFull_data();
+    void aTimeAtTheRightEndIsReadInFull();
     void theTimeLineLetsTheMouseThrough();
     void aDoubleClickSetsACursorAtOneTimeInAllPlots();
     void atMostTwentyCursors();
@@ -46,8 +48,9 @@ private slots:
     void aLabelAtTheRightEdgeStandsLeftOfItsLine();
     void timeDifferencesThatWouldOverlapAreLeftOut();
     void noTimeDifferenceIsBehindTheTitle();
-    void noTimeDifferenceIsBehindTheTimeLabel();
+    void theTimeLabelCoversWhatIsBelowIt();
     void noTimeDifferenceIsCutOff();
+    void cursorsInAnyOrderHaveTheirTimeDifferences();
     void theReadoutTellsItsCellsInFull();
     void aDraggedLabelMovesTheCursorEverywhere();
     void aDragCutShortIsInTheReadout();
@@ -140,6 +143,30 @@ void TestPlotterCursors::aLongTimeFitsItsLabel()
     pair->plot->customResetZoom();
     PlotPair::move(pair->plot, {450, 100});
     QCOMPARE(label->font().pixelSize(), usual);
+}
+
+// The label is 70 pixels wide, the plot 803.
+void TestPlotterCursors::aTimeAtTheRightEndIsReadInFull_data()
+{
+    QTest::addColumn<int>("x");
+    QTest::addColumn<int>("left"); // of the label
+    QTest::newRow("it just fits") << 718 << 733;
+    QTest::newRow("one pixel is missing") << 719 << 635;
+    QTest::newRow("at the last pixel") << 802 << 718;
+}
+
+void TestPlotterCursors::aTimeAtTheRightEndIsReadInFull()
+{
+    QFETCH(int, x);
+    QFETCH(int, left);
+    PlotPair::move(pair->other, {x, 100});
+    for (const Plotter *plotter : {pair->plot, static_cast<Plotter *>(pair->digital)}) {
+        QCOMPARE(plotter->findChild<QLabel *>(QStringLiteral("timelabel"))->geometry(),
+            QRect(left, 45, 70, 20));
+        QCOMPARE(plotter->findChild<QFrame *>(QStringLiteral("timeline"))->x(), x);
+    }
+    PlotPair::move(pair->other, {450, 100});
+    QCOMPARE(pair->plot->findChild<QLabel *>(QStringLiteral("timelabel"))->x(), 465);
 }
 
 void TestPlotterCursors::theTimeLineLetsTheMouseThrough()
@@ -305,26 +332,49 @@ void TestPlotterCursors::noTimeDifferenceIsBehindTheTitle()
     QCOMPARE(pair->digital->grab().toImage().pixel(150, 60), qRgb(255, 250, 80));
 }
 
-void TestPlotterCursors::noTimeDifferenceIsBehindTheTimeLabel()
+// The text stands from about 380 to 440, the label from 395 to 464.
+void TestPlotterCursors::theTimeLabelCoversWhatIsBelowIt()
 {
     for (const int x : {400, 420})
         QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {x, 150});
     PlotPair::move(pair->digital, {600, 150});
-    QVERIFY(markPixels(pair->digital, 360, 460) > 20);
-    PlotPair::move(pair->digital, {380, 150}); // the label reaches from 395 to 464
-    QCOMPARE(markPixels(pair->digital, 360, 460), 0);
+    const int all = markPixels(pair->digital, 340, 480);
+    const int before = markPixels(pair->digital, 340, 395);
+    QVERIFY(before > 0);
+    QVERIFY(all > before + 20);
+    PlotPair::move(pair->digital, {380, 150});
+    QCOMPARE(markPixels(pair->digital, 395, 465), 0);
+    QCOMPARE(markPixels(pair->digital, 340, 395), before);
+    QCOMPARE(pair->digital->grab().toImage().pixel(463, 50), qRgb(0x31, 0x30, 0x34));
     PlotPair::move(pair->digital, {600, 150});
-    QVERIFY(markPixels(pair->digital, 360, 460) > 20);
+    QCOMPARE(markPixels(pair->digital, 340, 480), all);
 }
 
-// The digital plot reaches to the right end of the widget, where no text can follow.
+// The plot area of the digital plot ends at 800.
 void TestPlotterCursors::noTimeDifferenceIsCutOff()
 {
     for (const int x : {770, 794})
         QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {x, 150});
-    QCOMPARE(markPixels(pair->digital, 660, 803), 0);
-    const int centre = pair->plot->geometryOfView().area().right() - 15;
-    QVERIFY(markPixels(pair->plot, centre - 40, centre + 40) > 20);
+    QVERIFY(markPixels(pair->digital, 730, 801) > 20);
+    QCOMPARE(markPixels(pair->digital, 801, 803), 0);
+}
+
+// The text of the second and the third stands left of that of the first and the second.
+void TestPlotterCursors::cursorsInAnyOrderHaveTheirTimeDifferences()
+{
+    for (const int x : {360, 620, 300})
+        QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {x, 150});
+    const QImage image = pair->digital->grab().toImage();
+    int texts = 0; // stretches of ink between gaps of seven columns
+    int empty = 7;
+    for (int x = 300; x <= 620; ++x) {
+        int ink = 0;
+        for (int y = 42; y < 59; ++y)
+            ink += isYellow(image.pixel(x, y)) ? 1 : 0;
+        texts += ink > 0 && empty >= 7 ? 1 : 0;
+        empty = ink > 0 ? 0 : empty + 1;
+    }
+    QCOMPARE(texts, 2);
 }
 
 void TestPlotterCursors::theReadoutTellsItsCellsInFull()
