@@ -219,7 +219,8 @@ private:
     PlotHost *mainWindow = nullptr;
     ChannelLabels m_channelLabels;
     bool draggingTimeLine = false;
-    CustomLabel *draggedLabel = nullptr;
+    CustomLabel *draggedLabel = nullptr; // from its press on; dragged from draggingTimeLine on
+    QPoint labelPress; // where it was pressed
     QColorDialog *colorDialog;
     QMap<int, QColor> m_chosenColors; // by channel number
     int zoomLevel = 0;

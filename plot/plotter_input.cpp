@@ -89,8 +89,8 @@ void Plotter::mousePressEvent(QMouseEvent *event)
 {
     auto *label = qobject_cast<CustomLabel *>(childAt(event->pos()));
     if (label && label->objectName().contains(QLatin1String("lineLabel"))) {
-        draggingTimeLine = true;
         draggedLabel = label;
+        labelPress = event->pos();
         return;
     }
     const QRect area = geometryOfView().area();
@@ -133,6 +133,8 @@ void Plotter::mouseMoveEvent(QMouseEvent *event)
 {
     takeKeyboard();
     const QPoint point = event->pos();
+    if (draggedLabel && (point - labelPress).manhattanLength() >= QApplication::startDragDistance())
+        draggingTimeLine = true;
     if (draggingTimeLine)
         dragCursor(point.x());
     if (rubberBandShown) {
@@ -147,9 +149,8 @@ void Plotter::mouseMoveEvent(QMouseEvent *event)
 
 void Plotter::mouseReleaseEvent(QMouseEvent * /*event*/)
 {
-    if (draggingTimeLine) {
-        draggingTimeLine = false;
-        draggedLabel = nullptr;
+    draggedLabel = nullptr;
+    if (std::exchange(draggingTimeLine, false)) {
         refreshAll();
         if (mainWindow)
             mainWindow->refreshVectors();

@@ -11,6 +11,8 @@
 
 #include <memory>
 
+Q_DECLARE_METATYPE(Qt::MouseButton)
+
 namespace {
 
 // Text is smoothed, so its pixels are shades between its colour and what is behind.
@@ -54,6 +56,10 @@ private slots:
     void theReadoutTellsItsCellsInFull();
     void aDraggedLabelMovesTheCursorEverywhere();
     void aDragCutShortIsInTheReadout();
+    void aPressOnALabelMovesNothing_data();
+    void aPressOnALabelMovesNothing();
+    void aDragBeginsAfterItsDistance();
+    void aDoubleClickOnALabelSetsNoCursor();
     void aDraggedLabelStopsAtTheEdges_data();
     void aDraggedLabelStopsAtTheEdges();
     void aNewPlotTakesOverCursorsAndMarkers();
@@ -419,6 +425,66 @@ void TestPlotterCursors::aDragCutShortIsInTheReadout()
     QHelpEvent event(QEvent::ToolTip, {793, 86}, pair->plot->mapToGlobal({793, 86}));
     QApplication::sendEvent(pair->plot, &event);
     QCOMPARE(QToolTip::text(), QStringLiteral("Ia, P1 (500): 7"));
+}
+
+void TestPlotterCursors::aPressOnALabelMovesNothing_data()
+{
+    QTest::addColumn<Qt::MouseButton>("button");
+    QTest::addColumn<QPoint>("way"); // to and fro before the release; below 10 pixels
+    QTest::newRow("left button, no move") << Qt::LeftButton << QPoint();
+    QTest::newRow("left button, one pixel") << Qt::LeftButton << QPoint(1, 0);
+    QTest::newRow("left button, nine pixels") << Qt::LeftButton << QPoint(-5, 4);
+    QTest::newRow("middle button, one pixel") << Qt::MiddleButton << QPoint(0, 1);
+    QTest::newRow("right button, one pixel") << Qt::RightButton << QPoint(-1, 0);
+}
+
+void TestPlotterCursors::aPressOnALabelMovesNothing()
+{
+    QFETCH(Qt::MouseButton, button);
+    QFETCH(QPoint, way);
+    QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {450, 150});
+    const QPoint grip = PlotPair::lineLabels(pair->digital).first()->geometry().center();
+    for (int twice = 0; twice < 2; ++twice) {
+        QTest::mousePress(pair->digital, button, {}, grip);
+        PlotPair::move(pair->digital, grip + way, button);
+        QTest::mouseRelease(pair->digital, button, {}, grip + way);
+        QCOMPARE(pair->digital->cursors(), QList<double>{500});
+    }
+    PlotPair::move(pair->digital, grip + QPoint(50, 50)); // the button is up
+    QCOMPARE(pair->digital->cursors(), QList<double>{500});
+    QCOMPARE(pair->plot->cursors(), QList<double>{500});
+}
+
+// From then on it goes on to the pointer, back to where it began as well.
+void TestPlotterCursors::aDragBeginsAfterItsDistance()
+{
+    QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {440, 150});
+    const QPoint grip(450, PlotPair::lineLabels(pair->digital).first()->geometry().center().y());
+    const QList<double> before = pair->digital->cursors();
+    const int distance = QApplication::startDragDistance();
+    QTest::mousePress(pair->digital, Qt::LeftButton, {}, grip);
+    PlotPair::move(pair->digital, grip - QPoint(distance - 1, 0), Qt::LeftButton);
+    QCOMPARE(pair->digital->cursors(), before);
+    PlotPair::move(pair->digital, {800, 200}, Qt::LeftButton);
+    QCOMPARE(pair->digital->cursors(), QList<double>{1000});
+    PlotPair::move(pair->digital, grip, Qt::LeftButton);
+    QCOMPARE(pair->digital->cursors(), QList<double>{500});
+    QTest::mouseRelease(pair->digital, Qt::LeftButton, {}, grip);
+    QCOMPARE(pair->digital->cursors(), QList<double>{500});
+    QCOMPARE(pair->plot->cursors(), QList<double>{500});
+}
+
+// As a person's hand does it: the pointer moves by a pixel between press and release.
+void TestPlotterCursors::aDoubleClickOnALabelSetsNoCursor()
+{
+    QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {450, 150});
+    const QPoint grip = PlotPair::lineLabels(pair->digital).first()->geometry().center();
+    QTest::mousePress(pair->digital, Qt::LeftButton, {}, grip);
+    PlotPair::move(pair->digital, grip - QPoint(1, 1), Qt::LeftButton);
+    QTest::mouseRelease(pair->digital, Qt::LeftButton, {}, grip - QPoint(1, 1));
+    QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, grip - QPoint(1, 1));
+    QCOMPARE(pair->digital->cursors(), QList<double>{500});
+    QCOMPARE(pair->plot->cursors(), QList<double>{500});
 }
 
 void TestPlotterCursors::aDraggedLabelStopsAtTheEdges_data()
