@@ -56,7 +56,8 @@ QString Readout::headerText(QString text, Header shown)
     return shown == Header::OneLine ? text : text.replace(QLatin1Char(' '), QLatin1Char('\n'));
 }
 
-QVector<int> Readout::columnWidths(const QFont &font, Header shown, bool withValues) const
+QVector<int> Readout::columnWidths(
+    const QFont &font, Header shown, bool withValues, int padding) const
 {
     const QFontMetrics metrics(font);
     QVector<int> widths(rows.isEmpty() ? 0 : rows.constFirst().size());
@@ -66,7 +67,7 @@ QVector<int> Readout::columnWidths(const QFont &font, Header shown, bool withVal
             QString text = rows.at(row).at(column);
             if (row == 0 && column > 0)
                 text = headerText(text, shown);
-            widths[column] = std::max(widths[column], textWidth(metrics, text) + cellPadding);
+            widths[column] = std::max(widths[column], textWidth(metrics, text) + padding);
         }
     }
     return widths;
@@ -74,7 +75,7 @@ QVector<int> Readout::columnWidths(const QFont &font, Header shown, bool withVal
 
 int Readout::neededWidth(const QFont &font) const
 {
-    const QVector<int> widths = columnWidths(font, Header::OneLine, true);
+    const QVector<int> widths = columnWidths(font, Header::OneLine, true, cellPadding);
     return widths.size() < 2 ? 0 : sum(widths) + 2 * margin;
 }
 
@@ -86,14 +87,14 @@ Readout::Layout Readout::layout(const PlotGeometry &geometry, const QFont &font)
     if (columns < 2 || room <= 0)
         return layout;
     // Names give way to times, but only where all of these can be shown for it.
-    const QVector<int> times = columnWidths(font, Header::TwoLines, false);
+    const QVector<int> times = columnWidths(font, Header::TwoLines, false, cellPadding);
     const QVector<int> fair = shared(times, room);
-    const Header least = std::equal(times.cbegin() + 1, times.cend(), fair.cbegin() + 1)
-        ? Header::TwoLines
-        : Header::Name;
+    const bool timesFit = std::equal(times.cbegin() + 1, times.cend(), fair.cbegin() + 1);
+    const Header least = timesFit ? Header::TwoLines : Header::Name;
     layout.widths.resize(columns);
-    for (QVector<int> lacking : {columnWidths(font, least, false), columnWidths(font, least, true),
-             columnWidths(font, Header::OneLine, true)}) {
+    for (QVector<int> lacking : {timesFit ? times : columnWidths(font, least, false, cellBorder),
+             columnWidths(font, least, true, cellPadding),
+             columnWidths(font, Header::OneLine, true, cellPadding)}) {
         for (int column = 0; column < columns; ++column)
             lacking[column] -= layout.widths[column];
         lacking = shared(lacking, room - sum(layout.widths));
@@ -149,9 +150,12 @@ void Readout::draw(QPainter &painter, const PlotGeometry &geometry, const QFont 
         for (int column = 0; column < cells.widths.size(); ++column) {
             const QRect cell = cells.cell(row, column, geometry);
             const auto elide = column == 0 ? Qt::ElideMiddle : Qt::ElideRight;
+            const int width = cell.width() - cellBorder;
             QStringList lines = shown.at(row).at(column).split(QLatin1Char('\n'));
-            for (QString &line : lines)
-                line = metrics.elidedText(line, elide, cell.width() - cellBorder);
+            for (QString &line : lines) {
+                if (metrics.horizontalAdvance(line) > width)
+                    line = metrics.elidedText(line, elide, width);
+            }
             painter.drawText(cell, Qt::AlignCenter, lines.join(QLatin1Char('\n')));
         }
     }

@@ -45,6 +45,6 @@ private:
     };
 
     static QString headerText(QString text, Header shown);
-    QVector<int> columnWidths(const QFont &font, Header shown, bool withValues) const;
+    QVector<int> columnWidths(const QFont &font, Header shown, bool withValues, int padding) const;
     Layout layout(const PlotGeometry &geometry, const QFont &font) const;
 };

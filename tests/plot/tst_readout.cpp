@@ -56,6 +56,7 @@ private slots:
     void fourTimesAreReadable();
     void namesGoBeforeValues();
     void columnsShareTheRoomWhenTooWide();
+    void twentyCursorsKeepTheirNames();
     void emptyCellsStayEmpty();
     void rowsMoveTogetherBeforeTheyAreLeftOut();
     void rowsThatDoNotFitGiveAnEllipsis_data();
@@ -182,19 +183,43 @@ void TestReadout::columnsShareTheRoomWhenTooWide()
     const QString longName = QStringLiteral("Current of the first feeder in the north");
     const Readout readout
         = table({{longName, QStringLiteral("P1 (123456.7)"), QStringLiteral("P2 (234567.8)")},
-            {QStringLiteral("Ia"), QStringLiteral("17"), QStringLiteral("25")}});
+            {QStringLiteral("Ia"), QStringLiteral("7"), QString()},
+            {QStringLiteral("Ib"), QString(), QStringLiteral("5")}});
     const QImage image = draw(readout, geometryOf({800, 301}, 128), font); // 40 for each column
-    const int number = std::max({metrics.horizontalAdvance(QStringLiteral("P1")),
-                           metrics.horizontalAdvance(QStringLiteral("P2"))})
-        + 8;
-    const QString cut = metrics.elidedText(longName, Qt::ElideMiddle, 120 - 2 * number - 2);
+    const int number = std::max(metrics.horizontalAdvance(QStringLiteral("P1")),
+        metrics.horizontalAdvance(QStringLiteral("P2")));
+    const QString cut = metrics.elidedText(longName, Qt::ElideMiddle, 120 - 2 * (number + 2) - 2);
     QVERIFY(cut.size() > 3 && cut.endsWith(QLatin1Char('h')));
-    for (const QString &text : {cut, QStringLiteral("P1"), QStringLiteral("P2"),
-             QStringLiteral("Ia"), QStringLiteral("17"), QStringLiteral("25")})
+    for (const QString &text :
+        {cut, QStringLiteral("Ia"), QStringLiteral("7"), QStringLiteral("5")})
         QVERIFY2(!findText(image, text, font).isNull(), qPrintable(text));
     const QRect ink = inkRect(image, image.rect());
     QVERIFY(ink.left() >= 800 - 128 + 4);
     QVERIFY(ink.right() < 796);
+}
+
+// Where there is just room for the names, with the two pixels that stay free in a cell.
+void TestReadout::twentyCursorsKeepTheirNames()
+{
+    QStringList header{QStringLiteral("Parameter")};
+    QStringList values{QStringLiteral("Current L1")};
+    int room = std::max(metrics.horizontalAdvance(header.first()),
+                   metrics.horizontalAdvance(values.first()))
+        + 2;
+    for (int i = 1; i <= 20; ++i) {
+        const QString name = QStringLiteral("P%1").arg(i);
+        header << name + QStringLiteral(" (1234.5)");
+        values << QStringLiteral("-1234.56");
+        room += metrics.horizontalAdvance(name) + 2;
+    }
+    const Readout readout = table({header, values});
+    const PlotGeometry geometry = geometryOf({1200, 301}, room + 8);
+    QMap<QString, int> widths;
+    for (int x = 1200 - room - 8; x < 1200; ++x)
+        ++widths[readout.textAt({x, 62}, geometry, font)];
+    for (int i = 1; i <= 20; ++i)
+        QCOMPARE(widths.value(header.at(i)),
+            metrics.horizontalAdvance(QStringLiteral("P%1").arg(i)) + 2);
 }
 
 void TestReadout::emptyCellsStayEmpty()
