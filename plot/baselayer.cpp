@@ -23,6 +23,8 @@ const QColor bandColor(240, 255, 240);
 
 constexpr int labelGap = 6; // between the plot area and a label beside it
 constexpr int bandReach = 5; // of a band above and below its base line
+constexpr int dash = 4; // of the trigger's line, and the gap after it
+constexpr int dashGap = 2;
 
 // The room of texts in the left margin, inside the widget's border.
 constexpr int marginStart = 4;
@@ -34,6 +36,16 @@ double gridTime(const PlotSettings &view, int line)
     const double step = view.spanX() / view.numXTicks;
     const double time = view.minX + line * view.spanX() / view.numXTicks;
     return std::abs(time) < step * 1e-9 ? 0 : time;
+}
+
+// All lines of the layer are filled rectangles of one pixel, so that they stand where their pixel
+// does and are seen at every scale factor of the screen.
+void fillFrame(QPainter &painter, const QRect &frame, const QColor &color)
+{
+    painter.fillRect(frame.left(), frame.top(), frame.width(), 1, color);
+    painter.fillRect(frame.left(), frame.bottom(), frame.width(), 1, color);
+    painter.fillRect(frame.left(), frame.top(), 1, frame.height(), color);
+    painter.fillRect(frame.right(), frame.top(), 1, frame.height(), color);
 }
 
 } // namespace
@@ -48,11 +60,10 @@ QFont smallFont(const QFont &font)
 void drawTimeGrid(QPainter &painter, const PlotGeometry &geometry)
 {
     const QRect area = geometry.area();
-    painter.setPen(gridColor);
     for (int i = 0; i <= geometry.view().numXTicks; ++i) {
         const int x = PlotGeometry::pixel(geometry.traceX(gridTime(geometry.view(), i)));
         const int drawn = std::min(x, area.right()); // the last line would stand beside the frame
-        painter.drawLine(drawn, area.top(), drawn, area.bottom());
+        painter.fillRect(drawn, area.top(), 1, area.height(), gridColor);
     }
 }
 
@@ -85,17 +96,16 @@ void drawValueGrid(QPainter &painter, const PlotGeometry &geometry, const QFont 
     const QFontMetrics metrics(small);
     int free = geometry.widgetSize().height(); // y down to which no label stands yet
     painter.setFont(small);
+    painter.setPen(Qt::white);
     for (int i = 0; i <= view.numYTicks; ++i) {
         const double value = view.minY + i * view.spanY() / view.numYTicks;
         const int y = PlotGeometry::pixel(geometry.traceY(value));
-        painter.setPen(gridColor);
-        painter.drawLine(area.left(), y, area.right(), y);
+        painter.fillRect(area.left(), y, area.width(), 1, gridColor);
 
         QRect box(marginStart, 0, marginWidth, metrics.height());
         box.moveTop(y - box.height() / 2);
         if (box.bottom() >= free)
             continue;
-        painter.setPen(Qt::white);
         painter.drawText(
             box, Qt::AlignRight | Qt::AlignVCenter, fittingValueText(value, metrics, marginWidth));
         free = box.top();
@@ -104,9 +114,7 @@ void drawValueGrid(QPainter &painter, const PlotGeometry &geometry, const QFont 
 
 void drawFrame(QPainter &painter, const PlotGeometry &geometry)
 {
-    painter.setPen(Qt::white);
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(geometry.area().adjusted(0, 0, -1, -1));
+    fillFrame(painter, geometry.area(), Qt::white);
 }
 
 QString triggerText(int time)
@@ -120,10 +128,8 @@ void drawTriggerMark(QPainter &painter, const PlotGeometry &geometry, const QFon
     const int x = PlotGeometry::pixel(geometry.traceX(time));
     if (x < area.left() || x > area.right())
         return;
-    QPen pen(Qt::white);
-    pen.setStyle(Qt::DashLine);
-    painter.setPen(pen);
-    painter.drawLine(x, area.top(), x, area.bottom());
+    for (int y = area.top(); y <= area.bottom(); y += dash + dashGap)
+        painter.fillRect(x, y, 1, std::min(dash, area.bottom() + 1 - y), Qt::white);
 
     const QString text = triggerText(time);
     const QFontMetrics metrics(font);
@@ -132,6 +138,7 @@ void drawTriggerMark(QPainter &painter, const PlotGeometry &geometry, const QFon
     if (box.right() > area.right())
         box.moveRight(x - labelGap);
     painter.setFont(font);
+    painter.setPen(Qt::white);
     painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter, text);
 }
 
@@ -147,8 +154,6 @@ void drawDigitalRow(QPainter &painter, const PlotGeometry &geometry, const TimeA
     const int first = axis.isAscending()
         ? runs.runOf(std::max(0, axis.firstAtOrAfter(geometry.view().minX) - 1))
         : 0;
-    painter.setPen(rowColor);
-    painter.setBrush(bandColor);
     int drawnX = std::numeric_limits<int>::min(); // of the last stretch within one pixel column
     bool drawnOn = false;
     for (int run = first; run < runs.count(); ++run) {
@@ -171,12 +176,14 @@ void drawDigitalRow(QPainter &painter, const PlotGeometry &geometry, const TimeA
             drawnX = from;
             drawnOn = isOn;
         }
-        if (!isOn)
-            painter.drawLine(from, y, to, y);
-        else if (from == to)
-            painter.drawLine(from, y - bandReach, from, y + bandReach);
-        else
-            painter.drawRect(from, y - bandReach, to - from, 2 * bandReach);
+        const QRect line(QPoint(std::min(from, to), y), QPoint(std::max(from, to), y));
+        if (isOn) {
+            const QRect band = line.adjusted(0, -bandReach, 0, bandReach);
+            painter.fillRect(band, bandColor);
+            fillFrame(painter, band, rowColor);
+        } else {
+            painter.fillRect(line, rowColor);
+        }
     }
 }
 

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "baselayer.h"
+#include "digitalruns.h"
 #include "textsearch.h"
+#include "timeaxis.h"
 
 #include <QtTest>
 
@@ -28,13 +30,48 @@ PlotGeometry geometryOf(const PlotSettings &view, int readoutWidth = 0)
     return {widget, readoutWidth, view};
 }
 
-QImage paint(const std::function<void(QPainter &)> &draw)
+QImage paint(const std::function<void(QPainter &)> &draw, double ratio = 1)
 {
-    QImage image(widget, QImage::Format_RGB32);
+    QImage image(widget * ratio, QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
     image.fill(Qt::black);
     QPainter painter(&image);
     draw(painter);
     return image;
+}
+
+// A row or a column of device pixels.
+QVector<QRgb> deviceRow(const QImage &image, int y)
+{
+    QVector<QRgb> pixels;
+    for (int x = 0; x < image.width(); ++x)
+        pixels.append(image.pixel(x, y));
+    return pixels;
+}
+
+QVector<QRgb> deviceColumn(const QImage &image, int x)
+{
+    return deviceRow(image.transformed(QTransform(0, 1, 1, 0, 0, 0)), x);
+}
+
+// Black but for the stretches of a colour, each of which reaches from one widget pixel to another
+// and is cut to whole device pixels.
+QVector<QRgb> stretches(
+    const QVector<QPair<int, int>> &fromTo, QRgb color, double ratio, int deviceLength)
+{
+    QVector<QRgb> pixels(deviceLength, black);
+    for (const auto &stretch : fromTo) {
+        for (int i = qRound(stretch.first * ratio); i < qRound((stretch.second + 1) * ratio); ++i)
+            pixels[i] = color;
+    }
+    return pixels;
+}
+
+void addRatios()
+{
+    QTest::addColumn<double>("ratio"); // of device pixels to widget pixels
+    for (const double ratio : {1.0, 1.25, 1.5, 1.75, 2.0, 3.0})
+        QTest::addRow("at %g", ratio) << ratio;
 }
 
 QStringList list(const char *texts)
@@ -64,6 +101,15 @@ private slots:
     void theTriggerIsALineWithItsTime();
     void aTriggerOutOfViewIsNotDrawn_data();
     void aTriggerOutOfViewIsNotDrawn();
+    void gridLinesFillTheirPixels_data() { addRatios(); }
+    void gridLinesFillTheirPixels();
+    void theFrameFillsItsPixels_data() { addRatios(); }
+    void theFrameFillsItsPixels();
+    void theTriggersDashesFillTheirPixels_data() { addRatios(); }
+    void theTriggersDashesFillTheirPixels();
+    void digitalRowsFillTheirPixels_data() { addRatios(); }
+    void digitalRowsFillTheirPixels();
+    void aBandOfTwoPixelsHasAllCorners();
 
 private:
     QFont font = crispFont(12);
@@ -288,6 +334,102 @@ void TestBaseLayer::aTriggerOutOfViewIsNotDrawn()
         drawTriggerMark(painter, geometryOf({0, 700, 7, 0, 1, 4}), font, time);
     });
     QVERIFY(inkRect(image, image.rect()).isNull());
+}
+
+// A line at every whole number of 31 ms, 700 / 31 pixels apart, and at every seventh of the height.
+void TestBaseLayer::gridLinesFillTheirPixels()
+{
+    QFETCH(double, ratio);
+    const PlotGeometry geometry = geometryOf({0, 31, 31, 0, 7, 7});
+    QVector<QPair<int, int>> columns{{797, 797}};
+    for (int i = 0; i < 31; ++i)
+        columns.append({qRound(100 + i * 700 / 31.0), qRound(100 + i * 700 / 31.0)});
+    const QImage times = paint([&](QPainter &painter) { drawTimeGrid(painter, geometry); }, ratio);
+    QCOMPARE(deviceRow(times, int(160 * ratio)), stretches(columns, grid, ratio, times.width()));
+    QCOMPARE(deviceColumn(times, qRound(100 * ratio)),
+        stretches({{60, 260}}, grid, ratio, times.height()));
+
+    const QImage values
+        = paint([&](QPainter &painter) { drawValueGrid(painter, geometry, font); }, ratio);
+    QCOMPARE(deviceColumn(values, int(450 * ratio)),
+        stretches({{60, 60}, {89, 89}, {117, 117}, {146, 146}, {174, 174}, {203, 203}, {231, 231},
+                      {260, 260}},
+            grid, ratio, values.height()));
+}
+
+void TestBaseLayer::theFrameFillsItsPixels()
+{
+    QFETCH(double, ratio);
+    const QImage image = paint(
+        [](QPainter &painter) {
+            drawFrame(painter, geometryOf({0, 700, 7, 0, 1, 4}));
+        },
+        ratio);
+    QCOMPARE(deviceRow(image, int(160 * ratio)),
+        stretches({{100, 100}, {797, 797}}, white, ratio, image.width()));
+    QCOMPARE(deviceColumn(image, int(450 * ratio)),
+        stretches({{60, 60}, {260, 260}}, white, ratio, image.height()));
+}
+
+// Four pixels of every six, from the top of the plot area on.
+void TestBaseLayer::theTriggersDashesFillTheirPixels()
+{
+    QFETCH(double, ratio);
+    QVector<QPair<int, int>> dashes{{258, 260}};
+    for (int y = 60; y < 258; y += 6)
+        dashes.append({y, y + 3});
+    for (const int x : {101, 102, 103, 104}) {
+        const QImage image = paint(
+            [&](QPainter &painter) {
+                drawTriggerMark(painter, geometryOf({0, 700, 7, 0, 1, 4}), font, x - 100);
+            },
+            ratio);
+        QCOMPARE(deviceColumn(image, qRound(x * ratio)),
+            stretches(dashes, white, ratio, image.height()));
+        QCOMPARE(
+            deviceRow(image, int(61 * ratio)), stretches({{x, x}}, white, ratio, image.width()));
+    }
+}
+
+// Off from 0 to 200 ms, on to 301, off to 600, and on for less than a pixel there.
+void TestBaseLayer::digitalRowsFillTheirPixels()
+{
+    QFETCH(double, ratio);
+    const QRgb line = qRgb(20, 150, 20);
+    const QRgb band = qRgb(240, 255, 240);
+    const TimeAxis axis({0, 200, 301, 600, 600.1, 650});
+    const DigitalRuns runs({0, 1, 0, 1, 0, 0});
+    for (const int y : {101, 102, 103, 104}) {
+        const QImage image = paint(
+            [&](QPainter &painter) {
+                drawDigitalRow(painter, geometryOf({0, 700, 7, 0, 1, 4}), axis, runs, y);
+            },
+            ratio);
+        QCOMPARE(deviceColumn(image, int(200 * ratio)),
+            stretches({{y, y}}, line, ratio, image.height()));
+        QVector<QRgb> across = stretches({{y - 5, y + 5}}, line, ratio, image.height());
+        QCOMPARE(deviceColumn(image, qRound(700 * ratio)), across);
+        for (int i = qRound((y - 4) * ratio); i < qRound((y + 5) * ratio); ++i)
+            across[i] = band;
+        QCOMPARE(deviceColumn(image, int(350 * ratio)), across);
+        QVector<QRgb> along
+            = stretches({{300, 300}, {401, 401}, {700, 700}}, line, ratio, image.width());
+        for (int i = qRound(301 * ratio); i < qRound(401 * ratio); ++i)
+            along[i] = band;
+        QCOMPARE(deviceRow(image, qRound((y - 4) * ratio)), along);
+    }
+}
+
+void TestBaseLayer::aBandOfTwoPixelsHasAllCorners()
+{
+    const QImage image = paint([](QPainter &painter) {
+        drawDigitalRow(painter, geometryOf({0, 700, 7, 0, 1, 4}), TimeAxis({200, 201, 400}),
+            DigitalRuns({1, 0, 0}), 160);
+    });
+    for (const int x : {300, 301}) {
+        QCOMPARE(
+            deviceColumn(image, x), stretches({{155, 165}}, qRgb(20, 150, 20), 1, image.height()));
+    }
 }
 
 QTEST_MAIN(TestBaseLayer)
