@@ -10,11 +10,13 @@
 
 #include <QIODevice>
 
+#include <algorithm>
+
 namespace {
 
 QString withoutLast(const QString &text, int count = 1)
 {
-    return text.chopped(qMin(count, text.size()));
+    return text.chopped(std::min(count, text.size()));
 }
 
 // The factors are written as a reciprocal and a product, which rounds twice.
