@@ -6,6 +6,7 @@
 #include "configurationreader.h"
 #include "datareader.h"
 #include "filekind.h"
+#include "memoryneed.h"
 #include "phasors.h"
 #include "textreader.h"
 
@@ -71,6 +72,7 @@ void CFGProperties::load()
         loaded = readDatFile() ? 1 : 0;
         fftTransform();
     }
+    requireMemory(0);
 }
 
 void CFGProperties::readConfgFile()
@@ -105,6 +107,8 @@ void CFGProperties::readTxtFile()
 
 void CFGProperties::fftTransform()
 {
+    const auto phasor = static_cast<qint64>(2 * sizeof(float));
+    requireMemory(analogChannels.size() * phasor * sampleTimes.size());
     for (AnalogChannel *channel : qAsConst(analogChannels))
         computePhasors(*channel, samplesPerCycle);
 }

@@ -4,6 +4,7 @@
 #include "datareader.h"
 
 #include "cfgproperties.h"
+#include "memoryneed.h"
 #include "numbers.h"
 #include "recordregistry.h"
 #include "samplebudget.h"
@@ -222,8 +223,13 @@ private:
         const double wanted = std::clamp(expected, m_rows * 1.125, m_rows * mostForEachRead);
         const int delivered = m_rows - static_cast<int>(m_gathered);
         m_rowsWithRoom = static_cast<int>(std::min<double>(wanted, mostRows - m_rowsBefore));
-        const auto extend = [additional = m_rowsWithRoom - delivered](
-                                auto &series) { series.reserve(series.size() + additional); };
+        const int additional = m_rowsWithRoom - delivered;
+        const auto row = static_cast<qint64>(
+            sizeof(double) + 2 * sizeof(float) * m_analog.size() + sizeof(int) * m_digital.size());
+        // While a list moves, it stands in two places.
+        requireMemory(additional * row + m_rowsWithRoom * static_cast<qint64>(sizeof(double)));
+        const auto extend
+            = [additional](auto &series) { series.reserve(series.size() + additional); };
         extend(m_recording.sampleTimes);
         for (const AnalogColumn &column : m_analog) {
             extend(column.channel->values);

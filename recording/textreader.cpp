@@ -5,6 +5,7 @@
 
 #include "cfgproperties.h"
 #include "configurationreader.h"
+#include "memoryneed.h"
 #include "numbers.h"
 #include "recordregistry.h"
 #include "samplebudget.h"
@@ -126,6 +127,8 @@ private:
 };
 
 class TextReader {
+    static constexpr int rowsBetweenLooks = 1024; // at the memory that is left
+
 public:
     TextReader(CFGProperties &recording, qint64 lettersOfHeader)
         : m_recording(recording), m_letters(lettersOfHeader)
@@ -139,6 +142,8 @@ public:
         if (m_recording.sampleTimes.size() == mostRows
             || !isWithinBudget(m_rows + 1, m_recording.analogChannelCount, m_letters))
             return false;
+        if (m_rows % rowsBetweenLooks == 0)
+            requireMemory(0);
         const QVector<QStringRef> fields = firstFields(line, m_recording.analogChannelCount + 1);
         const QDateTime stamp = parsedStamp(fields.constFirst());
         if (m_recording.startDate.isEmpty())

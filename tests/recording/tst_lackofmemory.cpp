@@ -70,7 +70,7 @@ void TestLackOfMemory::aLoadFailsAndTheNextOneDoesNot()
     const QString path = recording.filePath;
     int failures = 0;
     int successes = 0;
-    for (int kilobytes = 0; kilobytes < 16384 && successes < 2; kilobytes += 16) {
+    for (int kilobytes = 0; kilobytes < 32768 && successes < 2; kilobytes += 16) {
         recording.clearConfig();
         recording.filePath = path;
         const QSignalSpy finished(&recording, &CFGProperties::initFinished);
