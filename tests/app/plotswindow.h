@@ -4,7 +4,7 @@
 #pragma once
 
 #include "addplotterdialog.h"
-#include "smallrecording.h"
+#include "recordingbuilder.h"
 #include "windowfixture.h"
 
 #include <QApplication>
@@ -22,29 +22,23 @@
 inline QString writeRecording(const QString &folder, const QStringList &analog,
     const QStringList &digital, const QByteArray &flag = "P")
 {
-    QByteArray configuration = "Harju,J07,1999\n"
-        + QByteArray::number(analog.size() + digital.size()) + ','
-        + QByteArray::number(analog.size()) + "A," + QByteArray::number(digital.size()) + "D\n";
-    for (int i = 0; i < analog.size(); ++i)
-        configuration += QByteArray::number(i + 1) + ',' + analog.at(i).toLatin1()
-            + ",A,line,A,1,0,0,-99,99,400,5," + flag + '\n';
-    for (int i = 0; i < digital.size(); ++i)
-        configuration += QByteArray::number(i + 1) + ',' + digital.at(i).toLatin1() + ",,,0\n";
-    configuration
-        += "50\n1\n1000,100\n15/03/2024,10:00:00.000000\n15/03/2024,10:00:00.050000\nASCII\n1\n";
-    QByteArray data;
-    for (int i = 0; i < 100; ++i) {
-        data += QByteArray::number(i + 1) + ',' + QByteArray::number(i * 1000);
-        for (int k = 0; k < analog.size(); ++k)
-            data += ',' + QByteArray::number((i % 20 - 10) * (k + 1));
+    ConfigurationText text;
+    text.station = "Harju,J07,1999";
+    for (const QString &name : analog)
+        text.addAnalog(name.toLatin1() + ",A,line,A,1,0,0,-99,99,400,5," + flag);
+    for (const QString &name : digital)
+        text.addDigital(name.toLatin1());
+    text.rates = QByteArrayList{"1000,100"};
+    text.trigger = "15/03/2024,10:00:00.050000";
+    const QByteArray data = dataLines(100, 1000, [&](int i) {
+        QByteArrayList values;
+        for (int k = 1; k <= analog.size(); ++k)
+            values += QByteArray::number((i % 20 - 10) * k);
         for (const QString &name : digital)
-            data += i >= 50 && !name.endsWith(QLatin1Char('0')) ? ",1" : ",0";
-        data += '\n';
-    }
-    const QString base = folder + QStringLiteral("/recording");
-    const bool isWritten = writeTextFile(base + QStringLiteral(".cfg"), configuration)
-        && writeTextFile(base + QStringLiteral(".dat"), data);
-    return isWritten ? base + QStringLiteral(".cfg") : QString();
+            values += i >= 50 && !name.endsWith(QLatin1Char('0')) ? "1" : "0";
+        return values;
+    });
+    return writePair(folder + QStringLiteral("/recording"), text.text(), data);
 }
 
 inline QStringList texts(const QListWidget *list)

@@ -6,7 +6,7 @@
 #include "cfgproperties.h"
 #include "customlabel.h"
 #include "drawingcounter.h"
-#include "smallrecording.h"
+#include "recordingbuilder.h"
 #include "vectorpanel.h"
 #include "windowfixture.h"
 
@@ -40,25 +40,20 @@ QString writeSignals(
     const QString &folder, int frequency, int rate, const QList<Signal> &analogSignals)
 {
     constexpr int samples = 200;
-    const QByteArray count = QByteArray::number(analogSignals.size());
-    QByteArray configuration = "Harju,J07,1999\n" + count + ',' + count + "A,0D\n";
-    for (int k = 0; k < analogSignals.size(); ++k)
-        configuration += QByteArray::number(k + 1) + ',' + analogSignals.at(k).name
-            + ",,line,A,0.5,7,0,-99999,99999,400,5,P\n";
-    configuration += QByteArray::number(frequency) + "\n1\n" + QByteArray::number(rate) + ','
-        + QByteArray::number(samples)
-        + "\n15/03/2024,10:00:00.000000\n15/03/2024,10:00:00.050000\nASCII\n1\n";
-    QByteArray data;
-    for (int i = 0; i < samples; ++i) {
-        data += QByteArray::number(i + 1) + ',' + QByteArray::number(qRound64(i * 1e6 / rate));
+    ConfigurationText text;
+    text.station = "Harju,J07,1999";
+    for (const Signal &signal : analogSignals)
+        text.addAnalog(signal.name + ",,line,A,0.5,7,0,-99999,99999,400,5,P");
+    text.frequency = QByteArray::number(frequency);
+    text.rates = QByteArrayList{QByteArray::number(rate) + ',' + QByteArray::number(samples)};
+    text.trigger = "15/03/2024,10:00:00.050000";
+    const QByteArray data = dataLines(samples, rate, [&](int i) {
+        QByteArrayList values;
         for (const Signal &signal : analogSignals)
-            data += ',' + QByteArray::number(2 * signal.wave(i), 'f', 5);
-        data += '\n';
-    }
-    const QString base = folder + QStringLiteral("/signals");
-    const bool isWritten = writeTextFile(base + QStringLiteral(".cfg"), configuration)
-        && writeTextFile(base + QStringLiteral(".dat"), data);
-    return isWritten ? base + QStringLiteral(".cfg") : QString();
+            values += QByteArray::number(2 * signal.wave(i), 'f', 5);
+        return values;
+    });
+    return writePair(folder + QStringLiteral("/signals"), text.text(), data);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "plotswindow.h"
 #include "plotterdg.h"
 #include "savedialog.h"
+#include "smallrecording.h"
 #include "vectordialog.h"
 
 #include <QAbstractItemView>

@@ -6,7 +6,7 @@
 #include "baselayer.h"
 #include "cfgproperties.h"
 #include "ctvtdialog.h"
-#include "smallrecording.h"
+#include "recordingbuilder.h"
 #include "vectorpanel.h"
 #include "windowfixture.h"
 
@@ -22,18 +22,17 @@ namespace {
 // Four samples a cycle of the amplitude 100, and a constant 10; both are of 400/5.
 QString writeRecording(const QString &folder, const QString &flag)
 {
-    const QByteArray rest = ",,line,A,1,0,0,-999,999,400,5," + flag.toLatin1() + '\n';
-    const QByteArray configuration = "Harju,J07,1999\n2,2A,0D\n1,I" + rest + "2,U" + rest
-        + "50\n1\n200,200\n15/03/2024,10:00:00.000000\n15/03/2024,10:00:00.050000\nASCII\n1\n";
+    ConfigurationText text;
+    text.station = "Harju,J07,1999";
+    for (const char *name : {"I", "U"})
+        text.addAnalog(name + (",,line,A,1,0,0,-999,999,400,5," + flag.toLatin1()));
+    text.rates = QByteArrayList{"200,200"};
+    text.trigger = "15/03/2024,10:00:00.050000";
     const QByteArrayList cycle{"100", "0", "-100", "0"};
-    QByteArray data;
-    for (int i = 0; i < 200; ++i)
-        data += QByteArray::number(i + 1) + ',' + QByteArray::number(i * 5000) + ','
-            + cycle.at(i % 4) + ",10\n";
-    const QString base = folder + QStringLiteral("/ratios");
-    const bool isWritten = writeTextFile(base + QStringLiteral(".cfg"), configuration)
-        && writeTextFile(base + QStringLiteral(".dat"), data);
-    return isWritten ? base + QStringLiteral(".cfg") : QString();
+    const QByteArray data = dataLines(200, 200, [&](int i) {
+        return QByteArrayList{cycle.at(i % 4), "10"};
+    });
+    return writePair(folder + QStringLiteral("/ratios"), text.text(), data);
 }
 
 const QRgb yellow = qRgb(220, 220, 0); // of the second channel

@@ -276,9 +276,7 @@ void TestDataReader::whereReadingEnds_data()
 {
     QTest::addColumn<QByteArray>("data");
     QTest::addColumn<int>("samples");
-    QByteArray hundred;
-    for (int i = 0; i < 100; ++i)
-        hundred += QByteArray::number(i + 1) + ',' + QByteArray::number(i * 1000) + ",7,1\n";
+    const QByteArray hundred = dataLines(100, 1000, [](int) { return QByteArrayList{"7", "1"}; });
 
     QTest::newRow("with the file") << hundred << 100;
     QTest::newRow("with a last line without line end") << hundred.chopped(1) << 100;

@@ -25,12 +25,10 @@ inline ConfigurationText configurationText()
 
 inline QByteArray dataUpTo(int last)
 {
-    QByteArray data;
-    for (int i = 0; i <= last; ++i)
-        data += QByteArray::number(i + 1) + ',' + QByteArray::number(i * 1000) + ','
-            + QByteArray::number(i % 7) + ',' + QByteArray::number(-i) + ','
-            + QByteArray::number(i % 2) + '\n';
-    return data;
+    return dataLines(last + 1, 1000, [](int i) {
+        return QByteArrayList{
+            QByteArray::number(i % 7), QByteArray::number(-i), QByteArray::number(i % 2)};
+    });
 }
 
 // What a writer made.

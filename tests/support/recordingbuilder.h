@@ -4,11 +4,21 @@
 #pragma once
 
 #include "cfgproperties.h"
-#include "smallrecording.h"
 
 #include <QByteArrayList>
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+
+#include <functional>
+
+// Writes a file; false where that fails.
+inline bool writeTextFile(const QString &path, const QByteArray &text)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
+}
 
 // The text of a configuration, put together from parts that a test may change. Counts that are not
 // set are those of the lines.
@@ -23,6 +33,13 @@ struct ConfigurationText {
     QByteArray trigger = "15/03/2024,10:00:00.020000";
     QByteArray fileType = "ASCII";
     QByteArray timeMultiplier = "1";
+
+    // Appends a channel numbered in its turn, of whose line the rest is given.
+    void addAnalog(const QByteArray &rest) { analog += numberAfter(analog) + ',' + rest; }
+    void addDigital(const QByteArray &name)
+    {
+        digital += numberAfter(digital) + ',' + name + ",,,0";
+    }
 
     // Lines joined by a line end, the last one with one too.
     QByteArray text(const QByteArray &lineEnd = "\n") const
@@ -41,6 +58,10 @@ struct ConfigurationText {
     }
 
 private:
+    static QByteArray numberAfter(const QByteArrayList &lines)
+    {
+        return QByteArray::number(lines.size() + 1);
+    }
     QByteArray countedLines() const
     {
         return QByteArray::number(analog.size() + digital.size()) + ','
@@ -64,6 +85,30 @@ inline QByteArray digitalLine(int number)
     return text + ",DI" + text + ",,,0";
 }
 
+// The lines of data of count samples, rate of them in a second and the first at 0; each ends with
+// the values that are given for the sample, counted from 0.
+inline QByteArray dataLines(
+    int count, double rate, const std::function<QByteArrayList(int)> &values)
+{
+    QByteArray lines;
+    for (int i = 0; i < count; ++i) {
+        const QByteArrayList stamp{
+            QByteArray::number(i + 1), QByteArray::number(qRound64(i * 1e6 / rate))};
+        lines += (stamp + values(i)).join(',') + '\n';
+    }
+    return lines;
+}
+
+// Writes <base>.cfg and <base>.dat and returns the path of the former, empty where that fails.
+inline QString writePair(
+    const QString &base, const QByteArray &configuration, const QByteArray &data)
+{
+    const QString path = base + QLatin1String(".cfg");
+    const bool isWritten
+        = writeTextFile(path, configuration) && writeTextFile(base + QLatin1String(".dat"), data);
+    return isWritten ? path : QString();
+}
+
 // A folder of its own, in which recordings are written and loaded; where the system has one for
 // that, it may lie in memory.
 class RecordingFolder {
@@ -77,13 +122,10 @@ public:
     void load(CFGProperties &recording, const QByteArray &configuration, const QByteArray &data,
         const char *name = "rec") const
     {
-        const QString base = path(name);
         recording.loaded = -1;
-        if (!writeTextFile(base + QLatin1String(".cfg"), configuration)
-            || !writeTextFile(base + QLatin1String(".dat"), data))
-            return;
-        recording.filePath = base + QLatin1String(".cfg");
-        recording.init();
+        recording.filePath = writePair(path(name), configuration, data);
+        if (!recording.filePath.isEmpty())
+            recording.init();
     }
 
 private:
