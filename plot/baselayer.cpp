@@ -10,6 +10,8 @@
 #include <QCoreApplication>
 #include <QFontMetrics>
 #include <QPainter>
+#include <QPixmap>
+#include <QWidget>
 
 #include <algorithm>
 #include <cmath>
@@ -38,8 +40,8 @@ double gridTime(const PlotSettings &view, int line)
     return std::abs(time) < step * 1e-9 ? 0 : time;
 }
 
-// All lines of the layer are filled rectangles of one pixel, so that they stand where their pixel
-// does and are seen at every scale factor of the screen.
+} // namespace
+
 void fillFrame(QPainter &painter, const QRect &frame, const QColor &color)
 {
     painter.fillRect(frame.left(), frame.top(), frame.width(), 1, color);
@@ -48,7 +50,14 @@ void fillFrame(QPainter &painter, const QRect &frame, const QColor &color)
     painter.fillRect(frame.right(), frame.top(), 1, frame.height(), color);
 }
 
-} // namespace
+QPixmap clearLayer(const QWidget &plot)
+{
+    const qreal ratio = plot.devicePixelRatioF();
+    QPixmap layer(plot.size() * ratio);
+    layer.setDevicePixelRatio(ratio);
+    layer.fill(Qt::transparent);
+    return layer;
+}
 
 QFont smallFont(const QFont &font)
 {

@@ -6,9 +6,16 @@
 #include "plotgeometry.h"
 
 class DigitalRuns;
+class QColor;
 class QFont;
 class QPainter;
+class QPixmap;
+class QRect;
+class QWidget;
 class TimeAxis;
+
+// A transparent picture as large as a plot, at its screen's scale.
+QPixmap clearLayer(const QWidget &plot);
 
 // The passes that paint the base layer of a plot. Colours and pens are their own; the painter's
 // clip must be off, but for drawDigitalRow(), which leaves it to the caller.
@@ -20,6 +27,10 @@ void drawTimeLabels(QPainter &painter, const PlotGeometry &geometry, const QFont
 
 // The lines of the value grid with the values left of them, of which likewise none overlap.
 void drawValueGrid(QPainter &painter, const PlotGeometry &geometry, const QFont &font);
+
+// All lines are filled rectangles of one pixel, so that they stand where their pixel does and are
+// seen at every scale factor of the screen.
+void fillFrame(QPainter &painter, const QRect &frame, const QColor &color);
 
 void drawFrame(QPainter &painter, const PlotGeometry &geometry);
 

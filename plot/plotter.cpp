@@ -4,7 +4,6 @@
 #include "plotter.h"
 
 #include "analogchannel.h"
-#include "baselayer.h"
 #include "cfgproperties.h"
 #include "channelnames.h"
 #include "channelvalues.h"
@@ -47,11 +46,11 @@ Plotter::Plotter(QWidget *parent)
     : QWidget(parent),
       plotType(QStringLiteral("Analog")),
       plotterLabel(new PlotTitle(this)),
-      timeLabel(new QLabel(this)),
-      timeLine(new PlotLine(this, QStringLiteral("timeline"), QStringLiteral("white"))),
+      timeLine(this),
       startMarker{new PlotLine(this, QStringLiteral("startMarker"), QStringLiteral("red"))},
       endMarker{new PlotLine(this, QStringLiteral("endMarker"), QStringLiteral("red"))},
       cursorMarks(this),
+      rubberBand(this),
       m_channelLabels(this),
       colorDialog(new QColorDialog(Qt::white, this)),
       hostWidget(parent)
@@ -60,17 +59,6 @@ Plotter::Plotter(QWidget *parent)
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-
-    timeLabel->setObjectName(QStringLiteral("timelabel"));
-    timeLabel->setStyleSheet(QStringLiteral("QLabel{color: white;}"));
-    timeLabel->setFont(smallFont(font()));
-    timeLabel->resize(70, 20);
-    timeLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
-    timeLabel->setAutoFillBackground(true); // it covers the texts that it stands over
-    timeLabel->setPalette(QPalette(QColor(0x313034)));
-    timeLabel->hide();
-    timeLabel->lower();
-    timeLine->lower();
 
     connect(plotterLabel->editor(), &QLineEdit::editingFinished, this, &Plotter::labelEditFinished);
     connect(plotterLabel->editor(), &QLineEdit::returnPressed, this, &Plotter::labelEditConfirm);
@@ -101,11 +89,6 @@ void Plotter::setName(const QString &name)
 QString Plotter::name() const
 {
     return plotterLabel->name();
-}
-
-void Plotter::setTitle(const QString &title)
-{
-    plotterLabel->setTitle(title);
 }
 
 void Plotter::changeEvent(QEvent *event)
@@ -289,29 +272,11 @@ void Plotter::paintEvent(QPaintEvent * /*event*/)
     style()->drawPrimitive(QStyle::PE_Widget, &background, &painter, this);
     painter.drawPixmap(0, 0, basePixmap);
     painter.drawPixmap(0, 0, overlayPixmap);
-    if (rubberBandShown) {
-        painter.setPen(palette().light().color());
-        painter.drawRect(rubberBandRect.normalized().adjusted(0, 0, -1, -1));
-    }
+    rubberBand.paint(painter);
     if (hasFocus()) {
         QStyleOptionFocusRect frame;
         frame.initFrom(this);
         frame.backgroundColor = palette().dark().color();
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
     }
-}
-
-void Plotter::resizeEvent(QResizeEvent * /*event*/)
-{
-    refreshPixmap();
-}
-
-void Plotter::showEvent(QShowEvent * /*event*/)
-{
-    refreshPixmap();
-}
-
-void Plotter::hideEvent(QHideEvent * /*event*/)
-{
-    letGo();
 }

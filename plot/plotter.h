@@ -10,9 +10,11 @@
 #include "mousemovereceiver.h"
 #include "plotgeometry.h"
 #include "plotview.h"
+#include "rubberband.h"
 #include "savemarker.h"
 #include "shownchannel.h"
 #include "timeaxis.h"
+#include "timeline.h"
 
 #include <QColor>
 #include <QList>
@@ -23,9 +25,9 @@
 class AnalogChannel;
 class CFGProperties;
 class PlotHost;
-class PlotLine;
 class PlotTitle;
 class QColorDialog;
+class QHelpEvent;
 class QLabel;
 
 // Shows analog channels of a recording as waveforms or spectra against time. A plot paints into two
@@ -47,8 +49,6 @@ public:
     // "Analog" shows as "Analog Plotter", from the next setupPlot() or change of language on.
     void setName(const QString &name);
     QString name() const;
-    // Replaces the text of the title; the name stays.
-    void setTitle(const QString &title);
 
     // The other plots of the window.
     void setLinkedPlotters(const QList<Plotter *> &plotters) { linkedPlotters = plotters; }
@@ -128,9 +128,6 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
-    void showEvent(QShowEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -170,7 +167,6 @@ private:
     void settleReadout();
     void shareReadoutWidth();
     BaseContent baseContent() const;
-    QPixmap clearLayer() const;
     void paintBase();
     void paintOverlay();
     void placeMarks();
@@ -189,8 +185,6 @@ private:
     void rangeScrollBar();
     void takeBarPosition();
     void scrollView(int dx, int dy);
-    void updateBand();
-    void hideBand();
 
     void showTimeLine(int x);
     void moveCursor(int cursor, double time);
@@ -202,17 +196,17 @@ private:
     void letGo();
     void takePress();
     void chooseColor(const QLabel *label);
+    void showCell(const QHelpEvent &help);
 
     PlotView m_view;
     Readout m_readout; // as of the last refresh
     int m_readoutNeed = 0;
     int readoutWidth = 0; // kept free at the right of the plot area
-    QLabel *timeLabel;
-    PlotLine *timeLine;
-    double timeLineTime = 0; // ms
+    TimeLine timeLine;
     SaveMarker startMarker;
     SaveMarker endMarker;
     CursorMarks cursorMarks;
+    RubberBand rubberBand;
     QPixmap basePixmap;
     BaseContent m_drawn; // what basePixmap shows
     QPixmap overlayPixmap; // null while there is nothing to show
@@ -224,8 +218,6 @@ private:
     QColorDialog *colorDialog;
     QMap<int, QColor> m_chosenColors; // by channel number
     int zoomLevel = 0;
-    bool rubberBandShown = false;
-    QRect rubberBandRect;
     QList<Plotter *> linkedPlotters;
 
     // Kept for their values; nothing reads them.

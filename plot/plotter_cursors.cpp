@@ -16,31 +16,10 @@
 
 #include <algorithm>
 
-namespace {
-
-constexpr int timeLabelGap = 15; // between the time line and its label
-constexpr int timeLabelTop = 45;
-constexpr int smallestTimeFont = 7; // pixels
-
-} // namespace
-
 void Plotter::showTimeLine(int x)
 {
-    if (m_view.isEmpty())
-        return;
-    const PlotGeometry geometry = geometryOfView();
-    timeLineTime = geometry.lineTime(x);
-    const QString text = QStringLiteral("t = ") + generalText(timeLineTime);
-    timeLabel->setFont(fittingFont(smallFont(font()), text, timeLabel->width(), smallestTimeFont));
-    timeLabel->setText(text);
-    QRect place(QPoint(x + timeLabelGap, timeLabelTop), timeLabel->size());
-    if (place.right() > rect().right())
-        place.moveRight(x - timeLabelGap);
-    timeLabel->move(place.topLeft());
-    timeLabel->show();
-    timeLabel->lower();
-    timeLine->place(x, geometry);
-    timeLine->show();
+    if (!m_view.isEmpty())
+        timeLine.show(x, geometryOfView());
 }
 
 void Plotter::addCursor(int x, int /*y*/)
@@ -108,7 +87,7 @@ void Plotter::paintOverlay()
         return;
     }
     if (overlayPixmap.size() != size() * devicePixelRatioF())
-        overlayPixmap = clearLayer();
+        overlayPixmap = clearLayer(*this);
     QPainter painter(&overlayPixmap);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.fillRect(
@@ -125,8 +104,7 @@ void Plotter::placeMarks()
         return;
     const PlotGeometry geometry = geometryOfView();
     cursorMarks.place(geometry);
-    if (timeLine->isVisible())
-        showTimeLine(timeLine->x()); // at another time now
+    timeLine.refresh(geometry);
     startMarker.place(geometry);
     endMarker.place(geometry);
 }

@@ -19,15 +19,6 @@
 #include <algorithm>
 #include <utility>
 
-QPixmap Plotter::clearLayer() const
-{
-    const qreal ratio = devicePixelRatioF();
-    QPixmap layer(size() * ratio);
-    layer.setDevicePixelRatio(ratio);
-    layer.fill(Qt::transparent);
-    return layer;
-}
-
 void Plotter::refreshPixmap()
 {
     if (!isOnScreen())
@@ -72,7 +63,7 @@ BaseContent Plotter::baseContent() const
 
 void Plotter::paintBase()
 {
-    basePixmap = clearLayer();
+    basePixmap = clearLayer(*this);
     if (m_view.isEmpty() || basePixmap.isNull())
         return;
     QPainter painter(&basePixmap);

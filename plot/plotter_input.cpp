@@ -44,17 +44,32 @@ int caught(int position, int from, int to)
 
 bool Plotter::event(QEvent *event)
 {
-    if (event->type() == QEvent::WindowDeactivate)
-        letGo();
-    if (event->type() == QEvent::ShowToParent)
+    switch (event->type()) {
+    case QEvent::ToolTip:
+        showCell(*static_cast<QHelpEvent *>(event));
+        return true;
+    case QEvent::ShowToParent:
         followLinked();
-    if (event->type() != QEvent::ToolTip)
-        return QWidget::event(event);
-    // The cells of the readout are elided where there are many cursors.
-    const auto *help = static_cast<QHelpEvent *>(event);
-    const QString text = m_drawn.readout.textAt(help->pos(), geometryOfView(), smallFont(font()));
-    QToolTip::showText(help->globalPos(), plainToolTip(text), this);
-    return true;
+        break;
+    case QEvent::Show:
+    case QEvent::Resize:
+        refreshPixmap();
+        break;
+    case QEvent::Hide:
+    case QEvent::WindowDeactivate:
+        letGo();
+        break;
+    default:
+        break;
+    }
+    return QWidget::event(event);
+}
+
+// The cells of the readout are elided where there are many cursors.
+void Plotter::showCell(const QHelpEvent &help)
+{
+    const QString text = m_drawn.readout.textAt(help.pos(), geometryOfView(), smallFont(font()));
+    QToolTip::showText(help.globalPos(), plainToolTip(text), this);
 }
 
 void Plotter::releaseGrab()
@@ -71,8 +86,8 @@ void Plotter::letGo()
     draggedLabel = nullptr;
     if (std::exchange(draggingTimeLine, false))
         refreshAll(); // the readouts follow the end of a drag
-    if (rubberBandShown)
-        hideBand();
+    if (rubberBand.isShown())
+        rubberBand.hide();
 }
 
 // Sees the release of a key wherever it goes: it may reach another widget than the press did.
@@ -97,11 +112,7 @@ void Plotter::mousePressEvent(QMouseEvent *event)
     const QPoint point(caught(event->pos().x(), area.left(), area.right()),
         caught(event->pos().y(), area.top(), area.bottom()));
     if (event->button() == Qt::LeftButton && area.contains(point)) {
-        hideBand(); // one whose end was not told
-        rubberBandRect = QRect(point, point);
-        rubberBandShown = true;
-        updateBand();
-        setCursor(Qt::CrossCursor);
+        rubberBand.begin(point);
         return;
     }
     for (Plotter *plotter : qAsConst(linkedPlotters))
@@ -110,8 +121,8 @@ void Plotter::mousePressEvent(QMouseEvent *event)
 
 void Plotter::takePress()
 {
-    if (rubberBandShown)
-        hideBand();
+    if (rubberBand.isShown())
+        rubberBand.hide();
     plotterLabel->closeEditor();
 }
 
@@ -137,11 +148,8 @@ void Plotter::mouseMoveEvent(QMouseEvent *event)
         draggingTimeLine = true;
     if (draggingTimeLine)
         dragCursor(point.x());
-    if (rubberBandShown) {
-        updateBand();
-        rubberBandRect.setBottomRight(point);
-        updateBand();
-    }
+    if (rubberBand.isShown())
+        rubberBand.growTo(point);
     showTimeLine(point.x());
     for (Plotter *plotter : qAsConst(linkedPlotters))
         plotter->showTimeLine(point.x());
@@ -156,11 +164,11 @@ void Plotter::mouseReleaseEvent(QMouseEvent * /*event*/)
             mainWindow->refreshVectors();
         return;
     }
-    if (!rubberBandShown || !zoomToBand(true))
+    if (!rubberBand.isShown() || !zoomToBand(true))
         return;
     for (Plotter *plotter : qAsConst(linkedPlotters)) {
         if (plotter->isOnScreen()) {
-            plotter->rubberBandRect = rubberBandRect;
+            plotter->rubberBand.copy(rubberBand);
             plotter->applyRubberBand();
         }
     }
@@ -183,7 +191,7 @@ void Plotter::mouseDoubleClickEvent(QMouseEvent *event)
     }
     if (qobject_cast<CustomLabel *>(label))
         return;
-    hideBand();
+    rubberBand.hide();
     if (cursorMarks.isFull())
         return;
     addCursor(event->pos().x(), event->pos().y());

@@ -232,8 +232,8 @@ void Plotter::scrollView(int dx, int dy)
 
 bool Plotter::zoomToBand(bool withValues)
 {
-    hideBand();
-    const QRect band = rubberBandRect.normalized();
+    rubberBand.hide();
+    const QRect band = rubberBand.rect();
     if (band.right() - band.left() <= 2 || band.bottom() - band.top() <= 2
         || !m_view.zoomToBand(band, size(), withValues))
         return false;
@@ -248,17 +248,4 @@ void Plotter::applyRubberBand()
 {
     if (zoomToBand(false))
         refreshPixmap();
-}
-
-void Plotter::updateBand()
-{
-    // The frame is drawn one pixel wide on the edges of the band.
-    update(rubberBandRect.normalized().adjusted(-1, -1, 1, 1));
-}
-
-void Plotter::hideBand()
-{
-    rubberBandShown = false;
-    updateBand();
-    unsetCursor();
 }

@@ -3,6 +3,7 @@
 
 #include "fakeplothost.h"
 #include "plotter.h"
+#include "plottitle.h"
 
 #include <QFrame>
 #include <QLabel>
@@ -666,8 +667,8 @@ void TestPlotter::spectrumLabelAndColour()
 
 void TestPlotter::namesAreNoMarkUp()
 {
-    const auto *title = plot->findChild<QLabel *>(QStringLiteral("Plotter Label"));
-    plot->setTitle(QStringLiteral("<b>x</b>"));
+    auto *title = plot->findChild<PlotTitle *>(QStringLiteral("Plotter Label"));
+    title->setTitle(QStringLiteral("<b>x</b>"));
     QCOMPARE(title->text(), QStringLiteral("<b>x</b>"));
     QCOMPARE(title->textFormat(), Qt::PlainText);
     host->source->analogChannels[1]->id = QStringLiteral("<i>Ua</i>");
@@ -708,12 +709,12 @@ void TestPlotter::anUnchangedBaseLayerIsNotDrawnAgain()
 
 void TestPlotter::longTitlesShowTheirBeginning()
 {
-    const auto *title = plot->findChild<QLabel *>(QStringLiteral("Plotter Label"));
-    plot->setTitle(QStringLiteral("Feeder currents before and after the fault"));
+    auto *title = plot->findChild<PlotTitle *>(QStringLiteral("Plotter Label"));
+    title->setTitle(QStringLiteral("Feeder currents before and after the fault"));
     QCOMPARE(title->text(), QStringLiteral("Feeder currents before and after the fault"));
     QCOMPARE(title->alignment(), Qt::AlignLeft | Qt::AlignVCenter);
     QCOMPARE(title->toolTip(), QStringLiteral("Feeder currents before and after the fault"));
-    plot->setTitle(QStringLiteral("I"));
+    title->setTitle(QStringLiteral("I"));
     QCOMPARE(title->text(), QStringLiteral("I"));
     QCOMPARE(title->alignment(), Qt::AlignCenter);
     QVERIFY(title->toolTip().isEmpty());

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "timeline.h"
+
+#include "baselayer.h"
+#include "labeltext.h"
+#include "plotgeometry.h"
+#include "plotline.h"
+
+#include <QLabel>
+
+namespace {
+
+constexpr int labelGap = 15; // between the line and its label
+constexpr int labelTop = 45;
+constexpr int smallestFont = 7; // pixels
+
+} // namespace
+
+TimeLine::TimeLine(QWidget *plot)
+    : m_plot(plot),
+      m_label(new QLabel(plot)),
+      m_line(new PlotLine(plot, QStringLiteral("timeline"), QStringLiteral("white")))
+{
+    m_label->setObjectName(QStringLiteral("timelabel"));
+    m_label->setStyleSheet(QStringLiteral("QLabel{color: white;}"));
+    m_label->setFont(smallFont(plot->font()));
+    m_label->resize(70, 20);
+    m_label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_label->setAutoFillBackground(true); // it covers the texts that it stands over
+    m_label->setPalette(QPalette(QColor(0x313034)));
+    m_label->hide();
+    m_label->lower();
+    m_line->lower();
+}
+
+void TimeLine::show(int x, const PlotGeometry &geometry)
+{
+    m_time = geometry.lineTime(x);
+    const QString text = QStringLiteral("t = ") + generalText(m_time);
+    m_label->setFont(fittingFont(smallFont(m_plot->font()), text, m_label->width(), smallestFont));
+    m_label->setText(text);
+    QRect place(QPoint(x + labelGap, labelTop), m_label->size());
+    if (place.right() > m_plot->rect().right())
+        place.moveRight(x - labelGap);
+    m_label->move(place.topLeft());
+    m_label->show();
+    m_label->lower();
+    m_line->place(x, geometry);
+    m_line->show();
+}
+
+void TimeLine::refresh(const PlotGeometry &geometry)
+{
+    if (m_line->isVisible())
+        show(m_line->x(), geometry);
+}
