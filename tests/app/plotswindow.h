@@ -80,19 +80,13 @@ protected:
     // Composes a plot through the dialog; without channels, accepts an empty choice.
     void compose(
         const QStringList &channels, const QString &name = QString(), bool accepted = true);
-    QListWidget *list(const char *name) const
-    {
-        return window->findChild<QListWidget *>(QLatin1String(name));
-    }
+    QListWidget *list(const char *name) const { return child<QListWidget>(name); }
     void click(QListWidget *widget, int row)
     {
         const QRect rect = widget->visualItemRect(widget->item(row));
         QTest::mouseClick(widget->viewport(), Qt::LeftButton, {}, rect.center());
     }
-    QComboBox *combo(const char *name) const
-    {
-        return window->findChild<QComboBox *>(QLatin1String(name));
-    }
+    QComboBox *combo(const char *name) const { return child<QComboBox>(name); }
 
     QStringList offered;
 };

@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "contrast.h"
-#include "mainwindow.h"
 #include "smallrecording.h"
-#include "windowtest.h"
+#include "windowfixture.h"
 
 #include <QCheckBox>
 #include <QColorDialog>
@@ -24,13 +23,11 @@
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTableWidget>
-#include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QToolBar>
 #include <QToolTip>
 
 #include <functional>
-#include <memory>
 
 namespace {
 
@@ -73,17 +70,10 @@ using Scene = std::function<QImage(TestContrast &)>;
 Q_DECLARE_METATYPE(Scene)
 
 // Texts stand out from what lies behind them by 4.5 to 1, but for those whose colour is fixed.
-class TestContrast : public QObject {
+class TestContrast : public WindowFixture {
     Q_OBJECT
 
-    std::unique_ptr<MainWindow> window;
-    std::unique_ptr<QDialog> dialog; // an empty one
-    QTemporaryDir folder;
-
-    template <class T> T *child(const char *name) const
-    {
-        return window->findChild<T *>(QLatin1String(name));
-    }
+    QDialog *dialog = nullptr; // an empty one of the window
 
     // The inside of a widget in the picture of its window, without its border.
     static QImage inside(QWidget *widget, const QRect &part = QRect(), int border = 3)
@@ -100,7 +90,7 @@ class TestContrast : public QObject {
     // A widget of a dialog at the dialog's top, where its background is lightest, or at its bottom.
     template <class T> T *added(T *widget, bool atBottom = false)
     {
-        widget->setParent(dialog.get());
+        widget->setParent(dialog);
         dialog->resize(400, 300);
         dialog->show();
         widget->show();
@@ -113,18 +103,13 @@ private slots:
     void init()
     {
         startAsMaker();
-        window = std::make_unique<MainWindow>();
-        window->open(writeSmallRecording(folder.path(), QStringLiteral("rec")));
-        window->show();
-        dialog = std::make_unique<QDialog>(window.get());
-        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        makeWindow();
+        window->open(writeSmallRecording(folder->path(), QStringLiteral("rec")));
+        showActive();
+        dialog = new QDialog(window.get());
     }
 
-    void cleanup()
-    {
-        dialog.reset();
-        window.reset();
-    }
+    void cleanup() { closeWindow(); }
 
     void textsStandOut_data()
     {
@@ -300,10 +285,7 @@ private slots:
                     label, QRect(half.width(), half.height(), half.width(), half.height()), 0);
                 QApplication::activeModalWidget()->close();
             });
-            for (QAction *action : t.window->findChildren<QAction *>()) {
-                if (action->text() == QLatin1String("&About Wavorin"))
-                    action->trigger();
-            }
+            t.trigger("&About Wavorin");
             return picture;
         });
         for (const char *name : {"lookInLabel", "fileNameLabel", "fileTypeLabel"}) {

@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "contrast.h"
-#include "mainwindow.h"
-#include "plotter.h"
 #include "smallrecording.h"
-#include "windowtest.h"
+#include "windowfixture.h"
 
 #include <QDialog>
 #include <QFileDialog>
@@ -13,7 +11,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QScrollArea>
-#include <QTemporaryDir>
 #include <QToolButton>
 #include <QWindow>
 
@@ -57,11 +54,8 @@ QString namesOfStops(QWidget &window)
 
 } // namespace
 
-class TestFocus : public QObject {
+class TestFocus : public WindowFixture {
     Q_OBJECT
-
-    QTemporaryDir folder;
-    std::unique_ptr<MainWindow> window;
 
     // A dialog by its name, or the main window, shown and with the keys.
     QWidget *activated(const QString &dialog) const
@@ -116,14 +110,15 @@ private slots:
     void init()
     {
         startAsMaker();
-        window = std::make_unique<MainWindow>();
-        window->open(writeSmallRecording(folder.path(), QStringLiteral("rec")));
+        makeWindow();
+        window->open(writeSmallRecording(folder->path(), QStringLiteral("rec")));
         for (const char *channel : {"IL1", "UL1"})
             window->addPlotter({QLatin1String(channel)});
         window->resize(1000, 800);
-        window->show();
-        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        showActive();
     }
+
+    void cleanup() { closeWindow(); }
 
     void tabFollowsTheReadingOrder_data()
     {
@@ -158,7 +153,7 @@ private slots:
             QTest::mouseClick(shown->findChild<QToolButton *>(
                                   QStringLiteral("toolButton"), Qt::FindDirectChildrenOnly),
                 Qt::LeftButton);
-            window->open(folder.filePath(QStringLiteral("rec.cfg")));
+            window->open(path("rec.cfg"));
             QCoreApplication::processEvents();
         }
         QTEST(namesOfStops(*shown), "stops");
@@ -166,7 +161,7 @@ private slots:
 
     void tabOrderOutlivesReloadAndRemoval()
     {
-        window->open(folder.filePath(QStringLiteral("rec.cfg")));
+        window->open(path("rec.cfg"));
         for (int i = 0; i < 2; ++i)
             window->addPlotter({QStringLiteral("IL1")});
         window->removePlotter();
@@ -184,8 +179,7 @@ private slots:
     void keysGoToTheAnalogListAtTheStart()
     {
         window = std::make_unique<MainWindow>();
-        window->show();
-        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        showActive();
         QCOMPARE(nameOf(QApplication::focusWidget()), QStringLiteral("listWidget"));
         // Another window comes and goes.
         for (int i = 0; i < 2; ++i) {
@@ -200,9 +194,8 @@ private slots:
     void keysGoToTheFirstPlotOfARecordingOpenedBeforeTheWindowIsShown()
     {
         window = std::make_unique<MainWindow>();
-        window->open(folder.filePath(QStringLiteral("rec.cfg")));
-        window->show();
-        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        window->open(path("rec.cfg"));
+        showActive();
         QCOMPARE(nameOf(QApplication::focusWidget()), QStringLiteral("[Analog Plotter]"));
     }
 
@@ -223,7 +216,7 @@ private slots:
                                                : window->findChild<QWidget *>(before);
             widget->setFocus();
             QVERIFY(widget->hasFocus());
-            openByKeys(folder.filePath(QStringLiteral("rec.cfg")));
+            openByKeys(path("rec.cfg"));
             QVERIFY(reactivated());
             QCOMPARE(nameOf(QApplication::focusWidget()), QStringLiteral("[Analog Plotter]"));
             const QString shown = measured();
@@ -237,7 +230,7 @@ private slots:
     void keysAfterAFailedLoadChangeNothing()
     {
         BoxReader boxes;
-        const QString broken = folder.filePath(QStringLiteral("broken.cfg"));
+        const QString broken = path("broken.cfg");
         QVERIFY(writeTextFile(broken, smallConfiguration())); // without data
         for (int i = 0; i < 2; ++i) {
             for (const char *name : {"comboBox_primSec", "checkBox_showAngles"}) {
@@ -246,7 +239,7 @@ private slots:
                 QVERIFY(!window->recording());
                 QVERIFY(reactivated());
                 QCOMPARE(nameOf(QApplication::focusWidget()), QStringLiteral("listWidget"));
-                window->open(folder.filePath(QStringLiteral("rec.cfg")));
+                window->open(path("rec.cfg"));
                 QCOMPARE(nameOf(QApplication::focusWidget()), QStringLiteral("[Analog Plotter]"));
             }
         }
@@ -255,16 +248,13 @@ private slots:
 
     void keysOfARemovedPlotGoToTheOneBefore()
     {
-        window->open(writeSmallRecording(folder.path(), QStringLiteral("analog"),
+        window->open(writeSmallRecording(folder->path(), QStringLiteral("analog"),
             smallConfiguration().replace("3,2A,1D", "2,2A,0D")));
         for (int i = 0; i < 2; ++i) {
             for (int k = 0; k < 2; ++k)
                 window->addPlotter({QStringLiteral("IL1")});
             QCOMPARE(nameOf(QApplication::focusWidget()), QStringLiteral("[Analog Plotter]"));
-            for (Plotter *plot : window->findChildren<Plotter *>()) {
-                if (plot->name() == QStringLiteral("Graph %1").arg(2 * i + 2))
-                    plot->setFocus();
-            }
+            plotNamed(QStringLiteral("Graph %1").arg(2 * i + 2))->setFocus();
             window->removePlotter();
             QCOMPARE(nameOf(QApplication::focusWidget()),
                 QStringLiteral("[Graph %1 Plotter]").arg(2 * i + 1));

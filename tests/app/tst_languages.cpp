@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Norvale
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "mainwindow.h"
 #include "smallrecording.h"
 #include "translationfile.h"
 #include "untranslatedtexts.h"
 #include "vectorwidget.h"
-#include "windowtest.h"
+#include "windowfixture.h"
 
 #include <QCheckBox>
 #include <QColorDialog>
@@ -22,12 +21,10 @@
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QStyleOptionComboBox>
-#include <QTemporaryDir>
 #include <QToolBar>
 #include <QToolButton>
 
 #include <functional>
-#include <memory>
 
 namespace {
 
@@ -98,17 +95,10 @@ QStringList textsIn(const QWidget &dialog)
 
 } // namespace
 
-class TestLanguages : public QObject {
+class TestLanguages : public WindowFixture {
     Q_OBJECT
 
     UntranslatedTexts untranslated;
-    std::unique_ptr<MainWindow> window;
-    QTemporaryDir folder;
-
-    template <class T> T *child(const char *name) const
-    {
-        return window->findChild<T *>(QLatin1String(name));
-    }
 
     // By the text it had in English.
     QAction *action(const char *text) const
@@ -169,7 +159,7 @@ class TestLanguages : public QObject {
         for (const char *name :
             {"&Open...", "&Save screenshot", "Save As &Primary", "&Add Plotter", "&About Wavorin"})
             visit([&] { action(name)->trigger(); }, look);
-        visit([&] { window->open(folder.filePath(QStringLiteral("missing.cfg"))); }, look);
+        visit([&] { window->open(path("missing.cfg")); }, look);
         visit([&] { QColorDialog::getColor(Qt::white, window.get()); },
             [&](QWidget &dialog) {
                 look(dialog);
@@ -301,10 +291,10 @@ private slots:
     {
         startAsMaker();
         QCoreApplication::installTranslator(&untranslated);
-        window = std::make_unique<MainWindow>();
+        makeWindow();
         for (QAction *each : window->findChildren<QAction *>())
             each->setProperty("sourceText", each->text());
-        window->open(writeSmallRecording(folder.path(), QStringLiteral("rec")));
+        window->open(writeSmallRecording(folder->path(), QStringLiteral("rec")));
         window->addPlotter({QStringLiteral("IL1")});
         window->show();
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
@@ -312,7 +302,7 @@ private slots:
 
     void cleanup()
     {
-        window.reset();
+        closeWindow();
         QCoreApplication::removeTranslator(&untranslated);
     }
 

@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "contrast.h"
-#include "mainwindow.h"
 #include "smallrecording.h"
 #include "stylerules.h"
-#include "windowtest.h"
+#include "windowfixture.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -21,7 +20,6 @@
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QStyleOptionSlider>
-#include <QTemporaryDir>
 #include <QToolBar>
 #include <QWindow>
 
@@ -52,22 +50,15 @@ using Maker = std::function<QWidget *()>;
 Q_DECLARE_METATYPE(Maker)
 
 // The look of the main window and of what belongs to it.
-class TestLook : public QObject {
+class TestLook : public WindowFixture {
     Q_OBJECT
 
-    std::unique_ptr<MainWindow> window;
-    std::unique_ptr<QDialog> dialog; // an empty one
-    QTemporaryDir folder;
-
-    template <class T> T *child(const char *name) const
-    {
-        return window->findChild<T *>(QLatin1String(name));
-    }
+    QDialog *dialog = nullptr; // an empty one of the window
 
     // A widget of the dialog, which is shown anew with it.
     template <class T> T *added(T *widget)
     {
-        widget->setParent(dialog.get());
+        widget->setParent(dialog);
         widget->move(20, 20);
         dialog->resize(300, 200);
         dialog->show();
@@ -80,17 +71,12 @@ private slots:
     void init()
     {
         startAsMaker();
-        window = std::make_unique<MainWindow>();
-        window->show();
-        dialog = std::make_unique<QDialog>(window.get());
-        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        makeWindow();
+        showActive();
+        dialog = new QDialog(window.get());
     }
 
-    void cleanup()
-    {
-        dialog.reset();
-        window.reset();
-    }
+    void cleanup() { closeWindow(); }
 
     void rules_data()
     {
@@ -290,7 +276,7 @@ private slots:
             QCoreApplication::processEvents();
             return dialog->grab({widget->pos(), widget->size()}).toImage();
         };
-        QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
+        QVERIFY(QTest::qWaitForWindowActive(dialog));
         dialog->setFocus();
         QWidget *hovered = widget;
         if (const auto *bar = qobject_cast<QToolBar *>(widget))
@@ -367,7 +353,7 @@ private slots:
         QFETCH(QString, path);
         const QByteArray name(200, 'W');
         QByteArray configuration = smallConfiguration(name).replace("Feeder J07", name);
-        window->open(writeSmallRecording(folder.path(), QStringLiteral("long"), configuration));
+        window->open(writeSmallRecording(folder->path(), QStringLiteral("long"), configuration));
         QWidget *widget = child<QWidget>(path.toLatin1().constData());
         QCoreApplication::processEvents();
         const QImage picture
@@ -411,9 +397,8 @@ private slots:
         QFont font = before;
         font.setPointSizeF(points);
         QApplication::setFont(font);
-        dialog.reset();
         window = std::make_unique<MainWindow>();
-        window->open(writeSmallRecording(folder.path(), QStringLiteral("rec")));
+        window->open(writeSmallRecording(folder->path(), QStringLiteral("rec")));
         window->show();
         for (QAction *action : window->findChildren<QAction *>()) {
             if (action->text() == language)

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Norvale
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "mainwindow.h"
 #include "plotvalues.h"
-#include "windowtest.h"
+#include "windowfixture.h"
 
 #include <QCheckBox>
 #include <QClipboard>
@@ -18,7 +17,6 @@
 #include <QToolBar>
 #include <QTranslator>
 #include <QVBoxLayout>
-#include <QtTest>
 
 #include <memory>
 
@@ -53,29 +51,13 @@ QStringList textsOf(const QList<QAction *> &actions)
 
 } // namespace
 
-class TestMainWindow : public QObject {
+class TestMainWindow : public WindowFixture {
     Q_OBJECT
-
-    std::unique_ptr<MainWindow> window;
-
-    template <class T> T *child(const char *name) const
-    {
-        return window->findChild<T *>(QLatin1String(name));
-    }
 
     // The actions of the window in the order of their creation.
     QList<QAction *> actions() const
     {
         return window->findChildren<QAction *>(QString(), Qt::FindDirectChildrenOnly);
-    }
-
-    QAction *action(const char *text) const
-    {
-        for (QAction *candidate : actions()) {
-            if (candidate->text() == QLatin1String(text))
-                return candidate;
-        }
-        return nullptr;
     }
 
     QMenu *menu(int number) const { return menus().value(number); }
@@ -96,10 +78,9 @@ private slots:
     void init()
     {
         startAsMaker();
-        const MissingSignalAlarm alarm;
-        window = std::make_unique<MainWindow>();
+        makeWindow();
     }
-    void cleanup() { window.reset(); }
+    void cleanup() { closeWindow(); }
 
     // Form
 

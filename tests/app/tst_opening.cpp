@@ -33,11 +33,6 @@ class TestOpening : public WindowFixture {
 
     std::unique_ptr<BoxReader> boxes;
 
-    template <class T> T *child(const char *name) const
-    {
-        return window->findChild<T *>(QLatin1String(name));
-    }
-
     QString shown(const char *label) const { return child<QLabel>(label)->text(); }
 
     QString shownTimes() const

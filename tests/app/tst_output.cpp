@@ -4,12 +4,10 @@
 #include "cfgproperties.h"
 #include "ctvtdialog.h"
 #include "filesizelimit.h"
-#include "mainwindow.h"
 #include "plotterdg.h"
 #include "smallrecording.h"
-#include "windowtest.h"
+#include "windowfixture.h"
 
-#include <QAction>
 #include <QClipboard>
 #include <QFileDialog>
 #include <QLabel>
@@ -17,13 +15,11 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QStatusBar>
-#include <QTemporaryDir>
-#include <QtTest>
 
 #include <algorithm>
 #include <memory>
 
-class TestOutput : public QObject {
+class TestOutput : public WindowFixture {
     Q_OBJECT
 
     const QString screenStyle = QStringLiteral(
@@ -32,15 +28,10 @@ class TestOutput : public QObject {
     const QString captureStyle = QStringLiteral("Plotter{background-color: transparent;}");
     static constexpr int captionHeight = 26;
 
-    std::unique_ptr<QTemporaryDir> folder;
-    std::unique_ptr<MainWindow> window;
-
     QWidget *plotColumn() const
     {
         return window->findChild<QWidget *>(QStringLiteral("scrollWidget"));
     }
-
-    QString path(const char *name) const { return folder->filePath(QLatin1String(name)); }
 
     static QString fileText(const QString &name)
     {
@@ -77,15 +68,6 @@ class TestOutput : public QObject {
                 QTest::keyClick(edit, Qt::Key_Return);
             }
         });
-    }
-
-    void trigger(const char *text) const
-    {
-        const QList<QAction *> actions = window->findChildren<QAction *>();
-        const auto found = std::find_if(actions.cbegin(), actions.cend(),
-            [text](const QAction *action) { return action->text() == QLatin1String(text); });
-        QVERIFY(found != actions.cend());
-        (*found)->trigger();
     }
 
     QImage savedPicture()
@@ -133,17 +115,13 @@ private slots:
     void init()
     {
         startAsMaker();
-        folder = std::make_unique<QTemporaryDir>();
-        window = std::make_unique<MainWindow>();
-        window->resize(1000, 700);
-        window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        openWindow(1000, 700);
         window->open(writeSmallRecording(folder->path(), QStringLiteral("rec")));
         QVERIFY(window->recording());
         QCoreApplication::processEvents();
         window->statusBar()->clearMessage();
     }
-    void cleanup() { window.reset(); }
+    void cleanup() { closeWindow(); }
 
     void screenshotDialog()
     {

@@ -4,9 +4,7 @@
 // Value modes, references and angles turned there and back in the window.
 
 #include "cfgproperties.h"
-#include "mainwindow.h"
-#include "plotter.h"
-#include "windowtest.h"
+#include "windowfixture.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -15,7 +13,6 @@
 #include <QWheelEvent>
 
 #include <algorithm>
-#include <memory>
 #include <random>
 
 namespace {
@@ -41,13 +38,13 @@ void wheel(QWidget *widget, int delta)
 
 } // namespace
 
-class TestValueModes : public QObject {
+class TestValueModes : public WindowFixture {
     Q_OBJECT
 
 private slots:
     void initTestCase() { startAsMaker(); }
-    void init();
-    void cleanup() { window.reset(); }
+    void init() { openWindow(1200, 1000); }
+    void cleanup() { closeWindow(); }
 
     void thereAndBackIsTheSameView_data();
     void thereAndBackIsTheSameView();
@@ -55,28 +52,13 @@ private slots:
     void anglesKeepTheShareOfTheZoom();
 
 private:
-    QComboBox *combo(const char *name) const
-    {
-        return window->findChild<QComboBox *>(QLatin1String(name));
-    }
-    QCheckBox *angles() const
-    {
-        return window->findChild<QCheckBox *>(QStringLiteral("checkBox_showAngles"));
-    }
+    QComboBox *combo(const char *name) const { return child<QComboBox>(name); }
+    QCheckBox *angles() const { return child<QCheckBox>("checkBox_showAngles"); }
     QVector<PlotSettings> views() const;
     void openWithSpectrum(const QString &path);
 
-    std::unique_ptr<MainWindow> window;
     QList<Plotter *> plots; // the first one, one of two waveforms and a spectrum, the digital one
 };
-
-void TestValueModes::init()
-{
-    window = std::make_unique<MainWindow>();
-    window->resize(1200, 1000);
-    window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-}
 
 QVector<PlotSettings> TestValueModes::views() const
 {

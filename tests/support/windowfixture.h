@@ -30,12 +30,22 @@ protected:
         window->show();
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
     }
+    // With the size that it takes by itself, and with the keys.
+    void showActive()
+    {
+        window->show();
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    }
     void closeWindow()
     {
         window.reset();
         folder.reset();
     }
     QString path(const char *name) const { return folder->filePath(QLatin1String(name)); }
+    template <class T> T *child(const char *name) const
+    {
+        return window->findChild<T *>(QLatin1String(name));
+    }
     QAction *action(const char *text) const
     {
         for (QAction *candidate : window->findChildren<QAction *>()) {
