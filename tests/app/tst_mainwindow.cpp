@@ -233,7 +233,9 @@ private slots:
         QTest::addColumn<QString>("icon");
         QTest::addColumn<QList<QKeySequence>>("shortcuts");
         QTest::addColumn<bool>("enabled");
-        const QList<QKeySequence> none;
+        // Some platforms, as that without a display, have no key for it; the walkthrough presses
+        // it.
+        const QList<QKeySequence> quitKeys = QKeySequence::keyBindings(QKeySequence::Quit);
         const auto row = [](const char *text, const char *tip, const char *icon, bool enabled,
                              const QList<QKeySequence> &keys = {}) {
             QTest::newRow(text) << QString::fromLatin1(text) << QString::fromLatin1(tip)
@@ -255,8 +257,7 @@ private slots:
         row("Zoom Reset", "Zoom reset.", "zoomreset.png", true);
         row("Vertical Zoom In", "Vertical zoom in.", "zoominh.png", true);
         row("Vertical Zoom Out", "Vertical zoom out.", "zoomouth.png", true);
-        row("E&xit", "Exit the application.", "", true,
-            QKeySequence::keyBindings(QKeySequence::Quit));
+        row("E&xit", "Exit the application.", "", true, quitKeys);
         row("&About Wavorin", "About Wavorin", "", true);
     }
 

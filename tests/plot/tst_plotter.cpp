@@ -246,6 +246,8 @@ void TestPlotter::fullView_data()
         << Ends{0, 100} << Values{0, 10} << double(INFINITY) << Ends{0, 100, 10, -1.2, 1.2, 8};
     QTest::newRow("values that are no numbers are passed over")
         << Ends{0, 100} << Values{notANumber, 10} << 1.0 << Ends{0, 100, 10, 0, 10, 10};
+    QTest::newRow("an infinite value costs the others nothing")
+        << Ends{0, 100, 200} << Values{-10, INFINITY, 4} << 1.0 << Ends{0, 210, 7, -12, 6, 6};
     QTest::newRow("a flat range is widened")
         << Ends{0, 100} << Values{0, 0} << 1.0 << Ends{0, 100, 10, -1.2, 1.2, 8};
     QTest::newRow("one sample") << Ends{0} << Values{0} << 1.0 << Ends{-1.2, 1.2, 8, -1.2, 1.2, 8};
