@@ -22,7 +22,7 @@ class TestPlotterLinked : public QObject {
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() { makePair(true); }
     void cleanup() { pair.reset(); }
 
     void aHiddenPlotTakesNoPart();
@@ -36,18 +36,20 @@ private slots:
     void theWidestReadoutMayGoWithItsPlot();
     void aHeldKeyGoesAlong();
     void aReleasedKeyDoesNot();
+    void randomActionsKeepVisiblePlotsInStep_data();
     void randomActionsKeepVisiblePlotsInStep();
 
 private:
+    void makePair(bool isPainted);
     QList<Plotter *> plots() const { return {pair->plot, pair->other, pair->digital}; }
     bool areInStep() const;
 
     std::unique_ptr<PlotPair> pair;
 };
 
-void TestPlotterLinked::init()
+void TestPlotterLinked::makePair(bool isPainted)
 {
-    pair = std::make_unique<PlotPair>();
+    pair = std::make_unique<PlotPair>(isPainted);
     for (Plotter *plot : plots())
         connect(pair->host.bar.get(), &QScrollBar::valueChanged, plot, &Plotter::scrolling);
 }
@@ -212,10 +214,20 @@ void TestPlotterLinked::aReleasedKeyDoesNot()
     }
 }
 
+void TestPlotterLinked::randomActionsKeepVisiblePlotsInStep_data()
+{
+    QTest::addColumn<bool>("isPainted"); // which takes most of the time
+    QTest::addColumn<int>("actions");
+    QTest::newRow("a few, painted") << true << 10000;
+    QTest::newRow("many") << false << 100000;
+}
+
 // All that moves the time but for the plain wheel, which is one plot's own.
 void TestPlotterLinked::randomActionsKeepVisiblePlotsInStep()
 {
-    constexpr int actions = 100000;
+    QFETCH(bool, isPainted);
+    QFETCH(int, actions);
+    makePair(isPainted);
     std::mt19937 random(20240315);
     const auto upTo = [&](int count) { return static_cast<int>(random() % unsigned(count)); };
     QScrollBar *bar = pair->host.bar.get();

@@ -13,12 +13,20 @@
 
 #include <memory>
 
+// A plot that never refreshes its picture, for the sake of long sequences of actions. Without
+// cursors its view is that of a plot that does.
+template <typename Plot> class Unpainted : public Plot {
+public:
+    using Plot::Plot;
+    void refreshPixmap() override { }
+};
+
 // Two linked analog plots and a digital one, one over the other in a host of 803 x 301, over a
 // recording of 1000 ms. Without cursors, the time line and the cursors have 700 pixels for the
 // 1000 ms, from x = 100 on; the traces have 703. The views are 0 to 1000 ms and -12 to 12.
 class PlotPair {
 public:
-    PlotPair()
+    explicit PlotPair(bool isPainted = true)
     {
         QVector<double> times(1001);
         QVector<float> current(1001);
@@ -34,9 +42,9 @@ public:
         host.addDigital(QStringLiteral("Trip"), QVector<int>(1001, 1));
 
         area.resize(803, 301);
-        plot = add<Plotter>(QStringLiteral("Analog"));
-        other = add<Plotter>(QStringLiteral("Graph 1"));
-        digital = add<plotterDg>(QStringLiteral("Digital"));
+        plot = add<Plotter>(QStringLiteral("Analog"), isPainted);
+        other = add<Plotter>(QStringLiteral("Graph 1"), isPainted);
+        digital = add<plotterDg>(QStringLiteral("Digital"), isPainted);
         plot->setLinkedPlotters({other, digital});
         other->setLinkedPlotters({plot, digital});
         digital->setLinkedPlotters({plot, other});
@@ -82,9 +90,9 @@ public:
     plotterDg *digital = nullptr;
 
 private:
-    template <typename Plot> Plot *add(const QString &name)
+    template <typename Plot> Plot *add(const QString &name, bool isPainted)
     {
-        auto *created = new Plot(&area);
+        Plot *created = isPainted ? new Plot(&area) : new Unpainted<Plot>(&area);
         created->setMainWindow(&host);
         created->setName(name);
         created->resize(803, 301);
