@@ -109,6 +109,14 @@ inline QString writePair(
     return isWritten ? path : QString();
 }
 
+// Reads the pair at filePath as init() does, but for the phasors.
+inline void readWithoutPhasors(CFGProperties &recording)
+{
+    recording.clearConfig();
+    recording.readConfgFile();
+    recording.loaded = recording.readDatFile() ? 1 : 0;
+}
+
 // A folder of its own, in which recordings are written and loaded; where the system has one for
 // that, it may lie in memory.
 class RecordingFolder {
@@ -126,6 +134,14 @@ public:
         recording.filePath = writePair(path(name), configuration, data);
         if (!recording.filePath.isEmpty())
             recording.init();
+    }
+
+    // The same without the phasors, which take most of the time of a long recording.
+    void read(
+        CFGProperties &recording, const QByteArray &configuration, const QByteArray &data) const
+    {
+        recording.filePath = writePair(path("rec"), configuration, data);
+        readWithoutPhasors(recording);
     }
 
 private:
