@@ -78,8 +78,9 @@ void PlotTitle::closeEditor()
 {
     if (QWidget::keyboardGrabber() == m_editor)
         m_editor->releaseKeyboard();
-    // Hidden with the focus, the editor would pass it on to whatever control comes next.
-    if (m_editor->hasFocus())
+    // Hidden with the focus, the editor would pass it on to whatever control comes next; an
+    // inactive window keeps it for its return.
+    if (window()->focusWidget() == m_editor)
         parentWidget()->setFocus();
     m_editor->hide();
 }

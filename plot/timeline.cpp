@@ -10,6 +10,8 @@
 
 #include <QLabel>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int labelGap = 15; // between the line and its label
@@ -41,10 +43,11 @@ void TimeLine::show(int x, const PlotGeometry &geometry)
     const QString text = QStringLiteral("t = ") + generalText(m_time);
     m_label->setFont(fittingFont(smallFont(m_plot->font()), text, m_label->width(), smallestFont));
     m_label->setText(text);
-    QRect place(QPoint(x + labelGap, labelTop), m_label->size());
-    if (place.right() > m_plot->rect().right())
-        place.moveRight(x - labelGap);
-    m_label->move(place.topLeft());
+    const int farthest = m_plot->width() - m_label->width(); // where the label is still whole
+    const int right = x + labelGap;
+    const int left = x - labelGap - m_label->width() + 1;
+    // A drag may have led the pointer out of the plot.
+    m_label->move(std::clamp(right <= farthest ? right : left, 0, std::max(0, farthest)), labelTop);
     m_label->show();
     m_label->lower();
     m_line->place(x, geometry);

@@ -34,8 +34,8 @@ private slots:
     void theTimeLineTellsItsTimeInAnotherView();
     void theTimeLineFollowsThePointerOverChannelLabels();
     void aLongTimeFitsItsLabel();
-    void aTimeAtTheRightEndIsReadInFull_data();
-    void aTimeAtTheRightEndIsReadInFull();
+    void aTimeAtAnEndIsReadInFull_data();
+    void aTimeAtAnEndIsReadInFull();
     void theTimeLineLetsTheMouseThrough();
     void aDoubleClickSetsACursorAtOneTimeInAllPlots();
     void atMostTwentyCursors();
@@ -152,16 +152,20 @@ void TestPlotterCursors::aLongTimeFitsItsLabel()
 }
 
 // The label is 70 pixels wide, the plot 803.
-void TestPlotterCursors::aTimeAtTheRightEndIsReadInFull_data()
+void TestPlotterCursors::aTimeAtAnEndIsReadInFull_data()
 {
     QTest::addColumn<int>("x");
     QTest::addColumn<int>("left"); // of the label
     QTest::newRow("it just fits") << 718 << 733;
     QTest::newRow("one pixel is missing") << 719 << 635;
     QTest::newRow("at the last pixel") << 802 << 718;
+    QTest::newRow("a little beyond it, in a drag") << 817 << 733;
+    QTest::newRow("far beyond it") << 870 << 733;
+    QTest::newRow("a little before the first pixel") << -15 << 0;
+    QTest::newRow("far before it") << -40 << 0;
 }
 
-void TestPlotterCursors::aTimeAtTheRightEndIsReadInFull()
+void TestPlotterCursors::aTimeAtAnEndIsReadInFull()
 {
     QFETCH(int, x);
     QFETCH(int, left);

@@ -81,6 +81,8 @@ private slots:
     void theEditorBeginsWithTheTitleSelected();
     void theEndOfAnEditGivesTheKeysToThePlot_data();
     void theEndOfAnEditGivesTheKeysToThePlot();
+    void anEditEndedByTheWindowGivesTheKeysToThePlot();
+    void anEditEndedByAnotherControlLeavesItTheKeys();
     void escapeKeepsTheTitle();
     void anUntouchedEditorFollowsTheLanguage();
 
@@ -572,6 +574,36 @@ void TestPlotterInput::theEndOfAnEditGivesTheKeysToThePlot()
         QVERIFY(pair->plot->hasFocus());
         QVERIFY(QWidget::keyboardGrabber() != editor);
     }
+}
+
+// The window is left, for another one or for a dialog, and comes back.
+void TestPlotterInput::anEditEndedByTheWindowGivesTheKeysToThePlot()
+{
+    auto *editor = pair->plot->findChild<QLineEdit *>();
+    QWidget elsewhere;
+    for (int i = 0; i < 2; ++i) {
+        QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {90, 25});
+        QTRY_VERIFY(editor->hasFocus());
+        elsewhere.show();
+        elsewhere.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&elsewhere));
+        QVERIFY(!editor->isVisible());
+        QVERIFY(QWidget::keyboardGrabber() != editor);
+        elsewhere.hide();
+        pair->area.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&pair->area));
+        QVERIFY(pair->plot->hasFocus());
+    }
+}
+
+void TestPlotterInput::anEditEndedByAnotherControlLeavesItTheKeys()
+{
+    auto *editor = pair->plot->findChild<QLineEdit *>();
+    QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {90, 25});
+    QTRY_VERIFY(editor->hasFocus());
+    pair->other->setFocus();
+    QVERIFY(!editor->isVisible());
+    QVERIFY(pair->other->hasFocus());
 }
 
 void TestPlotterInput::escapeKeepsTheTitle()
