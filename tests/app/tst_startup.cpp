@@ -14,15 +14,42 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTextLayout>
+#include <QTextStream>
 #include <QtTest>
 
 #include <memory>
+#include <vector>
 
 namespace {
 
 // Waits for the window and prints its number. The splash bears no such title.
 const QStringList search{QStringLiteral("search"), QStringLiteral("--sync"),
     QStringLiteral("--onlyvisible"), QStringLiteral("--name"), QStringLiteral("^Wavorin$")};
+
+struct Killer {
+    void operator()(QProcess *process) const
+    {
+        process->kill();
+        process->waitForFinished();
+        delete process;
+    }
+};
+using Process = std::unique_ptr<QProcess, Killer>; // which is killed with the pointer
+
+const QString waitOption = QStringLiteral("--wait"); // has this program do what follows
+
+// Starts as the viewer does with the argument, and prints how long that took in ms, whether a
+// recording is open, and whether events ran.
+void printWait(const QString &argument)
+{
+    MainWindow window;
+    bool ran = false;
+    QTimer::singleShot(100, &window, [&] { ran = true; });
+    QElapsedTimer timer;
+    timer.start();
+    openOrWait(window, argument);
+    QTextStream(stdout) << timer.elapsed() << ' ' << (window.recording() != nullptr) << ' ' << ran;
+}
 
 // A display for the program alone.
 class OwnDisplay {
@@ -49,16 +76,7 @@ public:
     {
         m_environment.insert(QLatin1String(variable), value);
     }
-    struct Killer {
-        void operator()(QProcess *process) const
-        {
-            process->kill();
-            process->waitForFinished();
-            delete process;
-        }
-    };
-    using Process = std::unique_ptr<QProcess, Killer>;
-    // A program on this display, killed with the pointer.
+    // A program on this display.
     Process started(const QString &program, const QStringList &arguments) const
     {
         Process process(new QProcess);
@@ -85,6 +103,9 @@ private:
 
 class TestStartup : public QObject {
     Q_OBJECT
+
+    QTemporaryDir folder;
+    std::vector<Process> waits; // those of splashWait()
 
 private slots:
     void initTestCase() { startAsMaker(); }
@@ -134,43 +155,42 @@ private slots:
         }
     }
 
+    // In processes side by side, as most wait for two seconds.
     void splashWait_data()
     {
-        QTest::addColumn<QString>("argument"); // below the folder; null for none
+        QTest::addColumn<int>("number");
         QTest::addColumn<bool>("opens");
-        QTest::newRow("no argument waits") << QString() << false;
-        QTest::newRow(".cfg opens at once") << QStringLiteral("rec.cfg") << true;
-        QTest::newRow(".CFG waits") << QStringLiteral("rec.CFG") << false;
-        QTest::newRow(".txt waits") << QStringLiteral("rec.txt") << false;
-        QTest::newRow(".cfg not at the end waits") << QStringLiteral("rec.cfg.bak") << false;
-    }
-
-    void splashWait()
-    {
-        QFETCH(QString, argument);
-        QFETCH(bool, opens);
-        const QTemporaryDir folder;
         for (const char *name : {"rec.cfg", "rec.CFG", "rec.txt", "rec.cfg.bak"})
             QVERIFY(writeTextFile(folder.filePath(QLatin1String(name)), smallConfiguration()));
         for (const char *name : {"rec.dat", "rec.dat.bak"})
             QVERIFY(writeTextFile(folder.filePath(QLatin1String(name)), smallData()));
-        MainWindow window;
-        QElapsedTimer timer;
-        timer.start();
-        openOrWait(window, argument.isNull() ? QString() : folder.filePath(argument));
-        const qint64 elapsed = timer.elapsed();
-        QCOMPARE(window.recording() != nullptr, opens);
-        QVERIFY2(opens ? elapsed < 2000 : elapsed >= 2000, qPrintable(QString::number(elapsed)));
-        QVERIFY2(elapsed < 4000, qPrintable(QString::number(elapsed)));
+        const auto row = [this](const char *name, const char *file, bool opens) {
+            QTest::newRow(name) << int(waits.size()) << opens;
+            const QString argument = *file ? folder.filePath(QLatin1String(file)) : QString();
+            waits.emplace_back(new QProcess);
+            waits.back()->start(QCoreApplication::applicationFilePath(), {waitOption, argument});
+        };
+        row("no argument waits", "", false);
+        row(".cfg opens at once", "rec.cfg", true);
+        row(".CFG waits", "rec.CFG", false);
+        row(".txt waits", "rec.txt", false);
+        row(".cfg not at the end waits", "rec.cfg.bak", false);
     }
 
-    void eventsRunDuringTheWait()
+    void splashWait()
     {
-        MainWindow window;
-        bool ran = false;
-        QTimer::singleShot(100, this, [&] { ran = true; });
-        openOrWait(window, QString());
-        QVERIFY(ran);
+        QFETCH(int, number);
+        QFETCH(bool, opens);
+        QProcess &process = *waits.at(std::size_t(number));
+        QVERIFY(process.state() == QProcess::NotRunning || process.waitForFinished());
+        QCOMPARE(process.exitCode(), 0);
+        const QByteArrayList seen = process.readAllStandardOutput().split(' ');
+        QCOMPARE(seen.size(), 3);
+        const int elapsed = seen.at(0).toInt();
+        QCOMPARE(seen.at(1) == "1", opens);
+        QVERIFY2(opens ? elapsed < 2000 : elapsed >= 2000, seen.at(0).constData());
+        QVERIFY2(elapsed < 4000, seen.at(0).constData());
+        QVERIFY(opens || seen.at(2) == "1");
     }
 
     void missingFilesAreReportedAndStartUpGoesOn_data()
@@ -208,7 +228,6 @@ private slots:
         const OwnDisplay display(QStringLiteral("1600x1000"));
         if (!display.isReady())
             QSKIP("Xvfb is not installed");
-        const QTemporaryDir folder;
         QStringList arguments;
         if (withFile)
             arguments.append(writeSmallRecording(folder.path(), QStringLiteral("rec")));
@@ -243,7 +262,6 @@ private slots:
         if (!display.isReady())
             QSKIP("Xvfb is not installed");
         display.set("QT_FONT_DPI", QString::number(dotsPerInch));
-        const QTemporaryDir folder;
         const auto program
             = display.started(QCoreApplication::applicationDirPath() + QLatin1String("/wavorin"),
                 {writeSmallRecording(folder.path(), QStringLiteral("rec"))});
@@ -268,5 +286,17 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestStartup)
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    application.setAttribute(Qt::AA_Use96Dpi); // as for all tests
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == waitOption) {
+        printWait(arguments.value(2));
+        return 0;
+    }
+    TestStartup test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_startup.moc"
