@@ -138,7 +138,7 @@ public:
     // False, with nothing read, where the lines so far are not worth another row of samples.
     bool readLine(const QString &line)
     {
-        m_letters += line.size();
+        m_letters += line.size() + 1; // with the line end
         if (m_recording.sampleTimes.size() == mostRows
             || !isWithinBudget(m_rows + 1, m_recording.analogChannelCount, m_letters))
             return false;

@@ -318,12 +318,12 @@ void TestTextReader::manyNames_data()
     // A line of stamps alone.
     QTest::newRow("values that are missing from every line are 0")
         << 299 << QByteArray("01/02/2020-10:00:00:000\n").repeated(1000) << 300 << 1000;
-    // Behind the first line they may be 16384 and 64 a letter, those of the names included.
+    // Behind the first line they may be 16384 and 64 a letter, names and line ends included.
     QTest::newRow("missing values beyond all measure end the reading")
         << 19999 << lines(99) << 20000 << 66;
     // The last line alone would be worth another sample.
     QTest::newRow("empty lines beyond all measure end the reading")
-        << 19999 << QByteArray(1000000, '\n') + QByteArray(100000, 'x') << 20000 << 65;
+        << 19999 << QByteArray(1000000, '\n') + QByteArray(100000, 'x') << 20000 << 66;
 }
 
 void TestTextReader::manyNames()
@@ -353,6 +353,8 @@ void TestTextReader::emptyLines_data()
     QTest::newRow("at the end are no samples") << header + line + "\n\n\n" << 1;
     QTest::newRow("at the end with CR LF are no samples") << header + line + "\r\n\r\n" << 1;
     QTest::newRow("in the middle are samples") << header + line + "\n\n" + line << 4;
+    QTest::newRow("in the middle are samples, however many")
+        << header + line + QByteArray(30000, '\n') + line << 30002;
     QTest::newRow("of blanks at the end are samples") << header + line + "  \n" << 2;
     QTest::newRow("behind the header alone") << header + "\n\n" << 0;
     QTest::newRow("none at all") << header << 0;
