@@ -23,6 +23,7 @@ namespace {
 using Complex = std::complex<double>;
 
 constexpr int largestCycle = 1 << 20; // samples
+constexpr int largestOrdinaryCycle = 128; // samples
 constexpr int workBetweenLooks = 1 << 20; // values taken up before a look whether the program ends
 
 struct FreeComplex {
@@ -174,11 +175,12 @@ private:
     std::vector<Complex> m_turns;
 };
 
-// Whether a cycle is worth a transform, whose cost goes by the size: for a cycle that is longer
-// than the recording, or mostly zeros, it would be out of all proportion to what was read.
+// Whether a cycle is worth a transform, as an ordinary one always is. The cost goes by the size:
+// for a long cycle beyond the recording, or of zeros mostly, it would be out of all proportion to
+// what was read.
 bool isWorthTransform(int size, int samples, int valuesInCycle)
 {
-    return samples >= size && valuesInCycle > size / 2;
+    return size <= largestOrdinaryCycle || (samples >= size && valuesInCycle > size / 2);
 }
 
 } // namespace
