@@ -49,8 +49,8 @@ Plotter::Plotter(QWidget *parent)
       timeLine(this),
       startMarker{new PlotLine(this, QStringLiteral("startMarker"), QStringLiteral("red"))},
       endMarker{new PlotLine(this, QStringLiteral("endMarker"), QStringLiteral("red"))},
-      cursorMarks(this),
-      rubberBand(this),
+      m_cursorMarks(this),
+      m_rubberBand(this),
       m_channelLabels(this),
       colorDialog(new QColorDialog(Qt::white, this)),
       hostWidget(parent)
@@ -171,18 +171,18 @@ void Plotter::addChannel(int number)
     if (number < 0 || channelMap.contains(number))
         return;
     channelMap.insert(number, shownChannel(number));
-    channelOrder.append(number);
+    m_channelOrder.append(number);
 }
 
 void Plotter::showChannels(const QList<int> &numbers)
 {
-    for (const int number : qAsConst(channelOrder)) {
+    for (const int number : qAsConst(m_channelOrder)) {
         if (!numbers.contains(number))
             channelMap.remove(number);
     }
     for (const int number : numbers)
         addChannel(number);
-    channelOrder = numbers;
+    m_channelOrder = numbers;
 }
 
 // The full view of what is shown, with all of its values; the time range of a live view stays.
@@ -190,9 +190,9 @@ void Plotter::setHome()
 {
     const CFGProperties *source = recording();
     const QVector<double> times = source ? source->sampleTimes : QVector<double>();
-    if (times != timeAxis.times())
-        timeAxis = TimeAxis(times);
-    m_view.setHome(timeAxis.smallest(), timeAxis.largest(), prepareTraces());
+    if (times != m_timeAxis.times())
+        m_timeAxis = TimeAxis(times);
+    m_view.setHome(m_timeAxis.smallest(), m_timeAxis.largest(), prepareTraces());
 }
 
 void Plotter::setupPlot()
@@ -245,7 +245,7 @@ void Plotter::rescaleValues()
 void Plotter::followFromNowOn(const Plotter &other)
 {
     for (const double time : other.cursors())
-        cursorMarks.add(time);
+        m_cursorMarks.add(time);
     startMarker.copy(other.startMarker);
     endMarker.copy(other.endMarker);
     follow(other);
@@ -255,7 +255,7 @@ void Plotter::resetPlot()
 {
     customResetZoom();
     channelMap.clear();
-    channelOrder.clear();
+    m_channelOrder.clear();
     m_view.clear();
     zoomLevel = 0;
     scrollDelta = 0;
@@ -272,7 +272,7 @@ void Plotter::paintEvent(QPaintEvent * /*event*/)
     style()->drawPrimitive(QStyle::PE_Widget, &background, &painter, this);
     painter.drawPixmap(0, 0, basePixmap);
     painter.drawPixmap(0, 0, overlayPixmap);
-    rubberBand.paint(painter);
+    m_rubberBand.paint(painter);
     if (hasFocus()) {
         QStyleOptionFocusRect frame;
         frame.initFrom(this);

@@ -61,7 +61,7 @@ public:
     void addChannel(int number);
     // Shows these channels and no others, in this order.
     void showChannels(const QList<int> &numbers);
-    const QList<int> &channels() const { return channelOrder; }
+    const QList<int> &channels() const { return m_channelOrder; }
     bool showsSpectrum() const;
 
     // The live view, all zero before setupPlot(), and the full view.
@@ -77,13 +77,13 @@ public:
 
     // Cursor times in ms, in the order in which they were set.
     void addCursorAt(double time);
-    QList<double> cursors() const { return cursorMarks.times(); }
+    QList<double> cursors() const { return m_cursorMarks.times(); }
     // The time difference of the last neighbouring pair of cursors, ms; 0 with fewer than two.
-    double pairDifference() const { return cursorMarks.pairDifference(); }
+    double pairDifference() const { return m_cursorMarks.pairDifference(); }
     void clearCursors();
 
     // The sample times of the recording as of the last setupPlot().
-    const TimeAxis &sampleTimes() const { return timeAxis; }
+    const TimeAxis &sampleTimes() const { return m_timeAxis; }
 
     virtual void setupPlot();
     virtual void refreshPixmap();
@@ -149,8 +149,8 @@ protected:
     int digitalFlag = 0;
     PlotTitle *plotterLabel;
     QMap<int, ShownChannel> channelMap; // traces are drawn in the order of the numbers
-    QList<int> channelOrder; // the same numbers in the order in which they were added
-    TimeAxis timeAxis;
+    QList<int> m_channelOrder; // the same numbers in the order in which they were added
+    TimeAxis m_timeAxis;
     static constexpr int noKey = -1;
     int pressedKey = noKey; // the key held down, as far as this plot has seen
 
@@ -205,8 +205,8 @@ private:
     TimeLine timeLine;
     SaveMarker startMarker;
     SaveMarker endMarker;
-    CursorMarks cursorMarks;
-    RubberBand rubberBand;
+    CursorMarks m_cursorMarks;
+    RubberBand m_rubberBand;
     QPixmap basePixmap;
     BaseContent m_drawn; // what basePixmap shows
     QPixmap overlayPixmap; // null while there is nothing to show
@@ -214,7 +214,7 @@ private:
     ChannelLabels m_channelLabels;
     bool draggingTimeLine = false;
     CustomLabel *draggedLabel = nullptr; // from its press on; dragged from draggingTimeLine on
-    QPoint labelPress; // where it was pressed
+    QPoint m_labelPress; // where it was pressed
     QColorDialog *colorDialog;
     QMap<int, QColor> m_chosenColors; // by channel number
     int zoomLevel = 0;

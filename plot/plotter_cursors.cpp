@@ -30,25 +30,25 @@ void Plotter::addCursor(int x, int /*y*/)
 
 void Plotter::addCursorAt(double time)
 {
-    if (cursorMarks.isFull())
+    if (m_cursorMarks.isFull())
         return;
-    cursorMarks.add(time);
+    m_cursorMarks.add(time);
     for (Plotter *plotter : qAsConst(linkedPlotters)) {
         if (plotter != this)
-            plotter->cursorMarks.add(time);
+            plotter->m_cursorMarks.add(time);
     }
     refreshAll();
 }
 
 void Plotter::moveCursor(int cursor, double time)
 {
-    cursorMarks.move(cursor, time);
+    m_cursorMarks.move(cursor, time);
     refreshOverlay();
 }
 
 void Plotter::dragCursor(int x)
 {
-    const int cursor = cursorMarks.cursorOf(draggedLabel);
+    const int cursor = m_cursorMarks.cursorOf(draggedLabel);
     if (cursor < 0 || m_view.isEmpty())
         return;
     const QRect area = geometryOfView().area();
@@ -56,7 +56,7 @@ void Plotter::dragCursor(int x)
         std::clamp(x, area.left(), std::max(area.left(), area.right())));
     moveCursor(cursor, time);
     for (Plotter *plotter : qAsConst(linkedPlotters)) {
-        if (plotter != this && cursor < plotter->cursorMarks.count())
+        if (plotter != this && cursor < plotter->m_cursorMarks.count())
             plotter->moveCursor(cursor, time);
     }
 }
@@ -66,8 +66,8 @@ void Plotter::removeCursors(int first, int last)
 {
     for (int cursor = last - 1; cursor >= first; --cursor) {
         for (Plotter *plotter : qAsConst(linkedPlotters))
-            plotter->cursorMarks.remove(cursor);
-        cursorMarks.remove(cursor);
+            plotter->m_cursorMarks.remove(cursor);
+        m_cursorMarks.remove(cursor);
     }
     refreshAll();
 }
@@ -76,13 +76,13 @@ void Plotter::clearCursors()
 {
     draggingTimeLine = false;
     draggedLabel = nullptr;
-    cursorMarks.clear();
+    m_cursorMarks.clear();
 }
 
 void Plotter::paintOverlay()
 {
     const PlotGeometry geometry = geometryOfView();
-    if (m_view.isEmpty() || cursorMarks.count() < 2 || !geometry.isDrawable()) {
+    if (m_view.isEmpty() || m_cursorMarks.count() < 2 || !geometry.isDrawable()) {
         overlayPixmap = QPixmap();
         return;
     }
@@ -94,7 +94,7 @@ void Plotter::paintOverlay()
         0, CursorMarks::differencesTop, width(), CursorMarks::differencesHeight, Qt::transparent);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     painter.setFont(smallFont(font()));
-    cursorMarks.paintDifferences(painter, geometry, plotterLabel->geometry());
+    m_cursorMarks.paintDifferences(painter, geometry, plotterLabel->geometry());
 }
 
 // Sets the lines of the cursors and the save markers to their places in the view.
@@ -103,7 +103,7 @@ void Plotter::placeMarks()
     if (m_view.isEmpty())
         return;
     const PlotGeometry geometry = geometryOfView();
-    cursorMarks.place(geometry);
+    m_cursorMarks.place(geometry);
     timeLine.refresh(geometry);
     startMarker.place(geometry);
     endMarker.place(geometry);

@@ -53,8 +53,8 @@ BaseContent Plotter::baseContent() const
     content.trigger = triggerText(recording() ? recording()->triggerOffsetMs : 0);
     content.readout = m_readout;
     content.readoutWidth = readoutWidth;
-    content.times = timeAxis.times();
-    for (const int number : channelOrder) {
+    content.times = m_timeAxis.times();
+    for (const int number : m_channelOrder) {
         const ShownChannel &shown = *channelMap.constFind(number);
         content.traces.append({number, factorOf(number), colorOf(number).rgb(), shown});
     }
@@ -90,7 +90,7 @@ void Plotter::drawCurves(QPainter *painter)
     if (!geometry.isDrawable())
         return;
     painter->setClipRect(geometry.area());
-    TracePainter traces(*painter, geometry, timeAxis);
+    TracePainter traces(*painter, geometry, m_timeAxis);
     for (auto it = channelMap.cbegin(); it != channelMap.cend(); ++it) {
         painter->setPen(QPen(colorOf(it.key()), 0));
         traces.draw(it->trace, factorOf(it.key()));
@@ -124,10 +124,10 @@ Readout Plotter::readout() const
     Readout::Row header{tr("Parameter")};
     for (int i = 0; i < times.size(); ++i) {
         header.append(QStringLiteral("P%1 (%2)").arg(i + 1).arg(generalText(times.at(i))));
-        samples.append(timeAxis.sampleAt(rate, times.at(i)));
+        samples.append(m_timeAxis.sampleAt(rate, times.at(i)));
     }
     table.rows.append(header);
-    for (const int number : channelOrder) {
+    for (const int number : m_channelOrder) {
         const ShownChannel &shown = *channelMap.constFind(number);
         const QVector<float> &values = shown.trace.values();
         Readout::Row row{isSpectrum(number) ? shown.id + QStringLiteral(" FFT") : shown.id};
@@ -181,7 +181,7 @@ void Plotter::showChannelLabels()
     if (digitalFlag)
         return;
     QVector<ChannelLabels::Entry> entries;
-    for (const int number : qAsConst(channelOrder)) {
+    for (const int number : qAsConst(m_channelOrder)) {
         const ShownChannel &shown = *channelMap.constFind(number);
         QString text = shown.id + QLatin1Char('(') + shown.unit + QLatin1Char(')');
         if (isSpectrum(number))

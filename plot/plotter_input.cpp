@@ -86,8 +86,8 @@ void Plotter::letGo()
     draggedLabel = nullptr;
     if (std::exchange(draggingTimeLine, false))
         refreshAll(); // the readouts follow the end of a drag
-    if (rubberBand.isShown())
-        rubberBand.hide();
+    if (m_rubberBand.isShown())
+        m_rubberBand.hide();
 }
 
 // Sees the release of a key wherever it goes: it may reach another widget than the press did.
@@ -105,14 +105,14 @@ void Plotter::mousePressEvent(QMouseEvent *event)
     auto *label = qobject_cast<CustomLabel *>(childAt(event->pos()));
     if (label && label->objectName().contains(QLatin1String("lineLabel"))) {
         draggedLabel = label;
-        labelPress = event->pos();
+        m_labelPress = event->pos();
         return;
     }
     const QRect area = geometryOfView().area();
     const QPoint point(caught(event->pos().x(), area.left(), area.right()),
         caught(event->pos().y(), area.top(), area.bottom()));
     if (event->button() == Qt::LeftButton && area.contains(point)) {
-        rubberBand.begin(point);
+        m_rubberBand.begin(point);
         return;
     }
     for (Plotter *plotter : qAsConst(linkedPlotters))
@@ -121,8 +121,8 @@ void Plotter::mousePressEvent(QMouseEvent *event)
 
 void Plotter::takePress()
 {
-    if (rubberBand.isShown())
-        rubberBand.hide();
+    if (m_rubberBand.isShown())
+        m_rubberBand.hide();
     plotterLabel->closeEditor();
 }
 
@@ -144,12 +144,13 @@ void Plotter::mouseMoveEvent(QMouseEvent *event)
 {
     takeKeyboard();
     const QPoint point = event->pos();
-    if (draggedLabel && (point - labelPress).manhattanLength() >= QApplication::startDragDistance())
+    if (draggedLabel
+        && (point - m_labelPress).manhattanLength() >= QApplication::startDragDistance())
         draggingTimeLine = true;
     if (draggingTimeLine)
         dragCursor(point.x());
-    if (rubberBand.isShown())
-        rubberBand.growTo(point);
+    if (m_rubberBand.isShown())
+        m_rubberBand.growTo(point);
     showTimeLine(point.x());
     for (Plotter *plotter : qAsConst(linkedPlotters))
         plotter->showTimeLine(point.x());
@@ -164,11 +165,11 @@ void Plotter::mouseReleaseEvent(QMouseEvent * /*event*/)
             mainWindow->refreshVectors();
         return;
     }
-    if (!rubberBand.isShown() || !zoomToBand(true))
+    if (!m_rubberBand.isShown() || !zoomToBand(true))
         return;
     for (Plotter *plotter : qAsConst(linkedPlotters)) {
         if (plotter->isOnScreen()) {
-            plotter->rubberBand.copy(rubberBand);
+            plotter->m_rubberBand.copy(m_rubberBand);
             plotter->applyRubberBand();
         }
     }
@@ -191,8 +192,8 @@ void Plotter::mouseDoubleClickEvent(QMouseEvent *event)
     }
     if (qobject_cast<CustomLabel *>(label))
         return;
-    rubberBand.hide();
-    if (cursorMarks.isFull())
+    m_rubberBand.hide();
+    if (m_cursorMarks.isFull())
         return;
     addCursor(event->pos().x(), event->pos().y());
     if (mainWindow)
@@ -303,7 +304,7 @@ void Plotter::leaveEvent(QEvent * /*event*/)
 void Plotter::contextMenuEvent(QContextMenuEvent *event)
 {
     auto *label = qobject_cast<CustomLabel *>(childAt(event->pos()));
-    const int cursor = cursorMarks.cursorOf(label);
+    const int cursor = m_cursorMarks.cursorOf(label);
     if (cursor < 0) {
         event->ignore();
         return;
@@ -314,6 +315,6 @@ void Plotter::contextMenuEvent(QContextMenuEvent *event)
     connect(menu->addAction(tr("Remove Cursor")), &QAction::triggered, this,
         [this, cursor] { removeCursors(cursor, cursor + 1); });
     connect(menu->addAction(tr("Remove All Cursors")), &QAction::triggered, this,
-        [this] { removeCursors(0, cursorMarks.count()); });
+        [this] { removeCursors(0, m_cursorMarks.count()); });
     menu->popup(event->globalPos());
 }

@@ -232,8 +232,8 @@ void Plotter::scrollView(int dx, int dy)
 
 bool Plotter::zoomToBand(bool withValues)
 {
-    rubberBand.hide();
-    const QRect band = rubberBand.rect();
+    m_rubberBand.hide();
+    const QRect band = m_rubberBand.rect();
     if (band.right() - band.left() <= 2 || band.bottom() - band.top() <= 2
         || !m_view.zoomToBand(band, size(), withValues))
         return false;

@@ -79,7 +79,7 @@ void plotterDg::drawCurves(QPainter *painter)
     int row = 0;
     for (const ShownChannel &shown : qAsConst(channelMap))
         drawDigitalRow(
-            *painter, geometry, timeAxis, shown.runs, geometry.rowY(row++, channelMap.size()));
+            *painter, geometry, m_timeAxis, shown.runs, geometry.rowY(row++, channelMap.size()));
 }
 
 void plotterDg::drawValueTable(QPainter * /*painter*/) { }
