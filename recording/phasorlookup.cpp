@@ -40,20 +40,9 @@ int sampleAt(const QVector<double> &times, double sampleRate, double time, int &
     return isEarlierNearer ? i - 1 : i;
 }
 
-int sampleAt(const QVector<double> &times, double sampleRate, double time)
-{
-    int searchFrom = firstSearched;
-    return sampleAt(times, sampleRate, time, searchFrom);
-}
-
 Phasor phasorOf(const AnalogChannel &channel, int sample)
 {
     if (sample < 0 || sample >= channel.fftAngles.size() || sample >= channel.fftMagnitudes.size())
         return {};
     return {channel.fftAngles.at(sample), channel.fftMagnitudes.at(sample)};
-}
-
-Phasor phasorAt(const AnalogChannel &channel, double time)
-{
-    return phasorOf(channel, sampleAt(channel.times, channel.sampleRate, time));
 }

@@ -17,8 +17,6 @@ struct Phasor {
 // first or after the last sample. sampleRate (Hz) only serves the first guess. A search goes
 // forward from searchFrom, at least 1, and leaves there where it ended, so that it can be resumed.
 int sampleAt(const QVector<double> &times, double sampleRate, double time, int &searchFrom);
-int sampleAt(const QVector<double> &times, double sampleRate, double time);
 
-// The phasor of a sample, or of the one nearest to a time; zeros where there is none.
+// The phasor of a sample; zeros where there is none.
 Phasor phasorOf(const AnalogChannel &channel, int sample);
-Phasor phasorAt(const AnalogChannel &channel, double time);

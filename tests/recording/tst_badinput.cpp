@@ -55,9 +55,11 @@ void use(CFGProperties &recording, bool isWritten = true)
 {
     for (int number = -1; number <= recording.analogChannels.size() + 2; ++number) {
         const AnalogChannel *const channel = recording.analogChannel(number);
-        if (channel && number < 20) {
-            phasorAt(*channel, 0);
-            phasorAt(*channel, infinite);
+        if (!channel || number >= 20)
+            continue;
+        for (const double time : {0.0, infinite}) {
+            int from = 0;
+            phasorOf(*channel, sampleAt(channel->times, channel->sampleRate, time, from));
         }
     }
     recording.updateMaxValue();

@@ -16,6 +16,12 @@ const double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 using Times = QVector<double>;
 
+int foundFromTheStart(const Times &times, double rate, double time)
+{
+    int from = 0;
+    return sampleAt(times, rate, time, from);
+}
+
 } // namespace
 
 class TestPhasorLookup : public QObject {
@@ -93,7 +99,7 @@ void TestPhasorLookup::theNearestSampleIsFound()
     QFETCH(double, rate);
     QFETCH(double, time);
     QFETCH(int, sample);
-    QCOMPARE(sampleAt(times, rate, time), sample);
+    QCOMPARE(foundFromTheStart(times, rate, time), sample);
 }
 
 void TestPhasorLookup::aSearchResumesWhereItEnded()
@@ -150,12 +156,10 @@ void TestPhasorLookup::theFoundSampleGivesItsPhasor()
     channel.times = Times{0, 1, 2, 3};
     channel.fftAngles = QVector<float>{0, 0.25, 0.5, 0.75}.mid(0, angles);
     channel.fftMagnitudes = QVector<float>{0, 10, 20, 30}.mid(0, magnitudes);
-    const Phasor phasor = phasorAt(channel, time);
+    const int sample = foundFromTheStart(channel.times, channel.sampleRate, time);
+    const Phasor phasor = phasorOf(channel, sample);
     QCOMPARE(phasor.angle, angle);
     QCOMPARE(phasor.magnitude, magnitude);
-    const Phasor found = phasorOf(channel, sampleAt(channel.times, channel.sampleRate, time));
-    QCOMPARE(found.angle, angle);
-    QCOMPARE(found.magnitude, magnitude);
 }
 
 void TestPhasorLookup::aLongRecordingIsSearchedAtOnce()
@@ -166,7 +170,7 @@ void TestPhasorLookup::aLongRecordingIsSearchedAtOnce()
     QElapsedTimer timer;
     timer.start();
     for (int i = 0; i < 100; ++i)
-        QCOMPARE(sampleAt(times, 1000, 49999.91 - i * 0.05), 999998 - i);
+        QCOMPARE(foundFromTheStart(times, 1000, 49999.91 - i * 0.05), 999998 - i);
     QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
 }
 
