@@ -11,6 +11,7 @@
 #include "ctvtdialog.h"
 #include "elidingcombobox.h"
 #include "labeltext.h"
+#include "numbers.h"
 #include "plotvalues.h"
 #include "savedialog.h"
 #include "timeofday.h"
@@ -109,8 +110,8 @@ void MainWindow::showRecording()
     QStringList secondaries;
     for (const AnalogChannel *channel : qAsConst(m_cfgProperties->analogChannels)) {
         ids.append(channel->id);
-        primaries.append(QString::number(channel->primary, 'g', 6));
-        secondaries.append(QString::number(channel->secondary, 'g', 6));
+        primaries.append(generalText(channel->primary));
+        secondaries.append(generalText(channel->secondary));
         addName(*ui->listWidget, channel->id);
     }
     for (const DigitalChannel *channel : qAsConst(m_cfgProperties->digitalChannels))

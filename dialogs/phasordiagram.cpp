@@ -3,6 +3,8 @@
 
 #include "phasordiagram.h"
 
+#include "numbers.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -26,7 +28,7 @@ double roundedUp(double value)
 // an exact 0 in the middle.
 QString axisText(double maximum, int k)
 {
-    return QString::number(maximum / ((5 * maximum) / ((k - 5) * maximum)), 'g', 6);
+    return generalText(maximum / ((5 * maximum) / ((k - 5) * maximum)));
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "channelnames.h"
 #include "dialoghost.h"
 #include "elidingcheckbox.h"
+#include "numbers.h"
 #include "phasordiagram.h"
 #include "plotter.h"
 #include "ui_vectorwidget.h"
@@ -311,8 +312,7 @@ void VectorWidget::drawPhasors(QPainter &diagramPainter, QPainter &magnitudesPai
             if (position.y() < lowestBaseLine)
                 magnitudesPainter.drawText(position,
                     fittingName(names.value(channel - 1),
-                        QStringLiteral(": ")
-                            + QString::number(static_cast<double>(phasor.magnitude), 'g', 6),
+                        QStringLiteral(": ") + generalText(static_cast<double>(phasor.magnitude)),
                         magnitudesPainter.fontMetrics(),
                         magnitudeTextWidth(ui->labelMagnitudes->width())));
         }

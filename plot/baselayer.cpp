@@ -5,6 +5,7 @@
 
 #include "digitalruns.h"
 #include "labeltext.h"
+#include "numbers.h"
 #include "timeaxis.h"
 
 #include <QCoreApplication>

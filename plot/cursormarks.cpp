@@ -4,7 +4,7 @@
 #include "cursormarks.h"
 
 #include "baselayer.h"
-#include "labeltext.h"
+#include "numbers.h"
 #include "plotgeometry.h"
 #include "textrow.h"
 

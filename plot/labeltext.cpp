@@ -3,6 +3,8 @@
 
 #include "labeltext.h"
 
+#include "numbers.h"
+
 #include <QFont>
 #include <QFontInfo>
 #include <QFontMetrics>
@@ -19,11 +21,6 @@ QFont fittingFont(QFont font, const QString &text, int width, int smallest)
     while (font.pixelSize() > smallest && QFontMetrics(font).horizontalAdvance(text) > width)
         font.setPixelSize(font.pixelSize() - 1);
     return font;
-}
-
-QString generalText(double value)
-{
-    return QString::number(value == 0 ? 0 : value, 'g', 6);
 }
 
 QString valueAxisText(double value)

@@ -14,9 +14,6 @@ QString plainToolTip(const QString &text);
 // A font, made smaller, down to a pixel size, until a text fits a width.
 QFont fittingFont(QFont font, const QString &text, int width, int smallest);
 
-// A time or value in the general format, six significant digits; never "-0".
-QString generalText(double value);
-
 // A value of the value axis: six decimals, of which trailing zeros and then a trailing point are
 // dropped; never "-0".
 QString valueAxisText(double value);

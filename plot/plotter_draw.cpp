@@ -9,7 +9,7 @@
 #include "baselayer.h"
 #include "cfgproperties.h"
 #include "channelvalues.h"
-#include "labeltext.h"
+#include "numbers.h"
 #include "plothost.h"
 #include "readout.h"
 #include "tracepainter.h"

@@ -5,6 +5,7 @@
 
 #include "baselayer.h"
 #include "labeltext.h"
+#include "numbers.h"
 #include "plotgeometry.h"
 #include "plotline.h"
 

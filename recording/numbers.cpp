@@ -83,7 +83,7 @@ int fieldToInt(const char *begin, const char *end)
     return text(begin, end).toInt();
 }
 
-QString general(double value)
+QString generalText(double value)
 {
     return QString::number(value, 'g', 6);
 }

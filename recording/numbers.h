@@ -17,7 +17,7 @@ int fieldToInt(const char *begin, const char *end);
 
 // Texts of numbers. A value that rounds to zero has no sign: read again, "-0" would be written as
 // "0".
-QString general(double value); // six digits, with an exponent where that is shorter
+QString generalText(double value); // six digits, with an exponent where that is shorter
 QString sixDecimals(double value);
 
 // Write a number without decimals, rounded as the toolkit does, and give the end of it.

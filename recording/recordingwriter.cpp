@@ -140,7 +140,7 @@ QString RecordingWriter::configuration(const Span &span, Side side) const
             sixDecimals(m_recording.sampleRate) + QLatin1Char(',') + QString::number(span.count));
     lines.append(timeStampLines(span));
     lines.append(m_recording.fileType);
-    lines.append(general(m_recording.timeMultiplier));
+    lines.append(generalText(m_recording.timeMultiplier));
     // The last text of a short line was kept with its line end, which would start a line here.
     for (QString &line : lines)
         line.remove(QLatin1Char('\n'));
@@ -168,8 +168,8 @@ QString RecordingWriter::analogLine(int row, Side side) const
     return QStringList(
         {QString::number(m_recording.analogIndexes.value(row)), m_recording.analogIds.value(row),
             m_recording.analogPhases.value(row), m_recording.analogCircuits.value(row),
-            m_recording.analogUnits.value(row), general(a), general(b),
-            general(m_recording.analogSkews.value(row)),
+            m_recording.analogUnits.value(row), generalText(a), generalText(b),
+            generalText(m_recording.analogSkews.value(row)),
             QString::number(m_recording.analogMins.value(row)),
             QString::number(m_recording.analogMaxs.value(row)),
             rating(m_primaries, m_recording.primaryValues),

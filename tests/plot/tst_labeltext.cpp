@@ -11,28 +11,10 @@ class TestLabelText : public QObject {
     Q_OBJECT
 
 private slots:
-    void generalText_data();
-    void generalText();
     void valueAxisText_data();
     void valueAxisText();
     void valuesThatDoNotFitAreWrittenShort();
 };
-
-void TestLabelText::generalText_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("whole") << 100.0 << "100";
-    QTest::newRow("six digits") << 1234.5678 << "1234.57";
-    QTest::newRow("a million") << 1000000.0 << "1e+06";
-    QTest::newRow("negative") << -77.5 << "-77.5";
-}
-
-void TestLabelText::generalText()
-{
-    QFETCH(double, value);
-    QTEST(::generalText(value), "text");
-}
 
 void TestLabelText::valueAxisText_data()
 {

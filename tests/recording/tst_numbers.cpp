@@ -243,12 +243,15 @@ void TestNumbers::aNumberIsWritten_data()
                             << QString::fromLatin1(withSixDecimals) << QByteArray(whole);
     };
     row("zero", 0, "0", "0.000000", "0");
+    row("minus zero has no sign", -0.0, "0", "0.000000", "0");
     row("a digit", 7, "7", "7.000000", "7");
     row("a half goes up", 2.5, "2.5", "2.500000", "3");
     row("a half below zero goes down", -2.5, "-2.5", "-2.500000", "-3");
     row("less than a half", 0.49999999, "0.5", "0.500000", "0");
     row("what rounds to zero has no sign", -0.0000004, "-4e-07", "0.000000", "0");
     row("the smallest with a sign", -0.0000006, "-6e-07", "-0.000001", "0");
+    row("six digits", 1234.5678, "1234.57", "1234.567800", "1235");
+    row("a million", 1000000, "1e+06", "1000000.000000", "1000000");
     row("seven digits", 1234567, "1.23457e+06", "1234567.000000", "1234567");
     row("more digits than a double has", 1e22, "1e+22", "10000000000000000000000.000000",
         "10000000000000000000000");
@@ -259,7 +262,7 @@ void TestNumbers::aNumberIsWritten_data()
 void TestNumbers::aNumberIsWritten()
 {
     QFETCH(double, value);
-    QTEST(general(value), "inGeneral");
+    QTEST(generalText(value), "inGeneral");
     QTEST(sixDecimals(value), "withSixDecimals");
     std::array<char, mostDigitsOfDouble> text{};
     const char *const end = writeWhole(text.data(), value);
