@@ -27,6 +27,7 @@
 #include <QToolBar>
 #include <QToolTip>
 
+#include <algorithm>
 #include <functional>
 
 namespace {
@@ -57,7 +58,7 @@ double textContrast(const QImage &picture)
         }
     }
     for (const QRgb background : qAsConst(backgrounds))
-        best = qMin(best, contrast(text, background));
+        best = std::min(best, contrast(text, background));
     return best;
 }
 

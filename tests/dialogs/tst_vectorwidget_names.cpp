@@ -7,6 +7,7 @@
 
 #include <QToolButton>
 
+#include <algorithm>
 #include <functional>
 
 namespace {
@@ -23,7 +24,7 @@ const QStringList longNames{QStringLiteral("Feeder K07 current IL1X"), // 23 cha
 // Whether something holds for a name with about as much of its beginning as of its end.
 bool isShortened(const QString &name, const std::function<bool(const QString &)> &holds)
 {
-    for (int head = 1; head < qMin(name.size(), 40); ++head) {
+    for (int head = 1; head < std::min(name.size(), 40); ++head) {
         for (const int tail : {head - 1, head, head + 1}) {
             if (holds(name.left(head) + QChar(0x2026) + name.right(tail)))
                 return true;

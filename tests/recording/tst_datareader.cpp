@@ -10,6 +10,7 @@
 #include <QBuffer>
 #include <QtTest>
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -23,7 +24,7 @@ protected:
     qint64 readData(char *data, qint64 size) override
     {
         m_step = m_step % 7 + 1;
-        return QBuffer::readData(data, qMin(size, m_step));
+        return QBuffer::readData(data, std::min(size, m_step));
     }
 
 private:

@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QImage>
 
+#include <algorithm>
 #include <cmath>
 
 // Relative luminance of an sRGB colour, 0 (black) to 1 (white), as the Web Content Accessibility
@@ -23,8 +24,8 @@ inline double luminance(QRgb color)
 // Contrast ratio of two colours after the same guidelines, 1 to 21.
 inline double contrast(QRgb a, QRgb b)
 {
-    const double lighter = qMax(luminance(a), luminance(b));
-    const double darker = qMin(luminance(a), luminance(b));
+    const double lighter = std::max(luminance(a), luminance(b));
+    const double darker = std::min(luminance(a), luminance(b));
     return (lighter + 0.05) / (darker + 0.05);
 }
 

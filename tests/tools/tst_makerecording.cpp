@@ -422,8 +422,8 @@ private slots:
         int least = 0;
         int most = 0;
         for (int k = 0; k < rows.size(); ++k) {
-            least = qMin(least, rows.at(k).at(2) - clean.at(k).at(2));
-            most = qMax(most, rows.at(k).at(2) - clean.at(k).at(2));
+            least = std::min(least, rows.at(k).at(2) - clean.at(k).at(2));
+            most = std::max(most, rows.at(k).at(2) - clean.at(k).at(2));
         }
         QCOMPARE(least, -5);
         QCOMPARE(most, 5);
@@ -434,7 +434,7 @@ private slots:
         QCOMPARE(run(QStringLiteral("--noise 10000 --fault AG r")).exitCode, 0);
         int most = 0;
         for (const Row &row : data())
-            most = qMax(most, std::abs(*std::max_element(row.begin() + 2, row.end())));
+            most = std::max(most, std::abs(*std::max_element(row.begin() + 2, row.end())));
         QCOMPARE(most, 32767);
     }
 
