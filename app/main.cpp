@@ -34,7 +34,7 @@ int main(int argc, char *argv[])
     QCoreApplication::setOrganizationName(ApplicationIdentity::organisationName());
     QCoreApplication::setApplicationName(ApplicationIdentity::applicationName());
     preferApplicationFolder();
-    preferSimplifiedLetters();
+    preferSimplifiedCharacters();
 
     auto *splash = new QSplashScreen(QPixmap(), Qt::WindowFlags());
     splash->setPixmap(splashPixmap);

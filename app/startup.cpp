@@ -24,7 +24,7 @@ void preferApplicationFolder()
 #endif
 }
 
-void preferSimplifiedLetters()
+void preferSimplifiedCharacters()
 {
     const QFont font = QApplication::font();
     QFont::insertSubstitutions(

@@ -10,9 +10,9 @@ class QString;
 // lies beside the program.
 void preferApplicationFolder();
 
-// Has Chinese letters shown in their simplified shapes: which ones a system falls back to goes by
-// its own language. To be called before any text is laid out.
-void preferSimplifiedLetters();
+// Has Chinese characters shown in their simplified shapes: which ones a system falls back to goes
+// by its own language. To be called before any text is laid out.
+void preferSimplifiedCharacters();
 
 // Opens the recording named on the command line. Without one that is opened at start-up, processes
 // events for two seconds, so that the splash can be seen.

@@ -123,7 +123,7 @@ private slots:
         const QString wanted = QStringLiteral("Noto Sans CJK SC");
         if (!QFontDatabase().families().contains(wanted))
             QSKIP("fonts-noto-cjk is not installed");
-        preferSimplifiedLetters();
+        preferSimplifiedCharacters();
         QTextLayout layout(QStringLiteral("R门"), QApplication::font());
         layout.beginLayout();
         layout.createLine();
