@@ -43,9 +43,10 @@ void stylePlots(const QList<Plotter *> &plots, const QString &styleSheet)
         plot->setStyleSheet(styleSheet);
 }
 
+// A folder is none of them: it is never replaced.
 QStringList existing(QStringList files)
 {
-    const auto isNew = [](const QString &file) { return !QFileInfo::exists(file); };
+    const auto isNew = [](const QString &file) { return !QFileInfo(file).isFile(); };
     files.erase(std::remove_if(files.begin(), files.end(), isNew), files.end());
     return files;
 }

@@ -584,6 +584,17 @@ private slots:
             QCOMPARE(fileText(path("old")), QStringLiteral("before"));
     }
 
+    void saveAsPrimaryAsksForNoFolder()
+    {
+        QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("old.cfg")));
+        BoxReader boxes;
+        answerFileDialog(folder->filePath(QStringLiteral("old")));
+        trigger("Save As &Primary");
+        QCOMPARE(boxes.take().size(), 0);
+        QVERIFY(QFileInfo(path("old.cfg")).isDir());
+        QCOMPARE(fileText(path("old.dat")).count(QLatin1Char('\n')), 39);
+    }
+
     // Back to the file dialog, for another name or for none.
     void saveAsPrimaryReplacesNothingAgainstTheWill_data()
     {
