@@ -299,8 +299,9 @@ void MainWindow::addPlot(const QStringList &names, const QList<int> &channels)
     for (const int number : qAsConst(numbers))
         plot->addChannel(number);
     plot->setupPlot();
+    plot->show(); // at the time of any plot on screen, which may not be that of the first
     plot->followFromNowOn(*m_analogPlotter);
-    plot->show();
+    plot->refreshPixmap();
 
     // The scroll area knows the plot's place only after its layout was done.
     constexpr int settleTime = 50; // ms

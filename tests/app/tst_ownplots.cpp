@@ -38,6 +38,7 @@ private slots:
     void aSiblingGoesOnWithItsBand();
     void aSiblingGoesOnEditingItsTitle();
     void anAddedPlotStartsAtTheFirstPlotsTime();
+    void anAddedPlotStartsWhereTheFirstOneWasScrolledTo();
     void anAddedPlotScrollsWithTheOthers();
     void anAddedPlotIsScrolledIntoView();
 
@@ -332,6 +333,20 @@ void TestOwnPlots::anAddedPlotStartsAtTheFirstPlotsTime()
     QCOMPARE(plot(QStringLiteral("Currents"))->view().maxX, 50.0);
     action("Zoom In")->trigger();
     QCOMPARE(plot(QStringLiteral("Currents"))->view().maxX, analog()->view().maxX);
+}
+
+// Alone, by a wheel, two intervals of 10 ms to the right; the digital plot stays.
+void TestOwnPlots::anAddedPlotStartsWhereTheFirstOneWasScrolledTo()
+{
+    open({QStringLiteral("Ia")}, {QStringLiteral("D1")});
+    const QPoint position(400, 100);
+    QWheelEvent sideways(position, analog()->mapToGlobal(position), {}, {120, 240}, Qt::NoButton,
+        Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(analog(), &sideways);
+    compose({QStringLiteral("Ia")}, QStringLiteral("Currents"));
+    QCOMPARE(plot(QStringLiteral("Currents"))->view().minX, 20.0);
+    QCOMPARE(plot(QStringLiteral("Currents"))->view().maxX, 120.0);
+    QCOMPARE(digital()->view().minX, 0.0);
 }
 
 // The bar goes to 2, where the views begin at 20 ms; the zoom sets it to 4, at intervals of 5 ms.
