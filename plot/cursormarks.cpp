@@ -83,6 +83,7 @@ void CursorMarks::number()
     for (const Cursor &cursor : m_cursors) {
         cursor.label->setText(QStringLiteral("P%1").arg(++i));
         cursor.label->adjustSize();
+        cursor.label->raise(); // no line may hide a digit of it
     }
 }
 

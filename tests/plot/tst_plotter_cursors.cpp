@@ -47,6 +47,7 @@ private slots:
     void theReadoutTakesRoomInAnalogPlotsOnly();
     void theReadoutTakesHalfOfThePlotAtMost();
     void labelsOfCloseCursorsStandApart();
+    void aLabelStandsOverTheLinesOfOtherCursors();
     void aLabelAtTheRightEdgeStandsLeftOfItsLine();
     void timeDifferencesThatWouldOverlapAreLeftOut();
     void noTimeDifferenceIsBehindTheTitle();
@@ -307,6 +308,17 @@ void TestPlotterCursors::labelsOfCloseCursorsStandApart()
         for (int k = 0; k < i; ++k)
             QVERIFY(!labels.at(i)->geometry().intersects(labels.at(k)->geometry()));
     }
+}
+
+void TestPlotterCursors::aLabelStandsOverTheLinesOfOtherCursors()
+{
+    for (const int x : {300, 310}) // the second line runs through the first label
+        QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {x, 150});
+    const QRect place = PlotPair::lineLabels(pair->digital).first()->geometry();
+    QVERIFY(place.left() < 310 && place.right() > 310);
+    const QImage picture = pair->digital->grab().toImage();
+    QVERIFY(picture.pixel(310, place.top()) != qRgb(255, 250, 80)); // above the text
+    QCOMPARE(picture.pixel(310, 200), qRgb(255, 250, 80));
 }
 
 void TestPlotterCursors::aLabelAtTheRightEdgeStandsLeftOfItsLine()
