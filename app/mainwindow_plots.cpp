@@ -325,6 +325,7 @@ void MainWindow::removePlotter()
         m_plotLayout->removeWidget(removed);
         delete removed;
         setColumnHeight();
+        m_analogPlotter->zoomIn(); // the widest readout may have gone
         ui->scrollWidget->repaint();
     }
     if (m_addedPlotters.isEmpty())

@@ -40,6 +40,7 @@ private slots:
     void anAddedPlotStartsAtTheFirstPlotsTime();
     void anAddedPlotStartsWhereTheFirstOneWasScrolledTo();
     void anAddedPlotScrollsWithTheOthers();
+    void aRemovedPlotTakesItsReadoutAway();
     void anAddedPlotIsScrolledIntoView();
 
 private:
@@ -361,6 +362,20 @@ void TestOwnPlots::anAddedPlotScrollsWithTheOthers()
     window->horizontalScrollBar()->setValue(2);
     for (const Plotter *each : plots())
         QCOMPARE(each->view().minX, 30.0);
+}
+
+void TestOwnPlots::aRemovedPlotTakesItsReadoutAway()
+{
+    open({QStringLiteral("Ia"), QStringLiteral("a name that needs much room")}, {});
+    click(list("listWidget"), 1); // out of the first plot
+    QTest::mouseDClick(analog(), Qt::LeftButton, {}, {300, 150});
+    const int width = analog()->geometryOfView().readoutWidth();
+    for (int i = 0; i < 2; ++i) {
+        compose({QStringLiteral("a name that needs much room")});
+        QVERIFY(analog()->geometryOfView().readoutWidth() > width);
+        action("&Remove Plotter")->trigger();
+        QCOMPARE(analog()->geometryOfView().readoutWidth(), width);
+    }
 }
 
 void TestOwnPlots::anAddedPlotIsScrolledIntoView()
