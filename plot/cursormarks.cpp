@@ -109,6 +109,7 @@ void CursorMarks::place(const PlotGeometry &geometry)
     }
 
     std::vector<Mark *> fromRight;
+    fromRight.reserve(marks.size());
     for (Mark &mark : marks)
         fromRight.push_back(&mark);
     std::stable_sort(fromRight.begin(), fromRight.end(),

@@ -25,12 +25,12 @@ class TestLackOfMemory : public QObject {
     Q_OBJECT
 
 private slots:
-#ifdef __SANITIZE_ADDRESS__
     void initTestCase()
     {
+#ifdef __SANITIZE_ADDRESS__
         QSKIP("The sanitizer needs address space without end.");
-    }
 #endif
+    }
     void aLoadFailsAndTheNextOneDoesNot_data();
     void aLoadFailsAndTheNextOneDoesNot();
 };
