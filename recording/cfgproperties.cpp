@@ -107,7 +107,7 @@ void CFGProperties::readTxtFile()
 
 void CFGProperties::fftTransform()
 {
-    const auto phasor = static_cast<qint64>(2 * sizeof(float));
+    constexpr qint64 phasor = sizeof(float) + sizeof(float);
     requireMemory(analogChannels.size() * phasor * sampleTimes.size());
     for (AnalogChannel *channel : qAsConst(analogChannels))
         computePhasors(*channel, samplesPerCycle);

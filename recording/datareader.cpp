@@ -224,8 +224,9 @@ private:
         const int delivered = m_rows - static_cast<int>(m_gathered);
         m_rowsWithRoom = static_cast<int>(std::min<double>(wanted, mostRows - m_rowsBefore));
         const int additional = m_rowsWithRoom - delivered;
-        const auto row = static_cast<qint64>(
-            sizeof(double) + 2 * sizeof(float) * m_analog.size() + sizeof(int) * m_digital.size());
+        const std::size_t bytesOfRow
+            = sizeof(double) + 2 * sizeof(float) * m_analog.size() + sizeof(int) * m_digital.size();
+        const auto row = static_cast<qint64>(bytesOfRow);
         // While a list moves, it stands in two places.
         requireMemory(additional * row + m_rowsWithRoom * static_cast<qint64>(sizeof(double)));
         const auto extend
