@@ -87,7 +87,7 @@ WriteOutcome putInPlace(const Target &first, const Target &second)
     QSaveFile former(first.wanted.path);
     const bool areBothReplaced = first.replacement() && second.replacement();
     if (areBothReplaced && first.isThere) {
-        const WriteOutcome outcome = copyAside(first.wanted.path, former);
+        WriteOutcome outcome = copyAside(first.wanted.path, former);
         if (outcome.hasFailed())
             return outcome;
     }

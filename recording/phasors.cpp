@@ -201,6 +201,7 @@ void computePhasors(AnalogChannel &channel, int samplesPerCycle)
         return;
     }
 
+    const int half = size / 2;
     Sums sums(channel, size);
     std::optional<Transforms> transforms;
     int work = 0;
@@ -223,7 +224,7 @@ void computePhasors(AnalogChannel &channel, int samplesPerCycle)
         const double real = fundamental.real();
         const double imaginary = fundamental.imag();
         const double magnitude
-            = std::sqrt(real * real + imaginary * imaginary) / (size / 2) / 1.4142135623730951;
+            = std::sqrt(real * real + imaginary * imaginary) / half / 1.4142135623730951;
         const double angle = std::atan2(imaginary, real);
         channel.maxMagnitude = std::max(channel.maxMagnitude, narrowed(magnitude));
         channel.maxReal
