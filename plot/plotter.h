@@ -194,6 +194,7 @@ private:
     void holdKey(int key);
     void releaseGrab();
     void letGo();
+    void endDrag();
     void takePress();
     void chooseColor(const QLabel *label);
     void showCell(const QHelpEvent &help);

@@ -59,6 +59,9 @@ bool Plotter::event(QEvent *event)
     case QEvent::WindowDeactivate:
         letGo();
         break;
+    case QEvent::FocusOut: // to a menu that the keys opened: it takes the release of the button
+        endDrag();
+        break;
     default:
         break;
     }
@@ -83,6 +86,11 @@ void Plotter::releaseGrab()
 void Plotter::letGo()
 {
     releaseGrab();
+    endDrag();
+}
+
+void Plotter::endDrag()
+{
     draggedLabel = nullptr;
     if (std::exchange(draggingTimeLine, false))
         refreshAll(); // the readouts follow the end of a drag

@@ -51,6 +51,8 @@ private slots:
     void aPressElsewhereClosesTheEditorsOfLinkedPlots();
     void aBandTooNarrowInValuesZoomsTime();
     void aBandEndsWithTheWindowsActivation();
+    void aBandEndsWhenAMenuOpens();
+    void aDragEndsWhenAMenuOpens();
     void aDragEndsWhenThePlotIsHidden();
     void aDoubleClickHidesABand();
     void afterABandTheScrollBarIsRanged();
@@ -260,6 +262,41 @@ void TestPlotterInput::aBandEndsWithTheWindowsActivation()
     QVERIFY(pair->plot->grab().toImage().pixel(300, 150) != light);
     QTest::mouseRelease(pair->plot, Qt::LeftButton, {}, {500, 200});
     QCOMPARE(ends(pair->plot->view()), Ends({0, 1000, -12, 12}));
+}
+
+// A menu opened by keys, which has the release of the button.
+void TestPlotterInput::aBandEndsWhenAMenuOpens()
+{
+    for (int twice = 0; twice < 2; ++twice) {
+        QTest::mousePress(pair->plot, Qt::LeftButton, {}, {300, 100});
+        PlotPair::move(pair->plot, {400, 150}, Qt::LeftButton);
+        QCOMPARE(pair->plot->cursor().shape(), Qt::CrossCursor);
+        QMenu menu;
+        menu.addAction(QStringLiteral("Open"));
+        menu.popup({0, 0});
+        QTest::mouseRelease(&menu, Qt::LeftButton, {}, {900, 900});
+        menu.close();
+        PlotPair::move(pair->plot, {500, 200});
+        QCOMPARE(pair->plot->cursor().shape(), Qt::ArrowCursor);
+        const QRgb light = pair->plot->palette().light().color().rgb();
+        QVERIFY(pair->plot->grab().toImage().pixel(300, 150) != light);
+        QCOMPARE(ends(pair->plot->view()), Ends({0, 1000, -12, 12}));
+    }
+}
+
+void TestPlotterInput::aDragEndsWhenAMenuOpens()
+{
+    QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {300, 150});
+    const QPoint grip = PlotPair::lineLabels(pair->plot).first()->geometry().center();
+    QTest::mousePress(pair->plot, Qt::LeftButton, {}, grip);
+    PlotPair::move(pair->plot, grip + QPoint(50, 0), Qt::LeftButton);
+    const double time = pair->plot->cursors().first();
+    QMenu menu;
+    menu.addAction(QStringLiteral("Open"));
+    menu.popup({0, 0});
+    menu.close();
+    PlotPair::move(pair->plot, {200, 150});
+    QCOMPARE(pair->plot->cursors().first(), time);
 }
 
 void TestPlotterInput::aDragEndsWhenThePlotIsHidden()
