@@ -16,7 +16,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <new>
+#include <exception>
 
 namespace {
 
@@ -50,7 +50,7 @@ void CFGProperties::init()
     clearConfig();
     try {
         load();
-    } catch (const std::bad_alloc &) {
+    } catch (const std::exception &) { // out of memory, or a file that cannot be read to its end
         // Records are kept for those who hold them; these no one has seen yet.
         for (AnalogChannel *channel : qAsConst(analogChannels))
             *channel = AnalogChannel();

@@ -17,11 +17,12 @@ public:
 
     // These three survive clearConfig().
     QString filePath; // file to load; names the ".dat" file after a COMTRADE load
-    int loaded = 0; // result of the last init(): 1 loaded, 0 failed, also for want of memory
+    int loaded = 0; // result of the last init(): 1 loaded, 0 failed
     double timeMultiplier = 1.0; // read, not applied
 
     // Reads the ASCII data file beside the configuration (clause 6) and makes the channel records.
-    // False, with everything cleared, when there is no data line.
+    // False, with everything cleared, when there is no data line. This and the two other readers
+    // throw where a file cannot be read to its end or memory is wanting; init() tells by loaded.
     bool readDatFile();
 
     // Record by 1-based number. A number above the count has the count subtracted once; any number

@@ -6,6 +6,7 @@
 #include "cfgproperties.h"
 #include "memoryneed.h"
 #include "numbers.h"
+#include "readerror.h"
 #include "recordregistry.h"
 #include "samplebudget.h"
 
@@ -109,7 +110,9 @@ public:
                 break;
             buffer.resize(kept + blockSize);
             const qint64 count = m_device.read(buffer.data() + kept, blockSize);
-            if (count <= 0) {
+            if (count < 0)
+                throw ReadError();
+            if (count == 0) {
                 if (kept > 0)
                     readLine(buffer.constData(), buffer.constData() + kept);
                 break;

@@ -11,5 +11,5 @@ class QIODevice;
 // values, digital states. Records are made with the first line; where there are some already, the
 // samples are appended to them. Reading ends with the file or with the first line of fewer than two
 // fields or more than mostLineBytes. Missing fields read as 0. sampleCount becomes the number of
-// lines read.
+// lines read. Throws a ReadError where the device fails.
 void readData(QIODevice &device, CFGProperties &recording);

@@ -3,6 +3,7 @@
 
 #include "textlines.h"
 
+#include "readerror.h"
 #include "samplebudget.h"
 
 #include <QIODevice>
@@ -13,13 +14,22 @@ QByteArray nextLine(QIODevice &device)
     QByteArray line;
     while (!line.endsWith('\n')) {
         const QByteArray part = device.readLine(mostAtOnce);
-        if (part.isEmpty())
+        if (part.isEmpty()) {
+            requireEnd(device);
             break;
+        }
         line += part;
         if (line.size() > mostLineBytes)
             return {};
     }
     return line;
+}
+
+void requireEnd(QIODevice &device)
+{
+    char next = 0;
+    if (device.peek(&next, 1) != 0)
+        throw ReadError();
 }
 
 QVector<QStringRef> firstFields(const QString &line, int most)

@@ -100,12 +100,16 @@ public:
     {
     }
 
-    // None at the end, where the device fails, and where the line is too long.
+    // None at the end and where the line is too long. Throws where the device fails.
     std::optional<QString> next()
     {
         QString line;
         if (m_mark == "\xff\xfe" || m_mark == "\xfe\xff") {
-            if (!m_wideText.readLineInto(&line, mostLineBytes) || line.size() == mostLineBytes)
+            if (!m_wideText.readLineInto(&line, mostLineBytes)) {
+                requireEnd(m_device);
+                return {};
+            }
+            if (line.size() == mostLineBytes)
                 return {};
         } else {
             QByteArray bytes = nextLine(m_device);
