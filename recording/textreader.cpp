@@ -21,13 +21,15 @@
 
 namespace {
 
-// The bytes as UTF-8 where they are that, else as Latin-1.
+// The bytes as UTF-8 where they are that, else as Latin-1; a NUL is a letter like others in both.
 QString decoded(const QByteArray &bytes)
 {
     QTextCodec::ConverterState state;
     const QString text
         = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
-    return state.invalidChars > 0 || state.remainingChars > 0 ? QString::fromLatin1(bytes) : text;
+    return state.invalidChars > 0 || state.remainingChars > 0
+        ? QString::fromLatin1(bytes.constData(), bytes.size())
+        : text;
 }
 
 void readHeader(CFGProperties &recording, QString line)

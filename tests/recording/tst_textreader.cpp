@@ -386,6 +386,10 @@ void TestTextReader::lettersOfTheHeader_data()
         << QByteArray("#J\xe4nnite[V]") << QString::fromUtf8("Jännite");
     QTest::newRow("Latin-1 where UTF-8 breaks off")
         << QByteArray("#Ua\xc3") << QString::fromUtf8("UaÃ");
+    QTest::newRow("UTF-8 with a NUL")
+        << QByteArray("#J\xc3\xa4\0n[V]", 9) << QString::fromLatin1("J\xe4\0n", 4);
+    QTest::newRow("Latin-1 with a NUL")
+        << QByteArray("#J\xe4\0n[V]", 8) << QString::fromLatin1("J\xe4\0n", 4);
 }
 
 void TestTextReader::lettersOfTheHeader()
