@@ -107,6 +107,8 @@ void Plotter::placeMarks()
     timeLine.refresh(geometry);
     startMarker.place(geometry);
     endMarker.place(geometry);
+    if (draggedLabel && draggedLabel->isHidden()) // by a zoom; it would not be told of its release
+        endDrag();
 }
 
 void Plotter::setStartPoint(double time)

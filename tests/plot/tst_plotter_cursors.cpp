@@ -57,6 +57,8 @@ private slots:
     void theReadoutTellsItsCellsInFull();
     void aDraggedLabelMovesTheCursorEverywhere();
     void aDragCutShortIsInTheReadout();
+    void aDragEndsWhenItsCursorLeavesTheView_data();
+    void aDragEndsWhenItsCursorLeavesTheView();
     void aPressOnALabelMovesNothing_data();
     void aPressOnALabelMovesNothing();
     void aDragBeginsAfterItsDistance();
@@ -441,6 +443,41 @@ void TestPlotterCursors::aDragCutShortIsInTheReadout()
     QHelpEvent event(QEvent::ToolTip, {793, 86}, pair->plot->mapToGlobal({793, 86}));
     QApplication::sendEvent(pair->plot, &event);
     QCOMPARE(QToolTip::text(), QStringLiteral("Ia, P1 (500): 7"));
+}
+
+void TestPlotterCursors::aDragEndsWhenItsCursorLeavesTheView_data()
+{
+    QTest::addColumn<int>("x"); // to which the label is dragged; a pixel is 10 / 7 ms
+    QTest::addColumn<double>("time");
+    QTest::addColumn<QString>("cell");
+    QTest::newRow("dragged") << 520 << 600.0 << QStringLiteral("Ia, P1 (600): 2");
+    QTest::newRow("only pressed") << 0 << 500.0 << QStringLiteral("Ia, P1 (500): 7");
+}
+
+// A label that is hidden under the pressed button does not hear of the release.
+void TestPlotterCursors::aDragEndsWhenItsCursorLeavesTheView()
+{
+    QFETCH(int, x);
+    QFETCH(double, time);
+    QFETCH(QString, cell);
+    for (int twice = 0; twice < 2; ++twice) {
+        for (Plotter *plot : QList<Plotter *>{pair->plot, pair->other, pair->digital})
+            plot->clearCursors();
+        QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {450, 150});
+        QTest::mousePress(pair->digital, Qt::LeftButton, {},
+            PlotPair::lineLabels(pair->digital).first()->geometry().center());
+        if (x > 0)
+            PlotPair::move(pair->digital, {x, 150}, Qt::LeftButton);
+        pair->digital->customZoomIn();
+        pair->digital->customZoomIn(); // shows 250 ms
+        PlotPair::move(pair->digital, {300, 150});
+        PlotPair::move(pair->digital, {400, 150});
+        QCOMPARE(pair->digital->cursors(), QList<double>{time});
+        QHelpEvent event(QEvent::ToolTip, {793, 86}, pair->plot->mapToGlobal({793, 86}));
+        QApplication::sendEvent(pair->plot, &event);
+        QCOMPARE(QToolTip::text(), cell);
+        pair->digital->customResetZoom();
+    }
 }
 
 void TestPlotterCursors::aPressOnALabelMovesNothing_data()
