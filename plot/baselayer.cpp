@@ -41,6 +41,93 @@ double gridTime(const PlotSettings &view, int line)
     return std::abs(time) < step * 1e-9 ? 0 : time;
 }
 
+// The stretches of a digital channel around the base line y.
+class DigitalRow {
+public:
+    DigitalRow(QPainter &painter, const PlotGeometry &geometry, const TimeAxis &axis,
+        const DigitalRuns &runs, int y)
+        : m_painter(painter), m_geometry(geometry), m_axis(axis), m_runs(runs), m_y(y)
+    {
+    }
+
+    void drawAll()
+    {
+        for (int run = 0; run < m_runs.count(); ++run)
+            draw(run, m_runs.isOn(run));
+    }
+
+    // The stretches that begin in a run of ascending times. Those within one pixel column are drawn
+    // as one, on if any of them is; the last one may lead back.
+    void draw(const TimeAxis::Run &ascending)
+    {
+        if (!hasColumn(ascending.first))
+            return;
+        const int last = m_runs.runOf(ascending.last - 1);
+        int run = m_runs.runOf(m_axis.firstAtOrAfter(m_geometry.view().minX, ascending) - 1);
+        if (m_runs.start(run) < ascending.first)
+            ++run;
+        for (; run <= last; ++run) {
+            const int x = columnOf(m_runs.start(run));
+            if (x > m_geometry.area().right())
+                run = last;
+            bool isOn = m_runs.isOn(run);
+            if (run < last && columnOf(m_runs.end(run)) == x) {
+                const int entered = m_runs.runOf(columnEnd(x, m_runs.end(run), ascending.last) - 1);
+                isOn = isOn || entered > run + 1;
+                run = std::max(run, entered - 1);
+            }
+            draw(run, isOn);
+        }
+    }
+
+private:
+    void draw(int run, bool isOn)
+    {
+        if (!hasColumn(m_runs.start(run)) || !hasColumn(m_runs.end(run)))
+            return;
+        const int from = columnOf(m_runs.start(run));
+        const int to = columnOf(m_runs.end(run));
+        if (from == to && from == m_drawnX && isOn == m_drawnOn)
+            return;
+        m_drawnX = from == to ? from : nowhere;
+        m_drawnOn = isOn;
+        const QRect line(QPoint(std::min(from, to), m_y), QPoint(std::max(from, to), m_y));
+        if (isOn) {
+            const QRect band = line.adjusted(0, -bandReach, 0, bandReach);
+            m_painter.fillRect(band, bandColor);
+            fillFrame(m_painter, band, rowColor);
+        } else {
+            m_painter.fillRect(line, rowColor);
+        }
+    }
+
+    double timeOf(int sample) const { return m_axis.times().at(sample); }
+    bool hasColumn(int sample) const { return !std::isnan(timeOf(sample)); }
+    int columnOf(int sample) const
+    {
+        return PlotGeometry::pixel(m_geometry.traceX(timeOf(sample)));
+    }
+    // The first of the samples from one on that stands right of a column; last where none does.
+    int columnEnd(int x, int first, int last) const
+    {
+        const auto times = m_axis.times().cbegin();
+        const auto isRight = [this](int column, double time) {
+            return column < PlotGeometry::pixel(m_geometry.traceX(time));
+        };
+        return static_cast<int>(std::upper_bound(times + first, times + last, x, isRight) - times);
+    }
+
+    static constexpr int nowhere = std::numeric_limits<int>::min();
+
+    QPainter &m_painter;
+    const PlotGeometry &m_geometry;
+    const TimeAxis &m_axis;
+    const DigitalRuns &m_runs;
+    const int m_y;
+    int m_drawnX = nowhere; // of the last stretch, where it stood within one pixel column
+    bool m_drawnOn = false;
+};
+
 } // namespace
 
 void fillFrame(QPainter &painter, const QRect &frame, const QColor &color)
@@ -155,46 +242,13 @@ void drawTriggerMark(QPainter &painter, const PlotGeometry &geometry, const QFon
 void drawDigitalRow(QPainter &painter, const PlotGeometry &geometry, const TimeAxis &axis,
     const DigitalRuns &runs, int y)
 {
-    const QVector<double> &times = axis.times();
-    const QRect area = geometry.area();
-    const auto xOf
-        = [&](int sample) { return PlotGeometry::pixel(geometry.traceX(times[sample])); };
-    if (runs.end(runs.count() - 1) >= times.size())
+    if (runs.count() == 0 || runs.end(runs.count() - 1) >= axis.times().size())
         return;
-    const int first = axis.isAscending()
-        ? runs.runOf(std::max(0, axis.firstAtOrAfter(geometry.view().minX) - 1))
-        : 0;
-    int drawnX = std::numeric_limits<int>::min(); // of the last stretch within one pixel column
-    bool drawnOn = false;
-    for (int run = first; run < runs.count(); ++run) {
-        const int from = xOf(runs.start(run));
-        const int to = xOf(runs.end(run));
-        bool isOn = runs.isOn(run);
-        if (axis.isAscending() && from > area.right())
-            break;
-        if (axis.isAscending() && from == to) {
-            // Stretches within one pixel column are drawn as one, on if any of them is.
-            const auto next = std::upper_bound(times.cbegin() + runs.end(run), times.cend(), to,
-                [&](int x, double time) { return x < PlotGeometry::pixel(geometry.traceX(time)); });
-            const int last = runs.runOf(static_cast<int>(next - times.cbegin()) - 1);
-            isOn = isOn || last > run + 1;
-            run = std::max(run, last - 1);
-        }
-        if (from == to) {
-            if (from == drawnX && isOn == drawnOn)
-                continue;
-            drawnX = from;
-            drawnOn = isOn;
-        }
-        const QRect line(QPoint(std::min(from, to), y), QPoint(std::max(from, to), y));
-        if (isOn) {
-            const QRect band = line.adjusted(0, -bandReach, 0, bandReach);
-            painter.fillRect(band, bandColor);
-            fillFrame(painter, band, rowColor);
-        } else {
-            painter.fillRect(line, rowColor);
-        }
-    }
+    DigitalRow row(painter, geometry, axis, runs, y);
+    if (axis.runs().isEmpty())
+        row.drawAll();
+    for (const TimeAxis::Run &ascending : axis.runs())
+        row.draw(ascending);
 }
 
 void drawRowLabel(QPainter &painter, const QFont &font, const QString &text, int y)

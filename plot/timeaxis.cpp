@@ -9,29 +9,56 @@
 #include <cmath>
 #include <limits>
 
+namespace {
+
+constexpr int shortestRun = 16; // on average, in samples
+
+} // namespace
+
 TimeAxis::TimeAxis(const QVector<double> &times) : m_times(times)
 {
     double smallest = std::numeric_limits<double>::infinity();
     double largest = -smallest;
-    double previous = largest;
-    for (const double time : times) {
-        m_ascending = m_ascending && time >= previous;
-        previous = time;
+    const int mostRuns = 1 + times.size() / shortestRun;
+    int begins = 0;
+    for (int i = 0; i < times.size(); ++i) {
+        const double time = times.at(i);
         if (std::isfinite(time)) {
             smallest = std::min(smallest, time);
             largest = std::max(largest, time);
         }
+        const bool isLast = i + 1 == times.size();
+        if (!isLast && times.at(i + 1) >= time)
+            continue;
+        m_ascending = m_ascending && isLast && !std::isnan(time);
+        if (m_runs.size() <= mostRuns)
+            m_runs.append({begins, i + 1});
+        begins = i + 1;
     }
+    if (m_runs.size() > mostRuns)
+        m_runs = {};
     if (smallest <= largest) {
         m_smallest = smallest;
         m_largest = largest;
     }
 }
 
-int TimeAxis::firstAtOrAfter(double time) const
+int TimeAxis::firstAtOrAfter(double time, const Run &run) const
 {
-    return static_cast<int>(
-        std::lower_bound(m_times.cbegin(), m_times.cend(), time) - m_times.cbegin());
+    const auto from = m_times.cbegin();
+    return static_cast<int>(std::lower_bound(from + run.first, from + run.last, time) - from);
+}
+
+// The lookup ends at the first time that is the searched one or the first to pass it, and no run
+// begins with one that passes it.
+int TimeAxis::searchStart(double time) const
+{
+    for (const Run &run : m_runs) {
+        const int sample = firstAtOrAfter(time, run);
+        if (sample < run.last && (sample > run.first || m_times.at(sample) == time))
+            return sample;
+    }
+    return m_runs.isEmpty() ? 0 : m_times.size();
 }
 
 int TimeAxis::sampleAt(double sampleRate, double time) const
@@ -48,16 +75,15 @@ int TimeAxis::columnOf(const PlotGeometry &geometry, double ratio, int sample) c
 // Columns of a steadily sampled recording are nearly equally full, so the search starts where the
 // column would end if it were as full as the one before it, and widens from there.
 int TimeAxis::columnEnd(
-    const PlotGeometry &geometry, double ratio, int x, int first, int expected) const
+    const PlotGeometry &geometry, double ratio, int x, const Run &rest, int expected) const
 {
-    const int count = m_times.size();
     const auto isInside = [&](int sample) { return columnOf(geometry, ratio, sample) <= x; };
-    int inside = first;
-    int outside = count;
-    const int guess = first + std::clamp(expected, 1, count - first);
-    if (guess < count && isInside(guess)) {
+    int inside = rest.first;
+    int outside = rest.last;
+    const int guess = rest.first + std::clamp(expected, 1, rest.last - rest.first);
+    if (guess < rest.last && isInside(guess)) {
         inside = guess;
-        for (int step = 1; step < count - inside; step *= 2) {
+        for (int step = 1; step < rest.last - inside; step *= 2) {
             if (!isInside(inside + step)) {
                 outside = inside + step;
                 break;
@@ -87,16 +113,23 @@ QVector<TimeAxis::Column> TimeAxis::columns(const PlotGeometry &geometry, double
     const double right = (geometry.area().right() + 1) * ratio;
     result.reserve(static_cast<int>(geometry.plotWidth() * ratio) + 2);
     int expected = 1;
-    for (int first = firstAtOrAfter(geometry.view().minX); first < m_times.size();) {
-        const int x = columnOf(geometry, ratio, first);
-        if (x >= right) {
-            result.append({x, first, first + 1});
-            break;
+    const auto columnAt = [&](int sample) { return columnOf(geometry, ratio, sample); };
+    for (const Run &run : m_runs) {
+        int first = firstAtOrAfter(geometry.view().minX, run);
+        if (first == run.last || std::isnan(m_times.at(first)))
+            continue;
+        int x = columnAt(first);
+        while (x < right && first < run.last) {
+            const int last = columnEnd(geometry, ratio, x, {first, run.last}, expected);
+            result.append({x, first, last});
+            expected = last - first;
+            first = last;
+            x = first < run.last ? columnAt(first) : x;
         }
-        const int last = columnEnd(geometry, ratio, x, first, expected);
-        result.append({x, first, last});
-        expected = last - first;
-        first = last;
+        if (first < run.last)
+            result.append({x, first, first + 1});
+        if (first + 1 < run.last && run.last < m_times.size())
+            result.append({columnAt(run.last - 1), run.last - 1, run.last});
     }
     return result;
 }

@@ -77,7 +77,7 @@ void TracePainter::draw(const TraceSummary &series, double factor)
     if (!std::isfinite(factor))
         return;
     const int count = std::min(series.values().size(), m_axis.times().size());
-    if (m_axis.isAscending() && count > 2 * m_ratio * m_geometry.plotWidth())
+    if (!m_axis.runs().isEmpty() && count > 2 * m_ratio * m_geometry.plotWidth())
         drawThinned(series, factor);
     else
         drawAll(series.values(), factor);
@@ -89,7 +89,9 @@ void TracePainter::drawAll(const QVector<float> &values, double factor)
     const int count = std::min(values.size(), times.size());
     const double minX = m_geometry.view().minX;
     const double right = m_ratio * (m_geometry.area().right() + 1);
-    for (int i = m_axis.isAscending() ? m_axis.firstAtOrAfter(minX) : 0; i < count; ++i) {
+    const bool isAscending = m_axis.isAscending();
+    const int first = isAscending ? m_axis.firstAtOrAfter(minX, {0, times.size()}) : 0;
+    for (int i = first; i < count; ++i) {
         if (!(times[i] >= minX))
             continue;
         const double x = xOf(times[i]);
@@ -97,7 +99,7 @@ void TracePainter::drawAll(const QVector<float> &values, double factor)
             addPoint({x, yOf(values[i], factor)});
         else
             endLine();
-        if (x > right && m_axis.isAscending())
+        if (x > right && isAscending)
             break;
     }
     paintLines();

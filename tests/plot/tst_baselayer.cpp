@@ -110,6 +110,8 @@ private slots:
     void digitalRowsFillTheirPixels_data() { addRatios(); }
     void digitalRowsFillTheirPixels();
     void aBandOfTwoPixelsHasAllCorners();
+    void digitalRowsWhereTimesStepBack_data();
+    void digitalRowsWhereTimesStepBack();
 
 private:
     QFont font = crispFont(12);
@@ -430,6 +432,61 @@ void TestBaseLayer::aBandOfTwoPixelsHasAllCorners()
         QCOMPARE(
             deviceColumn(image, x), stretches({{155, 165}}, qRgb(20, 150, 20), 1, image.height()));
     }
+}
+
+void TestBaseLayer::digitalRowsWhereTimesStepBack_data()
+{
+    QTest::addColumn<int>("steps");
+    QTest::addColumn<double>("back"); // ms
+    QTest::addColumn<int>("hold"); // samples of one state
+    QTest::addColumn<PlotSettings>("view");
+    const PlotSettings whole{0, 700, 7, 0, 1, 4};
+    QTest::newRow("never") << 0 << 0.0 << 1 << whole;
+    QTest::newRow("by little") << 1 << 1.0 << 1 << whole;
+    QTest::newRow("by much") << 1 << 300.0 << 1 << whole;
+    QTest::newRow("by much, few changes") << 1 << 300.0 << 3000 << whole;
+    QTest::newRow("often") << 40 << 12.0 << 7 << whole;
+    QTest::newRow("often, a part of the time")
+        << 40 << 12.0 << 7 << PlotSettings{50, 99, 4, 0, 1, 4};
+    QTest::newRow("with every sample") << 19999 << 0.04 << 3 << PlotSettings{-100, 0, 4, 0, 1, 4};
+}
+
+// Against every stretch on its own, in their order: a line of one column is green, as is a band of
+// one, so that only what is wider may hide what stands there before it.
+void TestBaseLayer::digitalRowsWhereTimesStepBack()
+{
+    QFETCH(int, steps);
+    QFETCH(double, back);
+    QFETCH(int, hold);
+    QFETCH(PlotSettings, view);
+    constexpr int count = 20000;
+    QVector<double> times;
+    QVector<int> states;
+    for (int i = 0; i < count; ++i) {
+        times.append(700.0 * i / count - back * double(qint64(i) * (steps + 1) / count));
+        states.append(i / hold % 2);
+    }
+    const PlotGeometry geometry = geometryOf(view);
+    const auto columnOf = [&](int sample) {
+        return int(std::lround(100 + (times[sample] - view.minX) * 700 / (view.maxX - view.minX)));
+    };
+    const QRgb line = qRgb(20, 150, 20);
+    const QImage expected = paint([&](QPainter &painter) {
+        for (int first = 0; first < count; first += hold) {
+            const int ends[] = {columnOf(first), columnOf(std::min(first + hold, count - 1))};
+            const int left = std::min(ends[0], ends[1]);
+            const int width = std::abs(ends[1] - ends[0]) + 1;
+            const bool isOn = first / hold % 2;
+            painter.fillRect(left, isOn ? 155 : 160, width, isOn ? 11 : 1, QColor(line));
+            if (isOn && width > 2)
+                painter.fillRect(left + 1, 156, width - 2, 9, QColor(240, 255, 240));
+        }
+    });
+    const QImage actual = paint([&](QPainter &painter) {
+        drawDigitalRow(painter, geometry, TimeAxis(times), DigitalRuns(states), 160);
+    });
+    QVERIFY(deviceRow(expected, 160).count(line) >= 7);
+    QCOMPARE(actual.copy(area), expected.copy(area));
 }
 
 QTEST_MAIN(TestBaseLayer)

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Norvale
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "phasorlookup.h"
 #include "timeaxis.h"
 #include "tracesummary.h"
 
@@ -15,6 +16,15 @@ namespace {
 constexpr double infinite = std::numeric_limits<double>::infinity();
 constexpr double noNumber = std::numeric_limits<double>::quiet_NaN();
 
+// Whole milliseconds from 0 on, and again from 0 on.
+QVector<double> twice(int count)
+{
+    QVector<double> times;
+    for (int i = 0; i < 2 * count; ++i)
+        times.append(i % count);
+    return times;
+}
+
 } // namespace
 
 class TestTimeAxis : public QObject {
@@ -23,11 +33,15 @@ class TestTimeAxis : public QObject {
 private slots:
     void facts_data();
     void facts();
+    void runs_data();
+    void runs();
     void firstAtOrAfter();
     void searchesMayStartLateWhereTimesAscend();
+    void theSearchEndsWhereAFullOneDoes();
     void columnsHoldEverySampleOnce_data();
     void columnsHoldEverySampleOnce();
     void columnsEndRightOfTheArea();
+    void columnsOfARunThatGoesBack();
     void extentOfAnyRun_data();
     void extentOfAnyRun();
     void extentTellsOfGaps();
@@ -60,19 +74,76 @@ void TestTimeAxis::facts()
     QCOMPARE(axis.times().constData(), times.constData());
 }
 
+void TestTimeAxis::runs_data()
+{
+    QTest::addColumn<QVector<double>>("times");
+    QTest::addColumn<QVector<int>>("ends"); // of the runs
+    using Times = QVector<double>;
+    using Ends = QVector<int>;
+    QTest::newRow("no samples") << Times{} << Ends{};
+    QTest::newRow("one sample") << Times{5} << Ends{1};
+    QTest::newRow("ascending") << Times{0, 1, 1, 2} << Ends{4};
+    QTest::newRow("one step back") << twice(20) << Ends{20, 40};
+    QTest::newRow("a gap") << twice(20) + Times{noNumber, 1} + twice(20)
+                           << Ends{20, 40, 41, 42, 62, 82};
+    QTest::newRow("hardly ever ascending") << Times{0, 5, 2, 7} << Ends{};
+}
+
+void TestTimeAxis::runs()
+{
+    QFETCH(QVector<double>, times);
+    QFETCH(QVector<int>, ends);
+    int next = 0;
+    QVector<int> found;
+    const TimeAxis axis(times);
+    for (const TimeAxis::Run &run : axis.runs()) {
+        QCOMPARE(run.first, next);
+        next = run.last;
+        found.append(next);
+    }
+    QCOMPARE(found, ends);
+}
+
 void TestTimeAxis::firstAtOrAfter()
 {
-    const TimeAxis axis({0, 1, 1, 2});
-    QCOMPARE(axis.firstAtOrAfter(-1), 0);
-    QCOMPARE(axis.firstAtOrAfter(1), 1);
-    QCOMPARE(axis.firstAtOrAfter(1.5), 3);
-    QCOMPARE(axis.firstAtOrAfter(3), 4);
+    const TimeAxis axis({0, 1, 1, 2, 0, 1});
+    QCOMPARE(axis.firstAtOrAfter(-1, {0, 4}), 0);
+    QCOMPARE(axis.firstAtOrAfter(1, {0, 4}), 1);
+    QCOMPARE(axis.firstAtOrAfter(1.5, {0, 4}), 3);
+    QCOMPARE(axis.firstAtOrAfter(3, {0, 4}), 4);
+    QCOMPARE(axis.firstAtOrAfter(1, {4, 6}), 5);
+    QCOMPARE(axis.firstAtOrAfter(3, {4, 6}), 6);
 }
 
 void TestTimeAxis::searchesMayStartLateWhereTimesAscend()
 {
     QCOMPARE(TimeAxis({0, 1, 1, 2}).searchStart(1.5), 3);
     QCOMPARE(TimeAxis({0, 2, 1, 2}).searchStart(1.5), 0);
+    const TimeAxis axis(twice(20)); // 0 to 19, and again
+    QCOMPARE(axis.searchStart(5), 5);
+    QCOMPARE(axis.searchStart(5.5), 6);
+    QCOMPARE(axis.searchStart(19.5), 40);
+    const TimeAxis gap(QVector<double>{noNumber} + twice(20));
+    QCOMPARE(gap.searchStart(0), 1);
+    QCOMPARE(gap.searchStart(5.5), 7);
+}
+
+void TestTimeAxis::theSearchEndsWhereAFullOneDoes()
+{
+    std::mt19937 random(9);
+    for (int round = 0; round < 2000; ++round) {
+        QVector<double> times;
+        double time = 0;
+        for (int i = 0; i < 100; ++i) {
+            time += random() % 30 == 0 ? -double(random() % 20) : double(random() % 3);
+            times.append(random() % 200 == 0 ? noNumber : time);
+        }
+        const TimeAxis axis(times);
+        for (double searched = -5; searched < 110; searched += 0.5) {
+            int fromTheFirst = 0;
+            QCOMPARE(axis.sampleAt(0, searched), ::sampleAt(times, 0, searched, fromTheFirst));
+        }
+    }
 }
 
 void TestTimeAxis::columnsHoldEverySampleOnce_data()
@@ -141,6 +212,24 @@ void TestTimeAxis::columnsEndRightOfTheArea()
     QCOMPARE(columnsAtTwo.size(), 2);
     QCOMPARE(columnsAtTwo[0].x, 200);
     QCOMPARE(columnsAtTwo[1].x, 1800);
+}
+
+// 800 pixels from x = 100 on for 8 ms; the view begins at 2 and ends at 10. The second run begins
+// where the first one came from.
+void TestTimeAxis::columnsOfARunThatGoesBack()
+{
+    const PlotGeometry geometry(QSize(900, 300), 0, {2, 10, 4, 0, 1, 4});
+    QVector<QVector<int>> found;
+    for (const TimeAxis::Column &column : TimeAxis(twice(20)).columns(geometry, 1))
+        found.append({column.x, column.first, column.last});
+    QVector<QVector<int>> expected;
+    for (const int begin : {0, 20}) {
+        for (int i = 2; i <= 10; ++i)
+            expected.append({100 * i - 100, begin + i, begin + i + 1});
+        if (begin == 0)
+            expected.append({1800, 19, 20}); // the line comes back from there
+    }
+    QCOMPARE(found, expected);
 }
 
 void TestTimeAxis::extentOfAnyRun_data()

@@ -31,6 +31,15 @@ QVector<double> steadyTimes(int count)
     return times;
 }
 
+// Times of 1000 ms that step back by some of them, some times on the way.
+QVector<double> steppingBack(int count, int steps, double back)
+{
+    QVector<double> times = steadyTimes(count);
+    for (int i = 0; i < count; ++i)
+        times[i] -= back * (i * (steps + 1) / count);
+    return times;
+}
+
 const QVector<double> ratios{1, 1.25, 1.5, 1.75, 2, 3}; // of device pixels to widget pixels
 
 QImage paint(
@@ -115,6 +124,45 @@ void compare(const QImage &thinned, const QImage &full, double ratio)
         qPrintable(QStringLiteral("%1 pixels differ at %2").arg(different).arg(ratio)));
 }
 
+// Takes a picture as lines, and keeps nothing but their number.
+class LineCounter : public QPaintDevice, private QPaintEngine {
+public:
+    LineCounter() : QPaintEngine(AllFeatures) { }
+
+    int count() const { return m_count; }
+    QPaintEngine *paintEngine() const override { return const_cast<LineCounter *>(this); }
+
+protected:
+    int metric(PaintDeviceMetric metric) const override
+    {
+        switch (metric) {
+        case PdmWidth:
+            return size.width();
+        case PdmHeight:
+            return size.height();
+        case PdmDevicePixelRatio:
+            return 1;
+        case PdmDevicePixelRatioScaled:
+            return qRound(devicePixelRatioFScale());
+        default:
+            return 96;
+        }
+    }
+
+private:
+    bool begin(QPaintDevice * /*device*/) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState & /*state*/) override { }
+    Type type() const override { return User; }
+    void drawPixmap(
+        const QRectF & /*to*/, const QPixmap & /*pixmap*/, const QRectF & /*from*/) override
+    {
+    }
+    void drawLines(const QLine * /*lines*/, int count) override { m_count += count; }
+
+    int m_count = 0;
+};
+
 } // namespace
 
 class TestTracePainter : public QObject {
@@ -123,6 +171,9 @@ class TestTracePainter : public QObject {
 private slots:
     void thinnedPictureEqualsFull_data();
     void thinnedPictureEqualsFull();
+    void thinnedWhereTimesStepBack_data();
+    void thinnedWhereTimesStepBack();
+    void aStepBackLeavesTheLinesFew();
     void coversWhatThePaintersOwnLineDoes_data();
     void coversWhatThePaintersOwnLineDoes();
     void aFlatLineIsOneDevicePixelThick_data();
@@ -203,19 +254,83 @@ void TestTracePainter::thinnedPictureEqualsFull()
     }
 }
 
+void TestTracePainter::thinnedWhereTimesStepBack_data()
+{
+    QTest::addColumn<QVector<double>>("times");
+    QTest::addColumn<QVector<double>>("view"); // times of the edges
+    using Times = QVector<double>;
+    const Times whole{0, 1000};
+    Times withGap = steppingBack(100000, 2, 50);
+    for (int i = 40000; i < 40003; ++i)
+        withGap[i] = noNumber;
+    Times withInfinity = steppingBack(100000, 2, 50);
+    withInfinity[20000] = infinite;
+    QTest::newRow("by little") << steppingBack(100000, 1, 1) << whole;
+    QTest::newRow("by much") << steppingBack(100000, 1, 500) << whole;
+    QTest::newRow("behind the left edge") << steppingBack(100000, 1, 500) << Times{200, 300};
+    QTest::newRow("from beyond the right edge") << steppingBack(100000, 1, 300) << Times{100, 300};
+    QTest::newRow("out of view") << steppingBack(100000, 1, 1) << Times{600, 700};
+    QTest::newRow("often") << steppingBack(100000, 50, 15) << whole;
+    QTest::newRow("often, a part of the time") << steppingBack(100000, 50, 15) << Times{100, 150};
+    QTest::newRow("every 16 samples") << steppingBack(100000, 6249, 0.1) << whole;
+    QTest::newRow("with every sample") << steppingBack(10000, 9999, 0.2) << Times{-1000, 0};
+    QTest::newRow("and some are no numbers") << withGap << whole;
+    QTest::newRow("and one is infinite") << withInfinity << whole;
+}
+
+void TestTracePainter::thinnedWhereTimesStepBack()
+{
+    QFETCH(QVector<double>, times);
+    QFETCH(QVector<double>, view);
+    const PlotGeometry geometry(size, 0, {view[0], view[1], 4, -1.2, 1.2, 4});
+    std::mt19937 random(8);
+    QVector<float> values;
+    for (int i = 0; i < times.size(); ++i) {
+        const float value = float(std::sin(i * 0.003)) + float(random() % 100) / 1000;
+        values.append(random() % 5000 == 0 ? noNumber : value);
+    }
+    for (const double ratio : ratios) {
+        const QImage full = traceImage(geometry, times, values, 1, false, ratio);
+        QVERIFY(litPixels(full) > 500 * ratio);
+        compare(traceImage(geometry, times, values, 1, true, ratio), full, ratio);
+    }
+}
+
+// A hundred thousand samples on 800 columns: at most a step into and a line along each.
+void TestTracePainter::aStepBackLeavesTheLinesFew()
+{
+    const PlotGeometry geometry(size, 0, {0, 1000, 4, -1.2, 1.2, 4});
+    QVector<float> values;
+    for (int i = 0; i < 100000; ++i)
+        values.append(i % 2 ? 1 : -1);
+    const auto lines = [&](const QVector<double> &times) {
+        LineCounter counter;
+        QPainter painter(&counter);
+        const TimeAxis axis(times);
+        TracePainter(painter, geometry, axis).draw(TraceSummary(values), 1);
+        return counter.count();
+    };
+    const int ascending = lines(steadyTimes(100000));
+    QVERIFY(ascending > 800 && ascending < 1700);
+    const int steppedBack = lines(steppingBack(100000, 1, 100));
+    QVERIFY2(steppedBack < 1.2 * ascending, qPrintable(QString::number(steppedBack)));
+}
+
 void TestTracePainter::coversWhatThePaintersOwnLineDoes_data()
 {
     QTest::addColumn<int>("count");
     QTest::addColumn<Generator>("value");
+    QTest::addColumn<double>("back"); // in the middle, ms
     const auto random = std::make_shared<std::mt19937>(5);
-    QTest::newRow("noise") << 100000 << Generator([random](int) {
-        return float((*random)() % 2001) / 1000 - 1;
-    });
+    const Generator noise = [random](int) { return float((*random)() % 2001) / 1000 - 1; };
+    QTest::newRow("noise") << 100000 << noise << 0.0;
+    QTest::newRow("noise, with a step back") << 100000 << noise << 300.0;
     QTest::newRow("sine of 160 periods")
-        << 100000 << Generator([](int i) { return float(std::sin(i * 0.01)); });
+        << 100000 << Generator([](int i) { return float(std::sin(i * 0.01)); }) << 0.0;
     QTest::newRow("sine of 640 periods")
-        << 100000 << Generator([](int i) { return float(std::sin(i * 0.04)); });
-    QTest::newRow("pulses") << 100000 << Generator([](int i) { return i / 5 % 2 ? 0.9F : -0.9F; });
+        << 100000 << Generator([](int i) { return float(std::sin(i * 0.04)); }) << 0.0;
+    QTest::newRow("pulses") << 100000 << Generator([](int i) { return i / 5 % 2 ? 0.9F : -0.9F; })
+                            << 0.0;
 }
 
 // Of points that are not rounded, by the number of lit pixels.
@@ -223,8 +338,9 @@ void TestTracePainter::coversWhatThePaintersOwnLineDoes()
 {
     QFETCH(int, count);
     QFETCH(Generator, value);
+    QFETCH(double, back);
     const PlotGeometry geometry(size, 0, {0, 1000, 4, -1.2, 1.2, 4}); // 800 x 199 pixels
-    const QVector<double> times = steadyTimes(count);
+    const QVector<double> times = steppingBack(count, 1, back);
     QVector<float> values;
     QPolygonF points;
     for (int i = 0; i < count; ++i) {
