@@ -21,6 +21,8 @@ Ratio panelsAgainstFrame();
 Ratio writingPlainlyAgainstWriting();
 Ratio recolouringAgainstAPass();
 Ratio redrawingAgainstRedrawing(int samples, int fewerSamples);
+// Of a recording in the middle of which the times step back once, by a millisecond of 1000.
+Ratio redrawingWithAStepBackAgainstWithout();
 // Zooms of thirty linked plots with two cursors, in and out, against those of one.
 Ratio zoomingThirtyPlotsAgainstOne();
 Ratio drawingInFullAgainstThinned();

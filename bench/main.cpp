@@ -48,6 +48,8 @@ const Figure figures[] = {
         [] { return redrawingAgainstRedrawing(1000000, 2000); }, Goal::AtMost, 5},
     {"redrawing, 10,000,000 samples / 1,000,000",
         [] { return redrawingAgainstRedrawing(10000000, 1000000); }, Goal::AtMost, 1.2},
+    {"redrawing, with a step back in time / without", redrawingWithAStepBackAgainstWithout,
+        Goal::AtMost, 2},
     {"zooming thirty plots / one", zoomingThirtyPlotsAgainstOne, Goal::AtMost, 36},
     {"drawing a trace, in full / thinned", drawingInFullAgainstThinned, Goal::AtLeast, 40},
     {"redrawing / a move of the pointer", redrawingAgainstPointing, Goal::None, 0},

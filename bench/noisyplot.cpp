@@ -5,11 +5,11 @@
 
 #include <random>
 
-NoisyPlots::NoisyPlots(int plots, int samples, const QSize &size)
+NoisyPlots::NoisyPlots(int plots, int samples, const QSize &size, double stepBack)
 {
     QVector<double> times(samples);
     for (int i = 0; i < samples; ++i)
-        times[i] = 1000.0 * i / samples;
+        times[i] = 1000.0 * i / samples - (i < samples / 2 ? 0 : stepBack);
     m_host.setTimes(times);
     m_host.source->durationMs = 1000;
     m_host.source->sampleRate = samples;

@@ -14,7 +14,9 @@ class NoisyPlots {
 public:
     static constexpr int channels = 8;
 
-    NoisyPlots(int plots, int samples, const QSize &size = {1600, 400});
+    // The second half of the times begins earlier than the first half ends, by so many
+    // milliseconds.
+    NoisyPlots(int plots, int samples, const QSize &size = {1600, 400}, double stepBack = 0);
 
     Plotter &first() const { return *m_plots.constFirst(); }
     // Draws the base layer of the first plot, with the trigger at another time than before: a layer

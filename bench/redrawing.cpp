@@ -39,6 +39,14 @@ Ratio redrawingAgainstRedrawing(int samples, int fewerSamples)
         rounds, [&] { many.redraw(); }, [&] { few.redraw(); });
 }
 
+Ratio redrawingWithAStepBackAgainstWithout()
+{
+    const NoisyPlots steppingBack(1, million, {1600, 400}, 1);
+    const NoisyPlots ascending(1, million);
+    return timesInTurn(
+        rounds, [&] { steppingBack.redraw(); }, [&] { ascending.redraw(); });
+}
+
 Ratio zoomingThirtyPlotsAgainstOne()
 {
     constexpr int zooms = 11;
