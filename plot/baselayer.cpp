@@ -33,6 +33,13 @@ constexpr int dashGap = 2;
 constexpr int marginStart = 4;
 constexpr int marginWidth = PlotGeometry::left - labelGap - marginStart;
 
+// The x of a time in view. The last times of a view are mapped to pixels beside the plot area; what
+// marks one stands at the area's edge.
+int markX(const PlotGeometry &geometry, double time)
+{
+    return std::min(PlotGeometry::pixel(geometry.traceX(time)), geometry.area().right());
+}
+
 // The time of a grid line. What is left of rounding where a line stands at 0 is no time.
 double gridTime(const PlotSettings &view, int line)
 {
@@ -158,9 +165,8 @@ void drawTimeGrid(QPainter &painter, const PlotGeometry &geometry)
 {
     const QRect area = geometry.area();
     for (int i = 0; i <= geometry.view().numXTicks; ++i) {
-        const int x = PlotGeometry::pixel(geometry.traceX(gridTime(geometry.view(), i)));
-        const int drawn = std::min(x, area.right()); // the last line would stand beside the frame
-        painter.fillRect(drawn, area.top(), 1, area.height(), gridColor);
+        const int x = markX(geometry, gridTime(geometry.view(), i));
+        painter.fillRect(x, area.top(), 1, area.height(), gridColor);
     }
 }
 
@@ -221,10 +227,10 @@ QString triggerText(int time)
 
 void drawTriggerMark(QPainter &painter, const PlotGeometry &geometry, const QFont &font, int time)
 {
-    const QRect area = geometry.area();
-    const int x = PlotGeometry::pixel(geometry.traceX(time));
-    if (x < area.left() || x > area.right())
+    if (time < geometry.view().minX || time > geometry.view().maxX)
         return;
+    const QRect area = geometry.area();
+    const int x = markX(geometry, time);
     for (int y = area.top(); y <= area.bottom(); y += dash + dashGap)
         painter.fillRect(x, y, 1, std::min(dash, area.bottom() + 1 - y), Qt::white);
 

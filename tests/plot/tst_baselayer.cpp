@@ -298,6 +298,9 @@ void TestBaseLayer::theTriggerIsALineWithItsTime_data()
     QTest::newRow("at the left edge") << 0 << 100 << QStringLiteral("Trigger: 0 ms") << true;
     QTest::newRow("near the right edge")
         << 690 << 790 << QStringLiteral("Trigger: 690 ms") << false;
+    QTest::newRow("at the right edge") << 697 << 797 << QStringLiteral("Trigger: 697 ms") << false;
+    QTest::newRow("mapped beside it") << 698 << 797 << QStringLiteral("Trigger: 698 ms") << false;
+    QTest::newRow("at the view's end") << 700 << 797 << QStringLiteral("Trigger: 700 ms") << false;
 }
 
 void TestBaseLayer::theTriggerIsALineWithItsTime()
