@@ -24,6 +24,21 @@ if(WAVORIN_SANITIZE)
 endif()
 set(CMAKE_CXX_EXTENSIONS OFF)
 
+# Headers that many sources include, compiled once for those that reuse them:
+# wavorin_precompiled(<name> HEADERS ... LIBRARIES ...)
+# Not where WAVORIN_QUICK_BUILD is off: there every source must name what it includes.
+function(wavorin_precompiled name)
+    cmake_parse_arguments(arg "" "" "HEADERS;LIBRARIES" ${ARGN})
+    file(GENERATE OUTPUT "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp" CONTENT "")
+    add_library(${name} OBJECT "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp")
+    target_link_libraries(${name} PRIVATE wavorin_options ${arg_LIBRARIES})
+    target_precompile_headers(${name} PRIVATE ${arg_HEADERS})
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+endfunction()
+if(WAVORIN_QUICK_BUILD)
+    wavorin_precompiled(wavorin_widget_headers HEADERS <QtWidgets> LIBRARIES Qt5::Widgets)
+endif()
+
 # A library of one folder: wavorin_library(<name> SOURCES ... [PUBLIC ...] [PRIVATE ...])
 # Only its own folder is exported as include directory, so that an include that points to a higher
 # layer does not compile.
@@ -32,4 +47,7 @@ function(wavorin_library name)
     add_library(${name} STATIC ${arg_SOURCES})
     target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
     target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE wavorin_options ${arg_PRIVATE})
+    if(WAVORIN_QUICK_BUILD AND "Qt5::Widgets" IN_LIST arg_PUBLIC)
+        target_precompile_headers(${name} REUSE_FROM wavorin_widget_headers)
+    endif()
 endfunction()

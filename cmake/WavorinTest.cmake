@@ -1,31 +1,22 @@
 # SPDX-FileCopyrightText: 2026 Norvale
 # SPDX-License-Identifier: GPL-3.0-or-later
 
-# The headers that nearly all tests include, compiled once for tests with widgets and once for those
-# without. Not where WAVORIN_QUICK_TESTS is off: there every source must name what it includes.
-function(wavorin_precompiled name)
-    file(GENERATE OUTPUT "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp" CONTENT "")
-    add_library(${name} OBJECT "${CMAKE_CURRENT_BINARY_DIR}/${name}.cpp")
-    target_link_libraries(${name} PRIVATE wavorin_options wavorin_test_options Qt5::Test ${ARGN})
-    list(TRANSFORM ARGN REPLACE "Qt5::(.*)" "<Qt\\1>" OUTPUT_VARIABLE headers)
-    target_precompile_headers(${name} PRIVATE <QtTest> ${headers})
-    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
-endfunction()
-
 add_library(wavorin_test_options INTERFACE)
 target_include_directories(wavorin_test_options INTERFACE "${PROJECT_SOURCE_DIR}/tests/support")
-if(WAVORIN_QUICK_TESTS)
+if(WAVORIN_QUICK_BUILD)
     target_compile_options(wavorin_test_options INTERFACE
-        $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-O1 -g1>)
-    wavorin_precompiled(wavorin_test_headers)
-    wavorin_precompiled(wavorin_widget_test_headers Qt5::Widgets)
+        $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-O1>)
+    wavorin_precompiled(wavorin_test_headers
+        HEADERS <QtTest> LIBRARIES wavorin_test_options Qt5::Test)
+    wavorin_precompiled(wavorin_widget_test_headers
+        HEADERS <QtTest> <QtWidgets> LIBRARIES wavorin_test_options Qt5::Test Qt5::Widgets)
 endif()
 
 # Compiles an executable of the tests, with the libraries it links, as fast as may be.
 function(wavorin_test_executable name)
     set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
     target_link_libraries(${name} PRIVATE wavorin_options wavorin_test_options Qt5::Test ${ARGN})
-    if(WAVORIN_QUICK_TESTS)
+    if(WAVORIN_QUICK_BUILD)
         if(ARGN MATCHES "plot|label|dialogs|app|hosts")
             target_precompile_headers(${name} REUSE_FROM wavorin_widget_test_headers)
         else()

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int left = 70;
+constexpr int titleLeft = 70;
 constexpr int titleWidth = 100;
 constexpr int titleHeight = 20;
 constexpr int smallestFont = 9; // pixels
@@ -58,7 +58,7 @@ void PlotTitle::setTitle(const QString &title)
 
 void PlotTitle::place(int y)
 {
-    setGeometry(left, y, titleWidth, titleHeight);
+    setGeometry(titleLeft, y, titleWidth, titleHeight);
     retranslate();
     show();
 }

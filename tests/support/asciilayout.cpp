@@ -3,10 +3,11 @@
 
 #include "asciilayout.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
-#include <regex>
 
 namespace {
 
@@ -50,24 +51,28 @@ bool isWholeWithin(const std::string &text, long long least, long long most)
     return isWhole(text) && std::atoll(text.c_str()) >= least && std::atoll(text.c_str()) <= most;
 }
 
+bool matches(const std::string &text, const QString &pattern)
+{
+    const QRegularExpression expression(QRegularExpression::anchoredPattern(pattern));
+    return expression.match(QString::fromStdString(text)).hasMatch();
+}
+
 bool isReal(const std::string &text)
 {
-    static const std::regex pattern("[+-]?([0-9]+(\\.[0-9]*)?|\\.[0-9]+)([eE][+-]?[0-9]+)?");
-    return text.size() <= 32 && std::regex_match(text, pattern);
+    return text.size() <= 32
+        && matches(text, QStringLiteral("[+-]?([0-9]+(\\.[0-9]*)?|\\.[0-9]+)([eE][+-]?[0-9]+)?"));
 }
 
 bool isDate(const std::string &text)
 {
-    static const std::regex pattern("([0-9]{1,2})/([0-9]{1,2})/([0-9]{4})");
-    std::smatch parts;
-    return std::regex_match(text, parts, pattern) && isWholeWithin(parts[1], 1, 31)
-        && isWholeWithin(parts[2], 1, 12);
+    const Fields parts = split(text, '/');
+    return matches(text, QStringLiteral("[0-9]{1,2}/[0-9]{1,2}/[0-9]{4}"))
+        && isWholeWithin(parts[0], 1, 31) && isWholeWithin(parts[1], 1, 12);
 }
 
 bool isTime(const std::string &text)
 {
-    static const std::regex pattern("([01][0-9]|2[0-3]):[0-5][0-9]:[0-5][0-9]\\.[0-9]{3,6}");
-    return std::regex_match(text, pattern);
+    return matches(text, QStringLiteral("([01][0-9]|2[0-3]):[0-5][0-9]:[0-5][0-9]\\.[0-9]{3,6}"));
 }
 
 class PairCheck {
@@ -130,10 +135,9 @@ private:
     bool checkCounts()
     {
         const Fields counts = next();
-        static const std::regex analog("[0-9]{1,7}A");
-        static const std::regex digital("[0-9]{1,7}D");
         if (!expect(counts.size() == 3 && isWholeWithin(counts[0], 0, 999999)
-                    && std::regex_match(counts[1], analog) && std::regex_match(counts[2], digital),
+                    && matches(counts[1], QStringLiteral("[0-9]{1,7}A"))
+                    && matches(counts[2], QStringLiteral("[0-9]{1,7}D")),
                 "the second line does not count channels"))
             return false;
         m_analog = std::atoi(counts[1].c_str());
