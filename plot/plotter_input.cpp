@@ -60,7 +60,8 @@ bool Plotter::event(QEvent *event)
         letGo();
         break;
     case QEvent::FocusOut: // to a menu that the keys opened: it takes the release of the button
-        endDrag();
+        if (static_cast<QFocusEvent *>(event)->reason() != Qt::MouseFocusReason) // by the wheel
+            endDrag();
         break;
     default:
         break;

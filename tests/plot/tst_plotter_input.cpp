@@ -53,6 +53,7 @@ private slots:
     void aBandEndsWithTheWindowsActivation();
     void aBandEndsWhenAMenuOpens();
     void aDragEndsWhenAMenuOpens();
+    void aBandOutlivesATurnOfTheWheel();
     void aDragEndsWhenThePlotIsHidden();
     void aDoubleClickHidesABand();
     void afterABandTheScrollBarIsRanged();
@@ -297,6 +298,22 @@ void TestPlotterInput::aDragEndsWhenAMenuOpens()
     menu.close();
     PlotPair::move(pair->plot, {200, 150});
     QCOMPARE(pair->plot->cursors().first(), time);
+}
+
+// Which gives the focus to what is behind the plots.
+void TestPlotterInput::aBandOutlivesATurnOfTheWheel()
+{
+    for (int twice = 0; twice < 2; ++twice) {
+        QTest::mousePress(pair->plot, Qt::LeftButton, {}, {191, 100});
+        QVERIFY(pair->plot->hasFocus());
+        PlotPair::move(pair->plot, {400, 150}, Qt::LeftButton);
+        pair->area.setFocus(Qt::MouseFocusReason);
+        PlotPair::move(pair->plot, {543, 200}, Qt::LeftButton);
+        QTest::mouseRelease(pair->plot, Qt::LeftButton, {}, {543, 200});
+        QCOMPARE(pair->plot->view().minX, 200.0);
+        QCOMPARE(pair->plot->view().maxX, 800.0);
+        pair->plot->customResetZoom();
+    }
 }
 
 void TestPlotterInput::aDragEndsWhenThePlotIsHidden()
