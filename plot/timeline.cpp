@@ -8,8 +8,10 @@
 #include "numbers.h"
 #include "plotgeometry.h"
 #include "plotline.h"
+#include "plotstyle.h"
 
 #include <QLabel>
+#include <QPainter>
 
 #include <algorithm>
 
@@ -19,11 +21,29 @@ constexpr int labelGap = 15; // between the line and its label
 constexpr int labelTop = 45;
 constexpr int smallestFont = 7; // pixels
 
+// Covers what it stands over with the background of the plot, which a light picture of the plots
+// has none of.
+class TimeLabel : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        const bool isOnScreen = parentWidget()->styleSheet() == screenStyle;
+        QPainter painter(this);
+        painter.setCompositionMode(QPainter::CompositionMode_Source);
+        painter.fillRect(rect(), isOnScreen ? QColor(0x313034) : QColor(Qt::transparent));
+        painter.end();
+        QLabel::paintEvent(event);
+    }
+};
+
 } // namespace
 
 TimeLine::TimeLine(QWidget *plot)
     : m_plot(plot),
-      m_label(new QLabel(plot)),
+      m_label(new TimeLabel(plot)),
       m_line(new PlotLine(plot, QStringLiteral("timeline"), QStringLiteral("white")))
 {
     m_label->setObjectName(QStringLiteral("timelabel"));
@@ -31,8 +51,6 @@ TimeLine::TimeLine(QWidget *plot)
     m_label->setFont(smallFont(plot->font()));
     m_label->resize(70, 20);
     m_label->setAttribute(Qt::WA_TransparentForMouseEvents);
-    m_label->setAutoFillBackground(true); // it covers the texts that it stands over
-    m_label->setPalette(QPalette(QColor(0x313034)));
     m_label->hide();
     m_label->lower();
     m_line->lower();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "plotpair.h"
+#include "plotstyle.h"
 
 #include <QFrame>
 #include <QHelpEvent>
@@ -52,6 +53,7 @@ private slots:
     void timeDifferencesThatWouldOverlapAreLeftOut();
     void noTimeDifferenceIsBehindTheTitle();
     void theTimeLabelCoversWhatIsBelowIt();
+    void theTimeLabelIsNoDarkBoxInALightPicture();
     void noTimeDifferenceIsCutOff();
     void cursorsInAnyOrderHaveTheirTimeDifferences();
     void theReadoutTellsItsCellsInFull();
@@ -375,6 +377,25 @@ void TestPlotterCursors::theTimeLabelCoversWhatIsBelowIt()
 }
 
 // The plot area of the digital plot ends at 800.
+// The frame of the plot area, at y = 60, passes below the label.
+void TestPlotterCursors::theTimeLabelIsNoDarkBoxInALightPicture()
+{
+    PlotPair::move(pair->plot, {300, 150});
+    const auto *label = pair->plot->findChild<QLabel *>(QStringLiteral("timelabel"));
+    const QPoint corner(label->geometry().right(), 60);
+    const auto colour = [&] {
+        QImage image(pair->plot->size(), QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        pair->plot->render(&image, {}, {}, QWidget::DrawChildren | QWidget::DrawWindowBackground);
+        return image.pixel(corner);
+    };
+    QCOMPARE(colour(), qRgb(49, 48, 52));
+    pair->plot->setStyleSheet(captureStyle);
+    QCOMPARE(qAlpha(colour()), 0);
+    pair->plot->setStyleSheet(screenStyle);
+    QCOMPARE(colour(), qRgb(49, 48, 52));
+}
+
 void TestPlotterCursors::noTimeDifferenceIsCutOff()
 {
     for (const int x : {770, 794})
