@@ -5,9 +5,17 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QStandardPaths>
+#include <QThreadPool>
+#include <QUuid>
 
 namespace {
+
+// Behind the path of an instance's folder.
+const QLatin1String lockEnding(".lock");
+const QLatin1String linkEnding(".zip");
+const QLatin1String asideMark(".old-"); // before what tells several apart
 
 // Permissions that a file or folder has, and these. No link: they would reach what it leads to.
 bool allow(const QFileInfo &there, QFile::Permissions added)
@@ -15,12 +23,57 @@ bool allow(const QFileInfo &there, QFile::Permissions added)
     return QFile::setPermissions(there.filePath(), there.permissions() | added);
 }
 
+std::unique_ptr<QLockFile> lockBeside(const QString &folder)
+{
+    auto lock = std::make_unique<QLockFile>(folder + lockEnding);
+    lock->setStaleLockTime(0); // however long an instance runs, it lives
+    return lock;
+}
+
+// On another thread. The end of the program waits for it.
+void removeInTheBackground(const QString &folder)
+{
+    QThreadPool::globalInstance()->start([folder] { removeRecursively(folder); });
+}
+
+// Takes the folder out of the way at once, whatever it holds. One that cannot be moved stays until
+// it is removed.
+void putAway(const QString &folder)
+{
+    if (!QFileInfo(folder).isDir())
+        return;
+    const QString aside = folder + asideMark + QUuid::createUuid().toString(QUuid::Id128);
+    removeInTheBackground(QDir().rename(folder, aside) ? aside : folder);
+}
+
+void putAwayLeftovers(const QString &base)
+{
+    const QString name = QFileInfo(base).fileName();
+    const QDir parent = QFileInfo(base).dir();
+    const QStringList locks = parent.entryList({name + QLatin1Char('*') + lockEnding}, QDir::Files);
+    for (const QString &lockName : locks) {
+        const QString folder = parent.filePath(lockName).chopped(lockEnding.size());
+        const auto lock = lockBeside(folder);
+        if (lock->tryLock()) { // its instance has died
+            putAway(folder);
+            QFile::remove(folder + linkEnding);
+        }
+    }
+    const QStringList aside
+        = parent.entryList({name + QLatin1Char('*') + asideMark + QLatin1Char('*')}, QDir::Dirs);
+    for (const QString &folder : aside)
+        removeInTheBackground(parent.filePath(folder));
+}
+
 } // namespace
 
-TemporaryFolder::TemporaryFolder(const QString &base)
-    : m_base(base), m_path(freeTemporaryFolder(base))
+TemporaryFolder::TemporaryFolder(const QString &base) : m_base(base)
 {
+    putAwayLeftovers(base);
+    m_path = freeTemporaryFolder(base);
 }
+
+TemporaryFolder::~TemporaryFolder() = default;
 
 QString TemporaryFolder::path() const
 {
@@ -31,28 +84,50 @@ void TemporaryFolder::renew()
 {
     remove();
     QDir().mkpath(QFileInfo(m_base).path());
-    // A folder that is not there and yet cannot be made is being made by another instance at this
-    // instant; where that seems to go on, none can be made at all.
-    constexpr int mostAttempts = 100;
-    for (int attempt = 0; !claim() && attempt < mostAttempts; ++attempt)
-        m_path = freeTemporaryFolder(m_base);
+    Claim claimed = claim(m_path);
+    for (int number = 1; claimed == Claim::Taken; ++number)
+        claimed = claim(m_base + QString::number(number));
 }
 
 void TemporaryFolder::remove()
 {
-    if (m_isOwn)
-        removeRecursively(m_path);
+    if (!m_isOwn)
+        return;
+    putAway(m_path);
+    QFile::remove(m_path + linkEnding);
+    m_lock.reset();
     m_isOwn = false;
 }
 
-// Other instances look for folders at the same time: what counts is who makes one, not who saw that
-// it was free.
-bool TemporaryFolder::claim()
+// A link would be followed to the file by what is unpacked, if it lay in the folder.
+QString TemporaryFolder::plainPath(const QString &file)
 {
-    if (!QDir(m_path).exists())
-        QFile::remove(m_path); // a file of that name is in nobody's use
-    m_isOwn = QDir().mkdir(m_path);
-    return m_isOwn;
+    const QString path = m_path + linkEnding;
+    const QString absolute = QFileInfo(file).absoluteFilePath();
+#ifdef Q_OS_WIN
+    QFile::copy(absolute, path); // a link needs rights of its own
+#else
+    QFile::link(absolute, path);
+#endif
+    return path;
+}
+
+// Other instances look for folders at the same time: what counts is who makes one, not who saw that
+// it was free. A folder is locked before it is there. Where no file can be locked, it goes without.
+TemporaryFolder::Claim TemporaryFolder::claim(const QString &path)
+{
+    m_path = path;
+    auto lock = lockBeside(path);
+    if (!lock->tryLock() && lock->error() == QLockFile::LockFailedError)
+        return Claim::Taken;
+    if (!QDir(path).exists())
+        QFile::remove(path); // a file of that name is in nobody's use
+    m_isOwn = QDir().mkdir(path);
+    if (m_isOwn) {
+        m_lock = std::move(lock);
+        return Claim::Made;
+    }
+    return QDir(path).exists() ? Claim::Taken : Claim::Impossible;
 }
 
 QString temporaryFolderBase()
@@ -93,9 +168,7 @@ void removeRecursively(const QString &path)
     // Without QDir::System a link that leads nowhere would not be listed.
     const QStringList names = QDir(path).entryList(
         QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    for (const QString &name : names) {
-        if (!name.startsWith(QLatin1Char('.')))
-            removeRecursively(path + QLatin1Char('/') + name);
-    }
+    for (const QString &name : names)
+        removeRecursively(path + QLatin1Char('/') + name);
     QDir().rmdir(path);
 }

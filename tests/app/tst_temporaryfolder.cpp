@@ -4,12 +4,19 @@
 #include "ordinaryuser.h"
 #include "temporaryfolder.h"
 
+#include <QElapsedTimer>
+#include <QProcess>
 #include <QTemporaryDir>
+#include <QTextStream>
+#include <QThreadPool>
 #include <QtTest>
 
 #include <atomic>
 #include <memory>
+#include <sys/stat.h>
 #include <thread>
+#include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -17,6 +24,23 @@ bool makeFile(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write("x") == 1;
+}
+
+const QString holdOption = QStringLiteral("--hold"); // has this program do what follows
+
+// An instance that uses its folder until it is told to end. Leaves a file that is not its own.
+void hold(const QString &base)
+{
+    TemporaryFolder folder(base);
+    folder.renew();
+    makeFile(folder.path() + QLatin1String("/.hidden"));
+    const QString beside = QFileInfo(base).dir().filePath(QStringLiteral("beside"));
+    makeFile(beside);
+    QFile::link(beside, folder.path() + QLatin1String("/link"));
+    folder.plainPath(beside);
+    QTextStream(stdout) << "ready" << Qt::endl;
+    QTextStream(stdin).readLine();
+    folder.remove();
 }
 
 } // namespace
@@ -35,7 +59,15 @@ private slots:
     void anotherInstanceWasFaster();
     void racedPairsNeverShare();
     void renewalEmptiesTheSameFolder();
-    void whatCannotBeRemovedIsLeftBehind();
+    void whatCannotBeMovedIsLeftBehind();
+    void manyFilesTakeNoTime();
+    void aDeadInstancesFolderIsRemoved_data();
+    void aDeadInstancesFolderIsRemoved();
+    void aLivingInstancesFolderStays();
+    void aFolderWithoutLockStays();
+    void removalsCutShortAreFinished();
+    void plainPathLeadsToTheFile_data();
+    void plainPathLeadsToTheFile();
     void onlyOwnFoldersAreRemoved();
     void lostParentIsMadeAgain();
     void whereNoFolderCanBeMade();
@@ -43,7 +75,7 @@ private slots:
     void removesASingleFile();
     void emptyPathRemovesNothing();
     void missingPathRemovesNothing();
-    void keepsHiddenEntriesAndTheirFolders();
+    void removesHiddenEntries();
     void writeProtectionIsLifted_data();
     void writeProtectionIsLifted();
     void writeProtectionBehindALinkStays();
@@ -54,12 +86,32 @@ private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
     QString base() const { return path(QStringLiteral("files")); }
 
+    // What lies in the test's folder once all that was put away is gone.
+    QStringList left() const
+    {
+        QThreadPool::globalInstance()->waitForDone();
+        return QDir(m_folder->path())
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    }
+
+    // Another instance that has made its folder and put files there.
+    std::unique_ptr<QProcess> otherInstance() const
+    {
+        auto process = std::make_unique<QProcess>();
+        process->start(QCoreApplication::applicationFilePath(), {holdOption, base()});
+        process->waitForReadyRead();
+        return process;
+    }
+
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
 void TestTemporaryFolder::init()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
+    // In memory where there is such a place: many files are made.
+    const QString memory = QStringLiteral("/dev/shm");
+    m_folder = std::make_unique<QTemporaryDir>(
+        (QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) + QLatin1String("/XXXXXX"));
     QVERIFY(m_folder->isValid());
 }
 
@@ -185,22 +237,137 @@ void TestTemporaryFolder::renewalEmptiesTheSameFolder()
     }
 }
 
-// Hidden entries are never removed, nor is the folder that holds them.
-void TestTemporaryFolder::whatCannotBeRemovedIsLeftBehind()
+// In a folder like the system's temporary one nobody moves what another user owns.
+void TestTemporaryFolder::whatCannotBeMovedIsLeftBehind()
+{
+    if (geteuid() != 0)
+        QSKIP("only the superuser can give folders away");
+    QCOMPARE(chmod(QFile::encodeName(m_folder->path()).constData(), 01777), 0);
+    QVERIFY(QDir().mkdir(path(QStringLiteral("files3")))); // another instance's
+    TemporaryFolder folder(base());
+    for (const char *name : {"files1", "files2", "files4"}) {
+        {
+            const OrdinaryUser user;
+            folder.renew();
+            QCOMPARE(folder.path(), path(QLatin1String(name)));
+            QVERIFY(QDir(folder.path()).isEmpty());
+        }
+        QVERIFY(makeFile(folder.path() + QLatin1String("/kept")));
+        QCOMPARE(chown(QFile::encodeName(folder.path()).constData(), 0, 0), 0);
+    }
+    {
+        const OrdinaryUser user;
+        folder.remove();
+        QCOMPARE(left().join(QLatin1Char(' ')), QStringLiteral("files1 files2 files3 files4"));
+        folder.renew();
+        QCOMPARE(folder.path(), path(QStringLiteral("files5")));
+    }
+}
+
+void TestTemporaryFolder::manyFilesTakeNoTime()
 {
     TemporaryFolder folder(base());
-    QVERIFY(QDir().mkdir(path(QStringLiteral("files3")))); // another instance's
-    for (const char *name : {"files1", "files2", "files4"}) {
-        folder.renew();
-        QCOMPARE(folder.path(), path(QLatin1String(name)));
-        QVERIFY(QDir(folder.path()).isEmpty());
-        QVERIFY(makeFile(folder.path() + QLatin1String("/.hidden")));
-    }
-    folder.remove();
-    for (const char *name : {"files1", "files2", "files3", "files4"})
-        QVERIFY(QFileInfo(path(QLatin1String(name))).isDir());
     folder.renew();
-    QCOMPARE(folder.path(), path(QStringLiteral("files5")));
+    for (int number = 0; number < 20000; ++number)
+        QVERIFY(makeFile(folder.path() + QLatin1Char('/') + QString::number(number)));
+    QElapsedTimer timer;
+    timer.start();
+    folder.renew();
+    QVERIFY2(timer.elapsed() < 200, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(folder.path(), path(QStringLiteral("files1")));
+    QVERIFY(QDir(folder.path()).isEmpty());
+    QCOMPARE(left().join(QLatin1Char(' ')), QStringLiteral("files1 files1.lock"));
+}
+
+void TestTemporaryFolder::aDeadInstancesFolderIsRemoved_data()
+{
+    QTest::addColumn<int>("instances");
+    QTest::newRow("of one") << 1;
+    QTest::newRow("of three") << 3;
+}
+
+void TestTemporaryFolder::aDeadInstancesFolderIsRemoved()
+{
+    QFETCH(int, instances);
+    std::vector<std::unique_ptr<QProcess>> others;
+    for (int number = 1; number <= instances; ++number) {
+        others.push_back(otherInstance());
+        QVERIFY(QFileInfo(path(QStringLiteral("files%1/.hidden").arg(number))).isFile());
+    }
+    for (const auto &other : others) {
+        other->kill();
+        QVERIFY(other->waitForFinished());
+    }
+    QVERIFY(QFileInfo(path(QStringLiteral("files1"))).isDir());
+    TemporaryFolder folder(base());
+    QCOMPARE(folder.path(), path(QStringLiteral("files1")));
+    QVERIFY(!QFileInfo::exists(folder.path())); // at once
+    QCOMPARE(left().join(QLatin1Char(' ')), QStringLiteral("beside"));
+}
+
+void TestTemporaryFolder::aLivingInstancesFolderStays()
+{
+    const auto other = otherInstance();
+    for (int time = 0; time < 2; ++time) {
+        TemporaryFolder folder(base());
+        QCOMPARE(folder.path(), path(QStringLiteral("files2")));
+        folder.renew();
+        QCOMPARE(folder.path(), path(QStringLiteral("files2")));
+        folder.remove();
+        QVERIFY(QFileInfo(path(QStringLiteral("files1/.hidden"))).isFile());
+    }
+    other->write("\n"); // it may end
+    QVERIFY(other->waitForFinished());
+    QCOMPARE(left().join(QLatin1Char(' ')), QStringLiteral("beside"));
+}
+
+void TestTemporaryFolder::aFolderWithoutLockStays()
+{
+    QVERIFY(QDir().mkdir(path(QStringLiteral("files1"))));
+    const TemporaryFolder folder(base());
+    QCOMPARE(folder.path(), path(QStringLiteral("files2")));
+    QCOMPARE(left().join(QLatin1Char(' ')), QStringLiteral("files1"));
+}
+
+// The machine was switched off while a thread removed what had been put away.
+void TestTemporaryFolder::removalsCutShortAreFinished()
+{
+    QVERIFY(QDir().mkpath(path(QStringLiteral("files1.old-17/one"))));
+    QVERIFY(makeFile(path(QStringLiteral("files1.old-17/one/.hidden"))));
+    QVERIFY(QDir().mkpath(path(QStringLiteral("old-files"))));
+    const TemporaryFolder folder(base());
+    QCOMPARE(left().join(QLatin1Char(' ')), QStringLiteral("old-files"));
+}
+
+void TestTemporaryFolder::plainPathLeadsToTheFile_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("relative");
+    QTest::newRow("an asterisk") << QStringLiteral("p*.zip") << false;
+    QTest::newRow("a question mark") << QStringLiteral("p?.zip") << false;
+    QTest::newRow("a hyphen at the beginning") << QStringLiteral("-x.zip") << true;
+}
+
+void TestTemporaryFolder::plainPathLeadsToTheFile()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, relative);
+    QVERIFY(QDir().mkdir(path(QStringLiteral("in"))));
+    const QString file = path(QLatin1String("in/") + name);
+    QVERIFY(makeFile(file));
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(path(QStringLiteral("in"))));
+    TemporaryFolder folder(base());
+    folder.renew();
+    const QString plain = folder.plainPath(relative ? name : file);
+    QVERIFY(QDir::setCurrent(before));
+    QCOMPARE(plain, path(QStringLiteral("files1.zip")));
+    QFile read(plain);
+    QVERIFY(read.open(QIODevice::ReadOnly));
+    QCOMPARE(read.readAll(), QByteArray("x"));
+    folder.remove();
+    QCOMPARE(left().join(QLatin1Char(' ')), QStringLiteral("in"));
+    QVERIFY(QFileInfo(file).isFile());
 }
 
 void TestTemporaryFolder::onlyOwnFoldersAreRemoved()
@@ -273,16 +440,15 @@ void TestTemporaryFolder::missingPathRemovesNothing()
     QVERIFY(QFileInfo::exists(path(QStringLiteral("kept"))));
 }
 
-void TestTemporaryFolder::keepsHiddenEntriesAndTheirFolders()
+void TestTemporaryFolder::removesHiddenEntries()
 {
     QVERIFY(QDir().mkpath(path(QStringLiteral("t/one"))));
+    QVERIFY(QDir().mkpath(path(QStringLiteral("t/.two/...")))); // three dots are a name
     QVERIFY(makeFile(path(QStringLiteral("t/one/.hidden"))));
-    QVERIFY(makeFile(path(QStringLiteral("t/one/a.cfg"))));
-    QVERIFY(makeFile(path(QStringLiteral("t/b.cfg"))));
+    QVERIFY(makeFile(path(QStringLiteral("t/.two/a.cfg"))));
+    QVERIFY(makeFile(path(QStringLiteral("beside"))));
     removeRecursively(path(QStringLiteral("t")));
-    QVERIFY(QFileInfo::exists(path(QStringLiteral("t/one/.hidden"))));
-    QVERIFY(!QFileInfo::exists(path(QStringLiteral("t/one/a.cfg"))));
-    QVERIFY(!QFileInfo::exists(path(QStringLiteral("t/b.cfg"))));
+    QCOMPARE(left().join(QLatin1Char(' ')), QStringLiteral("beside"));
 }
 
 void TestTemporaryFolder::writeProtectionIsLifted_data()
@@ -360,5 +526,16 @@ void TestTemporaryFolder::linkIsRemovedAndNotFollowed()
 #endif
 }
 
-QTEST_GUILESS_MAIN(TestTemporaryFolder)
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == holdOption) {
+        hold(arguments.value(2));
+        return 0;
+    }
+    TestTemporaryFolder test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_temporaryfolder.moc"
