@@ -45,7 +45,7 @@ public:
 
     // Loads a recording or a package and returns when it is on screen, events being processed
     // meanwhile. While another one loads, it returns at once and the last path asked for is opened
-    // afterwards. Failures are shown to the user.
+    // afterwards. Unpacking is given up for that, and for Escape. Failures are shown to the user.
     void open(const QString &path);
 
     // The recording, from the end of a successful load to the beginning of the next load.

@@ -6,6 +6,7 @@
 #include "mainwindow.h"
 
 #include "applicationidentity.h"
+#include "cancelwatch.h"
 #include "cfgproperties.h"
 #include "filekind.h"
 #include "loadinganimation.h"
@@ -87,14 +88,18 @@ void MainWindow::load(QString path)
 bool MainWindow::unpack(QString &path)
 {
     const QPointer<MainWindow> self(this);
+    const CancelWatch watch(*this);
     m_unpacker->start(path);
-    // An archiver that cannot be started never ends: the wait goes on until another file is asked
-    // for.
-    const auto isGivenUp = [this] { return m_queuedPath && m_unpacker->isUnableToStart(); };
+    // The archiver may never end, or never start.
+    const auto isGivenUp = [&] { return m_queuedPath || watch.isCancelled(); };
     while (self && m_unpacker->isBusy() && !isGivenUp())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     if (!self || !m_cfgProperties)
         return false;
+    if (m_unpacker->isBusy()) {
+        m_unpacker->stop();
+        return false;
+    }
     const QString configuration = m_unpacker->configuration();
     if (!configuration.isEmpty())
         path = configuration;

@@ -3,11 +3,60 @@
 
 #include "packageunpacker.h"
 
-#include <QDir>
+#include <QDirIterator>
 #include <QProcess>
 
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <unistd.h>
+#endif
+#ifdef Q_OS_LINUX
+#include <sys/prctl.h>
+#endif
+
+// The archiver, which may be a script that calls another program: they live and die together.
+class ArchiverProcess : public QProcess {
+public:
+    using QProcess::QProcess;
+
+    void stop()
+    {
+        if (state() == NotRunning)
+            return;
+#ifdef Q_OS_UNIX
+        if (const auto group = static_cast<pid_t>(processId()); group > 0)
+            ::kill(-group, SIGKILL);
+#endif
+        kill(); // where it has no group of its own
+        waitForFinished();
+    }
+
+protected:
+    void setupChildProcess() override
+    {
+#ifdef Q_OS_UNIX
+        setpgid(0, 0);
+#endif
+#ifdef Q_OS_LINUX
+        prctl(PR_SET_PDEATHSIG, SIGKILL); // where this program crashes
+#endif
+    }
+};
+
+namespace {
+
+// The archiver takes an asterisk or a question mark for any letters, a hyphen at the beginning for
+// an option and an at sign there for a list of packages.
+bool isMisread(const QString &package)
+{
+    return package.contains(QLatin1Char('*')) || package.contains(QLatin1Char('?'))
+        || package.startsWith(QLatin1Char('-')) || package.startsWith(QLatin1Char('@'));
+}
+
+} // namespace
+
 PackageUnpacker::PackageUnpacker(QObject *parent)
-    : QObject(parent), m_process(new QProcess(parent)), m_folder(temporaryFolderBase())
+    : QObject(parent), m_process(new ArchiverProcess(parent)), m_folder(temporaryFolderBase())
 {
     m_process->setProcessChannelMode(QProcess::MergedChannels);
 }
@@ -23,9 +72,10 @@ void PackageUnpacker::start(const QString &package)
     if (!m_isBusy)
         return;
     m_folder.renew();
-    m_output.emplace(package);
+    const QString plain = isMisread(package) ? m_folder.plainPath(package) : package;
+    m_output.emplace(plain);
     m_process->start(QStringLiteral("7z.exe"),
-        {QStringLiteral("e"), package, QStringLiteral("-aoa"),
+        {QStringLiteral("e"), plain, QStringLiteral("-aoa"),
             QStringLiteral("-o") + m_folder.path()});
 }
 
@@ -48,10 +98,7 @@ void PackageUnpacker::end()
 void PackageUnpacker::stop()
 {
     m_isBusy = false;
-    if (m_process->state() != QProcess::NotRunning) {
-        m_process->kill();
-        m_process->waitForFinished();
-    }
+    m_process->stop();
     m_folder.remove();
 }
 
@@ -60,15 +107,9 @@ bool PackageUnpacker::isBusy() const
     return m_isBusy;
 }
 
-bool PackageUnpacker::isUnableToStart() const
-{
-    return m_process->error() == QProcess::FailedToStart;
-}
-
 QString PackageUnpacker::configuration() const
 {
-    const QDir folder(m_folder.path());
-    const QStringList names
-        = folder.entryList({QStringLiteral("*.cfg")}, QDir::Files, QDir::Unsorted);
-    return names.isEmpty() ? QString() : folder.absoluteFilePath(names.first());
+    // Stops at the first one, however many files there are.
+    QDirIterator found(m_folder.path(), {QStringLiteral("*.cfg")}, QDir::Files);
+    return found.hasNext() ? found.next() : QString();
 }

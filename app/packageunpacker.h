@@ -10,6 +10,7 @@
 
 #include <optional>
 
+class ArchiverProcess;
 class QProcess;
 
 // Has the external archiver unpack packages, one after the other, into a temporary folder of this
@@ -28,10 +29,9 @@ public:
     void start(const QString &package);
     void readOutput();
     void end();
-    void stop(); // kills the archiver and removes the folder
+    void stop(); // kills the archiver and puts its folder away
 
     bool isBusy() const; // from start() until end() or stop()
-    bool isUnableToStart() const; // there is no archiver
 
     // The first "*.cfg" that was unpacked, in the order of the file system; empty for none.
     QString configuration() const;
@@ -40,7 +40,7 @@ signals:
     void packageInvalid(); // once at most for each package
 
 private:
-    QProcess *m_process;
+    ArchiverProcess *m_process;
     TemporaryFolder m_folder;
     std::optional<ArchiverOutput> m_output; // of the latest package
     bool m_isBusy = false;

@@ -12,6 +12,7 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QThread>
+#include <QThreadPool>
 #include <QtTest>
 
 #include <csignal>
@@ -100,6 +101,14 @@ class TestPackages : public WindowFixture {
         QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin"));
         QCOMPARE(window->windowFilePath(), zip);
         QCOMPARE(window->statusBar()->currentMessage(), QStringLiteral("File loaded"));
+    }
+
+    // Whether the process of the number that a file holds is no more, perhaps after a moment.
+    static bool hasEnded(const QString &file)
+    {
+        QFile text(file);
+        const int number = text.open(QIODevice::ReadOnly) ? text.readAll().trimmed().toInt() : 0;
+        return number > 0 && QTest::qWaitFor([number] { return kill(number, 0) != 0; });
     }
 
     void expectNextGoodFileOpens()
@@ -271,8 +280,8 @@ private slots:
         QVERIFY(!QDir(unpackingFolder(2)).exists());
     }
 
-    // The archiver leaves a file that can be removed only once the memory it lies in is let go.
-    void fileThatCannotBeRemovedIsNotTakenForTheNextPackages()
+    // The archiver leaves its folder as a file system of its own, which nobody can move nor empty.
+    void whatCannotBeRemovedIsNotTakenForTheNextPackages()
     {
         const OwnFileSystem memory(1 << 20);
         if (!memory.isMounted())
@@ -281,7 +290,7 @@ private slots:
         useScript("name=$(basename \"$2\" .zip)\ncd \"${4#-o}\"\ncp \""
             + QFile::encodeName(memory.path()) + "\"/b.cfg $name.cfg\ncp \""
             + QFile::encodeName(memory.path()) + "\"/b.dat $name.dat\n"
-            + "[ $name != b ] || mount --bind $PWD/b.cfg $PWD/b.cfg\n");
+            + "[ $name != b ] || { mount --bind $PWD $PWD; mount -o remount,bind,ro $PWD; }\n");
         for (const char *package : {"a.zip", "b.zip", "c.zip", "d.zip"})
             QVERIFY(writeTextFile(path(package), "PK"));
         window->open(path("a.zip"));
@@ -295,9 +304,8 @@ private slots:
         QVERIFY(QFile::exists(unpackingFolder(1) + QLatin1String("/b.cfg")));
         window->close();
         QVERIFY(!QFile::exists(unpackingFolder(2)));
-        QCOMPARE(QProcess::execute(
-                     QStringLiteral("umount"), {unpackingFolder(1) + QLatin1String("/b.cfg")}),
-            0);
+        QThreadPool::globalInstance()->waitForDone();
+        QCOMPARE(QProcess::execute(QStringLiteral("umount"), {unpackingFolder(1)}), 0);
     }
 
     void everyInstanceHasAFolderOfItsOwn()
@@ -425,17 +433,237 @@ private slots:
         QCOMPARE(window->windowFilePath(), QStringLiteral("untitled.txt"));
     }
 
-    void anotherFileOpensWhereTheArchiverCannotStart()
+    void archiverWithoutEndIsGivenUp_data()
     {
-        qputenv("PATH", "");
+        QTest::addColumn<QByteArray>("script");
+        QTest::addColumn<bool>("byEscape");
+        const auto rows = [](const char *name, const QByteArray &script) {
+            QTest::addRow("%s, another file is opened", name) << script << false;
+            QTest::addRow("%s, Escape", name) << script << true;
+        };
+        rows("it cannot be started", {});
+        rows("it hangs", "exec sleep 60\n");
+        rows("it has a program that hangs", "sleep 60\necho never\n");
+        rows("it prints without end", "while :; do echo 'Extracting  a.cfg'; done\n");
+        rows("it fills the folder without end",
+            "cd \"${4#-o}\"\nn=0\nwhile :; do n=$((n + 1)); echo > $n.cfg; done\n");
+    }
+
+    void archiverWithoutEndIsGivenUp()
+    {
+        QFETCH(QByteArray, script);
+        QFETCH(bool, byEscape);
+        const QString before = writeSmallRecording(folder->path(), QStringLiteral("before"));
         const QString next = writeSmallRecording(folder->path(), QStringLiteral("next"));
-        QTimer::singleShot(200, this, [&] { window->open(next); });
-        QTimer::singleShot(5000, window.get(), &QWidget::close); // fails instead of hanging
+        showActive();
+        window->open(before);
+        window->statusBar()->clearMessage();
+        if (script.isEmpty())
+            qputenv("PATH", "");
+        else
+            useScript("echo $$ > \"" + QFile::encodeName(path("pid")) + "\"\n" + script);
+        QElapsedTimer timer;
+        QTimer::singleShot(500, this, [&] {
+            timer.start();
+            if (byEscape)
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+            else
+                window->open(next);
+        });
+        QTimer::singleShot(10000, window.get(), &QWidget::close); // fails instead of hanging
         window->open(anyPackage());
+        QVERIFY(timer.isValid());
+        QVERIFY2(byEscape ? timer.elapsed() < 200 : timer.elapsed() < 2000,
+            qPrintable(QString::number(timer.elapsed())));
         QVERIFY(window->recording());
-        QCOMPARE(window->windowFilePath(), next);
-        QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - next.cfg"));
+        QCOMPARE(window->windowFilePath(), byEscape ? before : next);
+        QCOMPARE(window->windowTitle(),
+            byEscape ? QStringLiteral("Wavorin - before.cfg")
+                     : QStringLiteral("Wavorin - next.cfg"));
+        QCOMPARE(window->statusBar()->currentMessage(),
+            byEscape ? QString() : QStringLiteral("File loaded"));
         QVERIFY(boxes->take().isEmpty());
+        QVERIFY(!QDir(unpackingFolder(1)).exists());
+        if (!script.isEmpty())
+            QVERIFY(hasEnded(path("pid")));
+        qputenv("PATH", searchPath);
+        expectNextGoodFileOpens();
+    }
+
+    // In a box or a dialog the key means something else.
+    void escapeInABoxClosesThatAlone()
+    {
+        boxes.reset();
+        useScript("echo Error\nwhile [ ! -e \"" + QFile::encodeName(path("go"))
+            + "\" ]; do sleep 0.02; done\ncp \"" + QFile::encodeName(path("in"))
+            + "\"/* \"${4#-o}\"\n");
+        writeSmallRecording(path("in"), QStringLiteral("rec"));
+        showActive();
+        bool closed = false;
+        QTimer watch;
+        connect(&watch, &QTimer::timeout, this, [&] {
+            QWidget *box = QApplication::activeModalWidget();
+            if (!box)
+                return;
+            watch.stop();
+            QTest::keyClick(box, Qt::Key_Escape);
+            closed = !box->isVisible() && writeTextFile(path("go"), "x");
+        });
+        watch.start(20);
+        QTimer::singleShot(10000, window.get(), &QWidget::close); // fails instead of hanging
+        window->open(anyPackage());
+        QVERIFY(closed);
+        QVERIFY(window->recording());
+        QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - rec.cfg"));
+    }
+
+    void archiverThatCrashes()
+    {
+        writeSmallRecording(path("in"), QStringLiteral("rec"));
+        useScript(
+            "cp \"" + QFile::encodeName(path("in")) + "\"/rec.cfg \"${4#-o}\"\nkill -SEGV $$\n");
+        window->open(anyPackage()); // which has brought no data file
+        const QList<BoxReader::Box> seen = boxes->take();
+        QCOMPARE(seen.size(), 1);
+        QCOMPARE(seen[0].text, QStringLiteral("File not supported."));
+        useScript("kill -SEGV $$\n");
+        const QString zip = anyPackage();
+        window->open(zip);
+        expectNothingLoaded(zip);
+        QVERIFY(boxes->take().isEmpty());
+        expectNextGoodFileOpens();
+    }
+
+    void temporaryFolderIsLost_data()
+    {
+        QTest::addColumn<QByteArray>("script");
+        QTest::newRow("the folder, by the archiver") << QByteArray("rm -r \"$folder\"\n");
+        QTest::newRow("all above it, by the archiver")
+            << QByteArray("rm -r \"${folder%/*/*/*}\"\n");
+        QTest::newRow("for a file of its name")
+            << QByteArray("rm -r \"$folder\"\n: > \"$folder\"\n");
+        QTest::newRow("for a link that leads nowhere")
+            << QByteArray("rm -r \"$folder\"\nln -s /nowhere \"$folder\"\n");
+    }
+
+    void temporaryFolderIsLost()
+    {
+        QFETCH(QByteArray, script);
+        useScript("folder=\"${4#-o}\"\n" + script);
+        const QString zip = anyPackage();
+        for (int time = 0; time < 2; ++time) {
+            window->open(zip);
+            expectNothingLoaded(zip);
+        }
+        QVERIFY(boxes->take().isEmpty());
+        writeSmallRecording(path("in"), QStringLiteral("rec"));
+        useScript("cp \"" + QFile::encodeName(path("in")) + "\"/* \"${4#-o}\"\n");
+        window->open(zip);
+        QVERIFY(window->recording());
+        QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - rec.cfg"));
+        expectNextGoodFileOpens();
+    }
+
+    void noPlaceToUnpack_data()
+    {
+        QTest::addColumn<bool>("isReadOnly");
+        QTest::newRow("nothing can be written") << true;
+        QTest::newRow("the disk is full") << false;
+    }
+
+    void noPlaceToUnpack()
+    {
+        QFETCH(bool, isReadOnly);
+        if (realArchiver.isEmpty())
+            QSKIP("no archiver is installed");
+        const OwnFileSystem disk(1 << 16);
+        if (!disk.isMounted())
+            QSKIP("no file system of its own here");
+        writeSmallRecording(path("in"), QStringLiteral("rec"));
+        const QString zip = package("device.zip");
+        const QByteArray place = qgetenv("XDG_DATA_HOME");
+        qputenv("XDG_DATA_HOME", QFile::encodeName(disk.path()));
+        if (isReadOnly)
+            QVERIFY(disk.makeReadOnly());
+        else
+            writeTextFile(disk.path("much"), QByteArray(1 << 16, 'x'));
+        window = std::make_unique<MainWindow>();
+        window->open(zip);
+        QTRY_VERIFY(boxes->count() > 0);
+        QStringList texts;
+        for (const BoxReader::Box &box : boxes->take())
+            texts.append(box.text);
+        QVERIFY(texts.contains(
+            QStringLiteral("The zip file is not valid.\nPlease select another file.")));
+        // On a full disk the archiver leaves files without contents.
+        QCOMPARE(texts.contains(QStringLiteral("File not supported.")), !isReadOnly);
+        QVERIFY(!window->recording());
+        expectNextGoodFileOpens();
+        window->close();
+        qputenv("XDG_DATA_HOME", place);
+    }
+
+    void hiddenFilesLeaveNothingBehind()
+    {
+        if (realArchiver.isEmpty())
+            QSKIP("no archiver is installed");
+        writeSmallRecording(path("in"), QStringLiteral("rec"));
+        QVERIFY(writeTextFile(path("in/.hidden"), "x"));
+        const QString zip = package("device.zip");
+        for (int time = 0; time < 2; ++time) {
+            window->open(zip);
+            QCOMPARE(window->windowFilePath(), unpackingFolder(1) + QLatin1String("/rec.cfg"));
+            QVERIFY(QFile::exists(unpackingFolder(1) + QLatin1String("/.hidden")));
+        }
+        window->close();
+        QThreadPool::globalInstance()->waitForDone();
+        const QDir parent = QFileInfo(unpackingFolder(1)).dir();
+        QCOMPARE(
+            parent.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot)
+                .join(QLatin1Char(' ')),
+            QStringLiteral("files"));
+    }
+
+    // The archiver would take these names for something else.
+    void namesThatMeanMore_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("relative");
+        QTest::newRow("an asterisk") << "p*.zip" << false;
+        QTest::newRow("an asterisk in the folder") << "d*/p.zip" << false;
+        QTest::newRow("a question mark") << "p?.zip" << false;
+        QTest::newRow("a hyphen at the beginning") << "-x.zip" << true;
+        QTest::newRow("an at sign at the beginning") << "@x.zip" << true;
+        QTest::newRow("a hyphen further on") << "a-x.zip" << true;
+        QTest::newRow("an error word and an asterisk") << "Error*.zip" << false;
+    }
+
+    void namesThatMeanMore()
+    {
+        QFETCH(QString, name);
+        QFETCH(bool, relative);
+        if (realArchiver.isEmpty())
+            QSKIP("no archiver is installed");
+        writeSmallRecording(path("in"), QStringLiteral("wrong"));
+        QVERIFY(QDir(folder->path()).mkpath(QStringLiteral("d*")));
+        QVERIFY(QDir(folder->path()).mkpath(QStringLiteral("d2")));
+        QVERIFY(!package("p2.zip").isEmpty());
+        QVERIFY(QFile::copy(path("p2.zip"), path("d2/p.zip")));
+        QVERIFY(QFile::remove(path("in/wrong.cfg")) && QFile::remove(path("in/wrong.dat")));
+        writeSmallRecording(path("in"), QStringLiteral("right"));
+        const QString zip = folder->filePath(name);
+        QVERIFY(QFile::rename(package("made.zip"), zip));
+        const QString before = QDir::currentPath();
+        QVERIFY(QDir::setCurrent(folder->path()));
+        for (int time = 0; time < 2; ++time) {
+            window->open(relative ? name : zip);
+            QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - right.cfg"));
+            QCOMPARE(QDir(unpackingFolder(1)).entryList(QDir::Files).join(QLatin1Char(' ')),
+                QStringLiteral("right.cfg right.dat"));
+        }
+        QVERIFY(QDir::setCurrent(before));
+        QVERIFY(boxes->take().isEmpty());
+        QVERIFY(QFile::exists(zip));
     }
 
     void archiverArguments()
@@ -520,11 +748,7 @@ private slots:
         });
         watch.start(20);
         window->open(anyPackage());
-        QFile pid(path("pid"));
-        QVERIFY(pid.open(QIODevice::ReadOnly));
-        const int number = pid.readAll().trimmed().toInt();
-        QVERIFY(number > 0);
-        QVERIFY(kill(number, 0) != 0);
+        QVERIFY(hasEnded(path("pid")));
         QVERIFY(!QDir(unpackingFolder(1)).exists());
     }
 

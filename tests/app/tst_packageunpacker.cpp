@@ -6,9 +6,45 @@
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTextStream>
 #include <QtTest>
 
+#include <csignal>
 #include <memory>
+
+namespace {
+
+const QString serveOption = QStringLiteral("--serve"); // has this program do what follows
+
+// Unpacks each package that is named, prints the folder, its files and what is in the first one,
+// and removes them at the next line. An empty line ends it.
+void serve()
+{
+    QTextStream input(stdin);
+    QTextStream output(stdout);
+    for (QString package; !(package = input.readLine()).isEmpty();) {
+        QObject owner;
+        PackageUnpacker unpacker(&owner);
+        QObject::connect(unpacker.process(),
+            QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), &unpacker,
+            &PackageUnpacker::end);
+        unpacker.start(package);
+        while (unpacker.isBusy())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        QFile file(unpacker.configuration());
+        const QDir folder = QFileInfo(file).dir();
+        if (file.open(QIODevice::ReadOnly)) {
+            output << folder.path() << '|' << folder.entryList(QDir::Files).join(QLatin1Char(' '))
+                   << '|' << file.readAll();
+        }
+        output << Qt::endl;
+        input.readLine();
+        unpacker.stop();
+        output << "stopped" << Qt::endl;
+    }
+}
+
+} // namespace
 
 // The archiver is a script of its name, first in the search path.
 class TestPackageUnpacker : public QObject {
@@ -30,8 +66,39 @@ private slots:
     void archiverThatCannotStart();
     void stopKillsTheArchiverAndRemovesTheFolder();
     void nothingIsHeardAfterStop();
+    void stopEndsWhatTheArchiverHasStarted();
+    void racedPairsNeverMix();
+    void aCrashLeavesNothing();
 
 private:
+    // Another instance, which unpacks the packages whose paths it is sent, each one as it would be
+    // after a start of its own.
+    static std::unique_ptr<QProcess> otherInstance()
+    {
+        auto process = std::make_unique<QProcess>();
+        process->start(QCoreApplication::applicationFilePath(), {serveOption});
+        return process;
+    }
+
+    static QString answerOf(QProcess &instance)
+    {
+        while (!instance.canReadLine() && instance.waitForReadyRead()) { }
+        return QString::fromLocal8Bit(instance.readLine()).trimmed();
+    }
+
+    static void end(QProcess &instance)
+    {
+        instance.write("\n\n");
+        QVERIFY(instance.waitForFinished());
+    }
+
+    // The number that a script has written there, 0 while there is none.
+    int numberIn(const char *file) const
+    {
+        QFile text(path(file));
+        return text.open(QIODevice::ReadOnly) ? text.readAll().trimmed().toInt() : 0;
+    }
+
     QString path(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
 
     static QString unpackingFolder(int number)
@@ -86,19 +153,32 @@ void TestPackageUnpacker::cleanup()
 void TestPackageUnpacker::startsTheArchiver_data()
 {
     QTest::addColumn<QString>("package");
-    QTest::newRow("plain path") << QStringLiteral("/rec/device.zip");
-    QTest::newRow("blanks stay within their argument") << QStringLiteral("/my rec/a b.zip");
+    QTest::addColumn<QString>("handedOver");
+    const auto asItIs = [](const char *name, const QString &package) {
+        QTest::newRow(name) << package << package;
+    };
+    asItIs("plain path", QStringLiteral("/rec/device.zip"));
+    asItIs("blanks stay within their argument", QStringLiteral("/my rec/a b.zip"));
+    asItIs("brackets", QStringLiteral("/rec/[a]{b}.zip"));
+    asItIs("a hyphen further on", QStringLiteral("/rec/-a.zip"));
+    const QString own = QStringLiteral("files1.zip");
+    QTest::newRow("an asterisk") << QStringLiteral("/rec/p*.zip") << own;
+    QTest::newRow("a question mark in a folder") << QStringLiteral("/rec?/p.zip") << own;
+    QTest::newRow("a hyphen at the beginning") << QStringLiteral("-x.zip") << own;
+    QTest::newRow("an at sign at the beginning") << QStringLiteral("@x.zip") << own;
 }
 
 void TestPackageUnpacker::startsTheArchiver()
 {
     QFETCH(QString, package);
+    QFETCH(QString, handedOver);
     useScript(QByteArray());
     unpack(package);
     QCOMPARE(m_unpacker->process()->program(), QStringLiteral("7z.exe"));
     QCOMPARE(m_unpacker->process()->arguments(),
-        QStringList({QStringLiteral("e"), package, QStringLiteral("-aoa"),
-            QLatin1String("-o") + unpackingFolder(1)}));
+        QStringList({QStringLiteral("e"),
+            handedOver == package ? package : unpackingFolder(1) + QLatin1String(".zip"),
+            QStringLiteral("-aoa"), QLatin1String("-o") + unpackingFolder(1)}));
     QCOMPARE(m_unpacker->process()->parent(), m_owner.get());
 }
 
@@ -128,7 +208,6 @@ void TestPackageUnpacker::busyUntilTheArchiverEnds()
         QVERIFY(m_unpacker->isBusy());
         QVERIFY(QDir().mkdir(path(package)));
         QTRY_VERIFY(!m_unpacker->isBusy());
-        QVERIFY(!m_unpacker->isUnableToStart());
     }
 }
 
@@ -179,15 +258,16 @@ void TestPackageUnpacker::configurationIsTheFirstFound()
 
 void TestPackageUnpacker::archiverThatCannotStart()
 {
-    QVERIFY(!m_unpacker->isUnableToStart());
     qputenv("PATH", "");
     m_unpacker->start(QStringLiteral("device.zip"));
-    QTRY_VERIFY(m_unpacker->isUnableToStart());
+    QTest::qWait(100);
+    QCOMPARE(m_unpacker->process()->error(), QProcess::FailedToStart);
     QVERIFY(m_unpacker->isBusy());
+    m_unpacker->stop();
+    QVERIFY(!m_unpacker->isBusy());
     qputenv("PATH", QFile::encodeName(m_folder->path()) + ':' + m_searchPath);
     useScript(QByteArray());
     unpack(QStringLiteral("device.zip"));
-    QVERIFY(!m_unpacker->isUnableToStart());
 }
 
 void TestPackageUnpacker::stopKillsTheArchiverAndRemovesTheFolder()
@@ -214,5 +294,87 @@ void TestPackageUnpacker::nothingIsHeardAfterStop()
     QCOMPARE(invalid.count(), 0);
 }
 
-QTEST_GUILESS_MAIN(TestPackageUnpacker)
+// The archiver may be a script that calls the program proper.
+void TestPackageUnpacker::stopEndsWhatTheArchiverHasStarted()
+{
+    useScript("sleep 60 &\necho $! > \"" + QFile::encodeName(path("pid")) + "\"\nwait\n");
+    m_unpacker->start(QStringLiteral("device.zip"));
+    QTRY_VERIFY(numberIn("pid") > 0);
+    m_unpacker->stop();
+    QTRY_VERIFY(kill(numberIn("pid"), 0) != 0);
+}
+
+// Two programs start and unpack at the same instant.
+void TestPackageUnpacker::racedPairsNeverMix()
+{
+    useScript("printf %s \"$2\" > \"${4#-o}/rec.cfg\"\n");
+    const auto first = otherInstance();
+    const auto second = otherInstance();
+    for (int pair = 0; pair < 200; ++pair) {
+        for (const char *package : {"a.zip\n", "b.zip\n"})
+            (*package == 'a' ? first : second)->write(package);
+        first->waitForBytesWritten(); // the bytes of both are on their way from here on
+        second->waitForBytesWritten();
+        const QStringList a = answerOf(*first).split(QLatin1Char('|'));
+        const QStringList b = answerOf(*second).split(QLatin1Char('|'));
+        QCOMPARE(a.size(), 3);
+        QCOMPARE(b.size(), 3);
+        const QSet<QString> folders{a.at(0), b.at(0)};
+        QCOMPARE(folders, QSet<QString>({unpackingFolder(1), unpackingFolder(2)}));
+        QCOMPARE(a.mid(1), QStringList({QStringLiteral("rec.cfg"), QStringLiteral("a.zip")}));
+        QCOMPARE(b.mid(1), QStringList({QStringLiteral("rec.cfg"), QStringLiteral("b.zip")}));
+        for (const auto *instance : {&first, &second}) {
+            (*instance)->write("\n");
+            (*instance)->waitForBytesWritten();
+        }
+        QCOMPARE(answerOf(*first), QStringLiteral("stopped"));
+        QCOMPARE(answerOf(*second), QStringLiteral("stopped"));
+        QVERIFY(!QFileInfo::exists(unpackingFolder(1)) && !QFileInfo::exists(unpackingFolder(2)));
+    }
+    end(*first);
+    end(*second);
+}
+
+// A third instance starts after one of two has crashed while it unpacked.
+void TestPackageUnpacker::aCrashLeavesNothing()
+{
+    useScript("printf x > \"${4#-o}/rec.cfg\"\n[ \"$2\" = good.zip ] || { echo $$ > \""
+        + QFile::encodeName(path("pid")) + "\"; exec sleep 60; }\n");
+    const auto crashing = otherInstance();
+    crashing->write("hang.zip\n");
+    crashing->waitForBytesWritten();
+    QTRY_VERIFY(numberIn("pid") > 0);
+    const auto living = otherInstance();
+    living->write("good.zip\n");
+    QCOMPARE(answerOf(*living), unpackingFolder(2) + QLatin1String("|rec.cfg|x"));
+    crashing->kill();
+    QVERIFY(crashing->waitForFinished());
+    QVERIFY(QFileInfo::exists(unpackingFolder(1) + QLatin1String("/rec.cfg")));
+#ifdef Q_OS_LINUX
+    QTRY_VERIFY(kill(numberIn("pid"), 0) != 0);
+#endif
+
+    const auto third = otherInstance();
+    third->write("good.zip\n");
+    QCOMPARE(answerOf(*third), unpackingFolder(1) + QLatin1String("|rec.cfg|x"));
+    end(*third);
+    end(*living);
+    QCOMPARE(QFileInfo(unpackingFolder(1))
+                 .dir()
+                 .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot)
+                 .join(QLatin1Char(' ')),
+        QStringLiteral("files"));
+}
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    if (QCoreApplication::arguments().value(1) == serveOption) {
+        serve();
+        return 0;
+    }
+    TestPackageUnpacker test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_packageunpacker.moc"

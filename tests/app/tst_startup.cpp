@@ -244,6 +244,45 @@ private slots:
             QVERIFY2(elapsed >= 2000, qPrintable(QString::number(elapsed)));
     }
 
+    // The archiver hangs, and there is no window yet.
+    void thePatienceWithAPackageEnds_data()
+    {
+        QTest::addColumn<QStringList>("action"); // with the pointer over the splash
+        QTest::newRow("by a click on the splash")
+            << QStringList({QStringLiteral("click"), QStringLiteral("1")});
+        QTest::newRow("by Escape")
+            << QStringList({QStringLiteral("key"), QStringLiteral("Escape")});
+    }
+
+    void thePatienceWithAPackageEnds()
+    {
+        QFETCH(QStringList, action);
+        OwnDisplay display(QStringLiteral("1600x1000"));
+        if (!display.isReady()
+            || QStandardPaths::findExecutable(QStringLiteral("xdotool")).isEmpty())
+            QSKIP("Xvfb or xdotool is not installed");
+        const QTemporaryDir archivers;
+        const QString started = archivers.filePath(QStringLiteral("started"));
+        const QString archiver = archivers.filePath(QStringLiteral("7z"));
+        QVERIFY(writeTextFile(
+            archiver, "#!/bin/sh\n: > \"" + QFile::encodeName(started) + "\"\nsleep 60\n"));
+        QVERIFY(QFile::setPermissions(archiver, QFile::ReadOwner | QFile::ExeOwner));
+        display.set("PATH", archivers.path() + QLatin1Char(':') + qEnvironmentVariable("PATH"));
+        const QString package = folder.filePath(QStringLiteral("rec.zip"));
+        QVERIFY(writeTextFile(package, "PK"));
+        const auto program = display.started(
+            QCoreApplication::applicationDirPath() + QLatin1String("/wavorin"), {package});
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(started), 20000);
+        const QStringList visible{QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+            QStringLiteral("--name"), QStringLiteral("^Wavorin$")};
+        QCOMPARE(display.outputOf(QStringLiteral("xdotool"), visible), QString());
+        display.outputOf(QStringLiteral("xdotool"),
+            QStringList{QStringLiteral("mousemove"), QStringLiteral("800"), QStringLiteral("500")}
+                + action);
+        QVERIFY(!display.outputOf(QStringLiteral("xdotool"), search).isEmpty());
+        QCOMPARE(program->state(), QProcess::Running);
+    }
+
     // By the dots of an inch: a factor given to the toolkit is never rounded.
     void windowIsScaledAsTheDesktopIs_data()
     {
