@@ -141,9 +141,14 @@ QString RecordingWriter::configuration(const Span &span, Side side) const
     lines.append(timeStampLines(span));
     lines.append(m_recording.fileType);
     lines.append(generalText(m_recording.timeMultiplier));
-    // The last text of a short line was kept with its line end, which would start a line here.
-    for (QString &line : lines)
+    // The last text of a short line was kept with its line end, which would start a line here. What
+    // stands behind a NUL, or a carriage return at the very end, would not be read.
+    for (QString &line : lines) {
         line.remove(QLatin1Char('\n'));
+        line.remove(QChar::Null);
+        while (line.endsWith(QLatin1Char('\r')))
+            line.chop(1);
+    }
     return lines.join(QLatin1Char('\n'));
 }
 

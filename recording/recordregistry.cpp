@@ -4,27 +4,13 @@
 #include "recordregistry.h"
 
 #include "cfgproperties.h"
+#include "recordkeeper.h"
 
 #include <memory>
-#include <mutex>
-#include <vector>
-
-namespace {
-
-template <typename Record> Record *newRecord()
-{
-    static std::mutex mutex;
-    static std::vector<std::unique_ptr<Record>> records;
-    const std::lock_guard<std::mutex> lock(mutex);
-    records.push_back(std::make_unique<Record>());
-    return records.back().get();
-}
-
-} // namespace
 
 AnalogChannel *newAnalogChannel(const CFGProperties &recording, int row)
 {
-    auto *channel = newRecord<AnalogChannel>();
+    AnalogChannel *const channel = keep(std::make_unique<AnalogChannel>());
     channel->index = recording.analogIndexes.value(row);
     channel->id = recording.analogIds.value(row);
     channel->sampleRate = recording.sampleRate;
@@ -40,7 +26,7 @@ AnalogChannel *newAnalogChannel(const CFGProperties &recording, int row)
 
 DigitalChannel *newDigitalChannel(const CFGProperties &recording, int row)
 {
-    auto *channel = newRecord<DigitalChannel>();
+    DigitalChannel *const channel = keep(std::make_unique<DigitalChannel>());
     channel->index = recording.digitalIndexes.value(row);
     channel->id = recording.digitalIds.value(row);
     return channel;
