@@ -52,6 +52,7 @@ private slots:
     void lettersGoOutAsTheyCameIn();
     void lettersBeyondLatin1GoOutAsUtf8_data();
     void lettersBeyondLatin1GoOutAsUtf8();
+    void carriageReturnsBehindALineAreLost();
     void asPrimaryTurnsSecondaryChannels();
     void asPrimaryMultipliesByTheRatio_data();
     void asPrimaryMultipliesByTheRatio();
@@ -609,6 +610,26 @@ void TestRecordingWriter::lettersBeyondLatin1GoOutAsUtf8_data()
         << QByteArray("J\xc3\xa4nnite[\xc4\x80]") << QByteArray("J\xc3\xa4nnite,,,\xc4\x80");
     QTest::newRow("one far beyond")
         << QByteArray("J\xc3\xa4nnite[\xce\xa9]") << QByteArray("J\xc3\xa4nnite,,,\xce\xa9");
+    QTest::newRow("NULs, behind which a line would not be read")
+        << QByteArray("U\0a[k\0V]", 8) << QByteArray("Ua,,,kV");
+}
+
+void TestRecordingWriter::carriageReturnsBehindALineAreLost()
+{
+    ConfigurationText text = configurationText();
+    text.station = "Harju,J\r07,1999\r";
+    text.digital = QByteArrayList{"1,TRIP,x,y,0\r\r"};
+    text.fileType = "ASCII\r";
+    const RecordingFolder folder;
+    CFGProperties recording;
+    folder.load(recording, text.text("\r\n"), dataUpTo(3));
+    QCOMPARE(recording.fileType, QStringLiteral("ASCII\r"));
+    const Written first = written(recording, 0, 3);
+    QCOMPARE(first.line(1), QByteArray("Harju,J\r07,1999"));
+    QCOMPARE(first.line(5), QByteArray("1,TRIP,x,y,0"));
+    QCOMPARE(first.line(11), QByteArray("ASCII"));
+    folder.load(recording, first.configuration, first.data, "first");
+    QCOMPARE(written(recording, 0, 3).configuration, first.configuration);
 }
 
 void TestRecordingWriter::lettersBeyondLatin1GoOutAsUtf8()
