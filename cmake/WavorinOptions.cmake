@@ -22,6 +22,13 @@ if(WAVORIN_SANITIZE)
         ${sanitizers} $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     target_link_options(wavorin_options INTERFACE ${sanitizers})
 endif()
+if(WAVORIN_FUZZ)
+    # What the toolkit is handed is not instrumented, so the check of vtables and function types has no say there.
+    set(sanitizers -fsanitize=fuzzer-no-link,address,undefined,float-cast-overflow
+        -fno-sanitize=vptr,function -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_compile_options(wavorin_options INTERFACE ${sanitizers})
+    target_link_options(wavorin_options INTERFACE ${sanitizers})
+endif()
 set(CMAKE_CXX_EXTENSIONS OFF)
 
 # Headers that many sources include, compiled once for those that reuse them:
