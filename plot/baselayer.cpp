@@ -145,10 +145,9 @@ void fillFrame(QPainter &painter, const QRect &frame, const QColor &color)
     painter.fillRect(frame.right(), frame.top(), 1, frame.height(), color);
 }
 
-QPixmap clearLayer(const QWidget &plot)
+QPixmap clearLayer(const QSize &pixels, qreal ratio)
 {
-    const qreal ratio = plot.devicePixelRatioF();
-    QPixmap layer(plot.size() * ratio);
+    QPixmap layer(pixels);
     layer.setDevicePixelRatio(ratio);
     layer.fill(Qt::transparent);
     return layer;

@@ -11,11 +11,10 @@ class QFont;
 class QPainter;
 class QPixmap;
 class QRect;
-class QWidget;
 class TimeAxis;
 
-// A transparent picture as large as a plot, at its screen's scale.
-QPixmap clearLayer(const QWidget &plot);
+// A transparent picture of so many pixels of the screen, of which each pixel of a plot is a ratio.
+QPixmap clearLayer(const QSize &pixels, qreal ratio);
 
 // The passes that paint the base layer of a plot. Colours and pens are their own; the painter's
 // clip must be off, but for drawDigitalRow(), which leaves it to the caller.

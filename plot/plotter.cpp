@@ -3,53 +3,26 @@
 
 #include "plotter.h"
 
-#include "analogchannel.h"
+#include "analogsource.h"
 #include "cfgproperties.h"
-#include "channelnames.h"
-#include "channelvalues.h"
-#include "labeltext.h"
 #include "plothost.h"
-#include "plotline.h"
 #include "plotstyle.h"
 #include "plottitle.h"
 
-#include <QApplication>
 #include <QColorDialog>
-#include <QLabel>
+#include <QEvent>
 #include <QLineEdit>
 #include <QPainter>
 #include <QStyleOption>
 #include <QStyleOptionFocusRect>
 
-#include <algorithm>
-#include <array>
-#include <cmath>
-
 SharedView Plotter::s_shared;
-
-namespace {
-
-const std::array<QColor, 13> channelColors{QColor(245, 30, 18), QColor(220, 220, 0),
-    QColor(66, 66, 255), QColor(0, 255, 0), QColor(223, 105, 209), QColor(250, 140, 20),
-    QColor(80, 150, 180), QColor(193, 137, 62), QColor(60, 150, 0), QColor(0, 255, 255),
-    QColor(112, 146, 190), QColor(200, 191, 231), QColor(177, 177, 177)};
-
-// The largest or smallest of a channel, or of its finite samples where some are not.
-double finiteExtreme(float extreme, float ofFiniteSamples)
-{
-    return static_cast<double>(std::isfinite(extreme) ? extreme : ofFiniteSamples);
-}
-
-} // namespace
 
 Plotter::Plotter(QWidget *parent)
     : QWidget(parent),
       plotType(QStringLiteral("Analog")),
       plotterLabel(new PlotTitle(this)),
-      timeLine(this),
-      startMarker{new PlotLine(this, QStringLiteral("startMarker"), QStringLiteral("red"))},
-      endMarker{new PlotLine(this, QStringLiteral("endMarker"), QStringLiteral("red"))},
-      m_cursorMarks(this),
+      m_marks(this),
       m_rubberBand(this),
       m_channelLabels(this),
       colorDialog(new QColorDialog(Qt::white, this)),
@@ -68,7 +41,7 @@ Plotter::Plotter(QWidget *parent)
 
 Plotter::~Plotter()
 {
-    releaseGrab();
+    m_keyboard.endGrab();
 }
 
 void Plotter::setMainWindow(QObject *window)
@@ -113,76 +86,28 @@ void Plotter::removeLinkedPlotter(const QString &name)
     linkedPlotters.removeAt(found);
 }
 
-bool Plotter::isSpectrum(int number) const
-{
-    return recording() && number >= recording()->analogChannels.size();
-}
-
 bool Plotter::showsSpectrum() const
 {
-    return !digitalFlag && !channelMap.isEmpty() && isSpectrum(channelMap.lastKey());
-}
-
-const AnalogChannel *Plotter::channelOf(int number) const
-{
-    const CFGProperties *source = recording();
-    if (!source)
-        return nullptr;
-    const int count = source->analogChannels.size();
-    return source->analogChannels.value(number < count ? number : number - count, nullptr);
-}
-
-double Plotter::factorOf(int number) const
-{
-    const AnalogChannel *channel = channelOf(number);
-    return channel ? valueFactor(*channel, mainWindow->valueMode()) : 1.0;
-}
-
-QColor Plotter::colorOf(int number) const
-{
-    if (m_chosenColors.contains(number))
-        return m_chosenColors.value(number);
-    int index = number;
-    if (isSpectrum(number)) {
-        const auto position = std::distance(channelMap.cbegin(), channelMap.constFind(number));
-        index = recording()->analogChannels.size() + static_cast<int>(position);
-    }
-    return channelColors.at(static_cast<size_t>(index) % channelColors.size());
+    return !digitalFlag && m_channels.count() > 0
+        && AnalogSource(mainWindow).isSpectrum(m_channels.byNumber().lastKey());
 }
 
 ShownChannel Plotter::shownChannel(int number) const
 {
-    ShownChannel shown;
-    const AnalogChannel *channel = channelOf(number);
-    if (!channel)
-        return shown;
-    const CFGProperties *source = recording();
-    const int row = number % source->analogChannels.size();
-    shown.id = shownName(channel->id);
-    shown.unit = shownName(source->analogUnits.value(row));
-    shown.phase = shownName(source->analogPhases.value(row));
-    shown.circuit = shownName(source->analogCircuits.value(row));
-    shown.trace = TraceSummary(isSpectrum(number) ? channel->fftMagnitudes : channel->values);
-    return shown;
+    return AnalogSource(mainWindow).shown(number);
 }
 
 void Plotter::addChannel(int number)
 {
-    if (number < 0 || channelMap.contains(number))
-        return;
-    channelMap.insert(number, shownChannel(number));
-    m_channelOrder.append(number);
+    if (number >= 0 && !m_channels.contains(number))
+        m_channels.add(number, shownChannel(number));
 }
 
 void Plotter::showChannels(const QList<int> &numbers)
 {
-    for (const int number : qAsConst(m_channelOrder)) {
-        if (!numbers.contains(number))
-            channelMap.remove(number);
-    }
     for (const int number : numbers)
         addChannel(number);
-    m_channelOrder = numbers;
+    m_channels.arrange(numbers);
 }
 
 // The full view of what is shown, with all of its values; the time range of a live view stays.
@@ -203,38 +128,7 @@ void Plotter::setupPlot()
 
 ValueExtremes Plotter::prepareTraces()
 {
-    const bool showsAngles = mainWindow && mainWindow->showsAngles();
-    const AnalogChannel *reference = mainWindow && mainWindow->referenceIndex() > 0
-        ? channelOf(mainWindow->referenceIndex() - 1)
-        : nullptr;
-    ValueExtremes extremes;
-    const auto widen = [&](double value) {
-        if (std::isfinite(value)) {
-            extremes.lowest = std::min(extremes.lowest, value);
-            extremes.highest = std::max(extremes.highest, value);
-        }
-    };
-    for (auto it = channelMap.begin(); it != channelMap.end(); ++it) {
-        const AnalogChannel *channel = channelOf(it.key());
-        if (!channel)
-            continue;
-        const double factor = factorOf(it.key());
-        const TraceExtent extent = it->trace.extent(0, it->trace.values().size());
-        if (!isSpectrum(it.key())) {
-            widen(finiteExtreme(channel->minValue, extent.min) * factor);
-            widen(finiteExtreme(channel->maxValue, extent.max) * factor);
-            continue;
-        }
-        widen(finiteExtreme(channel->maxMagnitude, extent.max) * factor);
-        it->angle = TraceSummary();
-        if (showsAngles) {
-            it->angle = TraceSummary(
-                angleTrace(channel->fftAngles, reference ? &reference->fftAngles : nullptr));
-            extremes.angles = reference ? fullTurnRadians : fullTurnDegrees;
-            widen(extremes.angles);
-        }
-    }
-    return extremes;
+    return AnalogSource(mainWindow).prepare(m_channels.byNumber());
 }
 
 void Plotter::rescaleValues()
@@ -244,18 +138,14 @@ void Plotter::rescaleValues()
 
 void Plotter::followFromNowOn(const Plotter &other)
 {
-    for (const double time : other.cursors())
-        m_cursorMarks.add(time);
-    startMarker.copy(other.startMarker);
-    endMarker.copy(other.endMarker);
+    m_marks.copy(other.m_marks);
     follow(other);
 }
 
 void Plotter::resetPlot()
 {
     customResetZoom();
-    channelMap.clear();
-    m_channelOrder.clear();
+    m_channels.clear();
     m_view.clear();
     zoomLevel = 0;
     scrollDelta = 0;
@@ -271,7 +161,7 @@ void Plotter::paintEvent(QPaintEvent * /*event*/)
     background.initFrom(this);
     style()->drawPrimitive(QStyle::PE_Widget, &background, &painter, this);
     painter.drawPixmap(0, 0, basePixmap);
-    painter.drawPixmap(0, 0, overlayPixmap);
+    m_overlay.paint(painter);
     m_rubberBand.paint(painter);
     if (hasFocus()) {
         QStyleOptionFocusRect frame;

@@ -5,29 +5,25 @@
 
 #include "basecontent.h"
 #include "channellabels.h"
-#include "cursormarks.h"
-#include "customlabel.h"
+#include "labeldrag.h"
 #include "mousemovereceiver.h"
+#include "overlay.h"
 #include "plotgeometry.h"
+#include "plotkeyboard.h"
+#include "plotmarks.h"
 #include "plotview.h"
 #include "rubberband.h"
-#include "savemarker.h"
-#include "shownchannel.h"
+#include "shownchannels.h"
 #include "timeaxis.h"
-#include "timeline.h"
 
-#include <QColor>
 #include <QList>
-#include <QMap>
 #include <QPixmap>
 #include <QWidget>
 
-class AnalogChannel;
 class CFGProperties;
 class PlotHost;
 class PlotTitle;
 class QColorDialog;
-class QHelpEvent;
 class QLabel;
 
 // Shows analog channels of a recording as waveforms or spectra against time. A plot paints into two
@@ -61,13 +57,13 @@ public:
     void addChannel(int number);
     // Shows these channels and no others, in this order.
     void showChannels(const QList<int> &numbers);
-    const QList<int> &channels() const { return m_channelOrder; }
+    const QList<int> &channels() const { return m_channels.order(); }
     bool showsSpectrum() const;
 
     // The live view, all zero before setupPlot(), and the full view.
     const PlotSettings &view() const { return m_view.live(); }
     const PlotSettings &home() const { return m_view.home(); }
-    PlotGeometry geometryOfView() const { return {size(), readoutWidth, view()}; }
+    PlotGeometry geometryOfView() const { return {size(), m_readoutRoom.width, view()}; }
     static const SharedView &shared() { return s_shared; }
     // Takes over the time range and its zoom, the cursors and the save markers of another plot.
     void followFromNowOn(const Plotter &other);
@@ -77,9 +73,9 @@ public:
 
     // Cursor times in ms, in the order in which they were set.
     void addCursorAt(double time);
-    QList<double> cursors() const { return m_cursorMarks.times(); }
+    QList<double> cursors() const { return m_marks.cursors.times(); }
     // The time difference of the last neighbouring pair of cursors, ms; 0 with fewer than two.
-    double pairDifference() const { return m_cursorMarks.pairDifference(); }
+    double pairDifference() const { return m_marks.cursors.pairDifference(); }
     void clearCursors();
 
     // The sample times of the recording as of the last setupPlot().
@@ -125,7 +121,6 @@ public slots:
 
 protected:
     bool event(QEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -148,35 +143,22 @@ protected:
     QString plotType; // "Analog" or "Digital"; the zooms ask whether it contains one of them
     int digitalFlag = 0;
     PlotTitle *plotterLabel;
-    QMap<int, ShownChannel> channelMap; // traces are drawn in the order of the numbers
-    QList<int> m_channelOrder; // the same numbers in the order in which they were added
+    ShownChannels m_channels; // traces are drawn in the order of the numbers
     TimeAxis m_timeAxis;
-    static constexpr int noKey = -1;
-    int pressedKey = noKey; // the key held down, as far as this plot has seen
+    PlotKeyboard m_keyboard{this};
 
 private:
-    bool isSpectrum(int number) const;
-    const AnalogChannel *channelOf(int number) const;
-    double factorOf(int number) const;
-    QColor colorOf(int number) const;
-
     bool isOnScreen() const;
     void refreshAll();
     void refreshOverlay();
-    Readout readout() const;
     void settleReadout();
     void shareReadoutWidth();
     BaseContent baseContent() const;
     void paintBase();
-    void paintOverlay();
     void placeMarks();
-    void showChannelLabels();
 
-    // What a zoom leaves to the view that all plots share.
-    enum class Sharing { Always, UnlessDigital, IfAnalog };
-    void shareView(Sharing sharing);
-    bool zoomTime(double factor, Sharing sharing);
-    void zoomLinked(double factor, Sharing sharing);
+    bool zoomTime(double factor, SharedView::Rule sharing);
+    void zoomLinked(double factor, SharedView::Rule sharing);
     bool zoomValues(double factor, bool keepsCentre);
     bool zoomToBand(bool withValues);
     void leadLinked();
@@ -187,37 +169,24 @@ private:
     void scrollView(int dx, int dy);
 
     void showTimeLine(int x);
-    void moveCursor(int cursor, double time);
     void removeCursors(int first, int last);
     void dragCursor(int x);
     void takeKeyboard();
-    void holdKey(int key);
-    void releaseGrab();
     void letGo();
     void endDrag();
-    void takePress();
     void chooseColor(const QLabel *label);
-    void showCell(const QHelpEvent &help);
 
     PlotView m_view;
-    Readout m_readout; // as of the last refresh
-    int m_readoutNeed = 0;
-    int readoutWidth = 0; // kept free at the right of the plot area
-    TimeLine timeLine;
-    SaveMarker startMarker;
-    SaveMarker endMarker;
-    CursorMarks m_cursorMarks;
+    ReadoutRoom m_readoutRoom;
+    PlotMarks m_marks;
     RubberBand m_rubberBand;
     QPixmap basePixmap;
     BaseContent m_drawn; // what basePixmap shows
-    QPixmap overlayPixmap; // null while there is nothing to show
+    Overlay m_overlay;
     PlotHost *mainWindow = nullptr;
     ChannelLabels m_channelLabels;
-    bool draggingTimeLine = false;
-    CustomLabel *draggedLabel = nullptr; // from its press on; dragged from draggingTimeLine on
-    QPoint m_labelPress; // where it was pressed
+    LabelDrag m_labelDrag;
     QColorDialog *colorDialog;
-    QMap<int, QColor> m_chosenColors; // by channel number
     int zoomLevel = 0;
     QList<Plotter *> linkedPlotters;
 

@@ -5,21 +5,17 @@
 
 #include "plotter.h"
 
-#include "baselayer.h"
-#include "labeltext.h"
 #include "plothost.h"
-#include "plotline.h"
 #include "plottitle.h"
 
 #include <QLabel>
-#include <QPainter>
 
 #include <algorithm>
 
 void Plotter::showTimeLine(int x)
 {
     if (!m_view.isEmpty())
-        timeLine.show(x, geometryOfView());
+        m_marks.timeLine.show(x, geometryOfView());
 }
 
 void Plotter::addCursor(int x, int /*y*/)
@@ -30,34 +26,32 @@ void Plotter::addCursor(int x, int /*y*/)
 
 void Plotter::addCursorAt(double time)
 {
-    if (m_cursorMarks.isFull())
+    if (m_marks.cursors.isFull())
         return;
-    m_cursorMarks.add(time);
+    m_marks.cursors.add(time);
     for (Plotter *plotter : qAsConst(linkedPlotters)) {
         if (plotter != this)
-            plotter->m_cursorMarks.add(time);
+            plotter->m_marks.cursors.add(time);
     }
     refreshAll();
 }
 
-void Plotter::moveCursor(int cursor, double time)
-{
-    m_cursorMarks.move(cursor, time);
-    refreshOverlay();
-}
-
 void Plotter::dragCursor(int x)
 {
-    const int cursor = m_cursorMarks.cursorOf(draggedLabel);
+    const int cursor = m_marks.cursors.cursorOf(m_labelDrag.label());
     if (cursor < 0 || m_view.isEmpty())
         return;
     const QRect area = geometryOfView().area();
     const double time = geometryOfView().lineTime(
         std::clamp(x, area.left(), std::max(area.left(), area.right())));
-    moveCursor(cursor, time);
+    const auto move = [&](Plotter *plotter) {
+        plotter->m_marks.cursors.move(cursor, time);
+        plotter->refreshOverlay();
+    };
+    move(this);
     for (Plotter *plotter : qAsConst(linkedPlotters)) {
-        if (plotter != this && cursor < plotter->m_cursorMarks.count())
-            plotter->moveCursor(cursor, time);
+        if (plotter != this && cursor < plotter->m_marks.cursors.count())
+            move(plotter);
     }
 }
 
@@ -66,65 +60,56 @@ void Plotter::removeCursors(int first, int last)
 {
     for (int cursor = last - 1; cursor >= first; --cursor) {
         for (Plotter *plotter : qAsConst(linkedPlotters))
-            plotter->m_cursorMarks.remove(cursor);
-        m_cursorMarks.remove(cursor);
+            plotter->m_marks.cursors.remove(cursor);
+        m_marks.cursors.remove(cursor);
     }
     refreshAll();
 }
 
 void Plotter::clearCursors()
 {
-    draggingTimeLine = false;
-    draggedLabel = nullptr;
-    m_cursorMarks.clear();
+    m_labelDrag.end();
+    m_marks.cursors.clear();
 }
 
-void Plotter::paintOverlay()
+void Plotter::refreshOverlay()
 {
     const PlotGeometry geometry = geometryOfView();
-    if (m_view.isEmpty() || m_cursorMarks.count() < 2 || !geometry.isDrawable()) {
-        overlayPixmap = QPixmap();
-        return;
-    }
-    if (overlayPixmap.size() != size() * devicePixelRatioF())
-        overlayPixmap = clearLayer(*this);
-    QPainter painter(&overlayPixmap);
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.fillRect(
-        0, CursorMarks::differencesTop, width(), CursorMarks::differencesHeight, Qt::transparent);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    painter.setFont(smallFont(font()));
-    m_cursorMarks.paintDifferences(painter, geometry, plotterLabel->geometry());
+    if (m_view.isEmpty() || m_marks.cursors.count() < 2 || !geometry.isDrawable())
+        m_overlay.clear();
+    else
+        m_overlay.draw(
+            m_marks.cursors, geometry, plotterLabel->geometry(), font(), devicePixelRatioF());
+    placeMarks();
+    update();
+    if (mainWindow)
+        mainWindow->refreshVectors();
 }
 
-// Sets the lines of the cursors and the save markers to their places in the view.
 void Plotter::placeMarks()
 {
     if (m_view.isEmpty())
         return;
-    const PlotGeometry geometry = geometryOfView();
-    m_cursorMarks.place(geometry);
-    timeLine.refresh(geometry);
-    startMarker.place(geometry);
-    endMarker.place(geometry);
-    if (draggedLabel && draggedLabel->isHidden()) // by a zoom; it would not be told of its release
+    m_marks.place(geometryOfView());
+    const QLabel *dragged = m_labelDrag.label();
+    if (dragged && dragged->isHidden()) // by a zoom; it would not be told of its release
         endDrag();
 }
 
 void Plotter::setStartPoint(double time)
 {
-    startMarker.set(time);
+    m_marks.startMarker.set(time);
     placeMarks();
 }
 
 void Plotter::setEndPoint(double time)
 {
-    endMarker.set(time);
+    m_marks.endMarker.set(time);
     placeMarks();
 }
 
 void Plotter::clearSaveMarkers()
 {
-    startMarker.clear();
-    endMarker.clear();
+    m_marks.startMarker.clear();
+    m_marks.endMarker.clear();
 }

@@ -5,10 +5,9 @@
 
 #include "plotter.h"
 
-#include "analogchannel.h"
+#include "analogsource.h"
 #include "baselayer.h"
 #include "cfgproperties.h"
-#include "channelvalues.h"
 #include "numbers.h"
 #include "plothost.h"
 #include "readout.h"
@@ -19,6 +18,54 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+QVector<ChannelLabels::Entry> labelEntries(
+    const ShownChannels &channels, const AnalogSource &source)
+{
+    QVector<ChannelLabels::Entry> entries;
+    for (const int number : channels.order()) {
+        const ShownChannel &shown = channels.at(number);
+        QString text = shown.id + QLatin1Char('(') + shown.unit + QLatin1Char(')');
+        if (source.isSpectrum(number))
+            text += QStringLiteral("_FFT");
+        QStringList tip{text, shown.phase, shown.circuit};
+        tip.removeAll(QString());
+        const QColor color = channels.color(number, source.firstSpectrum());
+        entries.append({number, text, color, tip.join(QLatin1Char('\n'))});
+    }
+    return entries;
+}
+
+Readout readoutAt(const QList<double> &cursors, const TimeAxis &axis, const ShownChannels &channels,
+    const AnalogSource &source)
+{
+    Readout table;
+    if (cursors.isEmpty())
+        return table;
+    QVector<int> samples; // at the cursors
+    Readout::Row header{Plotter::tr("Parameter")};
+    for (int i = 0; i < cursors.size(); ++i) {
+        header.append(QStringLiteral("P%1 (%2)").arg(i + 1).arg(generalText(cursors.at(i))));
+        samples.append(axis.sampleAt(source.sampleRate(), cursors.at(i)));
+    }
+    table.rows.append(header);
+    for (const int number : channels.order()) {
+        const ShownChannel &shown = channels.at(number);
+        const QVector<float> &values = shown.trace.values();
+        Readout::Row row{source.isSpectrum(number) ? shown.id + QStringLiteral(" FFT") : shown.id};
+        for (const int sample : qAsConst(samples)) {
+            row.append(sample < 0 || sample >= values.size()
+                    ? QString()
+                    : generalText(static_cast<double>(values.at(sample)) * source.factor(number)));
+        }
+        table.rows.append(row);
+    }
+    return table;
+}
+
+} // namespace
+
 void Plotter::refreshPixmap()
 {
     if (!isOnScreen())
@@ -28,19 +75,11 @@ void Plotter::refreshPixmap()
     BaseContent content = baseContent();
     if (!(content == m_drawn)) {
         m_drawn = std::move(content);
-        showChannelLabels();
+        if (!digitalFlag)
+            m_channelLabels.show(labelEntries(m_channels, AnalogSource(mainWindow)));
         paintBase();
     }
     refreshOverlay();
-}
-
-void Plotter::refreshOverlay()
-{
-    paintOverlay();
-    placeMarks();
-    update();
-    if (mainWindow)
-        mainWindow->refreshVectors();
 }
 
 BaseContent Plotter::baseContent() const
@@ -51,19 +90,20 @@ BaseContent Plotter::baseContent() const
     content.pixelRatio = devicePixelRatioF();
     content.font = font();
     content.trigger = triggerText(recording() ? recording()->triggerOffsetMs : 0);
-    content.readout = m_readout;
-    content.readoutWidth = readoutWidth;
+    content.readout = m_readoutRoom.readout;
+    content.readoutWidth = m_readoutRoom.width;
     content.times = m_timeAxis.times();
-    for (const int number : m_channelOrder) {
-        const ShownChannel &shown = *channelMap.constFind(number);
-        content.traces.append({number, factorOf(number), colorOf(number).rgb(), shown});
+    const AnalogSource source(mainWindow);
+    for (const int number : channels()) {
+        const QColor color = m_channels.color(number, source.firstSpectrum());
+        content.traces.append({number, source.factor(number), color.rgb(), m_channels.at(number)});
     }
     return content;
 }
 
 void Plotter::paintBase()
 {
-    basePixmap = clearLayer(*this);
+    basePixmap = clearLayer(size() * devicePixelRatioF(), devicePixelRatioF());
     if (m_view.isEmpty() || basePixmap.isNull())
         return;
     QPainter painter(&basePixmap);
@@ -91,9 +131,11 @@ void Plotter::drawCurves(QPainter *painter)
         return;
     painter->setClipRect(geometry.area());
     TracePainter traces(*painter, geometry, m_timeAxis);
-    for (auto it = channelMap.cbegin(); it != channelMap.cend(); ++it) {
-        painter->setPen(QPen(colorOf(it.key()), 0));
-        traces.draw(it->trace, factorOf(it.key()));
+    const AnalogSource source(mainWindow);
+    const QMap<int, ShownChannel> &shown = qAsConst(m_channels).byNumber();
+    for (auto it = shown.cbegin(); it != shown.cend(); ++it) {
+        painter->setPen(QPen(m_channels.color(it.key(), source.firstSpectrum()), 0));
+        traces.draw(it->trace, source.factor(it.key()));
         traces.draw(it->angle, 1.0);
     }
 }
@@ -113,38 +155,12 @@ void Plotter::drawTimeLabels(QPainter *painter)
         ::drawTimeLabels(*painter, geometry, font());
 }
 
-Readout Plotter::readout() const
-{
-    Readout table;
-    const QList<double> times = cursors();
-    if (times.isEmpty() || digitalFlag)
-        return table;
-    const double rate = recording() ? recording()->sampleRate : 0;
-    QVector<int> samples; // at the cursors
-    Readout::Row header{tr("Parameter")};
-    for (int i = 0; i < times.size(); ++i) {
-        header.append(QStringLiteral("P%1 (%2)").arg(i + 1).arg(generalText(times.at(i))));
-        samples.append(m_timeAxis.sampleAt(rate, times.at(i)));
-    }
-    table.rows.append(header);
-    for (const int number : m_channelOrder) {
-        const ShownChannel &shown = *channelMap.constFind(number);
-        const QVector<float> &values = shown.trace.values();
-        Readout::Row row{isSpectrum(number) ? shown.id + QStringLiteral(" FFT") : shown.id};
-        for (const int sample : qAsConst(samples)) {
-            row.append(sample < 0 || sample >= values.size()
-                    ? QString()
-                    : generalText(static_cast<double>(values.at(sample)) * factorOf(number)));
-        }
-        table.rows.append(row);
-    }
-    return table;
-}
-
 void Plotter::settleReadout()
 {
-    m_readout = readout();
-    m_readoutNeed = m_readout.neededWidth(smallFont(font()));
+    m_readoutRoom.readout = digitalFlag
+        ? Readout()
+        : readoutAt(cursors(), m_timeAxis, m_channels, AnalogSource(mainWindow));
+    m_readoutRoom.needed = m_readoutRoom.readout.neededWidth(smallFont(font()));
 }
 
 // Linked plots keep the widest room that one of them needs, so that they line up in time; but no
@@ -153,18 +169,19 @@ void Plotter::shareReadoutWidth()
 {
     const auto keepsRoom
         = [](const Plotter *plotter) { return !plotter->digitalFlag && plotter->isOnScreen(); };
-    int widest = m_readoutNeed;
+    int widest = m_readoutRoom.needed;
     for (const Plotter *plotter : qAsConst(linkedPlotters)) {
         if (keepsRoom(plotter))
-            widest = std::max(widest, plotter->m_readoutNeed);
+            widest = std::max(widest, plotter->m_readoutRoom.needed);
     }
     const auto roomIn
         = [&](const Plotter *plotter) { return std::min(plotter->width() / 2, widest); };
     if (keepsRoom(this))
-        readoutWidth = roomIn(this);
+        m_readoutRoom.width = roomIn(this);
     for (Plotter *plotter : qAsConst(linkedPlotters)) {
         if (keepsRoom(plotter)
-            && std::exchange(plotter->readoutWidth, roomIn(plotter)) != plotter->readoutWidth)
+            && std::exchange(plotter->m_readoutRoom.width, roomIn(plotter))
+                != plotter->m_readoutRoom.width)
             plotter->refreshPixmap();
     }
 }
@@ -174,21 +191,4 @@ void Plotter::drawValueTable(QPainter *painter)
     const PlotGeometry geometry = geometryOfView();
     if (geometry.isDrawable())
         m_drawn.readout.draw(*painter, geometry, smallFont(font()));
-}
-
-void Plotter::showChannelLabels()
-{
-    if (digitalFlag)
-        return;
-    QVector<ChannelLabels::Entry> entries;
-    for (const int number : qAsConst(m_channelOrder)) {
-        const ShownChannel &shown = *channelMap.constFind(number);
-        QString text = shown.id + QLatin1Char('(') + shown.unit + QLatin1Char(')');
-        if (isSpectrum(number))
-            text += QStringLiteral("_FFT");
-        QStringList tip{text, shown.phase, shown.circuit};
-        tip.removeAll(QString());
-        entries.append({number, text, colorOf(number), tip.join(QLatin1Char('\n'))});
-    }
-    m_channelLabels.show(entries);
 }

@@ -6,11 +6,11 @@
 #include "plotter.h"
 
 #include "baselayer.h"
+#include "customlabel.h"
 #include "labeltext.h"
 #include "plothost.h"
 #include "plottitle.h"
 
-#include <QApplication>
 #include <QColorDialog>
 #include <QContextMenuEvent>
 #include <QHelpEvent>
@@ -22,8 +22,6 @@
 #include <QScrollBar>
 #include <QToolTip>
 #include <QWheelEvent>
-
-#include <utility>
 
 namespace {
 
@@ -45,9 +43,13 @@ int caught(int position, int from, int to)
 bool Plotter::event(QEvent *event)
 {
     switch (event->type()) {
-    case QEvent::ToolTip:
-        showCell(*static_cast<QHelpEvent *>(event));
+    case QEvent::ToolTip: { // the cells of the readout are elided where there are many cursors
+        const auto *help = static_cast<QHelpEvent *>(event);
+        const QString text
+            = m_drawn.readout.textAt(help->pos(), geometryOfView(), smallFont(font()));
+        QToolTip::showText(help->globalPos(), plainToolTip(text), this);
         return true;
+    }
     case QEvent::ShowToParent:
         followLinked();
         break;
@@ -69,52 +71,26 @@ bool Plotter::event(QEvent *event)
     return QWidget::event(event);
 }
 
-// The cells of the readout are elided where there are many cursors.
-void Plotter::showCell(const QHelpEvent &help)
-{
-    const QString text = m_drawn.readout.textAt(help.pos(), geometryOfView(), smallFont(font()));
-    QToolTip::showText(help.globalPos(), plainToolTip(text), this);
-}
-
-void Plotter::releaseGrab()
-{
-    if (QWidget::keyboardGrabber() == this)
-        releaseKeyboard();
-    pressedKey = noKey;
-}
-
 // Neither keys nor buttons are told of any more.
 void Plotter::letGo()
 {
-    releaseGrab();
+    m_keyboard.release();
     endDrag();
 }
 
 void Plotter::endDrag()
 {
-    draggedLabel = nullptr;
-    if (std::exchange(draggingTimeLine, false))
+    if (m_labelDrag.end())
         refreshAll(); // the readouts follow the end of a drag
     if (m_rubberBand.isShown())
         m_rubberBand.hide();
-}
-
-// Sees the release of a key wherever it goes: it may reach another widget than the press did.
-bool Plotter::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::KeyRelease) {
-        pressedKey = noKey;
-        qApp->removeEventFilter(this);
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 void Plotter::mousePressEvent(QMouseEvent *event)
 {
     auto *label = qobject_cast<CustomLabel *>(childAt(event->pos()));
     if (label && label->objectName().contains(QLatin1String("lineLabel"))) {
-        draggedLabel = label;
-        m_labelPress = event->pos();
+        m_labelDrag.press(label, event->pos());
         return;
     }
     const QRect area = geometryOfView().area();
@@ -124,39 +100,30 @@ void Plotter::mousePressEvent(QMouseEvent *event)
         m_rubberBand.begin(point);
         return;
     }
-    for (Plotter *plotter : qAsConst(linkedPlotters))
-        plotter->takePress();
-}
-
-void Plotter::takePress()
-{
-    if (m_rubberBand.isShown())
-        m_rubberBand.hide();
-    plotterLabel->closeEditor();
+    for (Plotter *plotter : qAsConst(linkedPlotters)) {
+        if (plotter->m_rubberBand.isShown())
+            plotter->m_rubberBand.hide();
+        plotter->plotterLabel->closeEditor();
+    }
 }
 
 // A title editor, of this plot or another, keeps the keyboard while it is shown. A key that is held
 // goes along from one plot to the next.
 void Plotter::takeKeyboard()
 {
-    if (QWidget::keyboardGrabber() == this || !isActiveWindow()
+    if (m_keyboard.isGrabbed() || !isActiveWindow()
         || qobject_cast<QLineEdit *>(QWidget::keyboardGrabber()))
         return;
     grabKeyboard();
-    for (Plotter *plotter : qAsConst(linkedPlotters)) {
-        if (plotter->pressedKey != noKey)
-            holdKey(std::exchange(plotter->pressedKey, noKey));
-    }
+    for (Plotter *plotter : qAsConst(linkedPlotters))
+        m_keyboard.takeKey(plotter->m_keyboard);
 }
 
 void Plotter::mouseMoveEvent(QMouseEvent *event)
 {
     takeKeyboard();
     const QPoint point = event->pos();
-    if (draggedLabel
-        && (point - m_labelPress).manhattanLength() >= QApplication::startDragDistance())
-        draggingTimeLine = true;
-    if (draggingTimeLine)
+    if (m_labelDrag.moveTo(point))
         dragCursor(point.x());
     if (m_rubberBand.isShown())
         m_rubberBand.growTo(point);
@@ -167,8 +134,7 @@ void Plotter::mouseMoveEvent(QMouseEvent *event)
 
 void Plotter::mouseReleaseEvent(QMouseEvent * /*event*/)
 {
-    draggedLabel = nullptr;
-    if (std::exchange(draggingTimeLine, false)) {
+    if (m_labelDrag.end()) {
         refreshAll();
         if (mainWindow)
             mainWindow->refreshVectors();
@@ -191,7 +157,7 @@ void Plotter::mouseDoubleClickEvent(QMouseEvent *event)
 {
     auto *label = qobject_cast<QLabel *>(childAt(event->pos()));
     if (label == plotterLabel) {
-        releaseGrab();
+        m_keyboard.release();
         plotterLabel->openEditor();
         return;
     }
@@ -202,7 +168,7 @@ void Plotter::mouseDoubleClickEvent(QMouseEvent *event)
     if (qobject_cast<CustomLabel *>(label))
         return;
     m_rubberBand.hide();
-    if (m_cursorMarks.isFull())
+    if (m_marks.cursors.isFull())
         return;
     addCursor(event->pos().x(), event->pos().y());
     if (mainWindow)
@@ -222,13 +188,13 @@ void Plotter::labelEditConfirm()
 void Plotter::chooseColor(const QLabel *label)
 {
     const int channel = label->property("channel").toInt();
-    releaseGrab();
+    m_keyboard.release();
     colorDialog->setCurrentColor(Qt::white);
     const QPointer<Plotter> self(this); // another recording may replace the plot meanwhile
     const bool isAccepted = colorDialog->exec() == QDialog::Accepted;
     if (!self || !isAccepted || !colorDialog->selectedColor().isValid())
         return;
-    m_chosenColors.insert(channel, colorDialog->selectedColor());
+    m_channels.chooseColor(channel, colorDialog->selectedColor());
     refreshPixmap();
 }
 
@@ -236,9 +202,9 @@ void Plotter::wheelEvent(QWheelEvent *event)
 {
     const QPoint delta = event->angleDelta();
     const bool isForward = delta.y() > notch - 1;
-    if (pressedKey == Qt::Key_Control) {
+    if (m_keyboard.isHeld(Qt::Key_Control)) {
         isForward ? customZoomIn() : customZoomOut();
-    } else if (pressedKey == Qt::Key_Shift) {
+    } else if (m_keyboard.isHeld(Qt::Key_Shift)) {
         isForward ? customVZoomIn() : customVZoomOut();
     } else {
         const int steps = delta.y() / notch;
@@ -250,20 +216,13 @@ void Plotter::wheelEvent(QWheelEvent *event)
     event->accept();
 }
 
-// Until its release is seen, wherever that goes.
-void Plotter::holdKey(int key)
-{
-    pressedKey = key;
-    qApp->installEventFilter(this);
-}
-
 void Plotter::keyPressEvent(QKeyEvent *event)
 {
     if (plotterLabel->editor()->isVisible()) { // a key that the editor has no use for
         QWidget::keyPressEvent(event);
         return;
     }
-    holdKey(event->key());
+    m_keyboard.hold(event->key());
     QScrollBar *bar = mainWindow ? mainWindow->horizontalScrollBar() : nullptr;
     const auto turnBar = [&](int steps) {
         if (bar)
@@ -301,19 +260,18 @@ void Plotter::keyPressEvent(QKeyEvent *event)
 
 void Plotter::keyReleaseEvent(QKeyEvent * /*event*/)
 {
-    pressedKey = noKey;
+    m_keyboard.releaseKey();
 }
 
 void Plotter::leaveEvent(QEvent * /*event*/)
 {
-    if (QWidget::keyboardGrabber() == this)
-        releaseKeyboard();
+    m_keyboard.endGrab();
 }
 
 void Plotter::contextMenuEvent(QContextMenuEvent *event)
 {
     auto *label = qobject_cast<CustomLabel *>(childAt(event->pos()));
-    const int cursor = m_cursorMarks.cursorOf(label);
+    const int cursor = m_marks.cursors.cursorOf(label);
     if (cursor < 0) {
         event->ignore();
         return;
@@ -324,6 +282,6 @@ void Plotter::contextMenuEvent(QContextMenuEvent *event)
     connect(menu->addAction(tr("Remove Cursor")), &QAction::triggered, this,
         [this, cursor] { removeCursors(cursor, cursor + 1); });
     connect(menu->addAction(tr("Remove All Cursors")), &QAction::triggered, this,
-        [this] { removeCursors(0, m_cursorMarks.count()); });
+        [this] { removeCursors(0, m_marks.cursors.count()); });
     menu->popup(event->globalPos());
 }

@@ -64,16 +64,6 @@ void Plotter::refreshSlot()
     refreshPixmap();
 }
 
-// Each zoom has its own rule for what a digital plot leaves to the shared view.
-void Plotter::shareView(Sharing sharing)
-{
-    const bool shares = sharing == Sharing::Always
-        || (sharing == Sharing::UnlessDigital && !plotType.contains(QLatin1String("Digital")))
-        || (sharing == Sharing::IfAnalog && plotType.contains(QLatin1String("Analog")));
-    if (shares)
-        s_shared.analog = m_view.live();
-}
-
 // The linked plots show the time range of this one from here on; one that is hidden follows when it
 // is shown.
 void Plotter::leadLinked()
@@ -87,7 +77,7 @@ void Plotter::leadLinked()
 void Plotter::follow(const Plotter &leader)
 {
     m_view.follow(leader.m_view);
-    shareView(Sharing::IfAnalog);
+    s_shared.takeLive(m_view, plotType, SharedView::Rule::IfAnalog);
 }
 
 // Of a plot that was hidden or is new.
@@ -101,26 +91,26 @@ void Plotter::followLinked()
     }
 }
 
-bool Plotter::zoomTime(double factor, Sharing sharing)
+bool Plotter::zoomTime(double factor, SharedView::Rule sharing)
 {
     if (!m_view.zoomTime(factor))
         return false;
     s_shared.timeZoom = m_view.timeZoom();
-    shareView(sharing);
+    s_shared.takeLive(m_view, plotType, sharing);
     return true;
 }
 
 void Plotter::customZoomIn()
 {
-    zoomLinked(0.5, Sharing::Always);
+    zoomLinked(0.5, SharedView::Rule::Always);
 }
 
 void Plotter::customZoomOut()
 {
-    zoomLinked(2, Sharing::UnlessDigital);
+    zoomLinked(2, SharedView::Rule::UnlessDigital);
 }
 
-void Plotter::zoomLinked(double factor, Sharing sharing)
+void Plotter::zoomLinked(double factor, SharedView::Rule sharing)
 {
     if (!zoomTime(factor, sharing))
         return;
@@ -131,13 +121,13 @@ void Plotter::zoomLinked(double factor, Sharing sharing)
 
 void Plotter::customZoomIn2()
 {
-    if (zoomTime(0.5, Sharing::IfAnalog))
+    if (zoomTime(0.5, SharedView::Rule::IfAnalog))
         refreshPixmap();
 }
 
 void Plotter::customZoomOut2()
 {
-    if (zoomTime(2, Sharing::IfAnalog))
+    if (zoomTime(2, SharedView::Rule::IfAnalog))
         refreshPixmap();
 }
 
@@ -172,7 +162,7 @@ bool Plotter::zoomValues(double factor, bool keepsCentre)
     if (!m_view.zoomValues(factor, keepsCentre))
         return false;
     s_shared.valueZoom = m_view.valueZoom();
-    shareView(Sharing::IfAnalog);
+    s_shared.takeLive(m_view, plotType, SharedView::Rule::IfAnalog);
     return true;
 }
 
@@ -207,7 +197,7 @@ void Plotter::customResetZoom()
     s_shared.valueZoom = m_view.valueZoom();
     if (m_view.isEmpty())
         return;
-    shareView(Sharing::Always);
+    s_shared.takeLive(m_view, plotType, SharedView::Rule::Always);
     leadLinked();
     takeBarPosition();
     refreshAll();
@@ -240,7 +230,7 @@ bool Plotter::zoomToBand(bool withValues)
     s_shared.timeZoom = m_view.timeZoom();
     if (withValues)
         s_shared.valueZoom = m_view.valueZoom();
-    shareView(Sharing::IfAnalog);
+    s_shared.takeLive(m_view, plotType, SharedView::Rule::IfAnalog);
     return true;
 }
 

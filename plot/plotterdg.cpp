@@ -55,7 +55,7 @@ int plotterDg::neededHeight() const
 {
     return std::max(smallestHeight,
         PlotGeometry::top + PlotGeometry::bottomMargin
-            + smallestRowHeight * (channelMap.size() + 1));
+            + smallestRowHeight * (m_channels.count() + 1));
 }
 
 void plotterDg::drawGrid(QPainter *painter)
@@ -66,8 +66,8 @@ void plotterDg::drawGrid(QPainter *painter)
     drawTimeGrid(*painter, geometry);
     drawFrame(*painter, geometry);
     int row = 0;
-    for (const ShownChannel &shown : qAsConst(channelMap))
-        drawRowLabel(*painter, font(), shown.id, geometry.rowY(row++, channelMap.size()));
+    for (const ShownChannel &shown : qAsConst(m_channels).byNumber())
+        drawRowLabel(*painter, font(), shown.id, geometry.rowY(row++, m_channels.count()));
 }
 
 void plotterDg::drawCurves(QPainter *painter)
@@ -77,9 +77,9 @@ void plotterDg::drawCurves(QPainter *painter)
         return;
     painter->setClipRect(geometry.area());
     int row = 0;
-    for (const ShownChannel &shown : qAsConst(channelMap))
+    for (const ShownChannel &shown : qAsConst(m_channels).byNumber())
         drawDigitalRow(
-            *painter, geometry, m_timeAxis, shown.runs, geometry.rowY(row++, channelMap.size()));
+            *painter, geometry, m_timeAxis, shown.runs, geometry.rowY(row++, m_channels.count()));
 }
 
 void plotterDg::drawValueTable(QPainter * /*painter*/) { }
@@ -95,7 +95,7 @@ void plotterDg::mouseReleaseEvent(QMouseEvent *event)
 
 void plotterDg::wheelEvent(QWheelEvent *event)
 {
-    if (pressedKey == Qt::Key_Control) {
+    if (m_keyboard.isHeld(Qt::Key_Control)) {
         Plotter::wheelEvent(event);
         return;
     }

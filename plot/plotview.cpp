@@ -153,3 +153,12 @@ bool PlotView::follow(const PlotView &other)
     view.numXTicks = other.m_live.numXTicks;
     return show(view);
 }
+
+void SharedView::takeLive(const PlotView &view, const QString &plotType, Rule rule)
+{
+    const bool isTaken = rule == Rule::Always
+        || (rule == Rule::UnlessDigital && !plotType.contains(QLatin1String("Digital")))
+        || (rule == Rule::IfAnalog && plotType.contains(QLatin1String("Analog")));
+    if (isTaken)
+        analog = view.live();
+}

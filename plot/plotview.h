@@ -6,6 +6,8 @@
 #include "plotsettings.h"
 #include "valuepart.h"
 
+#include <QString>
+
 class QRect;
 class QSize;
 
@@ -65,7 +67,12 @@ private:
 
 // What all plots have in common: the last analog view and the last zooms, as fractions shown.
 struct SharedView {
+    // Each zoom has its own rule for the plots whose view is taken over, by their type.
+    enum class Rule { Always, UnlessDigital, IfAnalog };
+
     PlotSettings analog;
     double timeZoom = 1.0;
     double valueZoom = 1.0;
+
+    void takeLive(const PlotView &view, const QString &plotType, Rule rule);
 };

@@ -48,3 +48,10 @@ private:
     QVector<int> columnWidths(const QFont &font, Header shown, bool withValues, int padding) const;
     Layout layout(const PlotGeometry &geometry, const QFont &font) const;
 };
+
+// The room of a readout in its plot.
+struct ReadoutRoom {
+    Readout readout; // as of the last refresh
+    int needed = 0; // width
+    int width = 0; // kept free at the right of the plot area
+};
