@@ -164,24 +164,36 @@ void Plotter::settleReadout()
 }
 
 // Linked plots keep the widest room that one of them needs, so that they line up in time; but no
-// more than half of a plot.
+// more than half of a plot. Where this moves one of them, all readouts are settled first; so a plot
+// that is refreshed for it moves no other again.
 void Plotter::shareReadoutWidth()
 {
-    const auto keepsRoom
-        = [](const Plotter *plotter) { return !plotter->digitalFlag && plotter->isOnScreen(); };
-    int widest = m_readoutRoom.needed;
-    for (const Plotter *plotter : qAsConst(linkedPlotters)) {
-        if (keepsRoom(plotter))
-            widest = std::max(widest, plotter->m_readoutRoom.needed);
+    QVector<Plotter *> sharing;
+    for (Plotter *plotter : QList<Plotter *>{this} + linkedPlotters) {
+        if (!plotter->digitalFlag && plotter->isOnScreen())
+            sharing.append(plotter);
     }
-    const auto roomIn
-        = [&](const Plotter *plotter) { return std::min(plotter->width() / 2, widest); };
-    if (keepsRoom(this))
-        m_readoutRoom.width = roomIn(this);
-    for (Plotter *plotter : qAsConst(linkedPlotters)) {
-        if (keepsRoom(plotter)
-            && std::exchange(plotter->m_readoutRoom.width, roomIn(plotter))
-                != plotter->m_readoutRoom.width)
+    const auto moves = [&] { // the plots whose room becomes another, with its width
+        int widest = 0;
+        for (const Plotter *plotter : qAsConst(sharing))
+            widest = std::max(widest, plotter->m_readoutRoom.needed);
+        QVector<QPair<Plotter *, int>> moved;
+        for (Plotter *plotter : qAsConst(sharing)) {
+            const int width = std::min(plotter->width() / 2, widest);
+            if (width != plotter->m_readoutRoom.width)
+                moved.append({plotter, width});
+        }
+        return moved;
+    };
+    if (moves().isEmpty())
+        return;
+    for (Plotter *plotter : qAsConst(sharing))
+        plotter->settleReadout();
+    const QVector<QPair<Plotter *, int>> settled = moves();
+    for (const auto &[plotter, width] : settled)
+        plotter->m_readoutRoom.width = width;
+    for (const auto &[plotter, width] : settled) {
+        if (plotter != this)
             plotter->refreshPixmap();
     }
 }

@@ -10,7 +10,12 @@
 
 namespace {
 
-template <typename Plot> class Counted : public Plot {
+struct Counts {
+    int baseLayers = 0;
+    int refreshes = 0;
+};
+
+template <typename Plot> class Counted : public Plot, public Counts {
 public:
     using Plot::Plot;
     void drawCurves(QPainter *painter) override
@@ -18,7 +23,11 @@ public:
         ++baseLayers;
         Plot::drawCurves(painter);
     }
-    int baseLayers = 0;
+    void refreshPixmap() override
+    {
+        ++refreshes;
+        Plot::refreshPixmap();
+    }
 };
 
 } // namespace
@@ -36,10 +45,14 @@ private slots:
     void aDragRedrawsNoBaseLayerUntilItEnds();
     void aRefreshThatChangesNothingRedrawsNone();
     void aZoomRedrawsEachPlotOnce();
+    void aReadoutThatWidensRedrawsEachPlotOnce_data();
+    void aReadoutThatWidensRedrawsEachPlotOnce();
 
 private:
-    // Of each plot since the last call.
-    QList<int> baseLayers();
+    // Of each plot since the last call, the digital one at last.
+    QList<int> baseLayers() { return taken(&Counts::baseLayers); }
+    QList<int> refreshes() { return taken(&Counts::refreshes); }
+    QList<int> taken(int Counts::*count);
 
     std::unique_ptr<FakePlotHost> host;
     std::unique_ptr<QWidget> area;
@@ -99,12 +112,12 @@ void TestPlotterRedraws::cleanup()
     host.reset();
 }
 
-QList<int> TestPlotterRedraws::baseLayers()
+QList<int> TestPlotterRedraws::taken(int Counts::*count)
 {
     QList<int> counts;
     for (Counted<Plotter> *plot : qAsConst(analog))
-        counts.append(std::exchange(plot->baseLayers, 0));
-    counts.append(std::exchange(digital->baseLayers, 0));
+        counts.append(std::exchange(plot->*count, 0));
+    counts.append(std::exchange(digital->*count, 0));
     return counts;
 }
 
@@ -149,6 +162,44 @@ void TestPlotterRedraws::aZoomRedrawsEachPlotOnce()
 {
     analog.first()->customZoomIn();
     QCOMPARE(baseLayers(), QList<int>({1, 1, 1, 1, 1, 1, 1, 1}));
+}
+
+// The plots turn to channels whose names grow from plot to plot, so that each needs more room than
+// the one before; none is told of the others.
+void TestPlotterRedraws::aReadoutThatWidensRedrawsEachPlotOnce_data()
+{
+    QTest::addColumn<int>("first"); // to be refreshed
+    QTest::addColumn<bool>("all"); // whether all of them turn, or the first alone
+    QTest::newRow("one of the plots") << 0 << false;
+    QTest::newRow("all plots, the narrowest first") << 0 << true;
+    QTest::newRow("all plots, one in the middle first") << 3 << true;
+    QTest::newRow("all plots, the widest first") << 6 << true;
+}
+
+void TestPlotterRedraws::aReadoutThatWidensRedrawsEachPlotOnce()
+{
+    QFETCH(int, first);
+    QFETCH(bool, all);
+    for (int i = 1; i <= 7; ++i)
+        host->addAnalog(QString(9 + 3 * i, QLatin1Char('M')), QVector<float>(1000, 1));
+    analog.first()->addCursorAt(300);
+    const int width = analog.first()->geometryOfView().readoutWidth();
+    (void)baseLayers();
+    (void)refreshes();
+    for (int i = 0; i < 7; ++i) {
+        if (all || i == first)
+            analog.at(i)->showChannels({i + 1});
+    }
+    analog.at(first)->refreshPixmap();
+    QVERIFY(analog.first()->geometryOfView().readoutWidth() > width);
+    QCOMPARE(refreshes(), QList<int>({1, 1, 1, 1, 1, 1, 1, 0}));
+    QCOMPARE(baseLayers(), QList<int>({1, 1, 1, 1, 1, 1, 1, 0}));
+    for (Plotter *plot : qAsConst(analog))
+        plot->refreshPixmap();
+    QCOMPARE(baseLayers(), QList<int>({0, 0, 0, 0, 0, 0, 0, 0}));
+    for (const Plotter *plot : qAsConst(analog))
+        QCOMPARE(
+            plot->geometryOfView().readoutWidth(), analog.first()->geometryOfView().readoutWidth());
 }
 
 QTEST_MAIN(TestPlotterRedraws)
