@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "plotpair.h"
+#include "viewends.h"
 
 #include <QtTest>
 
-#include <cmath>
 #include <functional>
 #include <memory>
 
@@ -13,20 +13,6 @@ using Operation = std::function<void(Plotter *)>;
 Q_DECLARE_METATYPE(Operation)
 
 namespace {
-
-using Ends = QVector<double>;
-
-// Six decimals: the ends of a band are no round numbers.
-double rounded(double value)
-{
-    return std::round(value * 1e6) / 1e6;
-}
-
-Ends ends(const PlotSettings &view)
-{
-    return {rounded(view.minX), rounded(view.maxX), view.numXTicks, rounded(view.minY),
-        rounded(view.maxY), view.numYTicks};
-}
 
 // What the zooms of one plot leave for all.
 struct Shared {

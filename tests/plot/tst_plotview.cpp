@@ -3,30 +3,17 @@
 
 #include "plotview.h"
 
+#include "viewends.h"
+
 #include <QRect>
 #include <QSize>
 #include <QtTest>
 
-#include <cmath>
 #include <random>
 
 Q_DECLARE_METATYPE(ValueExtremes)
 
 namespace {
-
-using Ends = QVector<double>;
-
-// Six decimals: the ends of a band are no round numbers.
-double rounded(double value)
-{
-    return std::round(value * 1e6) / 1e6;
-}
-
-Ends ends(const PlotSettings &view)
-{
-    return {rounded(view.minX), rounded(view.maxX), view.numXTicks, rounded(view.minY),
-        rounded(view.maxY), view.numYTicks};
-}
 
 constexpr ValueExtremes tenAmperes{-10, 10};
 
