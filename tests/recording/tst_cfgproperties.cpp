@@ -283,17 +283,16 @@ void TestCfgProperties::theDataFileIsNamedAfterTheConfiguration()
     QFETCH(QString, configuration);
     QFETCH(QString, data);
     QFETCH(QString, pathAfterwards);
-    const QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("in.cfg")));
-    QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("in.dat")));
-    QVERIFY(writeTextFile(folder.filePath(configuration), twoChannels()));
-    QVERIFY(writeTextFile(folder.filePath(data), twoSamples));
+    const RecordingFolder folder;
+    QVERIFY(QDir().mkpath(folder.path("in.cfg")));
+    QVERIFY(QDir().mkpath(folder.path("in.dat")));
+    QVERIFY(folder.write(configuration, twoChannels()));
+    QVERIFY(folder.write(data, twoSamples));
     CFGProperties recording;
-    recording.filePath = folder.filePath(configuration);
-    recording.init();
+    folder.loadFile(recording, configuration);
     QCOMPARE(recording.loaded, 1);
     QCOMPARE(recording.sampleCount, 2);
-    QCOMPARE(recording.filePath, folder.filePath(pathAfterwards));
+    QCOMPARE(recording.filePath, folder.path(pathAfterwards));
 }
 
 void TestCfgProperties::ofSeveralDataFilesTheNearestIsRead_data()
@@ -319,17 +318,15 @@ void TestCfgProperties::ofSeveralDataFilesTheNearestIsRead()
     QFETCH(QString, configuration);
     QFETCH(QStringList, others);
     QFETCH(QString, data);
-    const QTemporaryDir folder;
-    QVERIFY(writeTextFile(folder.filePath(configuration), twoChannels()));
-    QVERIFY(writeTextFile(folder.filePath(data), twoSamples));
-    if (QFileInfo::exists(
-            folder.filePath(data.toLower() == data ? data.toUpper() : data.toLower())))
+    const RecordingFolder folder;
+    QVERIFY(folder.write(configuration, twoChannels()));
+    QVERIFY(folder.write(data, twoSamples));
+    if (QFileInfo::exists(folder.path(data.toLower() == data ? data.toUpper() : data.toLower())))
         QSKIP("Names that differ in case alone are one here.");
     for (const QString &other : others)
-        QVERIFY(writeTextFile(folder.filePath(other), "1,0,9,9,0,0\n"));
+        QVERIFY(folder.write(other, "1,0,9,9,0,0\n"));
     CFGProperties recording;
-    recording.filePath = folder.filePath(configuration);
-    recording.init();
+    folder.loadFile(recording, configuration);
     QCOMPARE(recording.sampleCount, 2);
 }
 

@@ -457,16 +457,15 @@ void TestTextReader::aLoadOfAnExport()
     QFETCH(QString, name);
     QFETCH(int, channels);
     QFETCH(int, samples);
-    const QTemporaryDir folder;
-    QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("folder.txt")));
-    QVERIFY(writeTextFile(folder.filePath(QStringLiteral("good.txt")), twoLines));
-    QVERIFY(writeTextFile(folder.filePath(QStringLiteral("empty.txt")), QByteArray()));
+    const RecordingFolder folder;
+    QVERIFY(QDir().mkdir(folder.path("folder.txt")));
+    QVERIFY(folder.write(QStringLiteral("good.txt"), twoLines));
+    QVERIFY(folder.write(QStringLiteral("empty.txt"), QByteArray()));
     CFGProperties recording;
-    recording.filePath = folder.filePath(name);
-    recording.init();
+    folder.loadFile(recording, name);
     // Whatever was found, it counts as loaded.
     QCOMPARE(recording.loaded, 1);
-    QCOMPARE(recording.filePath, folder.filePath(name));
+    QCOMPARE(recording.filePath, folder.path(name));
     QCOMPARE(recording.analogChannelCount, channels);
     QCOMPARE(recording.analogChannels.size(), channels);
     QCOMPARE(recording.sampleCount, samples);

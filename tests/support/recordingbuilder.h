@@ -124,7 +124,20 @@ public:
     RecordingFolder() = default;
     static RecordingFolder inMemory() { return RecordingFolder(QStringLiteral("/dev/shm")); }
 
-    QString path(const char *name) const { return m_folder.filePath(QString::fromUtf8(name)); }
+    QString path(const char *name) const { return path(QString::fromUtf8(name)); }
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+    // Writes a file; false where that fails.
+    bool write(const QString &name, const QByteArray &text) const
+    {
+        return writeTextFile(path(name), text);
+    }
+
+    // The result of init() is in loaded.
+    void loadFile(CFGProperties &recording, const QString &name) const
+    {
+        recording.filePath = path(name);
+        recording.init();
+    }
 
     // Writes <name>.cfg and <name>.dat and loads them; the result of init() is in loaded.
     void load(CFGProperties &recording, const QByteArray &configuration, const QByteArray &data,
