@@ -5,7 +5,12 @@
 
 #include <QScrollBar>
 
+#include <cmath>
+#include <functional>
+#include <limits>
 #include <random>
+
+Q_DECLARE_METATYPE(PlotPair::Series)
 
 namespace {
 
@@ -40,16 +45,22 @@ private slots:
     void randomActionsKeepVisiblePlotsInStep();
 
 private:
-    void makePair(bool isPainted);
+    void makePair(bool isPainted, const PlotPair::Series &series = PlotPair::ordinary());
     QList<Plotter *> plots() const { return {pair->plot, pair->other, pair->digital}; }
     bool areInStep() const;
+    bool areUsable() const;
+    QVector<PlotSettings> views() const;
+    void resizeAll(int width);
+    void setMode(int mode); // of the values
+    void actAtRandom(Plotter *plot, std::mt19937 &random);
+    void goThereAndBack(Plotter *plot, std::mt19937 &random);
 
     std::unique_ptr<PlotPair> pair;
 };
 
-void TestPlotterLinked::makePair(bool isPainted)
+void TestPlotterLinked::makePair(bool isPainted, const PlotPair::Series &series)
 {
-    pair = std::make_unique<PlotPair>(isPainted);
+    pair = std::make_unique<PlotPair>(isPainted, series);
     for (Plotter *plot : plots())
         connect(pair->host.bar.get(), &QScrollBar::valueChanged, plot, &Plotter::scrolling);
 }
@@ -66,6 +77,43 @@ bool TestPlotterLinked::areInStep() const
             return false;
     }
     return true;
+}
+
+// Ranges of numbers, with as many grid lines as can be drawn.
+bool TestPlotterLinked::areUsable() const
+{
+    const auto isUsable = [](double min, double max, double ticks) {
+        return std::isfinite(min) && std::isfinite(max) && min < max && ticks >= 4 && ticks < 100;
+    };
+    for (const PlotSettings &view : views()) {
+        if (!isUsable(view.minX, view.maxX, view.numXTicks)
+            || !isUsable(view.minY, view.maxY, view.numYTicks))
+            return false;
+    }
+    return true;
+}
+
+QVector<PlotSettings> TestPlotterLinked::views() const
+{
+    QVector<PlotSettings> views;
+    for (const Plotter *plot : plots())
+        views.append(plot->view());
+    return views;
+}
+
+void TestPlotterLinked::resizeAll(int width)
+{
+    for (Plotter *plot : plots())
+        plot->resize(width, 103);
+}
+
+void TestPlotterLinked::setMode(int mode)
+{
+    pair->host.mode = mode;
+    for (Plotter *plot : plots()) {
+        plot->rescaleValues();
+        plot->refreshPixmap();
+    }
 }
 
 void TestPlotterLinked::aHiddenPlotTakesNoPart()
@@ -216,26 +264,138 @@ void TestPlotterLinked::aReleasedKeyDoesNot()
 
 void TestPlotterLinked::randomActionsKeepVisiblePlotsInStep_data()
 {
+    QTest::addColumn<PlotPair::Series>("series");
     QTest::addColumn<bool>("isPainted"); // which takes most of the time
     QTest::addColumn<int>("actions");
-    QTest::newRow("a few, painted") << true << 10000;
-    QTest::newRow("many") << false << 100000;
+    const auto changed = [](const std::function<void(PlotPair::Series &, int)> &change) {
+        PlotPair::Series series = PlotPair::ordinary();
+        for (int i = 0; i < series.times.size(); ++i)
+            change(series, i);
+        return series;
+    };
+    const QVector<QPair<const char *, PlotPair::Series>> recordings{
+        {"ordinary", PlotPair::ordinary()},
+        {"flat", changed([](PlotPair::Series &series, int i) { series.values[i] = 7; })},
+        {"one sample", {{5}, {3}}},
+        {"no sample", {}},
+        {"all at one time", changed([](PlotPair::Series &series, int i) { series.times[i] = -3; })},
+        {"times that run back",
+            changed([](PlotPair::Series &series, int i) { series.times[i] = 1000 - i; })},
+        {"a step back in time",
+            changed([](PlotPair::Series &series, int i) { series.times[i] -= i < 700 ? 0 : 400; })},
+        {"no numbers among values and times", changed([](PlotPair::Series &series, int i) {
+             const double odd[] = {qQNaN(), qInf(), -qInf()};
+             if (i % 5 == 0)
+                 series.values[i] = float(odd[i % 3]);
+             if (i % 7 == 0)
+                 series.times[i] = odd[i % 3];
+         })},
+        {"nothing but infinite values",
+            changed([](PlotPair::Series &series, int i) { series.values[i] = float(qInf()); })},
+        {"values and times as large as they can be", changed([](PlotPair::Series &series, int i) {
+             series.values[i] = std::numeric_limits<float>::max() * float(i % 3 - 1);
+             series.times[i] = std::numeric_limits<double>::max() / 1000 * i;
+         })},
+    };
+    const bool isLong = qEnvironmentVariableIsSet("WAVORIN_LONG_TESTS");
+    for (const auto &[name, series] : recordings) {
+        QTest::addRow("%s", name) << series << false
+                                  << (isLong || name == recordings.first().first ? 100000 : 10000);
+        QTest::addRow("%s, painted", name) << series << true << (isLong ? 10000 : 500);
+    }
+}
+
+// All that moves the time but for the plain wheel to a side, which is one plot's own.
+void TestPlotterLinked::actAtRandom(Plotter *plot, std::mt19937 &random)
+{
+    const auto upTo = [&](int count) { return static_cast<int>(random() % unsigned(count)); };
+    QScrollBar *bar = pair->host.bar.get();
+    switch (upTo(11)) {
+    case 0:
+        upTo(2) ? plot->customZoomIn() : plot->customZoomOut();
+        break;
+    case 1:
+        upTo(2) ? plot->customVZoomIn() : plot->customVZoomOut();
+        break;
+    case 2: {
+        const QPoint from(100 + upTo(50), 60 + upTo(2));
+        PlotPair::drag(plot, from, from + QPoint(upTo(60) - 30, 3 + upTo(9)));
+        break;
+    }
+    case 3:
+        bar->setValue(bar->value() + upTo(5) - 2);
+        break;
+    case 4:
+        plots().at(upTo(3))->setVisible(upTo(2));
+        break;
+    case 5:
+        resizeAll(140 + upTo(60));
+        break;
+    case 6:
+        plots().at(upTo(3))->resize(20 + upTo(300), 103); // as one that is hidden may be
+        resizeAll(160);
+        break;
+    case 7:
+        if (upTo(4) == 0) {
+            for (Plotter *each : plots())
+                each->customResetZoom();
+        }
+        break;
+    case 8:
+        setMode(upTo(3));
+        break;
+    case 9: {
+        const Qt::Key held[] = {Qt::Key_Control, Qt::Key_Shift, Qt::Key_A};
+        const Qt::Key key = held[upTo(3)];
+        PlotPair::move(plot, {120, 70});
+        QTest::keyPress(plot, key);
+        PlotPair::wheel(plot, {0, upTo(2) ? 120 : -120});
+        QTest::keyRelease(plot, key);
+        break;
+    }
+    default:
+        QTest::keyClick(plot, Qt::Key(Qt::Key_Left + upTo(4))); // the arrows
+    }
 }
 
 // All that moves the time but for the plain wheel, which is one plot's own.
+
+// What leads back to the very same views at once: other values, another size, out of sight.
+void TestPlotterLinked::goThereAndBack(Plotter *plot, std::mt19937 &random)
+{
+    const QVector<PlotSettings> before = views();
+    const int mode = pair->host.mode;
+    const int width = plot->width();
+    switch (random() % 4) {
+    case 0:
+        setMode(int(random() % 3));
+        setMode(mode);
+        break;
+    case 1:
+        resizeAll(20 + int(random() % 300));
+        resizeAll(width);
+        break;
+    case 2:
+        if (!plot->isHidden()) {
+            plot->hide();
+            plot->show();
+        }
+        break;
+    default:
+        plot->zoomIn();
+        plot->refreshSlot();
+    }
+    QVERIFY(views() == before);
+}
+
 void TestPlotterLinked::randomActionsKeepVisiblePlotsInStep()
 {
+    QFETCH(PlotPair::Series, series);
     QFETCH(bool, isPainted);
     QFETCH(int, actions);
-    makePair(isPainted);
+    makePair(isPainted, series);
     std::mt19937 random(20240315);
-    const auto upTo = [&](int count) { return static_cast<int>(random() % unsigned(count)); };
-    QScrollBar *bar = pair->host.bar.get();
-    const auto setWidth = [&](int width) {
-        for (Plotter *plot : plots())
-            plot->resize(width, 103);
-    };
-    setWidth(160);
+    resizeAll(160);
     int zooms = 0;
     for (int action = 0; action < actions; ++action) {
         QList<Plotter *> shown;
@@ -243,52 +403,25 @@ void TestPlotterLinked::randomActionsKeepVisiblePlotsInStep()
             if (!plot->isHidden())
                 shown.append(plot);
         }
-        Plotter *plot = shown.isEmpty() ? pair->plot : shown.at(upTo(shown.size()));
+        Plotter *plot
+            = shown.isEmpty() ? pair->plot : shown.at(int(random() % unsigned(shown.size())));
         const double span = plot->view().spanX();
-        switch (upTo(10)) {
-        case 0:
-            upTo(2) ? plot->customZoomIn() : plot->customZoomOut();
-            break;
-        case 1:
-            upTo(2) ? plot->customVZoomIn() : plot->customVZoomOut();
-            break;
-        case 2: {
-            const QPoint from(100 + upTo(50), 60 + upTo(2));
-            PlotPair::drag(plot, from, from + QPoint(upTo(60) - 30, 3 + upTo(9)));
-            break;
-        }
-        case 3:
-            bar->setValue(bar->value() + upTo(5) - 2);
-            break;
-        case 4:
-            plots().at(upTo(3))->setVisible(upTo(2));
-            break;
-        case 5:
-            setWidth(140 + upTo(60));
-            break;
-        case 6:
-            plots().at(upTo(3))->resize(20 + upTo(300), 103); // as one that is hidden may be
-            setWidth(160);
-            break;
-        case 7:
-            if (upTo(4) == 0) {
-                for (Plotter *each : plots())
-                    each->customResetZoom();
-            }
-            break;
-        case 8:
-            pair->host.mode = upTo(3);
-            for (Plotter *each : plots())
-                each->rescaleValues();
-            plot->zoomIn();
-            break;
-        default:
-            QTest::keyClick(plot, upTo(2) ? Qt::Key_Left : Qt::Key_Right);
-        }
+        actAtRandom(plot, random);
         zooms += plot->view().spanX() != span;
         QVERIFY2(areInStep(), qPrintable(QString::number(action)));
+        QVERIFY2(areUsable(), qPrintable(QString::number(action)));
+        goThereAndBack(plot, random);
+        QVERIFY2(!QTest::currentTestFailed(), qPrintable(QString::number(action)));
     }
-    QVERIFY(zooms > actions / 20);
+    QVERIFY2(zooms > actions / 20, qPrintable(QString::number(zooms)));
+    for (Plotter *plot : plots())
+        plot->show();
+    for (int time = 0; time < 2; ++time) {
+        for (Plotter *plot : plots())
+            plot->customResetZoom();
+        for (const Plotter *plot : plots())
+            QVERIFY(plot->view() == plot->home());
+    }
 }
 
 QTEST_MAIN(TestPlotterLinked)

@@ -22,24 +22,34 @@ public:
 };
 
 // Two linked analog plots and a digital one, one over the other in a host of 803 x 301, over a
-// recording of 1000 ms. Without cursors, the time line and the cursors have 700 pixels for the
-// 1000 ms, from x = 100 on; the traces have 703. The views are 0 to 1000 ms and -12 to 12.
+// recording of 1000 ms unless told otherwise. Without cursors, the time line and the cursors have
+// 700 pixels for the 1000 ms, from x = 100 on; the traces have 703. The views are 0 to 1000 ms and
+// -12 to 12.
 class PlotPair {
 public:
-    explicit PlotPair(bool isPainted = true)
+    // What both analog channels have sampled, at which times in ms.
+    struct Series {
+        QVector<double> times;
+        QVector<float> values;
+    };
+    static Series ordinary()
     {
-        QVector<double> times(1001);
-        QVector<float> current(1001);
-        for (int i = 0; i < times.size(); ++i) {
-            times[i] = i;
-            current[i] = float(i % 21 - 10);
+        Series series;
+        for (int i = 0; i <= 1000; ++i) {
+            series.times.append(i);
+            series.values.append(float(i % 21 - 10));
         }
-        host.setTimes(times);
+        return series;
+    }
+
+    explicit PlotPair(bool isPainted = true, const Series &series = ordinary())
+    {
+        host.setTimes(series.times);
         host.source->durationMs = 1000;
         host.source->sampleRate = 1000;
-        host.addAnalog(QStringLiteral("Ia"), current);
-        host.addAnalog(QStringLiteral("Ib"), current);
-        host.addDigital(QStringLiteral("Trip"), QVector<int>(1001, 1));
+        host.addAnalog(QStringLiteral("Ia"), series.values);
+        host.addAnalog(QStringLiteral("Ib"), series.values);
+        host.addDigital(QStringLiteral("Trip"), QVector<int>(series.times.size(), 1));
 
         area.resize(803, 301);
         plot = add<Plotter>(QStringLiteral("Analog"), isPainted);
