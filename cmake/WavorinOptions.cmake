@@ -16,7 +16,7 @@ if(WAVORIN_WERROR)
         $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-Werror>)
 endif()
 if(WAVORIN_SANITIZE)
-    set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    set(sanitizers -fsanitize=${WAVORIN_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     # Instrumented, the standard library's own regular expressions look uninitialized to GCC.
     target_compile_options(wavorin_options INTERFACE
         ${sanitizers} $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
