@@ -19,7 +19,6 @@
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QMouseEvent>
-#include <QPixmap>
 #include <QTemporaryDir>
 
 #include <array>
@@ -57,10 +56,9 @@ public:
         if (isPair)
             write(m_folder.filePath(QStringLiteral("recording.dat")), texts.at(1));
         m_window.open(path);
-        QCoreApplication::processEvents();
+        QCoreApplication::processEvents(); // draws
         for (const char gesture : texts.value(2).left(mostGestures))
             perform(gesture);
-        m_window.grab();
         leave();
     }
 
@@ -179,7 +177,8 @@ private:
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QApplication application(*argc, *argv);
+    new QApplication(
+        *argc, *argv); // stays, as the stage does: at the exit neither goes before the other
     return 0;
 }
 
@@ -187,7 +186,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t size)
 {
     // The plots of one recording stay until the next one is opened, and with them its records.
     static std::unique_ptr<RecordsOfRun> former;
-    static Stage &stage = *new Stage; // the application goes first
+    static Stage &stage = *new Stage;
     auto records = std::make_unique<RecordsOfRun>();
     stage.open(inputOf(bytes, size).split('\x1c'));
     former = std::move(records);
