@@ -7,6 +7,7 @@
 #include "brand.h"
 #include "cfgproperties.h"
 #include "ctvtdialog.h"
+#include "filekind.h"
 #include "overwritequestion.h"
 #include "plotcapture.h"
 #include "plotstyle.h"
@@ -19,6 +20,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QSaveFile>
 
 #include <algorithm>
 
@@ -41,6 +43,18 @@ void stylePlots(const QList<Plotter *> &plots, const QString &styleSheet)
 {
     for (Plotter *plot : plots)
         plot->setStyleSheet(styleSheet);
+}
+
+// What stood there goes only where all of the picture can be written. A file that cannot be
+// replaced is written in its place.
+void savePicture(const QPixmap &picture, const QString &path, const QString &format)
+{
+    const QByteArray name = format.toLatin1();
+    QSaveFile file(path);
+    if (!isPipeOrDevice(path) && file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)
+        && (!picture.save(&file, name.constData()) || file.commit()))
+        return;
+    picture.save(path, name.constData());
 }
 
 // A folder is none of them: it is never replaced.
@@ -94,7 +108,7 @@ void MainWindow::saveScreenShot()
         tr("%1 Files (*.%2);;All Files (*)").arg(format.toUpper(), format));
     if (path.isEmpty())
         return;
-    picture.save(path, format.toLatin1().constData());
+    savePicture(picture, path, format);
     stylePlots(plots(), screenStyle);
 }
 

@@ -3,11 +3,14 @@
 
 #include "applicationidentity.h"
 #include "applicationsettings.h"
+#include "filesizelimit.h"
 #include "windowtest.h"
 
 #include <QTemporaryDir>
 #include <QTranslator>
 #include <QtTest>
+
+#include <optional>
 
 namespace {
 
@@ -44,6 +47,41 @@ private slots:
         QCOMPARE(place.position, QPoint(12, 34));
         QCOMPARE(place.size, QSize(1200, 800));
         QCOMPARE(place.maximized, true);
+    }
+
+    void placeThatCannotBeWritten_data()
+    {
+        QTest::addColumn<bool>("isFull");
+        QTest::newRow("the disk is full") << true;
+        QTest::newRow("a folder stands in its place") << false;
+    }
+
+    void placeThatCannotBeWritten()
+    {
+        QFETCH(bool, isFull);
+        writeSettings({{12, 34}, {1200, 800}, true}, QStringLiteral("drv_fi"));
+        const QString name
+            = QSettings(QStringLiteral("Norvale"), QStringLiteral("Wavorin")).fileName();
+        const QString aside = name + QLatin1String(".aside");
+        QFile file(name);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray before = file.readAll();
+        QVERIFY(before.contains("12 34"));
+        file.close();
+        if (!isFull)
+            QVERIFY(QFile::rename(name, aside) && QDir().mkdir(name));
+        {
+            std::optional<FileSizeLimit> limit;
+            if (isFull)
+                limit.emplace(0);
+            writeSettings({{56, 78}, {900, 700}, false}, QStringLiteral("drv_en"));
+        }
+        if (!isFull)
+            QVERIFY(QDir().rmdir(name) && QFile::rename(aside, name));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), before);
+        writeSettings({{56, 78}, {900, 700}, false}, QStringLiteral("drv_en"));
+        QCOMPARE(readWindowPlace().position, QPoint(56, 78));
     }
 
     void keysInTheOwnSettings()

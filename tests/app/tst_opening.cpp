@@ -24,9 +24,13 @@
 
 #include <algorithm>
 #include <ctime>
+#include <functional>
 #include <memory>
 #include <sys/stat.h>
 #include <unistd.h>
+
+using Change = std::function<void(const QString &stem)>;
+Q_DECLARE_METATYPE(Change)
 
 class TestOpening : public WindowFixture {
     Q_OBJECT
@@ -412,6 +416,89 @@ private slots:
         QVERIFY(!box->isChecked());
         box->click();
         QVERIFY(box->isChecked() && window->showsAngles());
+    }
+
+    // This process's own memory looks like a file, and its first bytes cannot be read.
+    void fileThatFailsIsNotSupported_data()
+    {
+        QTest::addColumn<QString>("faulty");
+        QTest::newRow("the configuration") << "bad.cfg";
+        QTest::newRow("the data") << "bad.dat";
+        QTest::newRow("an export") << "bad.txt";
+    }
+
+    void fileThatFailsIsNotSupported()
+    {
+        QFETCH(QString, faulty);
+        if (!QFile::exists(QStringLiteral("/proc/self/mem")))
+            QSKIP("there is no such file here");
+        goodRecording("bad");
+        QFile::remove(folder->filePath(faulty));
+        QVERIFY(QFile::link(QStringLiteral("/proc/self/mem"), folder->filePath(faulty)));
+        window->open(goodRecording("before"));
+        window->open(path(faulty.endsWith(QLatin1String("txt")) ? "bad.txt" : "bad.cfg"));
+        const QList<BoxReader::Box> seen = boxes->take();
+        QCOMPARE(seen.size(), 1);
+        QCOMPARE(seen[0].text, QStringLiteral("File not supported."));
+        QVERIFY(viewIsEmpty());
+        QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - before.cfg"));
+        window->open(goodRecording("after"));
+        QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - after.cfg"));
+    }
+
+    // After the file was tried and before it is read.
+    void filesChangeWhileTheLoadBegins_data()
+    {
+        QTest::addColumn<Change>("change");
+        QTest::addColumn<int>("samples"); // 0 where it is not supported
+        QTest::addColumn<int>("channels");
+        const QLatin1String cfg(".cfg");
+        const QLatin1String dat(".dat");
+        QTest::newRow("both are replaced") << Change([=](const QString &stem) {
+            QVERIFY(QFile::remove(stem + cfg) && QFile::remove(stem + dat));
+            ConfigurationText text;
+            text.addAnalog("U,A,,V,1,0,0,-9,9,1,1,P");
+            QVERIFY(writeTextFile(stem + cfg, text.text()));
+            QVERIFY(writeTextFile(stem + dat, "1,0,5\n2,1000,6\n"));
+        }) << 2 << 1;
+        QTest::newRow("the configuration is removed")
+            << Change([=](const QString &stem) { QVERIFY(QFile::remove(stem + cfg)); }) << 40 << 0;
+        QTest::newRow("the configuration is emptied")
+            << Change([=](const QString &stem) { QVERIFY(QFile::resize(stem + cfg, 0)); }) << 40
+            << 0;
+        QTest::newRow("the data are removed")
+            << Change([=](const QString &stem) { QVERIFY(QFile::remove(stem + dat)); }) << 0 << 0;
+        QTest::newRow("the data are emptied")
+            << Change([=](const QString &stem) { QVERIFY(QFile::resize(stem + dat, 0)); }) << 0
+            << 0;
+        QTest::newRow("the data shrink to their first line") << Change([=](const QString &stem) {
+            QVERIFY(QFile::resize(stem + dat, smallData().indexOf('\n') + 1));
+        }) << 1 << 2;
+        QTest::newRow("the folder is removed") << Change([](const QString &stem) {
+            QVERIFY(QFileInfo(stem).dir().removeRecursively());
+        }) << 0 << 0;
+    }
+
+    void filesChangeWhileTheLoadBegins()
+    {
+        QFETCH(Change, change);
+        QFETCH(int, samples);
+        QFETCH(int, channels);
+        window->open(goodRecording("before"));
+        QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("in")));
+        const QString changing = writeSmallRecording(path("in"), QStringLiteral("rec"));
+        delayLoader();
+        connect(
+            window.get(), &MainWindow::initProperties, this, [&] { change(changing.chopped(4)); });
+        window->open(changing);
+        QCOMPARE(boxes->take().size(), samples == 0 ? 1 : 0);
+        QCOMPARE(window->recording() != nullptr, samples > 0);
+        if (samples > 0)
+            QCOMPARE(window->recording()->sampleCount, samples);
+        QCOMPARE(listed("listWidget").size(), channels);
+        disconnect(window.get(), &MainWindow::initProperties, this, nullptr);
+        window->open(goodRecording("after"));
+        QCOMPARE(listed("listWidget").size(), 2);
     }
 
     // Nobody writes to it, so that its reader would wait for ever.

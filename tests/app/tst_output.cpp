@@ -4,6 +4,7 @@
 #include "cfgproperties.h"
 #include "ctvtdialog.h"
 #include "filesizelimit.h"
+#include "ordinaryuser.h"
 #include "plotterdg.h"
 #include "smallrecording.h"
 #include "windowfixture.h"
@@ -18,6 +19,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <sys/stat.h>
 
 class TestOutput : public WindowFixture {
     Q_OBJECT
@@ -67,6 +69,15 @@ class TestOutput : public WindowFixture {
                 edit->setText(name);
                 QTest::keyClick(edit, Qt::Key_Return);
             }
+        });
+    }
+
+    // Answers the question of a file dialog that has been answered with the name of a file.
+    void agreeToReplace()
+    {
+        QTimer::singleShot(300, this, [] {
+            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget()))
+                QTest::mouseClick(box->button(QMessageBox::Yes), Qt::LeftButton);
         });
     }
 
@@ -155,6 +166,69 @@ private slots:
         QVERIFY(boxes.count() == 0);
         QVERIFY(window->statusBar()->currentMessage().isEmpty());
         expectStyle(screenStyle);
+    }
+
+    void aScreenshotThatDoesNotFitLeavesWhatWasThere_data()
+    {
+        QTest::addColumn<QByteArray>("before"); // null where there is no such file
+        QTest::addColumn<int>("bytes"); // that fit
+        QTest::newRow("a new one, nothing fits") << QByteArray() << 0;
+        QTest::newRow("a new one, its beginning fits") << QByteArray() << 1000;
+        QTest::newRow("an old one, nothing fits") << QByteArray("before") << 0;
+        QTest::newRow("an old one, the beginning of the new one fits")
+            << QByteArray("before") << 1000;
+    }
+
+    void aScreenshotThatDoesNotFitLeavesWhatWasThere()
+    {
+        QFETCH(QByteArray, before);
+        QFETCH(int, bytes);
+        const QString name = path("shot.png");
+        if (!before.isNull())
+            QVERIFY(writeTextFile(name, before));
+        const QStringList files = QDir(folder->path()).entryList();
+        const auto save = [&] {
+            answerFileDialog(name);
+            agreeToReplace();
+            trigger("&Save screenshot");
+        };
+        {
+            const FileSizeLimit limit(static_cast<rlim_t>(bytes));
+            save();
+        }
+        QCOMPARE(fileText(name), QString::fromLatin1(before));
+        QCOMPARE(QDir(folder->path()).entryList(), files);
+        QVERIFY(window->statusBar()->currentMessage().isEmpty());
+        expectStyle(screenStyle);
+        save();
+        QCOMPARE(QImage(name, "png").size(), plotColumn()->size());
+    }
+
+    void aScreenshotNeedsNoRoomBesideAnOldOne_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("in a folder that takes no new files") << "shut/shot.png";
+        QTest::newRow("of a name that leaves no room for another")
+            << QString(250, QLatin1Char('x')) + QLatin1String(".png");
+    }
+
+    void aScreenshotNeedsNoRoomBesideAnOldOne()
+    {
+        QFETCH(QString, name);
+        QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("shut")));
+        const QString file = folder->filePath(name);
+        QVERIFY(writeTextFile(file, "before"));
+        QCOMPARE(chmod(QFile::encodeName(file).constData(), 0666), 0);
+        QCOMPARE(chmod(QFile::encodeName(path("shut")).constData(), 0555), 0);
+        QCOMPARE(chmod(QFile::encodeName(folder->path()).constData(), 0777), 0);
+        answerFileDialog(file);
+        agreeToReplace();
+        {
+            const OrdinaryUser user;
+            trigger("&Save screenshot");
+        }
+        QCOMPARE(chmod(QFile::encodeName(path("shut")).constData(), 0755), 0); // to be removed
+        QCOMPARE(QImage(file, "png").size(), plotColumn()->size());
     }
 
     void cancelledScreenshotLeavesTheCaptureStyle()
