@@ -395,6 +395,21 @@ private slots:
         QCOMPARE(titles(), english);
     }
 
+    // Its file may be lost, that of the last choice may be there.
+    void missingTranslationShowsTheSourceTexts()
+    {
+        const Shown before = shownTexts();
+        choose(finnish.entry);
+        QVERIFY(shownTexts() != before);
+        QAction missing(QStringLiteral("Suomi"));
+        missing.setData(QStringLiteral("drv_none"));
+        window->slotLanguageChanged(&missing);
+        QCoreApplication::processEvents();
+        QVERIFY(shownTexts() == before);
+        choose(finnish.entry);
+        QVERIFY(shownTexts() != before);
+    }
+
     void switchingKeepsValuesAndChoices()
     {
         auto *combo = child<QComboBox>("comboBox_primSec");
