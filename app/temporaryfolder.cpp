@@ -102,7 +102,7 @@ void TemporaryFolder::remove()
 // A link would be followed to the file by what is unpacked, if it lay in the folder.
 QString TemporaryFolder::plainPath(const QString &file)
 {
-    const QString path = m_path + linkEnding;
+    QString path = m_path + linkEnding;
     const QString absolute = QFileInfo(file).absoluteFilePath();
 #ifdef Q_OS_WIN
     QFile::copy(absolute, path); // a link needs rights of its own
