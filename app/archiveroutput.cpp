@@ -7,10 +7,27 @@
 
 namespace {
 
-// The path as it looks where the archiver's output is taken as Latin-1.
+// The path as it looks where the archiver's output is taken as Latin-1. Which code page that output
+// has is the system's affair: a letter beyond ASCII may be one to three bytes of any kind.
 QString pathPattern(const QString &path)
 {
-    return QRegularExpression::escape(QString::fromLatin1(path.toLocal8Bit()));
+    QString pattern;
+    int others = 0; // letters beyond ASCII in a row
+    const auto addOthers = [&] {
+        if (others > 0)
+            pattern += QStringLiteral("[^\\n]{%1,%2}").arg(others).arg(3 * others);
+        others = 0;
+    };
+    for (const QChar letter : path) {
+        if (letter.unicode() >= 0x80) {
+            ++others;
+            continue;
+        }
+        addOthers();
+        pattern += QRegularExpression::escape(letter);
+    }
+    addOthers();
+    return pattern;
 }
 
 } // namespace

@@ -98,6 +98,16 @@ void TestArchiverOutput::reactsToWords_data()
         << QStringLiteral("/h\u00e4iri\u00f6/\u6545\u969c error.zip")
         << QByteArray("Path = /h\xc3\xa4iri\xc3\xb6/\xe6\x95\x85\xe9\x9a\x9c error.zip\n") << none
         << false;
+    const QString foreign = QStringLiteral("C:\\error \u00e4\u00c5\\\u6545\u969c error.zip");
+    QTest::newRow("a path in the code page of a console, other letters as underscores")
+        << foreign << QByteArray("Path = C:\\error \x84\x8f\\__ error.zip\n") << none << false;
+    QTest::newRow("a path in a Chinese code page, other letters by their likes")
+        << foreign << QByteArray("Path = C:\\error aA\\\xb9\xca\xd5\xcf error.zip\n") << none
+        << false;
+    QTest::newRow("an error beside a path in a code page counts")
+        << foreign << QByteArray("ERROR: C:\\error \x84\x8f\\__ error.zip\n") << none << true;
+    QTest::newRow("a path with more letters than the package's counts")
+        << foreign << QByteArray("C:\\error 1234567\\__ error.zip\n") << none << true;
     QTest::newRow("a path with signs of patterns is taken as it stands")
         << QStringLiteral("/rec/(error)+[1].zip") << QByteArray("Path = /rec/(error)+[1].zip\n")
         << none << false;
