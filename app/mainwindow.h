@@ -116,7 +116,6 @@ private:
     bool parse(const QString &path); // on the loader thread
     void showInvalidPackage();
     void showWarning(const QString &text);
-    void showFileWarning(const QString &text, const QString &path, const QString &error);
     void clearView();
     void showRecording();
     void setCurrentFile(const QString &path);

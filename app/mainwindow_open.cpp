@@ -9,6 +9,7 @@
 #include "cancelwatch.h"
 #include "cfgproperties.h"
 #include "filekind.h"
+#include "filewarning.h"
 #include "loadinganimation.h"
 #include "packageunpacker.h"
 
@@ -70,11 +71,12 @@ void MainWindow::load(QString path)
 {
     QFile tried(path); // only to see that it can be read; it stays open to the end
     if (isPipeOrDevice(path)) {
-        showFileWarning(tr("Cannot read file %1:\n%2."), path, tr("It is a pipe or a device"));
+        showWarning(
+            fileWarning(tr("Cannot read file %1:\n%2."), path, tr("It is a pipe or a device")));
         return;
     }
     if (!tried.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        showFileWarning(tr("Cannot read file %1:\n%2."), path, tried.errorString());
+        showWarning(fileWarning(tr("Cannot read file %1:\n%2."), path, tried.errorString()));
         return;
     }
     if (isPackage(path) && !unpack(path))
@@ -170,13 +172,6 @@ void MainWindow::showWarning(const QString &text)
     box->setTextFormat(Qt::PlainText);
     box->exec();
     delete box; // unless the window has gone with it
-}
-
-// The toolkit gives the reasons in English alone.
-void MainWindow::showFileWarning(const QString &text, const QString &path, const QString &error)
-{
-    showWarning(
-        text.arg(path, QCoreApplication::translate("QIODevice", error.toUtf8().constData())));
 }
 
 void MainWindow::setCurrentFile(const QString &path)

@@ -8,6 +8,7 @@
 #include "cfgproperties.h"
 #include "ctvtdialog.h"
 #include "filekind.h"
+#include "filewarning.h"
 #include "overwritequestion.h"
 #include "plotcapture.h"
 #include "plotstyle.h"
@@ -135,7 +136,7 @@ void MainWindow::reportSaving(const QString &failedFile, const QString &error)
     if (failedFile.isEmpty())
         statusBar()->showMessage(tr("File saved."), messageDuration);
     else
-        showFileWarning(tr("Cannot write file %1:\n%2."), failedFile, error);
+        showWarning(fileWarning(tr("Cannot write file %1:\n%2."), failedFile, error));
 }
 
 void MainWindow::saveRecording(const QString &path, double start, double end)
