@@ -34,10 +34,26 @@ void writeSettings(const WindowPlace &place, const QString &language)
 
 QString companionRecordingsFolder()
 {
-    QSettings settings(ApplicationIdentity::organisationName(),
-        brandDetails(ApplicationIdentity::brand()).companionTool);
-    settings.beginGroup(QStringLiteral("SettingsDialog"));
-    return settings.value(QStringLiteral("DRFilesPath")).toString();
+    const QString organisation = ApplicationIdentity::organisationName();
+    const QString tool = brandDetails(ApplicationIdentity::brand()).companionTool;
+    const QString key = QStringLiteral("SettingsDialog/DRFilesPath");
+#ifdef Q_OS_WIN
+    // Settings that are opened by their names make a key of the registry for the tool, though it
+    // may not be there. These are the places that they would look in, in that order.
+    for (const char *root : {"HKEY_CURRENT_USER", "HKEY_LOCAL_MACHINE"}) {
+        const QSettings software(
+            QLatin1String(root) + QLatin1String("\\Software"), QSettings::NativeFormat);
+        for (const QString &application : {tool, QStringLiteral("OrganizationDefaults")}) {
+            const QVariant folder = software.value(
+                organisation + QLatin1Char('/') + application + QLatin1Char('/') + key);
+            if (!application.isEmpty() && folder.isValid())
+                return folder.toString();
+        }
+    }
+    return QString();
+#else
+    return QSettings(organisation, tool).value(key).toString();
+#endif
 }
 
 QStringList translationFolders()

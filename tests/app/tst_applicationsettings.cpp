@@ -149,6 +149,24 @@ private slots:
         QCOMPARE(folder, QString());
     }
 
+    void readingLeavesNoSettingsOfTheCompanionBehind()
+    {
+#ifdef Q_OS_WIN
+        QSettings maker(
+            QStringLiteral("HKEY_CURRENT_USER\\Software\\Norvale"), QSettings::NativeFormat);
+        maker.remove(QStringLiteral("Setterra"));
+        QCOMPARE(companionRecordingsFolder(), QString());
+        QVERIFY2(!maker.childGroups().contains(QStringLiteral("Setterra")),
+            qPrintable(maker.childGroups().join(QLatin1Char(' '))));
+#else
+        const QString file
+            = QSettings(QStringLiteral("Norvale"), QStringLiteral("Setterra")).fileName();
+        QFile::remove(file);
+        QCOMPARE(companionRecordingsFolder(), QString());
+        QVERIFY(!QFile::exists(file));
+#endif
+    }
+
     // One name in every place: the place that is taken is removed, and the next one has its turn.
     void translationsAreLookedForInThisOrder()
     {
