@@ -34,6 +34,7 @@ int main(int argc, char *argv[])
     QCoreApplication::setOrganizationName(ApplicationIdentity::organisationName());
     QCoreApplication::setApplicationName(ApplicationIdentity::applicationName());
     preferApplicationFolder();
+    useTheSystemsFont();
     preferSimplifiedCharacters();
 
     auto *splash = new QSplashScreen(QPixmap(), Qt::WindowFlags());

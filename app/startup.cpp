@@ -24,11 +24,20 @@ void preferApplicationFolder()
 #endif
 }
 
+void useTheSystemsFont()
+{
+#ifdef Q_OS_WIN
+    // The toolkit starts with the font of old dialogs.
+    QApplication::setFont(QApplication::font("QMessageBox"));
+#endif
+}
+
 void preferSimplifiedCharacters()
 {
     const QFont font = QApplication::font();
-    QFont::insertSubstitutions(
-        font.family(), {QFontInfo(font).family(), QStringLiteral("Noto Sans CJK SC")});
+    QFont::insertSubstitutions(font.family(),
+        {QFontInfo(font).family(), QStringLiteral("Noto Sans CJK SC"),
+            QStringLiteral("Microsoft YaHei")});
 }
 
 void openOrWait(MainWindow &window, const QString &path)

@@ -10,6 +10,9 @@ class QString;
 // lies beside the program.
 void preferApplicationFolder();
 
+// Has windows and dialogs use the font that the desktop's own dialogs have.
+void useTheSystemsFont();
+
 // Has Chinese characters shown in their simplified shapes: which ones a system falls back to goes
 // by its own language. To be called before any text is laid out.
 void preferSimplifiedCharacters();

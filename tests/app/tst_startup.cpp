@@ -136,6 +136,14 @@ private slots:
         QVERIFY(families.contains(wanted));
     }
 
+    void simplifiedFontsOfEverySystemAreTried()
+    {
+        preferSimplifiedCharacters();
+        const QStringList tried = QFont::substitutes(QApplication::font().family());
+        QVERIFY(tried.contains(QStringLiteral("noto sans cjk sc")));
+        QVERIFY(tried.contains(QStringLiteral("microsoft yahei")));
+    }
+
     void everyBrandHasImagesOfItsOwn_data()
     {
         QTest::addColumn<QString>("kind");
