@@ -11,9 +11,17 @@
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QShowEvent>
 
+#include <algorithm>
+
 namespace {
+
+// Rows that are made at once. The first ones stand before the dialog is shown; the next ones fill
+// more than a screen, and more follow as the end comes into sight.
+constexpr int firstRows = 32;
+constexpr int rowsOfAPortion = 256;
 
 void setRatio(AnalogChannel &channel, double primary, double secondary)
 {
@@ -36,6 +44,9 @@ CTVTDialog::CTVTDialog(QWidget *parent)
 {
     ui->setupUi(this);
     ui->rows->setAutoFillBackground(false);
+    const QScrollBar *bar = ui->scrollArea->verticalScrollBar();
+    connect(bar, &QScrollBar::valueChanged, this, &CTVTDialog::makeRowsInSight);
+    connect(bar, &QScrollBar::rangeChanged, this, &CTVTDialog::makeRowsInSight);
 }
 
 CTVTDialog::~CTVTDialog() = default;
@@ -46,11 +57,17 @@ void CTVTDialog::setChannels(
     channelNames = names;
     appliedPrimaries = primaries;
     appliedSecondaries = secondaries;
-    for (int i = 0; i < names.size(); ++i) {
-        nameLabels.append(new QLabel(shownName(names.at(i)), this));
+    makeRows(isVisible() ? rowsOfAPortion : firstRows);
+}
+
+void CTVTDialog::makeRows(int count)
+{
+    const int end = std::min(channelNames.size(), nameLabels.size() + count);
+    for (int i = nameLabels.size(); i < end; ++i) {
+        nameLabels.append(new QLabel(shownName(channelNames.at(i)), this));
         nameLabels.last()->setTextFormat(Qt::PlainText);
-        primaryEdits.append(new QLineEdit(primaries.value(i), this));
-        secondaryEdits.append(new QLineEdit(secondaries.value(i), this));
+        primaryEdits.append(new QLineEdit(appliedPrimaries.value(i), this));
+        secondaryEdits.append(new QLineEdit(appliedSecondaries.value(i), this));
         ui->gridLayout->addWidget(nameLabels.last(), i + 1, 0);
         ui->gridLayout->addWidget(primaryEdits.last(), i + 1, 1);
         ui->gridLayout->addWidget(secondaryEdits.last(), i + 1, 2);
@@ -59,6 +76,16 @@ void CTVTDialog::setChannels(
         setTabOrder(secondaryEdits.last(), ui->pushButton_Close);
         setTabOrder(secondaryEdits.last(), ui->pushButton_Set);
     }
+}
+
+// The Tab key, too, scrolls to the row it reaches, so that it never comes to the last one before
+// the next ones stand.
+void CTVTDialog::makeRowsInSight()
+{
+    const QScrollBar *bar = ui->scrollArea->verticalScrollBar();
+    if (isVisible() && nameLabels.size() < channelNames.size()
+        && bar->value() + bar->pageStep() >= bar->maximum())
+        makeRows(rowsOfAPortion);
 }
 
 void CTVTDialog::clearChannels()
@@ -80,15 +107,17 @@ void CTVTDialog::clearChannels()
 void CTVTDialog::on_pushButton_Set_clicked()
 {
     const CFGProperties *recording = mainWindow ? mainWindow->recording() : nullptr;
-    appliedPrimaries.clear();
-    appliedSecondaries.clear();
-    for (int i = 0; i < nameLabels.size(); ++i) {
-        appliedPrimaries.append(primaryEdits.at(i)->text());
-        appliedSecondaries.append(secondaryEdits.at(i)->text());
+    QStringList primaries;
+    QStringList secondaries;
+    for (int i = 0; i < channelNames.size(); ++i) {
+        const bool isMade = i < nameLabels.size(); // or else nothing can have been typed
+        primaries.append(isMade ? primaryEdits.at(i)->text() : appliedPrimaries.value(i));
+        secondaries.append(isMade ? secondaryEdits.at(i)->text() : appliedSecondaries.value(i));
         if (AnalogChannel *channel = recording ? recording->analogChannels.value(i) : nullptr)
-            setRatio(
-                *channel, appliedPrimaries.at(i).toDouble(), appliedSecondaries.at(i).toDouble());
+            setRatio(*channel, primaries.at(i).toDouble(), secondaries.at(i).toDouble());
     }
+    appliedPrimaries = primaries;
+    appliedSecondaries = secondaries;
     emit scaleChanged();
     if (mainWindow)
         mainWindow->refreshPlots();
@@ -108,6 +137,8 @@ void CTVTDialog::changeEvent(QEvent *event)
 
 void CTVTDialog::showEvent(QShowEvent *event)
 {
+    if (nameLabels.size() < rowsOfAPortion)
+        makeRows(rowsOfAPortion - nameLabels.size());
     // A window that is only uncovered or restored keeps what is being typed.
     for (int i = 0; !event->spontaneous() && i < nameLabels.size(); ++i) {
         primaryEdits.at(i)->setText(appliedPrimaries.value(i));

@@ -25,6 +25,8 @@ public:
     ~CTVTDialog() override;
 
     // Adds the rows; parallel lists, one entry per analog channel. To be called on an empty dialog.
+    // Beyond some thirty, a row is made when the dialog is first shown; of very many, when it is
+    // scrolled near to.
     void setChannels(
         const QStringList &names, const QStringList &primaries, const QStringList &secondaries);
     void clearChannels();
@@ -45,6 +47,10 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    void makeRows(int count);
+    void makeRowsInSight();
+
+    // Of the rows that are made.
     QList<QLineEdit *> primaryEdits;
     QList<QLineEdit *> secondaryEdits;
     QList<QLabel *> nameLabels;
@@ -52,5 +58,5 @@ private:
     QStringList appliedSecondaries;
     std::unique_ptr<Ui::CTVTDialog> ui;
     DialogHost *mainWindow;
-    QStringList channelNames; // stored, though nothing reads them: the labels show the names
+    QStringList channelNames;
 };

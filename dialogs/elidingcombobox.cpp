@@ -10,6 +10,7 @@
 #include <QHelpEvent>
 #include <QScreen>
 #include <QSignalBlocker>
+#include <QStandardItemModel>
 #include <QStylePainter>
 #include <QToolTip>
 
@@ -19,8 +20,14 @@ void ElidingComboBox::setTexts(const QStringList &texts, int current)
 {
     const QSignalBlocker blocker(this);
     clear();
-    for (const QString &text : texts)
-        addItem(shownName(text), text);
+    QList<QStandardItem *> items; // to be announced once, not each
+    items.reserve(texts.size());
+    for (const QString &text : texts) {
+        items.append(new QStandardItem(shownName(text)));
+        items.constLast()->setData(text, Qt::UserRole);
+    }
+    if (!items.isEmpty())
+        qobject_cast<QStandardItemModel *>(model())->invisibleRootItem()->appendRows(items);
     setCurrentIndex(current);
 }
 

@@ -25,6 +25,11 @@ namespace {
 constexpr int refreshDelay = 10; // ms
 constexpr int firstDrawDelay = 100; // ms, from being shown
 constexpr int checkBoxesPerRow = 3;
+// Check boxes that are made at once: before the panel is shown, as it is, and of very many in each
+// round of events from then on.
+constexpr int firstCheckBoxes = 36;
+constexpr int shownCheckBoxes = 240;
+constexpr int checkBoxesOfARound = 60;
 
 // The sample at a time. The channels of a recording share their list of times, so that one search
 // serves them all.
@@ -110,10 +115,13 @@ VectorWidget::VectorWidget(QWidget *parent)
           {200, 191, 231}, {177, 177, 177}},
       refreshTimer(new QTimer(this)),
       owner(qobject_cast<VectorDialog *>(parent)),
-      ui(std::make_unique<Ui::VectorWidget>())
+      ui(std::make_unique<Ui::VectorWidget>()),
+      m_checkBoxTimer(new QTimer(this))
 {
     ui->setupUi(this);
     connect(refreshTimer, &QTimer::timeout, this, &VectorWidget::drawAll);
+    connect(
+        m_checkBoxTimer, &QTimer::timeout, this, [this] { makeCheckBoxes(checkBoxesOfARound); });
     setFixedWidth(width());
 }
 
@@ -140,19 +148,30 @@ void VectorWidget::setChannelNames(const QStringList &names)
     channelNames = names;
     qDeleteAll(checkBoxes);
     checkBoxes.clear();
-    QWidget *previous = ui->toolButton; // for the Tab key
-    for (int i = 0; i < names.size(); ++i) {
+    makeCheckBoxes(isVisible() ? shownCheckBoxes : firstCheckBoxes);
+}
+
+void VectorWidget::makeCheckBoxes(int count)
+{
+    const int end = std::min(channelNames.size(), checkBoxes.size() + count);
+    for (int i = checkBoxes.size(); i < end; ++i) {
         auto *checkBox = new ElidingCheckBox(this);
         connect(checkBox, &QCheckBox::toggled, this, &VectorWidget::drawAll);
         ui->gridLayout->addWidget(checkBox, i / checkBoxesPerRow, i % checkBoxesPerRow);
         checkBox->setStyleSheet(colorSheet(channelColors.at(i % channelColors.size())));
-        checkBox->setName(names.at(i));
+        checkBox->setName(channelNames.at(i));
         // The panel's width is fixed, however long the names are.
         checkBox->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-        checkBoxes.append(checkBox);
+        QWidget *previous = ui->toolButton; // for the Tab key
+        if (i > 0)
+            previous = checkBoxes.constLast();
         setTabOrder(previous, checkBox);
-        previous = checkBox;
+        checkBoxes.append(checkBox);
     }
+    if (isVisible() && end < channelNames.size())
+        m_checkBoxTimer->start(0);
+    else
+        m_checkBoxTimer->stop();
 }
 
 void VectorWidget::disableRemoval()
@@ -238,6 +257,7 @@ void VectorWidget::paintEvent(QPaintEvent *)
 
 void VectorWidget::showEvent(QShowEvent *)
 {
+    makeCheckBoxes(std::max(shownCheckBoxes - checkBoxes.size(), 0));
     QTimer::singleShot(firstDrawDelay, this, &VectorWidget::drawAll);
 }
 

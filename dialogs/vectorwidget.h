@@ -39,7 +39,8 @@ public:
     void setMainWindow(QObject *object);
     // Null: nothing is drawn.
     void setPlotter(Plotter *source);
-    // Replaces the check boxes, one per name; the new ones are unchecked.
+    // Replaces the check boxes, one per name; the new ones are unchecked. Beyond some thirty they
+    // are made when the panel is first shown, and very many little by little from then on.
     void setChannelNames(const QStringList &names);
     void disableRemoval();
 
@@ -63,6 +64,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void makeCheckBoxes(int count);
     bool waitForPaintEvent();
     void renderPixmaps();
     void drawPhasors(QPainter &diagramPainter, QPainter &magnitudesPainter,
@@ -82,10 +84,11 @@ private:
     QPixmap diagramPixmap;
     QPixmap magnitudesPixmap;
     QStringList channelNames;
-    QList<QCheckBox *> checkBoxes; // parallel to channelNames
+    QList<QCheckBox *> checkBoxes; // parallel to channelNames, as far as they are made
     VectorDialog *owner;
     bool renderPending = false;
     std::unique_ptr<Ui::VectorWidget> ui;
+    QTimer *m_checkBoxTimer; // runs while there are more to make
     bool m_drawing = false;
     bool m_removalClicked = false;
 };

@@ -11,6 +11,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QtTest>
 #include <cmath>
 #include <limits>
@@ -48,6 +50,9 @@ private slots:
     void survivesAStrangerAsParent();
     void clearsItsRows();
     void fitsTheScreenWithAHundredChannels();
+    void makesRowsAsTheyComeIntoSight();
+    void setsTheChannelsWhoseRowsAreNotMade();
+    void tabsThroughRowsThatAreNotMadeYet();
     void retranslatesOnALanguageChange();
 
 private:
@@ -358,6 +363,72 @@ void TestCTVTDialog::fitsTheScreenWithAHundredChannels()
     QVERIFY(dialog->height() <= dialog->screen()->availableSize().height());
     QVERIFY(!child<QPushButton>("pushButton_Set")->visibleRegion().isEmpty());
     QVERIFY(edit(99, 2)->visibleRegion().isEmpty()); // to be scrolled to
+}
+
+void TestCTVTDialog::makesRowsAsTheyComeIntoSight()
+{
+    QStringList names;
+    for (int i = 0; i < 1000; ++i)
+        names.append(QStringLiteral("I%1").arg(i));
+    const auto rows = [this] { return dialog->findChildren<QLineEdit *>().size() / 2; };
+    dialog->setChannels(names, repeated("600", 1000), repeated("5", 1000));
+    QCOMPARE(rows(), 32);
+    dialog->show();
+    QVERIFY(QTest::qWaitForWindowExposed(dialog));
+    QCOMPARE(rows(), 256);
+    dialog->close();
+    dialog->show();
+    QCOMPARE(rows(), 256);
+
+    QScrollBar *bar = child<QScrollArea>("scrollArea")->verticalScrollBar();
+    for (int made : {512, 768, 1000}) {
+        QTRY_VERIFY((bar->setValue(bar->maximum()), rows() == made));
+    }
+    bar->setValue(0);
+    bar->setValue(bar->maximum());
+    QCOMPARE(rows(), 1000);
+    QCOMPARE(qobject_cast<QLabel *>(cell(999, 0))->text(), QStringLiteral("I999"));
+    QVERIFY(!cell(1000, 0));
+
+    dialog->close();
+    dialog->clearChannels();
+    QCOMPARE(rows(), 0);
+    dialog->setChannels(names.mid(0, 2), repeated("600", 2), repeated("5", 2));
+    dialog->show();
+    QCOMPARE(rows(), 2);
+}
+
+void TestCTVTDialog::setsTheChannelsWhoseRowsAreNotMade()
+{
+    for (int i = 0; i < 300; ++i)
+        addChannel(QStringLiteral("S"));
+    dialog->setChannels(QVector<QString>(300, QStringLiteral("I")).toList(), repeated("600", 300),
+        repeated("5", 300));
+    dialog->show();
+    setRow(0, QStringLiteral("800"), QStringLiteral("2"));
+    QVERIFY(!cell(299, 0));
+    click("pushButton_Set");
+    QCOMPARE(channels[0]->toPrimary, 400.0);
+    QCOMPARE(channels[299]->toPrimary, 120.0);
+    QCOMPARE(channels[299]->toSecondary, 5.0);
+    QCOMPARE(dialog->primaryTexts().size(), 300);
+    QCOMPARE(dialog->primaryTexts().first(), QStringLiteral("800"));
+    QCOMPARE(dialog->primaryTexts().last(), QStringLiteral("600"));
+}
+
+void TestCTVTDialog::tabsThroughRowsThatAreNotMadeYet()
+{
+    dialog->setChannels(repeated("I", 300), repeated("600", 300), repeated("5", 300));
+    dialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(dialog));
+    edit(0, 1)->setFocus();
+    for (int i = 1; i < 600; ++i) {
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_Tab);
+        QCoreApplication::processEvents();
+    }
+    QCOMPARE(dialog->focusWidget(), edit(299, 2));
+    QTest::keyClick(dialog->focusWidget(), Qt::Key_Tab);
+    QCOMPARE(dialog->focusWidget(), child<QPushButton>("pushButton_Set"));
 }
 
 void TestCTVTDialog::retranslatesOnALanguageChange()

@@ -40,6 +40,7 @@ private slots:
     void cleanup() { tearDown(); }
     void showsItsForm();
     void offersThreeCheckBoxesARow();
+    void makesVeryManyCheckBoxesLittleByLittle();
     void colorsTheCheckBoxes_data();
     void colorsTheCheckBoxes();
     void replacesTheCheckBoxes();
@@ -103,6 +104,35 @@ void TestVectorWidget::offersThreeCheckBoxesARow()
         QCOMPARE(box->text(), names.at(i));
         QVERIFY(!box->isChecked());
     }
+}
+
+void TestVectorWidget::makesVeryManyCheckBoxesLittleByLittle()
+{
+    QStringList names;
+    for (int i = 0; i < 1000; ++i)
+        names.append(QStringLiteral("I%1").arg(i));
+    dialog->setChannelNames(names);
+    QCOMPARE(checkBoxes().size(), 36);
+    dialog->show();
+    QCOMPARE(checkBoxes().size(), 240);
+    QCoreApplication::processEvents();
+    dialog->hide();
+    QCoreApplication::processEvents();
+    const int made = checkBoxes().size();
+    QVERIFY(made < 1000);
+    QTest::qWait(50);
+    QCOMPARE(checkBoxes().size(), made);
+    dialog->show();
+    QTRY_COMPARE(checkBoxes().size(), 1000);
+    for (int i = 0; i < 1000; ++i)
+        QCOMPARE(checkBoxes().at(i)->text(), names.at(i));
+    const auto *grid = panel->findChild<QGridLayout *>(QStringLiteral("gridLayout"));
+    QCOMPARE(grid->itemAtPosition(333, 0)->widget(), checkBoxes().last());
+
+    dialog->setChannelNames(names.mid(0, 2));
+    QCOMPARE(checkBoxes().size(), 2);
+    QTest::qWait(50);
+    QCOMPARE(checkBoxes().size(), 2);
 }
 
 void TestVectorWidget::colorsTheCheckBoxes_data()
