@@ -66,6 +66,11 @@ MainWindow::MainWindow(QWidget *parent)
         &MainWindow::setRequiredAnChannels);
     connect(ui->listWidget2, &QListWidget::itemSelectionChanged, this,
         &MainWindow::setRequiredDigitalChannels);
+    for (QListWidget *list : {ui->listWidget, ui->listWidget2}) {
+        // Very many rows are laid out little by little.
+        list->setLayoutMode(QListView::Batched);
+        list->setBatchSize(1000);
+    }
     setAcceptDrops(true);
     ui->listWidget->setFocus(); // not the first of the Tab order, which changes what is shown
 }

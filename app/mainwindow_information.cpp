@@ -38,8 +38,9 @@ QString shownText(const QString &text)
 // Names may be longer than the room for them, so each tells itself in a tool tip, too.
 void addName(QListWidget &list, const QString &name)
 {
-    auto *item = new QListWidgetItem(shownText(name), &list);
+    auto *item = new QListWidgetItem(shownText(name));
     item->setToolTip(plainToolTip(item->text()));
+    list.addItem(item); // as it is: a change afterwards would be announced for each
 }
 
 void showName(QLabel &label, const QString &name)

@@ -17,6 +17,7 @@
 
 #include <QCheckBox>
 #include <QElapsedTimer>
+#include <QItemSelectionModel>
 #include <QPointer>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -41,21 +42,38 @@ QStringList analogNames(const CFGProperties &recording)
     return names;
 }
 
-void select(QListWidget &list, const QList<int> &rows)
+// Both go by ranges of rows: there may be a hundred thousand.
+void select(QListWidget &list, QList<int> rows)
 {
+    std::sort(rows.begin(), rows.end());
+    const QAbstractItemModel *model = list.model();
+    QItemSelection selection;
+    for (int i = 0, end = 0; i < rows.size(); i = end) {
+        while (end < rows.size() && rows.at(end) - rows.at(i) == end - i)
+            ++end;
+        selection.append(
+            QItemSelectionRange(model->index(rows.at(i), 0), model->index(rows.at(end - 1), 0)));
+    }
     const QSignalBlocker blocker(&list);
-    for (int row = 0; row < list.count(); ++row)
-        list.item(row)->setSelected(rows.contains(row));
+    list.selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
+QList<int> selectedRows(const QListWidget &list)
+{
+    QList<int> rows;
+    const QItemSelection selection = list.selectionModel()->selection();
+    for (const QItemSelectionRange &range : selection) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.append(row);
+    }
+    std::sort(rows.begin(), rows.end());
+    return rows;
 }
 
 // Makes a plot show the channels that are selected; false where it does so already.
 bool showSelection(const QListWidget &list, Plotter &plot)
 {
-    QList<int> rows;
-    for (int row = 0; row < list.count(); ++row) {
-        if (list.item(row)->isSelected())
-            rows.append(row);
-    }
+    const QList<int> rows = selectedRows(list);
     if (rows == plot.channels())
         return false;
     plot.showChannels(rows);

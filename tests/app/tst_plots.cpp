@@ -28,6 +28,7 @@ private slots:
     void plotsOfARecording();
     void firstPlotShowsAtMostSixChannels();
     void listsShowWhatThePlotsShow();
+    void listsSelectRangesOfRows();
     void listsAndPlotsAgreeAfterEveryLoad();
     void valueModeStartsFromTheFirstChannel_data();
     void valueModeStartsFromTheFirstChannel();
@@ -110,6 +111,22 @@ void TestPlots::listsShowWhatThePlotsShow()
     QCOMPARE(digital()->channels(), QList<int>{1}); // those that are 0 throughout are left out
     for (int row = 0; row < 3; ++row)
         QCOMPARE(list("listWidget2")->item(row)->isSelected(), row == 1);
+}
+
+// Names that end with 0 are those of channels without a state, which is left out.
+void TestPlots::listsSelectRangesOfRows()
+{
+    QStringList names;
+    for (int i = 1; i <= 24; ++i)
+        names.append(QStringLiteral("D%1").arg(i));
+    open(names, names);
+    const auto ranges
+        = [this](const char *name) { return list(name)->selectionModel()->selection().size(); };
+    QCOMPARE(ranges("listWidget"), 1); // 1 to 6
+    QCOMPARE(ranges("listWidget2"), 3); // 1 to 9, 11 to 19, 21 to 24
+    QCOMPARE(digital()->channels().size(), 22);
+    QVERIFY(!list("listWidget2")->item(19)->isSelected());
+    QVERIFY(list("listWidget2")->item(23)->isSelected());
 }
 
 // Chosen from, added to, opened anew, failed to open; and all of it again.
