@@ -145,6 +145,16 @@ void fillFrame(QPainter &painter, const QRect &frame, const QColor &color)
     painter.fillRect(frame.right(), frame.top(), 1, frame.height(), color);
 }
 
+QRect layerPart(const QSize &plot, const QRect &seen)
+{
+    // From a whole pixel of the screen, or letters would change with their place in it.
+    constexpr int raster = 4;
+    const int height = std::min(plot.height(), tallestLayer);
+    const int middle = seen.top() + (seen.height() - height) / 2;
+    const int top = std::clamp(middle, 0, plot.height() - height) / raster * raster;
+    return {0, top, plot.width(), std::min(plot.height() - top, tallestLayer + raster - 1)};
+}
+
 QPixmap clearLayer(const QSize &pixels, qreal ratio)
 {
     QPixmap layer(pixels);

@@ -16,6 +16,11 @@ class TimeAxis;
 // A transparent picture of so many pixels of the screen, of which each pixel of a plot is a ratio.
 QPixmap clearLayer(const QSize &pixels, qreal ratio);
 
+// The part of a plot that its base layer covers when some of it is seen: all of it, but of a plot
+// with very many rows only what lies around what is seen, at most so tall.
+constexpr int tallestLayer = 4096; // widget pixels
+QRect layerPart(const QSize &plot, const QRect &seen);
+
 // The passes that paint the base layer of a plot. Colours and pens are their own; the painter's
 // clip must be off, but for drawDigitalRow(), which leaves it to the caller.
 

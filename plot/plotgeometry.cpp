@@ -59,5 +59,6 @@ int PlotGeometry::truncated(double value)
 
 int PlotGeometry::rowY(int row, int rows) const
 {
-    return top + (row + 1) * (plotHeight() - top) / (rows + 1);
+    const qint64 height = plotHeight() - top;
+    return top + static_cast<int>((row + 1) * height / (rows + 1));
 }

@@ -12,6 +12,7 @@
 #include <QColorDialog>
 #include <QEvent>
 #include <QLineEdit>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QStyleOption>
 #include <QStyleOptionFocusRect>
@@ -154,13 +155,13 @@ void Plotter::resetPlot()
     clearCursors();
 }
 
-void Plotter::paintEvent(QPaintEvent * /*event*/)
+void Plotter::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
     QStyleOption background;
     background.initFrom(this);
     style()->drawPrimitive(QStyle::PE_Widget, &background, &painter, this);
-    painter.drawPixmap(0, 0, basePixmap);
+    drawBase(painter, event->rect());
     m_overlay.paint(painter);
     m_rubberBand.paint(painter);
     if (hasFocus()) {

@@ -138,6 +138,8 @@ protected:
     virtual ValueExtremes prepareTraces();
 
     CFGProperties *recording() const; // null without a host or a recording
+    // Whether the part that the base layer covers holds some of a row around this y.
+    bool isRowDrawn(int y) const;
     void setHome();
 
     QString plotType; // "Analog" or "Digital"; the zooms ask whether it contains one of them
@@ -154,7 +156,8 @@ private:
     void settleReadout();
     void shareReadoutWidth();
     BaseContent baseContent() const;
-    void paintBase();
+    void paintBase(const QRect &seen);
+    void drawBase(QPainter &painter, QRect seen);
     void placeMarks();
 
     bool zoomTime(double factor, SharedView::Rule sharing);
@@ -181,6 +184,7 @@ private:
     PlotMarks m_marks;
     RubberBand m_rubberBand;
     QPixmap basePixmap;
+    QRect m_basePart; // of the plot, which basePixmap covers
     BaseContent m_drawn; // what basePixmap shows
     Overlay m_overlay;
     PlotHost *mainWindow = nullptr;

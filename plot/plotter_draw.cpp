@@ -16,6 +16,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace {
@@ -77,7 +78,7 @@ void Plotter::refreshPixmap()
         m_drawn = std::move(content);
         if (!digitalFlag)
             m_channelLabels.show(labelEntries(m_channels, AnalogSource(mainWindow)));
-        paintBase();
+        paintBase(visibleRegion().boundingRect());
     }
     refreshOverlay();
 }
@@ -94,24 +95,53 @@ BaseContent Plotter::baseContent() const
     content.readoutWidth = m_readoutRoom.width;
     content.times = m_timeAxis.times();
     const AnalogSource source(mainWindow);
+    const int firstSpectrum
+        = digitalFlag ? std::numeric_limits<int>::max() : source.firstSpectrum();
     for (const int number : channels()) {
-        const QColor color = m_channels.color(number, source.firstSpectrum());
+        const QColor color = m_channels.color(number, firstSpectrum);
         content.traces.append({number, source.factor(number), color.rgb(), m_channels.at(number)});
     }
     return content;
 }
 
-void Plotter::paintBase()
+void Plotter::paintBase(const QRect &seen)
 {
-    basePixmap = clearLayer(size() * devicePixelRatioF(), devicePixelRatioF());
+    m_basePart = layerPart(size(), seen);
+    basePixmap = clearLayer(m_basePart.size() * devicePixelRatioF(), devicePixelRatioF());
     if (m_view.isEmpty() || basePixmap.isNull())
         return;
     QPainter painter(&basePixmap);
+    painter.translate(-m_basePart.topLeft());
     drawGrid(&painter);
     drawCurves(&painter);
     drawTrigger(&painter);
     drawTimeLabels(&painter);
     drawValueTable(&painter);
+}
+
+// Of a plot that is taller than its layer, the part that comes into sight is painted now.
+void Plotter::drawBase(QPainter &painter, QRect seen)
+{
+    if (height() <= tallestLayer) {
+        painter.drawPixmap(0, 0, basePixmap);
+        return;
+    }
+    while (!seen.isEmpty()) {
+        QRect strip = seen;
+        strip.setHeight(std::min(seen.height(), tallestLayer));
+        if (!m_basePart.contains(strip))
+            paintBase(strip);
+        painter.setClipRect(strip);
+        painter.drawPixmap(m_basePart.topLeft(), basePixmap);
+        seen.setTop(strip.bottom() + 1);
+    }
+    painter.setClipping(false);
+}
+
+bool Plotter::isRowDrawn(int y) const
+{
+    constexpr int reach = 20; // of a row with its name, to both sides, and more
+    return y >= m_basePart.top() - reach && y <= m_basePart.bottom() + reach;
 }
 
 void Plotter::drawGrid(QPainter *painter)

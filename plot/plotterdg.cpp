@@ -66,8 +66,11 @@ void plotterDg::drawGrid(QPainter *painter)
     drawTimeGrid(*painter, geometry);
     drawFrame(*painter, geometry);
     int row = 0;
-    for (const ShownChannel &shown : qAsConst(m_channels).byNumber())
-        drawRowLabel(*painter, font(), shown.id, geometry.rowY(row++, m_channels.count()));
+    for (const ShownChannel &shown : qAsConst(m_channels).byNumber()) {
+        const int y = geometry.rowY(row++, m_channels.count());
+        if (isRowDrawn(y))
+            drawRowLabel(*painter, font(), shown.id, y);
+    }
 }
 
 void plotterDg::drawCurves(QPainter *painter)
@@ -77,9 +80,11 @@ void plotterDg::drawCurves(QPainter *painter)
         return;
     painter->setClipRect(geometry.area());
     int row = 0;
-    for (const ShownChannel &shown : qAsConst(m_channels).byNumber())
-        drawDigitalRow(
-            *painter, geometry, m_timeAxis, shown.runs, geometry.rowY(row++, m_channels.count()));
+    for (const ShownChannel &shown : qAsConst(m_channels).byNumber()) {
+        const int y = geometry.rowY(row++, m_channels.count());
+        if (isRowDrawn(y))
+            drawDigitalRow(*painter, geometry, m_timeAxis, shown.runs, y);
+    }
 }
 
 void plotterDg::drawValueTable(QPainter * /*painter*/) { }

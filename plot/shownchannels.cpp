@@ -3,6 +3,8 @@
 
 #include "shownchannels.h"
 
+#include <QSet>
+
 #include <array>
 #include <iterator>
 
@@ -23,8 +25,9 @@ void ShownChannels::add(int number, const ShownChannel &channel)
 
 void ShownChannels::arrange(const QList<int> &numbers)
 {
+    const QSet<int> kept(numbers.cbegin(), numbers.cend());
     for (const int number : qAsConst(m_order)) {
-        if (!numbers.contains(number))
+        if (!kept.contains(number))
             m_channels.remove(number);
     }
     m_order = numbers;

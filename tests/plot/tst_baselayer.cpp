@@ -85,6 +85,8 @@ class TestBaseLayer : public QObject {
     Q_OBJECT
 
 private slots:
+    void coversAPartOfATallPlot_data();
+    void coversAPartOfATallPlot();
     void timeGridStandsOnItsTimes();
     void theLastTimeLineStandsOnTheFrame_data();
     void theLastTimeLineStandsOnTheFrame();
@@ -118,6 +120,30 @@ private:
 };
 
 // 7 intervals of 100 pixels.
+void TestBaseLayer::coversAPartOfATallPlot_data()
+{
+    QTest::addColumn<int>("height");
+    QTest::addColumn<QRect>("seen");
+    QTest::addColumn<QRect>("part");
+    QTest::newRow("an ordinary plot") << 400 << QRect(0, 100, 800, 50) << QRect(0, 0, 800, 400);
+    QTest::newRow("nothing of it seen") << 400 << QRect() << QRect(0, 0, 800, 400);
+    QTest::newRow("the tallest of one part")
+        << 4096 << QRect(0, 4000, 800, 96) << QRect(0, 0, 800, 4096);
+    QTest::newRow("its begin") << 10000 << QRect(0, 0, 800, 300) << QRect(0, 0, 800, 4099);
+    QTest::newRow("its middle") << 10000 << QRect(5, 5000, 20, 96) << QRect(0, 3000, 800, 4099);
+    QTest::newRow("its end") << 10000 << QRect(0, 9700, 800, 300) << QRect(0, 5904, 800, 4096);
+    QTest::newRow("nothing of a tall one seen") << 10000 << QRect() << QRect(0, 0, 800, 4099);
+    QTest::newRow("a strip of just its height")
+        << 10000 << QRect(0, 1234, 800, 4096) << QRect(0, 1232, 800, 4099);
+}
+
+void TestBaseLayer::coversAPartOfATallPlot()
+{
+    QFETCH(int, height);
+    QFETCH(QRect, seen);
+    QTEST(layerPart({800, height}, seen), "part");
+}
+
 void TestBaseLayer::timeGridStandsOnItsTimes()
 {
     const QImage image = paint([](QPainter &painter) {

@@ -5,6 +5,8 @@
 #include "plotterdg.h"
 
 #include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QtTest>
 
 #include <memory>
@@ -33,6 +35,7 @@ private slots:
     void wheel_data();
     void wheel();
     void neededHeightGrowsWithTheRows();
+    void rowsOfATallPlotAreDrawnAsTheyComeIntoSight();
 
 private:
     QRgb pixel(double time, int y) const
@@ -301,6 +304,53 @@ void TestPlotterDg::neededHeightGrowsWithTheRows()
         plot->addChannel(i);
     }
     QCOMPARE(plot->neededHeight(), 60 + 41 + 41 * 16);
+}
+
+// Of 5000 rows, 16 pixels apart, in a view of 300 pixels. The last one alone is off at first.
+void TestPlotterDg::rowsOfATallPlotAreDrawnAsTheyComeIntoSight()
+{
+    constexpr int rows = 5000;
+    const QVector<double> times{0, 500, 1000};
+    host->setTimes(times);
+    QList<int> shown;
+    for (int i = 0; i < rows; ++i) {
+        const int first = i == rows - 1 ? 0 : 1;
+        shown.append(host->source->digitalChannels.size());
+        host->addDigital(QString::number(i), {first, first, 1 - first});
+    }
+    plot->resetPlot();
+    plot->showChannels(shown);
+    plot->setupPlot();
+    QCOMPARE(plot->neededHeight(), 80117);
+    QScrollArea scroll;
+    scroll.setWidget(plot);
+    scroll.resize(860, 300);
+    plot->resize(800, plot->neededHeight());
+    scroll.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&scroll));
+    plot->refreshPixmap();
+    // The base line of row k stands at 60 + 16 (k + 1).
+    const auto at = [&](int x, int y) {
+        const QPoint place = plot->mapTo(&scroll, QPoint(x, y));
+        return scroll.grab(QRect(place, QSize(1, 1))).toImage().pixel(0, 0);
+    };
+    QCOMPARE(at(300, 76 - 3), band);
+    for (const int row : {255, 256, 2048, 4998, 130, 0}) {
+        const int y = 76 + 16 * row;
+        scroll.verticalScrollBar()->setValue(y - 150);
+        QCOMPARE(at(300, y - 3), band);
+        QCOMPARE(at(300, y - 8), background);
+    }
+    scroll.verticalScrollBar()->setValue(scroll.verticalScrollBar()->maximum());
+    QCOMPARE(at(300, 60 + 16 * rows), line);
+    QCOMPARE(at(300, 60 + 16 * rows - 3), background);
+    QCOMPARE(at(300, 80117 - 41), qRgb(255, 255, 255)); // frame
+
+    // A picture of all of it is made of several parts.
+    const QImage image = plot->grab().toImage();
+    QCOMPARE(image.height(), 80117);
+    for (int row = 0; row < 2000; ++row)
+        QCOMPARE(image.pixel(300, 76 + 16 * row - 3), band);
 }
 
 QTEST_MAIN(TestPlotterDg)
