@@ -4,6 +4,7 @@
 #include "datareader.h"
 
 #include "cfgproperties.h"
+#include "interruption.h"
 #include "memoryneed.h"
 #include "numbers.h"
 #include "readerror.h"
@@ -162,6 +163,7 @@ private:
         if (m_rows == 0)
             makeRecords(length);
         m_bytes += length;
+        countWork(length + 2 * columns());
         if (m_rowsBefore + m_rows == mostRows || !isWithinBudget(m_rows + 1, columns(), m_bytes))
             return false;
         LineFields fields(numberEnd + 1, end);
@@ -248,6 +250,8 @@ private:
         if (m_rows > m_rowsWithRoom)
             reserve();
         const int count = static_cast<int>(m_gathered);
+        constexpr int stepsOfASeries = 20;
+        countWork(columns() * (count + stepsOfASeries));
         append(m_recording.sampleTimes, m_times.data());
         for (const AnalogColumn &column : m_analog) {
             append(column.channel->rawValues, column.block);
@@ -272,11 +276,13 @@ private:
         // Lists that were empty share these times instead of copying them.
         const QVector<double> times = m_recording.sampleTimes.mid(m_rowsBefore);
         for (const AnalogColumn &column : m_analog) {
+            countWork(2 * m_rows);
             column.channel->values.squeeze();
             column.channel->rawValues.squeeze();
             column.channel->times += times;
         }
         for (const DigitalColumn &column : m_digital) {
+            countWork(m_rows);
             column.channel->values.squeeze();
             column.channel->times += times;
         }

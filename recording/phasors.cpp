@@ -4,9 +4,8 @@
 #include "phasors.h"
 
 #include "analogchannel.h"
+#include "interruption.h"
 #include "numbers.h"
-
-#include <QThread>
 
 #include <fftw3.h>
 
@@ -24,7 +23,11 @@ using Complex = std::complex<double>;
 
 constexpr int largestCycle = 1 << 20; // samples
 constexpr int largestOrdinaryCycle = 128; // samples
-constexpr int workBetweenLooks = 1 << 20; // values taken up before a look whether the program ends
+// Values that transforms may take up for each value that is not 0.
+constexpr qint64 transformedPerValue = 512;
+// Of work, see interruption.h.
+constexpr int stepsOfASample = 64;
+constexpr int stepsOfATransformedValue = 32; // with the making of the plan
 
 struct FreeComplex {
     void operator()(fftw_complex *array) const { fftw_free(array); }
@@ -128,6 +131,9 @@ public:
         }
     }
 
+    // Of the channel, those that are not 0.
+    qint64 valueCount() const { return static_cast<qint64>(m_places.size()); }
+
     // Goes on to the cycle of a later sample and gives the number of its values that are not 0.
     int moveTo(int sample)
     {
@@ -158,7 +164,9 @@ private:
     void makeTurns()
     {
         constexpr double turn = 6.283185307179586;
+        constexpr int stepsOfATurn = 4;
         const int end = std::min(2 * m_half, m_half + m_channel.rawValues.size());
+        countWork(stepsOfATurn * (end - m_firstTurn));
         m_turns.reserve(static_cast<size_t>(end - m_firstTurn));
         for (int i = m_firstTurn; i < end; ++i)
             m_turns.push_back(std::polar(1.0, -turn * i / m_size));
@@ -195,6 +203,7 @@ void computePhasors(AnalogChannel &channel, int samplesPerCycle)
         channel.fftAngles.append(narrowed(angle));
         channel.fftMagnitudes.append(narrowed(magnitude));
     };
+    countWork(samples);
     if (size < 2 || size > largestCycle) {
         for (int i = 0; i < samples; ++i)
             append(0, 0);
@@ -204,20 +213,17 @@ void computePhasors(AnalogChannel &channel, int samplesPerCycle)
     const int half = size / 2;
     Sums sums(channel, size);
     std::optional<Transforms> transforms;
-    int work = 0;
+    qint64 transformable = transformedPerValue * sums.valueCount();
     for (int sample = 0; sample < samples; ++sample) {
         const int values = sums.moveTo(sample);
         if (values == 0) {
             append(0, 0);
             continue;
         }
-        const bool isTransformed = isWorthTransform(size, samples, values);
-        work += isTransformed ? size : values;
-        if (work >= workBetweenLooks) {
-            if (QThread::currentThread()->isInterruptionRequested())
-                return;
-            work = 0;
-        }
+        const bool isTransformed = size <= transformable && isWorthTransform(size, samples, values);
+        if (isTransformed)
+            transformable -= size;
+        countWork(stepsOfASample + (isTransformed ? stepsOfATransformedValue * size : values));
         if (isTransformed && !transforms)
             transforms.emplace(channel, size);
         const Complex fundamental = isTransformed ? transforms->around(sample) : sums.sum();

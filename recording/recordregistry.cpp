@@ -4,12 +4,20 @@
 #include "recordregistry.h"
 
 #include "cfgproperties.h"
+#include "interruption.h"
 #include "recordkeeper.h"
 
 #include <memory>
 
+namespace {
+
+constexpr int stepsOfARecord = 500;
+
+} // namespace
+
 AnalogChannel *newAnalogChannel(const CFGProperties &recording, int row)
 {
+    countWork(stepsOfARecord);
     AnalogChannel *const channel = keep(std::make_unique<AnalogChannel>());
     channel->index = recording.analogIndexes.value(row);
     channel->id = recording.analogIds.value(row);
@@ -26,6 +34,7 @@ AnalogChannel *newAnalogChannel(const CFGProperties &recording, int row)
 
 DigitalChannel *newDigitalChannel(const CFGProperties &recording, int row)
 {
+    countWork(stepsOfARecord);
     DigitalChannel *const channel = keep(std::make_unique<DigitalChannel>());
     channel->index = recording.digitalIndexes.value(row);
     channel->id = recording.digitalIds.value(row);

@@ -3,6 +3,7 @@
 
 #include "textlines.h"
 
+#include "interruption.h"
 #include "readerror.h"
 #include "samplebudget.h"
 
@@ -10,6 +11,8 @@
 
 QByteArray nextLine(QIODevice &device)
 {
+    constexpr int stepsOfALine = 200;
+    constexpr int stepsOfALetter = 4; // until it stands in a text
     constexpr qint64 mostAtOnce = 1 << 14; // bytes
     QByteArray line;
     while (!line.endsWith('\n')) {
@@ -19,6 +22,7 @@ QByteArray nextLine(QIODevice &device)
             break;
         }
         line += part;
+        countWork(stepsOfALine + stepsOfALetter * part.size());
         if (line.size() > mostLineBytes)
             return {};
     }

@@ -5,6 +5,7 @@
 
 #include "cfgproperties.h"
 #include "configurationreader.h"
+#include "interruption.h"
 #include "memoryneed.h"
 #include "numbers.h"
 #include "recordregistry.h"
@@ -39,6 +40,8 @@ void readHeader(CFGProperties &recording, QString line)
     const QVector<QStringRef> names = firstFields(line, mostChannels);
     const int count = names.size();
     for (int k = 0; k < count; ++k) {
+        constexpr int stepsOfAName = 500;
+        countWork(stepsOfAName);
         const QString field = names.at(k).toString();
         const int bracket = field.lastIndexOf(QLatin1Char('['));
         const QString unit
@@ -145,6 +148,8 @@ public:
     bool readLine(const QString &line)
     {
         m_letters += line.size() + 1; // with the line end
+        constexpr int stepsOfAValue = 20;
+        countWork(stepsOfAValue * (m_recording.analogChannelCount + 1));
         if (m_recording.sampleTimes.size() == mostRows
             || !isWithinBudget(m_rows + 1, m_recording.analogChannelCount, m_letters))
             return false;
@@ -180,6 +185,7 @@ public:
     {
         m_recording.sampleTimes.squeeze();
         for (AnalogChannel *channel : qAsConst(m_recording.analogChannels)) {
+            countWork(2 * m_rows);
             channel->times = m_recording.sampleTimes;
             channel->values.squeeze();
             channel->rawValues.squeeze();

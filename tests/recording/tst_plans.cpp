@@ -40,6 +40,9 @@ void TestPlans::everySampleHasAPlanOfItsOwn_data()
     QTest::newRow("fewer samples than a cycle") << 20 << 7 << 1 << 8;
     QTest::newRow("the longest ordinary cycle") << 128 << 30 << 1 << 31;
     QTest::newRow("a long cycle with hardly a value") << 129 << 30 << 1 << 0;
+    QTest::newRow("the longest cycle of which every sample is worth one") << 512 << 512 << 1 << 512;
+    QTest::newRow("a longer one") << 600 << 600 << 1 << 513;
+    QTest::newRow("a lone value within many cycles") << 127 << 64 << 64 << 5;
     QTest::newRow("zeros alone") << 20 << 100 << 0 << 0;
 }
 
