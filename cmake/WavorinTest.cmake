@@ -12,10 +12,24 @@ if(WAVORIN_QUICK_BUILD)
         HEADERS <QtTest> <QtWidgets> LIBRARIES wavorin_test_options Qt5::Test Qt5::Widgets)
 endif()
 
+# What the names of the toolkit's variables begin with. Wine hands them on under names of its own, and without
+# a display the toolkit finds no fonts on Windows but those of a folder that is named to it.
+set(wavorin_toolkit QT_)
+if(WIN32)
+    set(wavorin_toolkit WINEQT_)
+    set(wavorin_test_fonts "${CMAKE_BINARY_DIR}/fonts")
+    file(GLOB fonts /usr/share/fonts/truetype/dejavu/DejaVuSans*.ttf
+        /usr/share/fonts/truetype/liberation/LiberationSans-*.ttf)
+    file(COPY ${fonts} DESTINATION "${wavorin_test_fonts}")
+endif()
+
 # Compiles an executable of the tests, with the libraries it links, as fast as may be.
 function(wavorin_test_executable name)
     set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
     target_link_libraries(${name} PRIVATE wavorin_options wavorin_test_options Qt5::Test ${ARGN})
+    if(WIN32) # a static toolkit links the platform "windows" alone by itself
+        qt5_import_plugins(${name} INCLUDE Qt5::QOffscreenIntegrationPlugin)
+    endif()
     if(WAVORIN_QUICK_BUILD)
         if(ARGN MATCHES "plot|label|dialogs|app|hosts")
             target_precompile_headers(${name} REUSE_FROM wavorin_widget_test_headers)
@@ -45,7 +59,7 @@ function(wavorin_test name)
     list(TRANSFORM interfaces PREPEND -I)
     set(moc "${CMAKE_CURRENT_BINARY_DIR}/${name}.moc")
     add_custom_command(OUTPUT "${moc}"
-        COMMAND Qt5::moc $<$<BOOL:${UNIX}>:-DQ_OS_UNIX> ${interfaces} "${source}" -o "${moc}"
+        COMMAND Qt5::moc -DQ_OS_$<IF:$<BOOL:${WIN32}>,WIN,UNIX> ${interfaces} "${source}" -o "${moc}"
         DEPENDS "${source}" VERBATIM)
     add_executable(${name} "${source}" "${moc}")
     target_include_directories(${name} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}")
@@ -58,8 +72,12 @@ function(wavorin_test name)
     add_test(NAME ${name} COMMAND ${name})
     set(home "${CMAKE_BINARY_DIR}/test-home/${name}")
     file(MAKE_DIRECTORY "${home}" "${CMAKE_BINARY_DIR}/test-output")
+    set(platform "${wavorin_toolkit}QPA_PLATFORM=offscreen")
+    if(wavorin_test_fonts)
+        string(APPEND platform ";${wavorin_toolkit}QPA_FONTDIR=${wavorin_test_fonts}")
+    endif()
     set_tests_properties(${name} PROPERTIES
         TIMEOUT 300
         COST ${arg_COST}
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TZ=UTC;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/tsan.supp")
+        ENVIRONMENT "${platform};TZ=UTC;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/tsan.supp")
 endfunction()

@@ -1,0 +1,31 @@
+# SPDX-FileCopyrightText: 2026 Norvale
+# SPDX-License-Identifier: GPL-3.0-or-later
+
+# cmake --install for Windows: one folder that runs where it stands, with the archiver beside the
+# viewer. script/windows makes the packages of it.
+install(TARGETS wavorin RUNTIME DESTINATION .)
+install(PROGRAMS "${WAVORIN_WINDOWS_TREE}/7z/7za.exe" DESTINATION . RENAME 7z.exe)
+configure_file("${WAVORIN_WINDOWS_TREE}/7z/7za.exe" "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/7z.exe" COPYONLY)
+
+install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION . RENAME LICENSE.txt)
+file(READ "${PROJECT_SOURCE_DIR}/tools/windows/sources" sources)
+string(REGEX REPLACE "([^ \n]+) ([^ ]+) ([^\n]+)\n" "    \\1 \\2\n" sources "${sources}")
+configure_file("${PROJECT_SOURCE_DIR}/resources/windows/README.txt.in" "${CMAKE_BINARY_DIR}/install/README.txt"
+    NEWLINE_STYLE CRLF)
+install(FILES "${CMAKE_BINARY_DIR}/install/README.txt" DESTINATION .)
+
+# What is linked into the viewer or lies beside it, each with all notices that Debian has collected for it.
+foreach(part libqt5core5a:Qt libfftw3-double3:FFTW 7zip:7-Zip mingw-w64-common:MinGW-w64 gcc-mingw-w64-base:GCC)
+    string(REPLACE ":" ";" part ${part})
+    list(GET part 0 package)
+    list(GET part 1 name)
+    install(FILES "/usr/share/doc/${package}/copyright" DESTINATION licences RENAME "${name}.txt")
+endforeach()
+foreach(text GPL-2 GPL-3 LGPL-2.1 LGPL-3)
+    install(FILES "/usr/share/common-licenses/${text}" DESTINATION licences RENAME "${text}.txt")
+endforeach()
+
+install(FILES "${PROJECT_SOURCE_DIR}/docs/manual.md" "${PROJECT_SOURCE_DIR}/docs/formats.md" DESTINATION docs)
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/pictures" DESTINATION docs FILES_MATCHING PATTERN "*.png")
+file(GLOB examples "${PROJECT_SOURCE_DIR}/examples/earth-fault.*")
+install(FILES ${examples} DESTINATION examples)
