@@ -69,7 +69,9 @@ void TestFileKind::whatIsReadEndsAndComesAtOnce_data()
     QTest::newRow("a file") << QCoreApplication::applicationFilePath() << false;
     QTest::newRow("a folder") << QCoreApplication::applicationDirPath() << false;
     QTest::newRow("nothing") << QStringLiteral("/nowhere/a.cfg") << false;
+#ifdef Q_OS_UNIX
     QTest::newRow("a device") << QStringLiteral("/dev/zero") << true;
+#endif
 }
 
 void TestFileKind::whatIsReadEndsAndComesAtOnce()

@@ -143,6 +143,9 @@ void TestReadFaults::aFileThatCannotBeReadFailsToLoad_data()
 void TestReadFaults::aFileThatCannotBeReadFailsToLoad()
 {
     QFETCH(QString, faulty);
+#ifdef Q_OS_WIN
+    QSKIP("a link is a file of its own on Windows");
+#endif
     const QString memory = QStringLiteral("/proc/self/mem");
     QFile tried(memory);
     if (!tried.open(QIODevice::ReadOnly) || tried.read(1).size() == 1)
@@ -186,12 +189,14 @@ void TestReadFaults::aFileMayChangeWhileItIsRead_data()
         QVERIFY(file.open(QIODevice::Append));
         file.write("1,1000,50\n");
     }) << 100001;
+#ifdef Q_OS_UNIX // Windows lets nobody remove a file that is read
     QTest::newRow("it is removed")
         << Change([](const QString &path) { QVERIFY(QFile::remove(path)); }) << 100000;
     QTest::newRow("another takes its place") << Change([](const QString &path) {
         QVERIFY(QFile::remove(path));
         QVERIFY(writeTextFile(path, "1,0,7\n"));
     }) << 100000;
+#endif
 }
 
 void TestReadFaults::aFileMayChangeWhileItIsRead()
