@@ -3,9 +3,9 @@
 
 #pragma once
 
+#include <QLabel>
 #include <QPoint>
-
-class QLabel;
+#include <QPointer>
 
 // The drag of a cursor's label: the press of the label, and from a distance on its move.
 class LabelDrag {
@@ -19,7 +19,7 @@ public:
     const QLabel *label() const { return m_label; } // null where none is pressed
 
 private:
-    const QLabel *m_label = nullptr;
+    QPointer<const QLabel> m_label; // another plot may remove its cursor
     QPoint m_press;
     bool m_isMoving = false;
 };

@@ -5,7 +5,13 @@
 
 #include "plotgeometry.h"
 
+#include <QMoveEvent>
 #include <QPainter>
+
+void repaintAround(QWidget &plot, const QRect &place)
+{
+    plot.update(place.adjusted(-1, -1, 1, 1));
+}
 
 PlotLine::PlotLine(QWidget *plot, const QString &name, const QString &color) : QFrame(plot)
 {
@@ -27,4 +33,14 @@ void PlotLine::place(int x, const PlotGeometry &geometry)
 void PlotLine::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter(this).fillRect(rect(), palette().color(foregroundRole()));
+}
+
+void PlotLine::moveEvent(QMoveEvent *event)
+{
+    repaintAround(*parentWidget(), QRect(event->oldPos(), size()));
+}
+
+void PlotLine::hideEvent(QHideEvent * /*event*/)
+{
+    repaintAround(*parentWidget(), geometry());
 }

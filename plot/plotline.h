@@ -6,6 +6,11 @@
 #include <QFrame>
 
 class PlotGeometry;
+class QRect;
+
+// Has a plot drawn again where a widget of it stood, and around there: where the scale factor is no
+// whole number, a place may miss a device pixel of what was shown there.
+void repaintAround(QWidget &plot, const QRect &place);
 
 // A vertical line over a plot, one pixel wide and seen at every scale factor of the screen; the
 // mouse passes through it. Hidden at first.
@@ -21,4 +26,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void moveEvent(QMoveEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 };

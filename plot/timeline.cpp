@@ -65,6 +65,7 @@ void TimeLine::show(int x, const PlotGeometry &geometry)
     const int farthest = m_plot->width() - m_label->width(); // where the label is still whole
     const int right = x + labelGap;
     const int left = x - labelGap - m_label->width() + 1;
+    repaintAround(*m_plot, m_label->geometry());
     // A drag may have led the pointer out of the plot.
     m_label->move(std::clamp(right <= farthest ? right : left, 0, std::max(0, farthest)), labelTop);
     m_label->show();

@@ -45,6 +45,7 @@ private slots:
     void isSeenWhereverItStands_data();
     void isSeenWhereverItStands();
     void leavesNothingBehind();
+    void repaintsMoreThanItsPlace();
 
 private:
     void checkLine(const QImage &image, int x) const;
@@ -144,6 +145,43 @@ void TestPlotLine::leavesNothingBehind()
     }
     line.hide();
     QCOMPARE(screenshot(*window), before);
+}
+
+namespace {
+
+// What of a widget is painted.
+class PaintWatch : public QObject {
+public:
+    QRegion painted;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            painted += static_cast<QPaintEvent *>(event)->region();
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+} // namespace
+
+// The screen's own system may round the place of a widget differently from the toolkit.
+void TestPlotLine::repaintsMoreThanItsPlace()
+{
+    PlotLine line(window.get(), QString(), QStringLiteral("white"));
+    line.place(100, geometry);
+    line.show();
+    screenshot(*window);
+    PaintWatch watch;
+    window->installEventFilter(&watch);
+    line.place(300, geometry);
+    screenshot(*window);
+    QVERIFY((QRegion(99, 59, 3, 62) - watch.painted).isEmpty());
+    QVERIFY(!watch.painted.intersects(QRect(120, 59, 160, 62)));
+    watch.painted = QRegion();
+    line.hide();
+    screenshot(*window);
+    QVERIFY((QRegion(299, 59, 3, 62) - watch.painted).isEmpty());
 }
 
 QTEST_MAIN(TestPlotLine)
