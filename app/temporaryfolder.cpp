@@ -31,21 +31,22 @@ std::unique_ptr<QLockFile> lockBeside(const QString &folder)
 }
 
 // On another thread. The end of the program waits for it.
-void removeInTheBackground(const QString &folder)
+void removeInTheBackground(const QString &folder, Entries entries)
 {
-    QThreadPool::globalInstance()->start([folder] { removeRecursively(folder); });
+    QThreadPool::globalInstance()->start([folder, entries] { removeRecursively(folder, entries); });
 }
 
 // Takes the folder out of the way at once, whatever it holds. One that cannot be moved stays until
 // it is removed.
-void putAway(const QString &folder)
+void putAway(const QString &folder, Entries entries)
 {
     if (!QFileInfo(folder).isDir())
         return;
     const QString aside = folder + asideMark + QUuid::createUuid().toString(QUuid::Id128);
-    removeInTheBackground(QDir().rename(folder, aside) ? aside : folder);
+    removeInTheBackground(QDir().rename(folder, aside) ? aside : folder, entries);
 }
 
+// What dead instances have left, and hidden entries that living ones let stay.
 void putAwayLeftovers(const QString &base)
 {
     const QString name = QFileInfo(base).fileName();
@@ -55,14 +56,14 @@ void putAwayLeftovers(const QString &base)
         const QString folder = parent.filePath(lockName).chopped(lockEnding.size());
         const auto lock = lockBeside(folder);
         if (lock->tryLock()) { // its instance has died
-            putAway(folder);
+            putAway(folder, Entries::All);
             QFile::remove(folder + linkEnding);
         }
     }
     const QStringList aside
         = parent.entryList({name + QLatin1Char('*') + asideMark + QLatin1Char('*')}, QDir::Dirs);
     for (const QString &folder : aside)
-        removeInTheBackground(parent.filePath(folder));
+        removeInTheBackground(parent.filePath(folder), Entries::All);
 }
 
 } // namespace
@@ -93,7 +94,7 @@ void TemporaryFolder::remove()
 {
     if (!m_isOwn)
         return;
-    putAway(m_path);
+    putAway(m_path, Entries::Visible);
     QFile::remove(m_path + linkEnding);
     m_lock.reset();
     m_isOwn = false;
@@ -148,7 +149,7 @@ QString freeTemporaryFolder(const QString &base)
     }
 }
 
-void removeRecursively(const QString &path)
+void removeRecursively(const QString &path, Entries entries)
 {
     if (path.isEmpty())
         return;
@@ -168,7 +169,9 @@ void removeRecursively(const QString &path)
     // Without QDir::System a link that leads nowhere would not be listed.
     const QStringList names = QDir(path).entryList(
         QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    for (const QString &name : names)
-        removeRecursively(path + QLatin1Char('/') + name);
+    for (const QString &name : names) {
+        if (entries == Entries::All || !name.startsWith(QLatin1Char('.')))
+            removeRecursively(path + QLatin1Char('/') + name, entries);
+    }
     QDir().rmdir(path);
 }

@@ -49,7 +49,9 @@ QString temporaryFolderBase();
 // First of base + "1", base + "2", ... that is no folder yet. It is not created.
 QString freeTemporaryFolder(const QString &base);
 
-// Removes the file or folder, write-protected and hidden ones, too. A symbolic link or junction is
-// itself removed, never what it leads to. What cannot be removed stays without a report; an empty
-// path does nothing.
-void removeRecursively(const QString &path);
+// Removes the file or folder, write-protected ones, too. Of what is in a folder, entries whose
+// names begin with a dot stay, with their folders, unless all are asked for. A symbolic link or
+// junction is itself removed, never what it leads to. What cannot be removed stays without a
+// report; an empty path does nothing.
+enum class Entries { Visible, All };
+void removeRecursively(const QString &path, Entries entries = Entries::Visible);

@@ -5,6 +5,7 @@
 #include "ownfilesystem.h"
 #include "smallrecording.h"
 #include "startup.h"
+#include "temporaryfolder.h"
 #include "windowfixture.h"
 
 #include <QElapsedTimer>
@@ -589,13 +590,17 @@ private slots:
             writeTextFile(disk.path("much"), QByteArray(1 << 16, 'x'));
         window = std::make_unique<MainWindow>();
         window->open(zip);
-        QTRY_VERIFY(boxes->count() > 0);
         QStringList texts;
-        for (const BoxReader::Box &box : boxes->take())
-            texts.append(box.text);
-        QVERIFY(texts.contains(
-            QStringLiteral("The zip file is not valid.\nPlease select another file.")));
+        const auto isTold = [&](const QString &text) {
+            for (const BoxReader::Box &box : boxes->take())
+                texts.append(box.text);
+            return texts.contains(text);
+        };
+        QTRY_VERIFY(
+            isTold(QStringLiteral("The zip file is not valid.\nPlease select another file.")));
         // On a full disk the archiver leaves files without contents.
+        if (!isReadOnly)
+            QTRY_VERIFY(isTold(QStringLiteral("File not supported.")));
         QCOMPARE(texts.contains(QStringLiteral("File not supported.")), !isReadOnly);
         QVERIFY(!window->recording());
         expectNextGoodFileOpens();
@@ -603,7 +608,8 @@ private slots:
         qputenv("XDG_DATA_HOME", place);
     }
 
-    void hiddenFilesLeaveNothingBehind()
+    // The hidden file stays until the next start.
+    void hiddenFilesAreRemovedAtTheNextStart()
     {
         if (realArchiver.isEmpty())
             QSKIP("no archiver is installed");
@@ -616,6 +622,9 @@ private slots:
             QVERIFY(QFile::exists(unpackingFolder(1) + QLatin1String("/.hidden")));
         }
         window->close();
+        QThreadPool::globalInstance()->waitForDone();
+        QVERIFY(!QFile::exists(unpackingFolder(1)));
+        const TemporaryFolder nextStart(temporaryFolderBase());
         QThreadPool::globalInstance()->waitForDone();
         const QDir parent = QFileInfo(unpackingFolder(1)).dir();
         QCOMPARE(

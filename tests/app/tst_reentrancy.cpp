@@ -13,6 +13,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPointer>
 #include <QScrollBar>
 #include <QWheelEvent>
 
@@ -157,7 +158,7 @@ class TestReentrancy : public PlotsWindow {
         const QList<Plotter *> shown = plots();
         if (shown.isEmpty())
             return;
-        Plotter *plot = anyOf(shown);
+        const QPointer<Plotter> plot = anyOf(shown); // a load may end meanwhile
         const QPoint from(100 + upTo(400), 60 + upTo(100));
         const QPoint to(100 + upTo(400), 60 + upTo(100));
         switch (upTo(5)) {
@@ -178,8 +179,10 @@ class TestReentrancy : public PlotsWindow {
         }
         default:
             QTest::mousePress(plot, Qt::LeftButton, {}, from);
-            QTest::mouseMove(plot, to);
-            QTest::mouseRelease(plot, Qt::LeftButton, {}, to);
+            if (plot)
+                QTest::mouseMove(plot, to);
+            if (plot)
+                QTest::mouseRelease(plot, Qt::LeftButton, {}, to);
         }
     }
 
