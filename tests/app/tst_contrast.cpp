@@ -57,8 +57,10 @@ double textContrast(const QImage &picture)
             }
         }
     }
-    for (const QRgb background : qAsConst(backgrounds))
-        best = std::min(best, contrast(text, background));
+    for (const QRgb background : qAsConst(backgrounds)) {
+        if (background != text) // but for a row of which the text fills the most
+            best = std::min(best, contrast(text, background));
+    }
     return best;
 }
 
