@@ -604,6 +604,9 @@ void TestPlotterDrawing::hairLine()
 // The toolkit reads the factor when it starts.
 void TestPlotterDrawing::hairLineAtTwiceTheScale()
 {
+#ifdef Q_OS_WIN
+    QSKIP("on Windows a test says nothing on its standard output");
+#endif
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QStringLiteral("2"));
     QProcess scaled;
