@@ -275,6 +275,17 @@ class TestLanguages : public WindowFixture {
         return clipped;
     }
 
+    // A reason comes in the system's language, and its own dialog names the kinds of files.
+    static bool isOfWindows(const QString &text)
+    {
+#ifdef Q_OS_WIN
+        return text == QLatin1String("File not found.") || text == QLatin1String("File Folder");
+#else
+        Q_UNUSED(text)
+        return false;
+#endif
+    }
+
     static void languages(bool withEnglish)
     {
         QTest::addColumn<QString>("entry");
@@ -306,7 +317,10 @@ private slots:
         QCoreApplication::removeTranslator(&untranslated);
     }
 
-    void everyTextThatIsAskedForIsTranslated_data() { languages(false); }
+    void everyTextThatIsAskedForIsTranslated_data()
+    {
+        languages(false);
+    }
     void everyTextThatIsAskedForIsTranslated()
     {
         QFETCH(QString, entry);
@@ -319,13 +333,16 @@ private slots:
         for (const UntranslatedTexts::Text &text : untranslated.texts()) {
             // Names of keys and of shortcuts are no texts.
             if (text.first != QLatin1String("QShortcut")
-                && !text.second.startsWith(QLatin1String("Alt+")))
+                && !text.second.startsWith(QLatin1String("Alt+")) && !isOfWindows(text.second))
                 missing.append(text.first + QLatin1String(": ") + text.second);
         }
-        QCOMPARE(missing, QStringList());
+        QCOMPARE(missing.join(QLatin1String("; ")), QString());
     }
 
-    void switchingLeavesNoTextBehind_data() { languages(false); }
+    void switchingLeavesNoTextBehind_data()
+    {
+        languages(false);
+    }
     void switchingLeavesNoTextBehind()
     {
         QFETCH(QString, entry);
@@ -447,7 +464,10 @@ private slots:
         }
     }
 
-    void mnemonicsDoNotClash_data() { languages(true); }
+    void mnemonicsDoNotClash_data()
+    {
+        languages(true);
+    }
     void mnemonicsDoNotClash()
     {
         QFETCH(QString, entry);
@@ -472,7 +492,10 @@ private slots:
             QCOMPARE(clashesOf(textsIn(*child<QDialog>(name))), QString());
     }
 
-    void textsFit_data() { languages(true); }
+    void textsFit_data()
+    {
+        languages(true);
+    }
     void textsFit()
     {
         QFETCH(QString, entry);
