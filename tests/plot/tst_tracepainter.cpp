@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QImage>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QtTest>
 
