@@ -8,6 +8,8 @@
 #include "shownchannel.h"
 
 #include <QFont>
+#include <QPixmap>
+#include <QRect>
 #include <QRgb>
 #include <QSize>
 #include <QVector>
@@ -44,5 +46,19 @@ struct BaseContent {
         return view == other.view && size == other.size && pixelRatio == other.pixelRatio
             && font == other.font && trigger == other.trigger && readout.rows == other.readout.rows
             && readoutWidth == other.readoutWidth && times == other.times && traces == other.traces;
+    }
+};
+
+// The base layer of a plot, and what it shows.
+struct BaseLayer {
+    BaseContent content;
+    QRect part; // of the plot, which the pixmap covers
+    QPixmap pixmap;
+
+    // Whether the pixmap holds some of a row of a digital plot around this y of the plot.
+    bool holdsRow(int y) const
+    {
+        constexpr int reach = 20; // of a row with its name, to both sides, and more
+        return y >= part.top() - reach && y <= part.bottom() + reach;
     }
 };

@@ -17,7 +17,6 @@
 #include "timeaxis.h"
 
 #include <QList>
-#include <QPixmap>
 #include <QWidget>
 
 class CFGProperties;
@@ -138,8 +137,6 @@ protected:
     virtual ValueExtremes prepareTraces();
 
     CFGProperties *recording() const; // null without a host or a recording
-    // Whether the part that the base layer covers holds some of a row around this y.
-    bool isRowDrawn(int y) const;
     void setHome();
 
     QString plotType; // "Analog" or "Digital"; the zooms ask whether it contains one of them
@@ -147,6 +144,7 @@ protected:
     PlotTitle *plotterLabel;
     ShownChannels m_channels; // traces are drawn in the order of the numbers
     TimeAxis m_timeAxis;
+    BaseLayer m_base;
     PlotKeyboard m_keyboard{this};
 
 private:
@@ -183,9 +181,6 @@ private:
     ReadoutRoom m_readoutRoom;
     PlotMarks m_marks;
     RubberBand m_rubberBand;
-    QPixmap basePixmap;
-    QRect m_basePart; // of the plot, which basePixmap covers
-    BaseContent m_drawn; // what basePixmap shows
     Overlay m_overlay;
     PlotHost *mainWindow = nullptr;
     ChannelLabels m_channelLabels;

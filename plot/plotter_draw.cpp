@@ -74,8 +74,8 @@ void Plotter::refreshPixmap()
     settleReadout();
     shareReadoutWidth();
     BaseContent content = baseContent();
-    if (!(content == m_drawn)) {
-        m_drawn = std::move(content);
+    if (!(content == m_base.content)) {
+        m_base.content = std::move(content);
         if (!digitalFlag)
             m_channelLabels.show(labelEntries(m_channels, AnalogSource(mainWindow)));
         paintBase(visibleRegion().boundingRect());
@@ -106,12 +106,12 @@ BaseContent Plotter::baseContent() const
 
 void Plotter::paintBase(const QRect &seen)
 {
-    m_basePart = layerPart(size(), seen);
-    basePixmap = clearLayer(m_basePart.size() * devicePixelRatioF(), devicePixelRatioF());
-    if (m_view.isEmpty() || basePixmap.isNull())
+    m_base.part = layerPart(size(), seen);
+    m_base.pixmap = clearLayer(m_base.part.size() * devicePixelRatioF(), devicePixelRatioF());
+    if (m_view.isEmpty() || m_base.pixmap.isNull())
         return;
-    QPainter painter(&basePixmap);
-    painter.translate(-m_basePart.topLeft());
+    QPainter painter(&m_base.pixmap);
+    painter.translate(-m_base.part.topLeft());
     drawGrid(&painter);
     drawCurves(&painter);
     drawTrigger(&painter);
@@ -123,25 +123,19 @@ void Plotter::paintBase(const QRect &seen)
 void Plotter::drawBase(QPainter &painter, QRect seen)
 {
     if (height() <= tallestLayer) {
-        painter.drawPixmap(0, 0, basePixmap);
+        painter.drawPixmap(0, 0, m_base.pixmap);
         return;
     }
     while (!seen.isEmpty()) {
         QRect strip = seen;
         strip.setHeight(std::min(seen.height(), tallestLayer));
-        if (!m_basePart.contains(strip))
+        if (!m_base.part.contains(strip))
             paintBase(strip);
         painter.setClipRect(strip);
-        painter.drawPixmap(m_basePart.topLeft(), basePixmap);
+        painter.drawPixmap(m_base.part.topLeft(), m_base.pixmap);
         seen.setTop(strip.bottom() + 1);
     }
     painter.setClipping(false);
-}
-
-bool Plotter::isRowDrawn(int y) const
-{
-    constexpr int reach = 20; // of a row with its name, to both sides, and more
-    return y >= m_basePart.top() - reach && y <= m_basePart.bottom() + reach;
 }
 
 void Plotter::drawGrid(QPainter *painter)
@@ -232,5 +226,5 @@ void Plotter::drawValueTable(QPainter *painter)
 {
     const PlotGeometry geometry = geometryOfView();
     if (geometry.isDrawable())
-        m_drawn.readout.draw(*painter, geometry, smallFont(font()));
+        m_base.content.readout.draw(*painter, geometry, smallFont(font()));
 }

@@ -46,7 +46,7 @@ bool Plotter::event(QEvent *event)
     case QEvent::ToolTip: { // the cells of the readout are elided where there are many cursors
         const auto *help = static_cast<QHelpEvent *>(event);
         const QString text
-            = m_drawn.readout.textAt(help->pos(), geometryOfView(), smallFont(font()));
+            = m_base.content.readout.textAt(help->pos(), geometryOfView(), smallFont(font()));
         QToolTip::showText(help->globalPos(), plainToolTip(text), this);
         return true;
     }

@@ -68,7 +68,7 @@ void plotterDg::drawGrid(QPainter *painter)
     int row = 0;
     for (const ShownChannel &shown : qAsConst(m_channels).byNumber()) {
         const int y = geometry.rowY(row++, m_channels.count());
-        if (isRowDrawn(y))
+        if (m_base.holdsRow(y))
             drawRowLabel(*painter, font(), shown.id, y);
     }
 }
@@ -82,7 +82,7 @@ void plotterDg::drawCurves(QPainter *painter)
     int row = 0;
     for (const ShownChannel &shown : qAsConst(m_channels).byNumber()) {
         const int y = geometry.rowY(row++, m_channels.count());
-        if (isRowDrawn(y))
+        if (m_base.holdsRow(y))
             drawDigitalRow(*painter, geometry, m_timeAxis, shown.runs, y);
     }
 }
