@@ -32,7 +32,9 @@ void widen(ValueExtremes &extremes, double value)
 } // namespace
 
 AnalogSource::AnalogSource(const PlotHost *host)
-    : m_host(host), m_recording(host ? host->recording() : nullptr)
+    : m_host(host),
+      m_recording(host ? host->recording() : nullptr),
+      m_valueMode(host ? host->valueMode() : 0)
 {
 }
 
@@ -57,7 +59,7 @@ const AnalogChannel *AnalogSource::channel(int number) const
 double AnalogSource::factor(int number) const
 {
     const AnalogChannel *source = channel(number);
-    return source ? valueFactor(*source, m_host->valueMode()) : 1.0;
+    return source ? valueFactor(*source, m_valueMode) : 1.0;
 }
 
 ShownChannel AnalogSource::shown(int number) const

@@ -36,4 +36,5 @@ private:
 
     const PlotHost *m_host;
     const CFGProperties *m_recording;
+    int m_valueMode;
 };

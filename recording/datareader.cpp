@@ -250,7 +250,7 @@ private:
         if (m_rows > m_rowsWithRoom)
             reserve();
         const int count = static_cast<int>(m_gathered);
-        constexpr int stepsOfASeries = 20;
+        constexpr qint64 stepsOfASeries = 20;
         countWork(columns() * (count + stepsOfASeries));
         append(m_recording.sampleTimes, m_times.data());
         for (const AnalogColumn &column : m_analog) {
@@ -276,7 +276,7 @@ private:
         // Lists that were empty share these times instead of copying them.
         const QVector<double> times = m_recording.sampleTimes.mid(m_rowsBefore);
         for (const AnalogColumn &column : m_analog) {
-            countWork(2 * m_rows);
+            countWork(qint64(2) * m_rows);
             column.channel->values.squeeze();
             column.channel->rawValues.squeeze();
             column.channel->times += times;

@@ -164,7 +164,7 @@ private:
     void makeTurns()
     {
         constexpr double turn = 6.283185307179586;
-        constexpr int stepsOfATurn = 4;
+        constexpr qint64 stepsOfATurn = 4;
         const int end = std::min(2 * m_half, m_half + m_channel.rawValues.size());
         countWork(stepsOfATurn * (end - m_firstTurn));
         m_turns.reserve(static_cast<size_t>(end - m_firstTurn));

@@ -40,7 +40,7 @@ void readHeader(CFGProperties &recording, QString line)
     const QVector<QStringRef> names = firstFields(line, mostChannels);
     const int count = names.size();
     for (int k = 0; k < count; ++k) {
-        constexpr int stepsOfAName = 500;
+        constexpr qint64 stepsOfAName = 500;
         countWork(stepsOfAName);
         const QString field = names.at(k).toString();
         const int bracket = field.lastIndexOf(QLatin1Char('['));
@@ -148,7 +148,7 @@ public:
     bool readLine(const QString &line)
     {
         m_letters += line.size() + 1; // with the line end
-        constexpr int stepsOfAValue = 20;
+        constexpr qint64 stepsOfAValue = 20;
         countWork(stepsOfAValue * (m_recording.analogChannelCount + 1));
         if (m_recording.sampleTimes.size() == mostRows
             || !isWithinBudget(m_rows + 1, m_recording.analogChannelCount, m_letters))
@@ -185,7 +185,7 @@ public:
     {
         m_recording.sampleTimes.squeeze();
         for (AnalogChannel *channel : qAsConst(m_recording.analogChannels)) {
-            countWork(2 * m_rows);
+            countWork(qint64(2) * m_rows);
             channel->times = m_recording.sampleTimes;
             channel->values.squeeze();
             channel->rawValues.squeeze();
