@@ -492,7 +492,8 @@ void TestBaseLayer::digitalRowsWhereTimesStepBack()
     QVector<double> times;
     QVector<int> states;
     for (int i = 0; i < count; ++i) {
-        times.append(700.0 * i / count - back * double(qint64(i) * (steps + 1) / count));
+        const qint64 stepsBefore = qint64(i) * (steps + 1) / count;
+        times.append(700.0 * i / count - back * double(stepsBefore));
         states.append(i / hold % 2);
     }
     const PlotGeometry geometry = geometryOf(view);

@@ -36,8 +36,10 @@ QVector<double> steadyTimes(int count)
 QVector<double> steppingBack(int count, int steps, double back)
 {
     QVector<double> times = steadyTimes(count);
-    for (int i = 0; i < count; ++i)
-        times[i] -= back * (i * (steps + 1) / count);
+    for (int i = 0; i < count; ++i) {
+        const int stepsBefore = i * (steps + 1) / count;
+        times[i] -= back * stepsBefore;
+    }
     return times;
 }
 
