@@ -225,7 +225,7 @@ void Plotter::keyPressEvent(QKeyEvent *event)
     m_keyboard.hold(event->key());
     QScrollBar *bar = mainWindow ? mainWindow->horizontalScrollBar() : nullptr;
     const auto turnBar = [&](int steps) {
-        if (bar)
+        if (bar && (steps < 0 || bar->value() < bar->maximum()))
             bar->setValue(bar->value() + steps);
         refreshPixmap();
     };

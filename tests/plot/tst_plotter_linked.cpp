@@ -323,7 +323,8 @@ void TestPlotterLinked::actAtRandom(Plotter *plot, std::mt19937 &random)
         break;
     }
     case 3:
-        bar->setValue(bar->value() + upTo(5) - 2);
+        bar->setValue(static_cast<int>(qBound(
+            qint64(bar->minimum()), qint64(bar->value()) + upTo(5) - 2, qint64(bar->maximum()))));
         break;
     case 4:
         plots().at(upTo(3))->setVisible(upTo(2));
