@@ -10,6 +10,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <limits>
 #include <memory>
 
 namespace {
@@ -472,6 +473,12 @@ void TestPlotterInput::arrowsTurnTheScrollBar()
     QCOMPARE(pair->host.bar->value(), 2);
     QTest::keyClick(pair->plot, Qt::Key_Left);
     QCOMPARE(pair->host.bar->value(), 1);
+    // A zoom far in makes a bar as long as numbers go.
+    const int longest = std::numeric_limits<int>::max();
+    pair->host.bar->setRange(0, longest);
+    pair->host.bar->setValue(longest);
+    QTest::keyClick(pair->plot, Qt::Key_Right);
+    QCOMPARE(pair->host.bar->value(), longest);
 }
 
 void TestPlotterInput::otherKeysAreLeftToTheWindow()
