@@ -1,6 +1,8 @@
 # SPDX-FileCopyrightText: 2026 Norvale
 # SPDX-License-Identifier: GPL-3.0-or-later
 
+include(CheckLinkerFlag)
+
 # What every target of this project is compiled with; all of them link wavorin_options.
 add_library(wavorin_options INTERFACE)
 target_compile_features(wavorin_options INTERFACE cxx_std_17)
@@ -43,6 +45,10 @@ function(wavorin_precompiled name)
     set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
 endfunction()
 if(WAVORIN_QUICK_BUILD)
+    check_linker_flag(CXX -fuse-ld=gold WAVORIN_HAS_GOLD)
+    if(WAVORIN_HAS_GOLD AND NOT WAVORIN_SANITIZE)
+        target_link_options(wavorin_options INTERFACE -fuse-ld=gold)
+    endif()
     wavorin_precompiled(wavorin_widget_headers HEADERS <QtWidgets> LIBRARIES Qt5::Widgets)
 endif()
 

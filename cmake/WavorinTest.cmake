@@ -5,7 +5,7 @@ add_library(wavorin_test_options INTERFACE)
 target_include_directories(wavorin_test_options INTERFACE "${PROJECT_SOURCE_DIR}/tests/support")
 if(WAVORIN_QUICK_BUILD)
     target_compile_options(wavorin_test_options INTERFACE
-        $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-O1>)
+        $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:$<IF:$<BOOL:${WAVORIN_SANITIZE}>,-O1,-O0>>)
     wavorin_precompiled(wavorin_test_headers
         HEADERS <QtTest> LIBRARIES wavorin_test_options Qt5::Test)
     wavorin_precompiled(wavorin_widget_test_headers
