@@ -69,6 +69,8 @@ private slots:
     void aDraggedLabelStopsAtTheEdges();
     void aNewPlotTakesOverCursorsAndMarkers();
     void theMenuRemovesOneCursor();
+    void aDragOutlivesItsCursor_data();
+    void aDragOutlivesItsCursor();
     void theMenuRemovesAllCursors();
 
     void saveMarkers_data();
@@ -615,6 +617,40 @@ void TestPlotterCursors::theMenuRemovesOneCursor()
     QCOMPARE(pair->plot->cursors(), pair->digital->cursors());
     QCOMPARE(pair->other->cursors(), pair->digital->cursors());
     QCOMPARE(PlotPair::lineLabels(pair->digital).at(1)->text(), QStringLiteral("P2"));
+}
+
+// By the Menu key, while the button is held down.
+void TestPlotterCursors::aDragOutlivesItsCursor_data()
+{
+    QTest::addColumn<bool>("isMoving");
+    QTest::newRow("dragged") << true;
+    QTest::newRow("only pressed") << false;
+}
+
+void TestPlotterCursors::aDragOutlivesItsCursor()
+{
+    QFETCH(bool, isMoving);
+    for (int twice = 0; twice < 2; ++twice) {
+        for (const int x : {200, 400})
+            QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {x, 150});
+        const QPoint grip = PlotPair::lineLabels(pair->digital).first()->geometry().center();
+        QTest::mousePress(pair->digital, Qt::LeftButton, {}, grip);
+        if (isMoving)
+            PlotPair::move(pair->digital, {300, 150}, Qt::LeftButton);
+        QContextMenuEvent event(QContextMenuEvent::Keyboard,
+            PlotPair::lineLabels(pair->other).first()->geometry().center());
+        QApplication::sendEvent(pair->other, &event);
+        const std::unique_ptr<QMenu> menu(pair->other->findChild<QMenu *>());
+        menu->actions().first()->trigger();
+        PlotPair::move(pair->digital, {600, 150}, Qt::LeftButton);
+        QTest::mouseRelease(pair->digital, Qt::LeftButton, {}, {600, 150});
+        for (const Plotter *plot : QList<Plotter *>{pair->plot, pair->other, pair->digital})
+            QCOMPARE(plot->cursors(), QList<double>{3000.0 / 7});
+        PlotPair::move(pair->digital, {500, 150});
+        QCOMPARE(pair->digital->cursors(), QList<double>{3000.0 / 7});
+        for (Plotter *plot : QList<Plotter *>{pair->plot, pair->other, pair->digital})
+            plot->clearCursors();
+    }
 }
 
 void TestPlotterCursors::theMenuRemovesAllCursors()
