@@ -19,9 +19,7 @@ if(WAVORIN_WERROR)
 endif()
 if(WAVORIN_SANITIZE)
     set(sanitizers -fsanitize=${WAVORIN_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
-    # Instrumented, the standard library's own regular expressions look uninitialized to GCC.
-    target_compile_options(wavorin_options INTERFACE
-        ${sanitizers} $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
+    target_compile_options(wavorin_options INTERFACE ${sanitizers})
     target_link_options(wavorin_options INTERFACE ${sanitizers})
 endif()
 if(WAVORIN_FUZZ)
