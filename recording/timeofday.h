@@ -12,3 +12,8 @@ inline const QString timeOfDayFormat = QStringLiteral("hh:mm:ss.zzz");
 // Date and time of day are read apart and joined as UTC, so that no hour falls into the gap that
 // daylight saving leaves in local time. Invalid where one of them does not read.
 QDateTime joinedAsUtc(const QString &date, const QString &dateFormat, const QString &time);
+
+// The time of day, to the microsecond, at a time of a recording that starts at startTime (as
+// timeOfDayFormat has it): "10:00:00.020500" for 20.5 ms after 10 o'clock. It begins anew at
+// midnight. Empty where the start is no time of day or the time lies more than a year away.
+QString clockText(const QString &startTime, double ms);

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "timeofday.h"
+
+#include <QtTest>
+
+#include <limits>
+
+class TestTimeOfDay : public QObject {
+    Q_OBJECT
+
+private slots:
+    void writesClockTimes_data();
+    void writesClockTimes();
+};
+
+void TestTimeOfDay::writesClockTimes_data()
+{
+    QTest::addColumn<QString>("start");
+    QTest::addColumn<double>("ms");
+    QTest::addColumn<QString>("text");
+
+    const auto row = [](const char *name, const char *start, double ms, const char *text) {
+        QTest::newRow(name) << QString::fromLatin1(start) << ms << QString::fromLatin1(text);
+    };
+    row("the start", "10:00:00.020", 0, "10:00:00.020000");
+    row("half a millisecond", "10:00:00.020", 20.5, "10:00:00.040500");
+    row("a third of one", "10:00:00.000", 1.0 / 3, "10:00:00.000333");
+    row("rounded up into the next millisecond", "10:00:00.000", 0.9999996, "10:00:00.001000");
+    row("an hour and a minute", "22:58:59.999", 3660000, "23:59:59.999000");
+    row("across midnight", "23:59:59.990", 20, "00:00:00.010000");
+    row("two midnights", "12:00:00.000", 2 * 86400000.0, "12:00:00.000000");
+    row("before the start", "00:00:00.010", -20, "23:59:59.990000");
+    row("blanks around the start", " 10:00:00.020 ", 0, "10:00:00.020000");
+    row("no start", "", 0, "");
+    row("no time of day", "25:00:00.000", 0, "");
+    row("not a number", "10:00:00.020", std::numeric_limits<double>::quiet_NaN(), "");
+    row("infinity", "10:00:00.020", std::numeric_limits<double>::infinity(), "");
+    row("ages", "10:00:00.020", 1e300, "");
+}
+
+void TestTimeOfDay::writesClockTimes()
+{
+    QFETCH(QString, start);
+    QFETCH(double, ms);
+    QTEST(clockText(start, ms), "text");
+}
+
+QTEST_GUILESS_MAIN(TestTimeOfDay)
+#include "tst_timeofday.moc"
