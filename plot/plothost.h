@@ -6,6 +6,9 @@
 #include <QtPlugin>
 
 class CFGProperties;
+class Plotter;
+class QMenu;
+class QPoint;
 class QScrollBar;
 
 // What a plot needs of the window that holds it. The window implements it; a plot finds it with
@@ -32,6 +35,13 @@ public:
 
     // Asks the phasor dialog to draw again; cheap while the dialog is hidden.
     virtual void refreshVectors() = 0;
+
+    // Adds what the window offers at a point of a plot to the plot's context menu. The cursor is
+    // that of the label at the point, -1 where none is there.
+    virtual void fillPlotMenu(
+        QMenu & /*menu*/, Plotter & /*plot*/, const QPoint & /*point*/, int /*cursor*/)
+    {
+    }
 };
 
 Q_DECLARE_INTERFACE(PlotHost, "wavorin.PlotHost/1.0")

@@ -10,7 +10,6 @@
 #include "plottitle.h"
 
 #include <QColorDialog>
-#include <QEvent>
 #include <QLineEdit>
 #include <QPaintEvent>
 #include <QPainter>
@@ -43,6 +42,7 @@ Plotter::Plotter(QWidget *parent)
 Plotter::~Plotter()
 {
     m_keyboard.endGrab();
+    s_shared.history.forget(this);
 }
 
 void Plotter::setMainWindow(QObject *window)
@@ -63,16 +63,6 @@ void Plotter::setName(const QString &name)
 QString Plotter::name() const
 {
     return plotterLabel->name();
-}
-
-void Plotter::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange) {
-        plotterLabel->retranslate();
-        colorDialog->setWindowTitle(QColorDialog::tr("Select Color"));
-        refreshPixmap();
-    }
-    QWidget::changeEvent(event);
 }
 
 void Plotter::removeLinkedPlotter(const QString &name)

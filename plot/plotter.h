@@ -11,12 +11,11 @@
 #include "plotgeometry.h"
 #include "plotkeyboard.h"
 #include "plotmarks.h"
-#include "plotview.h"
 #include "rubberband.h"
+#include "sharedview.h"
 #include "shownchannels.h"
 #include "timeaxis.h"
 
-#include <QList>
 #include <QWidget>
 
 class CFGProperties;
@@ -45,7 +44,6 @@ public:
     void setName(const QString &name);
     QString name() const;
 
-    // The other plots of the window.
     void setLinkedPlotters(const QList<Plotter *> &plotters) { linkedPlotters = plotters; }
     const QList<Plotter *> &linked() const { return linkedPlotters; }
     // Removes the last linked plot of that name, and where there is none the first linked plot.
@@ -70,13 +68,20 @@ public:
     void rescaleValues();
     void resetPlot();
 
+    // Changes the view, gives whether that did something, and has the linked plots follow in time.
+    bool changeView(const ViewChange &change);
+    // Notes what the plots show, before a change of it; each is one step back.
+    void noteViews() { s_shared.history.note(views()); }
+    bool hasPreviousView() const { return s_shared.history.canGoBack(views()); }
+    void showPreviousView();
+
     // Cursor times in ms, in the order in which they were set.
     void addCursorAt(double time);
+    void moveCursor(int cursor, double time);
     QList<double> cursors() const { return m_marks.cursors.times(); }
     // The time difference of the last neighbouring pair of cursors, ms; 0 with fewer than two.
     double pairDifference() const { return m_marks.cursors.pairDifference(); }
     void clearCursors();
-
     // The sample times of the recording as of the last setupPlot().
     const TimeAxis &sampleTimes() const { return m_timeAxis; }
 
@@ -89,7 +94,6 @@ public:
     virtual void addCursor(int x, int y);
     virtual void applyRubberBand();
     virtual void drawValueTable(QPainter *painter);
-    void drawTimeLabels(QPainter *painter);
 
     void receiveMouseMove(QMouseEvent *event) override { mouseMoveEvent(event); }
 
@@ -120,7 +124,6 @@ public slots:
 
 protected:
     bool event(QEvent *event) override;
-    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -157,7 +160,7 @@ private:
     void paintBase(const QRect &seen);
     void drawBase(QPainter &painter, QRect seen);
     void placeMarks();
-
+    ViewHistory::Views views() const; // of this plot and the linked ones
     bool zoomTime(double factor, SharedView::Rule sharing);
     void zoomLinked(double factor, SharedView::Rule sharing);
     bool zoomValues(double factor, bool keepsCentre);
@@ -168,7 +171,6 @@ private:
     void rangeScrollBar();
     void takeBarPosition();
     void scrollView(int dx, int dy);
-
     void showTimeLine(int x);
     void removeCursors(int first, int last);
     void dragCursor(int x);
@@ -188,7 +190,6 @@ private:
     QColorDialog *colorDialog;
     int zoomLevel = 0;
     QList<Plotter *> linkedPlotters;
-
     // Kept for their values; nothing reads them.
     QWidget *hostWidget;
     int scrollDelta = 0;

@@ -42,8 +42,13 @@ void Plotter::dragCursor(int x)
     if (cursor < 0 || m_view.isEmpty())
         return;
     const QRect area = geometryOfView().area();
-    const double time = geometryOfView().lineTime(
-        std::clamp(x, area.left(), std::max(area.left(), area.right())));
+    moveCursor(cursor,
+        geometryOfView().lineTime(std::clamp(x, area.left(), std::max(area.left(), area.right()))));
+}
+
+// The readouts follow at the next refresh.
+void Plotter::moveCursor(int cursor, double time)
+{
     const auto move = [&](Plotter *plotter) {
         plotter->m_marks.cursors.move(cursor, time);
         plotter->refreshOverlay();

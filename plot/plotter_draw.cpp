@@ -115,7 +115,8 @@ void Plotter::paintBase(const QRect &seen)
     drawGrid(&painter);
     drawCurves(&painter);
     drawTrigger(&painter);
-    drawTimeLabels(&painter);
+    if (geometryOfView().isDrawable())
+        drawTimeLabels(painter, geometryOfView(), font());
     drawValueTable(&painter);
 }
 
@@ -170,13 +171,6 @@ void Plotter::drawTrigger(QPainter *painter)
     const PlotGeometry geometry = geometryOfView();
     if (recording() && geometry.isDrawable())
         drawTriggerMark(*painter, geometry, font(), recording()->triggerOffsetMs);
-}
-
-void Plotter::drawTimeLabels(QPainter *painter)
-{
-    const PlotGeometry geometry = geometryOfView();
-    if (geometry.isDrawable())
-        ::drawTimeLabels(*painter, geometry, font());
 }
 
 void Plotter::settleReadout()

@@ -23,6 +23,8 @@
 #include <QToolTip>
 #include <QWheelEvent>
 
+#include <memory>
+
 namespace {
 
 constexpr int notch = 120; // of a wheel
@@ -55,6 +57,11 @@ bool Plotter::event(QEvent *event)
         break;
     case QEvent::Show:
     case QEvent::Resize:
+        refreshPixmap();
+        break;
+    case QEvent::LanguageChange:
+        plotterLabel->retranslate();
+        colorDialog->setWindowTitle(QColorDialog::tr("Select Color"));
         refreshPixmap();
         break;
     case QEvent::Hide:
@@ -140,6 +147,7 @@ void Plotter::mouseReleaseEvent(QMouseEvent * /*event*/)
             mainWindow->refreshVectors();
         return;
     }
+    noteViews();
     if (!m_rubberBand.isShown() || !zoomToBand(true))
         return;
     for (Plotter *plotter : qAsConst(linkedPlotters)) {
@@ -200,6 +208,7 @@ void Plotter::chooseColor(const QLabel *label)
 
 void Plotter::wheelEvent(QWheelEvent *event)
 {
+    noteViews();
     const QPoint delta = event->angleDelta();
     const bool isForward = delta.y() > notch - 1;
     if (m_keyboard.isHeld(Qt::Key_Control)) {
@@ -222,6 +231,7 @@ void Plotter::keyPressEvent(QKeyEvent *event)
         QWidget::keyPressEvent(event);
         return;
     }
+    noteViews();
     m_keyboard.hold(event->key());
     QScrollBar *bar = mainWindow ? mainWindow->horizontalScrollBar() : nullptr;
     const auto turnBar = [&](int steps) {
@@ -272,16 +282,20 @@ void Plotter::contextMenuEvent(QContextMenuEvent *event)
 {
     auto *label = qobject_cast<CustomLabel *>(childAt(event->pos()));
     const int cursor = m_marks.cursors.cursorOf(label);
-    if (cursor < 0) {
+    auto menu = std::make_unique<QMenu>(this);
+    if (cursor >= 0) {
+        connect(menu->addAction(tr("Remove Cursor")), &QAction::triggered, this,
+            [this, cursor] { removeCursors(cursor, cursor + 1); });
+        connect(menu->addAction(tr("Remove All Cursors")), &QAction::triggered, this,
+            [this] { removeCursors(0, m_marks.cursors.count()); });
+    }
+    if (mainWindow)
+        mainWindow->fillPlotMenu(*menu, *this, event->pos(), cursor);
+    if (menu->isEmpty()) {
         event->ignore();
         return;
     }
     letGo();
-    auto *menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    connect(menu->addAction(tr("Remove Cursor")), &QAction::triggered, this,
-        [this, cursor] { removeCursors(cursor, cursor + 1); });
-    connect(menu->addAction(tr("Remove All Cursors")), &QAction::triggered, this,
-        [this] { removeCursors(0, m_marks.cursors.count()); });
-    menu->popup(event->globalPos());
+    menu.release()->popup(event->globalPos());
 }

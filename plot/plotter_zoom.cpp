@@ -91,6 +91,41 @@ void Plotter::followLinked()
     }
 }
 
+bool Plotter::changeView(const ViewChange &change)
+{
+    noteViews();
+    if (!change(m_view))
+        return false;
+    s_shared.timeZoom = m_view.timeZoom();
+    s_shared.takeLive(m_view, plotType, SharedView::Rule::IfAnalog);
+    leadLinked();
+    rangeScrollBar();
+    refreshAll();
+    return true;
+}
+
+ViewHistory::Views Plotter::views() const
+{
+    ViewHistory::Views views{{this, m_view}};
+    for (const Plotter *plotter : linkedPlotters)
+        views.insert(plotter, plotter->m_view);
+    return views;
+}
+
+// A plot that was hidden or not yet there at that time follows when it is shown, or now.
+void Plotter::showPreviousView()
+{
+    const ViewHistory::Views previous = s_shared.history.goBack(views());
+    for (Plotter *plotter : QList<Plotter *>{this} + linkedPlotters) {
+        plotter->m_view = previous.value(plotter);
+        s_shared.takeLive(plotter->m_view, plotter->plotType, SharedView::Rule::IfAnalog);
+    }
+    s_shared.timeZoom = m_view.timeZoom();
+    s_shared.valueZoom = m_view.valueZoom();
+    rangeScrollBar();
+    refreshAll();
+}
+
 bool Plotter::zoomTime(double factor, SharedView::Rule sharing)
 {
     if (!m_view.zoomTime(factor))

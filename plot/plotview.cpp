@@ -6,6 +6,8 @@
 #include <QRect>
 #include <QSize>
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -126,6 +128,50 @@ bool PlotView::turnTo(int position)
     return scroll(position, 0);
 }
 
+bool PlotView::showTimes(double from, double to)
+{
+    if (m_isEmpty || !PlotSettings::isUsable(from, to))
+        return false;
+    PlotSettings view = m_live;
+    view.minX = from;
+    view.maxX = to;
+    PlotSettings::adjustAxis(from, to, view.numXTicks);
+    m_timeZoom = view.spanX() / m_home.spanX();
+    return show(view);
+}
+
+bool PlotView::showAllTimes()
+{
+    PlotSettings view = m_live;
+    view.minX = m_home.minX;
+    view.maxX = m_home.maxX;
+    view.numXTicks = m_home.numXTicks;
+    m_timeZoom = 1.0;
+    return !m_isEmpty && show(view);
+}
+
+bool PlotView::moveTimes(double distance)
+{
+    PlotSettings view = m_live;
+    const double room = distance < 0 ? view.minX - m_home.minX : m_home.maxX - view.maxX;
+    const double moved = std::copysign(std::clamp(room, 0.0, std::abs(distance)), distance);
+    view.minX += moved;
+    view.maxX += moved;
+    return !m_isEmpty && PlotSettings::isUsable(view.minX, view.maxX) && show(view);
+}
+
+PlotView PlotView::returnedTo(const PlotView &earlier) const
+{
+    PlotView view(*this);
+    if (m_isEmpty || earlier.m_isEmpty)
+        return view;
+    view.m_timeZoom = earlier.m_timeZoom;
+    view.m_valueZoom = earlier.m_valueZoom;
+    view.m_part = earlier.m_part;
+    view.m_live = withRange(earlier.m_live, view.m_part.at(m_extremes));
+    return view;
+}
+
 bool PlotView::reset()
 {
     m_timeZoom = 1.0;
@@ -152,13 +198,4 @@ bool PlotView::follow(const PlotView &other)
     view.maxX = other.m_live.maxX;
     view.numXTicks = other.m_live.numXTicks;
     return show(view);
-}
-
-void SharedView::takeLive(const PlotView &view, const QString &plotType, Rule rule)
-{
-    const bool isTaken = rule == Rule::Always
-        || (rule == Rule::UnlessDigital && !plotType.contains(QLatin1String("Digital")))
-        || (rule == Rule::IfAnalog && plotType.contains(QLatin1String("Analog")));
-    if (isTaken)
-        analog = view.live();
 }

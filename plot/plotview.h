@@ -6,8 +6,6 @@
 #include "plotsettings.h"
 #include "valuepart.h"
 
-#include <QString>
-
 class QRect;
 class QSize;
 
@@ -40,6 +38,14 @@ public:
     bool scroll(int timeSteps, int valueSteps);
     bool reset();
     bool clear();
+    // Shows exactly these times, with a grid as fine as that of the times around them; or all.
+    bool showTimes(double from, double to);
+    bool showAllTimes();
+    // Moves by a time in ms, but no further beyond the full view than it is there already.
+    bool moveTimes(double distance);
+
+    // This view gone back to the times and the part of the values that an earlier one showed.
+    PlotView returnedTo(const PlotView &earlier) const;
 
     // Takes over the time range, its zoom and the scroll bar's position from another plot.
     bool follow(const PlotView &other);
@@ -63,16 +69,4 @@ private:
     ValueExtremes m_extremes;
     ValuePart m_part; // of the values
     int m_barPosition = 0;
-};
-
-// What all plots have in common: the last analog view and the last zooms, as fractions shown.
-struct SharedView {
-    // Each zoom has its own rule for the plots whose view is taken over, by their type.
-    enum class Rule { Always, UnlessDigital, IfAnalog };
-
-    PlotSettings analog;
-    double timeZoom = 1.0;
-    double valueZoom = 1.0;
-
-    void takeLive(const PlotView &view, const QString &plotType, Rule rule);
 };
