@@ -55,6 +55,7 @@ public:
     int referenceIndex() const override;
     bool showsAngles() const override;
     void refreshVectors() override;
+    void fillPlotMenu(QMenu &menu, Plotter &plot, const QPoint &point, int cursor) override;
     void refreshPlots() override;
     void saveRecording(const QString &path, double start, double end) override;
     QString recordingsFolder() const override;

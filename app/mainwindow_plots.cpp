@@ -126,6 +126,11 @@ void MainWindow::createPlots()
     m_analogPlotter = new Plotter(ui->scrollWidget);
     m_analogPlotter->setMaximumHeight(largestPlotHeight);
     m_digitalPlotter = new plotterDg(ui->scrollWidget);
+    // The first to hear of a change of the views, which each plot makes by itself.
+    for (const QAction *zoom :
+        {m_zoomInAct, m_zoomOutAct, m_zoomResetAct, m_vZoomInAct, m_vZoomOutAct})
+        connect(zoom, &QAction::triggered, m_analogPlotter, &Plotter::noteViews);
+    connect(m_horizontalScroll, &QScrollBar::valueChanged, m_analogPlotter, &Plotter::noteViews);
     for (Plotter *plot : {m_analogPlotter, static_cast<Plotter *>(m_digitalPlotter)}) {
         equip(plot);
         m_plotLayout->addWidget(plot);

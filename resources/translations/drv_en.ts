@@ -393,6 +393,37 @@ Please select another file.</translation>
     </message>
 </context>
 <context>
+    <name>PlotMenu</name>
+    <message>
+        <source>Earlier</source>
+        <translation>Earlier</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Later</translation>
+    </message>
+    <message>
+        <source>Previous View</source>
+        <translation>Previous View</translation>
+    </message>
+    <message>
+        <source>Whole Recording</source>
+        <translation>Whole Recording</translation>
+    </message>
+    <message>
+        <source>Zoom to P%1-P%2</source>
+        <translation>Zoom to P%1-P%2</translation>
+    </message>
+    <message>
+        <source>Cursor Here</source>
+        <translation>Cursor Here</translation>
+    </message>
+    <message>
+        <source>Cursor at Trigger</source>
+        <translation>Cursor at Trigger</translation>
+    </message>
+</context>
+<context>
     <name>Plotter</name>
     <message>
         <source>Trigger: %1 ms</source>

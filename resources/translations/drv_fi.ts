@@ -393,6 +393,37 @@ Valitse toinen tiedosto.</translation>
     </message>
 </context>
 <context>
+    <name>PlotMenu</name>
+    <message>
+        <source>Earlier</source>
+        <translation>Aiemmin</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Myöhemmin</translation>
+    </message>
+    <message>
+        <source>Previous View</source>
+        <translation>Edellinen näkymä</translation>
+    </message>
+    <message>
+        <source>Whole Recording</source>
+        <translation>Koko tallenne</translation>
+    </message>
+    <message>
+        <source>Zoom to P%1-P%2</source>
+        <translation>Zoomaa välille P%1-P%2</translation>
+    </message>
+    <message>
+        <source>Cursor Here</source>
+        <translation>Kursori tähän</translation>
+    </message>
+    <message>
+        <source>Cursor at Trigger</source>
+        <translation>Kursori liipaisuhetkeen</translation>
+    </message>
+</context>
+<context>
     <name>Plotter</name>
     <message>
         <source>Trigger: %1 ms</source>

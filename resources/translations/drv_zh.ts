@@ -393,6 +393,37 @@ Please select another file.</source>
     </message>
 </context>
 <context>
+    <name>PlotMenu</name>
+    <message>
+        <source>Earlier</source>
+        <translation>更早</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>更晚</translation>
+    </message>
+    <message>
+        <source>Previous View</source>
+        <translation>上一视图</translation>
+    </message>
+    <message>
+        <source>Whole Recording</source>
+        <translation>整个录波</translation>
+    </message>
+    <message>
+        <source>Zoom to P%1-P%2</source>
+        <translation>缩放到 P%1-P%2</translation>
+    </message>
+    <message>
+        <source>Cursor Here</source>
+        <translation>在此处添加游标</translation>
+    </message>
+    <message>
+        <source>Cursor at Trigger</source>
+        <translation>在触发时刻添加游标</translation>
+    </message>
+</context>
+<context>
     <name>Plotter</name>
     <message>
         <source>Trigger: %1 ms</source>

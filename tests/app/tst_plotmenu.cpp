@@ -1,0 +1,312 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "plotmenus.h"
+#include "plotswindow.h"
+
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include <random>
+
+namespace {
+
+const QString earlier = QStringLiteral("Earlier");
+const QString later = QStringLiteral("Later");
+const QString previous = QStringLiteral("Previous View");
+const QString whole = QStringLiteral("Whole Recording");
+
+} // namespace
+
+// The recording lasts from 0 to 99 ms, its whole view to 100; its trigger lies at 50 ms.
+class TestPlotMenu : public PlotsWindow {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { startAsMaker(); }
+    void init()
+    {
+        openWindow();
+        open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {QStringLiteral("Trip")});
+    }
+    void cleanup() { closeWindow(); }
+
+    void nothingIsOfferedOfTheWholeView();
+    void viewsEarlierAndLater();
+    void zoomToTheOutermostCursors();
+    void oneStepBackForEachGesture_data();
+    void oneStepBackForEachGesture();
+    void manyStepsBackAndNoMore_data();
+    void manyStepsBackAndNoMore();
+    void aHiddenPlotIsInStepWhenItIsShown();
+    void nothingIsKeptOfAnotherRecording();
+    void cursorsAtExactTimes();
+    void noRoomForMoreCursors();
+    void theMenuKey();
+    void labelsKeepTheirOwnMenu();
+
+private:
+    // Of all plots; not a number where they are not in step.
+    QPair<double, double> times() const
+    {
+        QPair<double, double> shown(analog()->view().minX, analog()->view().maxX);
+        for (const Plotter *each : plots()) {
+            if (each->view().minX != shown.first || each->view().maxX != shown.second)
+                shown.first = qQNaN();
+        }
+        return shown;
+    }
+    void wheel(Plotter *plot, const QPoint &delta) const
+    {
+        const QPoint position(400, 150);
+        QWheelEvent event(position, plot->mapToGlobal(position), {}, delta, Qt::NoButton,
+            Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(plot, &event);
+    }
+    void drawBand(Plotter *plot, const QPoint &from, const QPoint &to) const
+    {
+        QTest::mousePress(plot, Qt::LeftButton, {}, from);
+        QMouseEvent move(QEvent::MouseMove, to, plot->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+            Qt::NoModifier);
+        QApplication::sendEvent(plot, &move);
+        QTest::mouseRelease(plot, Qt::LeftButton, {}, to);
+    }
+    void make(const QString &gesture);
+    QVector<PlotSettings> views() const
+    {
+        QVector<PlotSettings> views;
+        for (const Plotter *each : plots())
+            views.append(each->view());
+        return views;
+    }
+};
+
+void TestPlotMenu::make(const QString &gesture)
+{
+    if (gesture == QLatin1String("time zoom by key"))
+        QTest::keyClick(analog(), Qt::Key_Plus);
+    else if (gesture == QLatin1String("time zoom by button"))
+        trigger("Zoom In");
+    else if (gesture == QLatin1String("value zoom by button"))
+        trigger("Vertical Zoom In");
+    else if (gesture == QLatin1String("reset by button"))
+        trigger("Zoom Reset");
+    else if (gesture == QLatin1String("scroll by wheel"))
+        wheel(analog(), {0, 120});
+    else if (gesture == QLatin1String("scroll by wheel, sideways"))
+        wheel(analog(), {120, 120});
+    else if (gesture == QLatin1String("scroll by key"))
+        QTest::keyClick(analog(), Qt::Key_Up);
+    else if (gesture == QLatin1String("scroll by bar"))
+        window->horizontalScrollBar()->setValue(window->horizontalScrollBar()->value() + 1);
+    else if (gesture == QLatin1String("band"))
+        drawBand(analog(), {250, 90}, {500, 140});
+    else if (gesture == QLatin1String("band on rows"))
+        drawBand(digital(), {250, 90}, {500, 140});
+    else if (!choose(analog(), gesture))
+        QVERIFY(gesture == earlier || gesture == later || gesture == whole);
+}
+
+void TestPlotMenu::nothingIsOfferedOfTheWholeView()
+{
+    for (Plotter *each : plots()) {
+        for (const QString &text : {earlier, later, previous, whole})
+            QVERIFY2(!offers(each, text), qPrintable(text));
+        QVERIFY(!offers(each, QStringLiteral("Zoom to P1-P2")));
+    }
+}
+
+void TestPlotMenu::viewsEarlierAndLater()
+{
+    using Times = QPair<double, double>;
+    analog()->addCursorAt(20);
+    analog()->addCursorAt(60);
+    for (Plotter *each : plots()) {
+        QVERIFY(choose(each, QStringLiteral("Zoom to P1-P2")));
+        QCOMPARE(times(), Times(20, 60));
+        QVERIFY(choose(each, later));
+        QCOMPARE(times(), Times(40, 80));
+        QVERIFY(choose(each, earlier));
+        QVERIFY(choose(each, earlier));
+        QCOMPARE(times(), Times(0, 40));
+        QVERIFY(!offers(each, earlier));
+        for (int i = 0; i < 3; ++i)
+            QVERIFY(choose(each, later));
+        QCOMPARE(times(), Times(60, 100));
+        QVERIFY(!offers(each, later));
+        QVERIFY(choose(each, whole));
+        QCOMPARE(times(), Times(0, 100));
+        QVERIFY(!offers(each, whole));
+    }
+}
+
+// To the very times, whatever their order; the cursors at the edges are in view.
+void TestPlotMenu::zoomToTheOutermostCursors()
+{
+    using Times = QPair<double, double>;
+    analog()->addCursorAt(31.25);
+    QVERIFY(!offers(analog(), QStringLiteral("Zoom to P1-P2")));
+    analog()->addCursorAt(17.5);
+    QVERIFY(choose(analog(), QStringLiteral("Zoom to P2-P1")));
+    QCOMPARE(times(), Times(17.5, 31.25));
+    for (Plotter *each : plots()) {
+        for (const QLabel *label : each->findChildren<QLabel *>(QStringLiteral("lineLabel")))
+            QVERIFY(!label->isHidden());
+    }
+    analog()->addCursorAt(70.125);
+    QVERIFY(choose(analog(), QStringLiteral("Zoom to P2-P3")));
+    QCOMPARE(times(), Times(17.5, 70.125));
+
+    window->removeCursors();
+    for (int i = 0; i < 2; ++i)
+        analog()->addCursorAt(40);
+    QVERIFY(!offers(analog(), QStringLiteral("Zoom to P1-P2")));
+}
+
+void TestPlotMenu::oneStepBackForEachGesture_data()
+{
+    QTest::addColumn<QString>("gesture");
+    for (const char *gesture : {"time zoom by key", "time zoom by button", "value zoom by button",
+             "reset by button", "scroll by wheel", "scroll by wheel, sideways", "scroll by key",
+             "scroll by bar", "band", "band on rows", "Earlier", "Later", "Whole Recording"})
+        QTest::newRow(gesture) << QString::fromLatin1(gesture);
+}
+
+// The plot added last is one that the zooms reach by itself, and one that they reach through
+// others.
+void TestPlotMenu::oneStepBackForEachGesture()
+{
+    QFETCH(QString, gesture);
+    compose({QStringLiteral("Ib")});
+    trigger("Zoom In");
+    trigger("Vertical Zoom In");
+    analog()->changeView([](PlotView &view) { return view.moveTimes(10); });
+    for (int twice = 0; twice < 2; ++twice) {
+        const QVector<PlotSettings> before = views();
+        make(gesture);
+        QVERIFY(!(views() == before));
+        QVERIFY(choose(digital(), previous));
+        QVERIFY(views() == before);
+    }
+}
+
+void TestPlotMenu::manyStepsBackAndNoMore_data()
+{
+    QTest::addColumn<uint>("seed");
+    for (uint seed = 1; seed <= 12; ++seed)
+        QTest::addRow("seed %u", seed) << seed;
+}
+
+// With changes of the value mode, of what is shown and of the window's size in between, each taken
+// back at once.
+void TestPlotMenu::manyStepsBackAndNoMore()
+{
+    QFETCH(uint, seed);
+    std::mt19937 random(seed);
+    const QStringList gestures{QStringLiteral("time zoom by key"),
+        QStringLiteral("time zoom by button"), QStringLiteral("value zoom by button"),
+        QStringLiteral("reset by button"), QStringLiteral("scroll by wheel"),
+        QStringLiteral("scroll by key"), QStringLiteral("scroll by bar"), QStringLiteral("band"),
+        QStringLiteral("band on rows"), earlier, later, whole};
+    QVector<QVector<PlotSettings>> seen;
+    for (int i = 0; i < 25; ++i) {
+        const QVector<PlotSettings> before = views();
+        make(gestures.at(int(random() % uint(gestures.size()))));
+        if (!(views() == before))
+            seen.append(before);
+        switch (random() % 8) {
+        case 0:
+            combo("comboBox_primSec")->setCurrentIndex(2);
+            combo("comboBox_primSec")->setCurrentIndex(0);
+            break;
+        case 1:
+            window->resize(1100, 800);
+            window->resize(1200, 900);
+            break;
+        case 2:
+            click(list("listWidget2"), 0);
+            click(list("listWidget2"), 0);
+            break;
+        default:
+            break;
+        }
+    }
+    QVERIFY(seen.size() > 5);
+    while (!seen.isEmpty()) {
+        QVERIFY(choose(analog(), previous));
+        QVERIFY(views() == seen.takeLast());
+    }
+    QVERIFY(!offers(analog(), previous));
+}
+
+void TestPlotMenu::aHiddenPlotIsInStepWhenItIsShown()
+{
+    using Times = QPair<double, double>;
+    QTest::keyClick(analog(), Qt::Key_Plus);
+    const Times zoomed = times();
+    click(list("listWidget2"), 0);
+    QVERIFY(digital()->isHidden());
+    QTest::keyClick(analog(), Qt::Key_Plus);
+    QVERIFY(choose(analog(), previous));
+    click(list("listWidget2"), 0);
+    QCOMPARE(times(), zoomed);
+    QVERIFY(choose(digital(), previous));
+    QCOMPARE(times(), Times(0, 100));
+}
+
+void TestPlotMenu::nothingIsKeptOfAnotherRecording()
+{
+    trigger("Zoom In");
+    for (int twice = 0; twice < 2; ++twice) {
+        open({QStringLiteral("Ia")}, {QStringLiteral("Trip")});
+        QVERIFY(!offers(analog(), previous));
+        trigger("Zoom In");
+        QVERIFY(offers(analog(), previous));
+    }
+}
+
+// Whatever the view.
+void TestPlotMenu::cursorsAtExactTimes()
+{
+    const QString atTrigger = QStringLiteral("Cursor at Trigger");
+    QVERIFY(choose(analog(), atTrigger));
+    analog()->changeView([](PlotView &view) { return view.showTimes(10.3, 20.7); });
+    QVERIFY(choose(digital(), atTrigger));
+    const double here = analog()->geometryOfView().lineTime(400);
+    QVERIFY(choose(analog(), QStringLiteral("Cursor Here"), {400, 150}));
+    for (const Plotter *each : plots())
+        QCOMPARE(each->cursors(), QList<double>({50, 50, here}));
+}
+
+void TestPlotMenu::noRoomForMoreCursors()
+{
+    for (int i = 0; i < CursorMarks::most; ++i) {
+        QVERIFY(offers(analog(), QStringLiteral("Cursor Here")));
+        analog()->addCursorAt(i);
+    }
+    QVERIFY(!offers(analog(), QStringLiteral("Cursor Here")));
+    QVERIFY(!offers(analog(), QStringLiteral("Cursor at Trigger")));
+}
+
+void TestPlotMenu::theMenuKey()
+{
+    analog()->setFocus();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, analog()->rect().center());
+    QApplication::sendEvent(analog(), &event);
+    const std::unique_ptr<QMenu> menu(qobject_cast<QMenu *>(QApplication::activePopupWidget()));
+    QVERIFY(menu);
+    QVERIFY(entryOf(menu.get(), QStringLiteral("Cursor at Trigger")));
+}
+
+void TestPlotMenu::labelsKeepTheirOwnMenu()
+{
+    analog()->addCursorAt(50);
+    const auto *label = analog()->findChild<QLabel *>(QStringLiteral("lineLabel"));
+    const QPoint point = label->geometry().center();
+    QVERIFY(offers(analog(), QStringLiteral("Remove Cursor"), point));
+    QVERIFY(!offers(analog(), QStringLiteral("Cursor Here"), point));
+    QVERIFY(!offers(analog(), QStringLiteral("Remove Cursor")));
+}
+
+QTEST_MAIN(TestPlotMenu)
+#include "tst_plotmenu.moc"
