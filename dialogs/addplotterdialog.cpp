@@ -22,6 +22,10 @@ AddPlotterDialog::AddPlotterDialog(QWidget *parent)
     : QDialog(parent), ui(std::make_unique<Ui::AddPlotterDialog>())
 {
     ui->setupUi(this);
+    connect(ui->listWidget_unSelected, &QListWidget::itemDoubleClicked, ui->pushButton_add,
+        &QPushButton::click);
+    connect(ui->listWidget_Selected, &QListWidget::itemDoubleClicked, ui->pushButton_remove,
+        &QPushButton::click);
 }
 
 AddPlotterDialog::~AddPlotterDialog() = default;

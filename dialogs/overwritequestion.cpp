@@ -19,7 +19,7 @@ bool mayOverwrite(QWidget *parent, const QString &styleSheet, const QStringList 
     box.setText((QStringList(question) + files).join(QLatin1Char('\n')));
     const QAbstractButton *proceed
         = box.addButton(SaveDialog::tr("Continue"), QMessageBox::AcceptRole);
-    box.addButton(SaveDialog::tr("Cancel"), QMessageBox::RejectRole);
+    box.setDefaultButton(box.addButton(SaveDialog::tr("Cancel"), QMessageBox::RejectRole));
     box.exec();
     return box.clickedButton() == proceed;
 }

@@ -5,6 +5,7 @@
 
 #include "dialoghost.h"
 #include "overwritequestion.h"
+#include "recordingwriter.h"
 #include "ui_savedialog.h"
 
 #include <QEvent>
@@ -12,6 +13,7 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QShowEvent>
+#include <QStyle>
 
 namespace {
 
@@ -24,6 +26,24 @@ bool fileExists(const QString &path)
 {
     const QFileInfo info(path);
     return info.exists() && !info.isDir();
+}
+
+// Why nothing would be saved at a path; empty where nothing is known against it.
+QString obstacleTo(const QString &path)
+{
+    if (path.isEmpty())
+        return QString();
+    for (const QString &file : RecordingWriter::filesFor(path)) {
+        const QFileInfo info(file);
+        const QFileInfo folder(info.path());
+        if (!folder.isDir())
+            return SaveDialog::tr("There is no such folder");
+        if (info.exists() && !info.isWritable())
+            return SaveDialog::tr("The file that is there may not be replaced");
+        if (!info.exists() && !folder.isWritable())
+            return SaveDialog::tr("The folder may not be written to");
+    }
+    return QString();
 }
 
 } // namespace
@@ -90,12 +110,15 @@ void SaveDialog::on_lineEdit_FilePath_textChanged()
 {
     filePath = ui->lineEdit_FilePath->text();
     updateExistenceLabel();
+    tellObstacle();
 }
 
 void SaveDialog::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
+        tellObstacle();
+    }
     QDialog::changeEvent(event);
 }
 
@@ -164,6 +187,16 @@ void SaveDialog::updateExistenceLabel()
 {
     ui->label_FileExists->setVisible(!QFileInfo(filePath).isDir()
         && (fileExists(filePath) || fileExists(filePath + QStringLiteral(".cfg"))));
+}
+
+// Saving itself says nothing of a file that cannot be opened.
+void SaveDialog::tellObstacle()
+{
+    QLineEdit *field = ui->lineEdit_FilePath;
+    field->setToolTip(obstacleTo(filePath));
+    field->setProperty("hasObstacle", !field->toolTip().isEmpty()); // for the style sheet
+    field->style()->unpolish(field);
+    field->style()->polish(field);
 }
 
 // Asks before a file is overwritten; only the path as typed counts.

@@ -52,6 +52,7 @@ private:
     void chooseStart(int sample);
     void chooseEnd(int sample);
     void updateExistenceLabel();
+    void tellObstacle();
     bool mayWrite();
 
     QString filePath;

@@ -22,6 +22,7 @@ private slots:
     void movesASelectedItem();
     void movesSeveralItemsAtOnce();
     void movesSeveralItemsInTheOrderOfTheirSelection();
+    void movesANameByADoubleClick();
     void putsAReturnedNameLast();
     void givesTheRightListInItsOrder();
     void givesNamesOfEveryKind();
@@ -134,6 +135,23 @@ void TestAddPlotterDialog::movesSeveralItemsInTheOrderOfTheirSelection()
     }
     QTest::mouseClick(child<QPushButton>("pushButton_add"), Qt::LeftButton);
     QCOMPARE(dialog->selectedChannels(), QStringList({QStringLiteral("C"), QStringLiteral("A")}));
+}
+
+void TestAddPlotterDialog::movesANameByADoubleClick()
+{
+    const auto doubleClick = [](QListWidget *list, int row) {
+        const QPoint place = list->visualItemRect(list->item(row)).center();
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
+    };
+    auto *unselected = child<QListWidget>("listWidget_unSelected");
+    doubleClick(unselected, 1);
+    doubleClick(unselected, 1);
+    QCOMPARE(left(), QStringList({QStringLiteral("A")}));
+    QCOMPARE(dialog->selectedChannels(), QStringList({QStringLiteral("B"), QStringLiteral("C")}));
+    doubleClick(child<QListWidget>("listWidget_Selected"), 0);
+    QCOMPARE(left(), QStringList({QStringLiteral("A"), QStringLiteral("B")}));
+    QCOMPARE(dialog->selectedChannels(), QStringList({QStringLiteral("C")}));
 }
 
 void TestAddPlotterDialog::putsAReturnedNameLast()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "fakedialoghost.h"
+#include "ownfilesystem.h"
 #include "pseudotranslator.h"
 #include "savedialog.h"
 
@@ -69,6 +70,11 @@ private slots:
     void asksBeforeOverwriting_data();
     void asksBeforeOverwriting();
     void doesNotAskForTheCfgVariant();
+    void cancelsTheQuestionByReturn();
+    void tellsWhatStandsInTheWay_data();
+    void tellsWhatStandsInTheWay();
+    void tellsOfPlacesThatTakeNothing();
+    void forgetsWhatStoodInTheWay();
     void passesOnWhatIsTyped_data();
     void passesOnWhatIsTyped();
     void clearsTheMarkersOnCancel();
@@ -589,6 +595,74 @@ void TestSaveDialog::asksBeforeOverwriting()
     QCOMPARE(dialog->isVisible(), savings == 0);
 }
 
+void TestSaveDialog::cancelsTheQuestionByReturn()
+{
+    open(threeTimes);
+    type(makeFile(QStringLiteral("a.cfg")));
+    whenOpened<QMessageBox>(
+        dialog, [&](QMessageBox *box) { QTest::keyClick(box, Qt::Key_Return); });
+    click("pushButton_Save");
+    QVERIFY(host->savings.isEmpty());
+    QVERIFY(dialog->isVisible());
+}
+
+void TestSaveDialog::tellsWhatStandsInTheWay_data()
+{
+    QTest::addColumn<QString>("typed"); // below the test's folder
+    QTest::addColumn<QString>("tip");
+
+    const QString noFolder = QStringLiteral("There is no such folder");
+    QTest::newRow("a new file") << "new.cfg" << QString();
+    QTest::newRow("a new file by its stem") << "new" << QString();
+    QTest::newRow("a file that may be replaced") << "old.cfg" << QString();
+    QTest::newRow("the folder above") << "sub/../new" << QString();
+    QTest::newRow("a missing folder") << "nowhere/new.cfg" << noFolder;
+    QTest::newRow("a file as folder") << "old.cfg/new.cfg" << noFolder;
+}
+
+void TestSaveDialog::tellsWhatStandsInTheWay()
+{
+    QFETCH(QString, typed);
+    QFETCH(QString, tip);
+    makeFile(QStringLiteral("old.cfg"));
+    QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("sub")));
+    open(threeTimes);
+    type(folder->filePath(typed));
+    QCOMPARE(child<QLineEdit>("lineEdit_FilePath")->toolTip(), tip);
+    QCOMPARE(
+        child<QLineEdit>("lineEdit_FilePath")->property("hasObstacle").toBool(), !tip.isEmpty());
+}
+
+void TestSaveDialog::tellsOfPlacesThatTakeNothing()
+{
+    const OwnFileSystem place(1'000'000);
+    if (!place.isMounted())
+        QSKIP("the system gives no file system of one's own");
+    QVERIFY(QFile(place.path("old.cfg")).open(QIODevice::WriteOnly));
+    QVERIFY(place.makeReadOnly());
+    open(threeTimes);
+    const auto *field = child<QLineEdit>("lineEdit_FilePath");
+    type(place.path("new.cfg"));
+    QCOMPARE(field->toolTip(), QStringLiteral("The folder may not be written to"));
+    type(place.path("old"));
+    QCOMPARE(field->toolTip(), QStringLiteral("The file that is there may not be replaced"));
+}
+
+void TestSaveDialog::forgetsWhatStoodInTheWay()
+{
+    open(threeTimes);
+    const auto *field = child<QLineEdit>("lineEdit_FilePath");
+    type(folder->filePath(QStringLiteral("nowhere/new.cfg")));
+    QVERIFY(!field->toolTip().isEmpty());
+    dialog->close();
+    dialog->show();
+    QCOMPARE(field->toolTip(), QString());
+    type(folder->filePath(QStringLiteral("nowhere/new.cfg")));
+    type(folder->filePath(QStringLiteral("new.cfg")));
+    QCOMPARE(field->toolTip(), QString());
+    QVERIFY(!field->property("hasObstacle").toBool());
+}
+
 void TestSaveDialog::doesNotAskForTheCfgVariant()
 {
     makeFile(QStringLiteral("a.cfg"));
@@ -739,6 +813,9 @@ void TestSaveDialog::retranslatesOnALanguageChange()
     QCoreApplication::processEvents();
     QCOMPARE(dialog->windowTitle(), QStringLiteral("<SaveDialog>Save File"));
     QCOMPARE(child<QLabel>("label")->text(), QStringLiteral("<SaveDialog>File path:"));
+    type(folder->filePath(QStringLiteral("nowhere/a.cfg")));
+    QCOMPARE(child<QLineEdit>("lineEdit_FilePath")->toolTip(),
+        QStringLiteral("<SaveDialog>There is no such folder"));
 
     type(makeFile(QStringLiteral("a.cfg")));
     QStringList texts;
