@@ -25,10 +25,7 @@
 
 namespace {
 
-QDateTime toLocalTime(const QString &date, const QString &time, const QString &dateFormat)
-{
-    return joinedAsUtc(date.trimmed(), dateFormat, time.trimmed()).toLocalTime();
-}
+enum class DateOrder { MonthFirst, DayFirst };
 
 QString shownText(const QString &text)
 {
@@ -49,23 +46,43 @@ void showName(QLabel &label, const QString &name)
     label.setToolTip(plainToolTip(label.text()));
 }
 
-void showTimes(const Ui::MainWindow &ui, const CFGProperties &recording)
+void showStamp(QLabel &date, QLabel &time, const QString &dateText, const QString &timeText)
 {
-    ui.label9->setText(shownText(recording.startDate));
-    ui.label10->setText(shownText(recording.startTime));
-    ui.label11->setText(shownText(recording.triggerDate));
-    ui.label12->setText(shownText(recording.triggerTime));
+    date.setText(shownText(dateText));
+    time.setText(shownText(timeText));
+    date.setToolTip(QString());
+    time.setToolTip(QString());
 }
 
-void showTimesAsLocal(
-    const Ui::MainWindow &ui, const CFGProperties &recording, const QString &dateFormat)
+void showTimes(const Ui::MainWindow &ui, const CFGProperties &recording)
 {
-    const QDateTime start = toLocalTime(recording.startDate, recording.startTime, dateFormat);
-    const QDateTime trigger = toLocalTime(recording.triggerDate, recording.triggerTime, dateFormat);
-    ui.label9->setText(start.toString(dateFormat));
-    ui.label10->setText(start.toString(timeOfDayFormat));
-    ui.label11->setText(trigger.toString(dateFormat));
-    ui.label12->setText(trigger.toString(timeOfDayFormat));
+    showStamp(*ui.label9, *ui.label10, recording.startDate, recording.startTime);
+    showStamp(*ui.label11, *ui.label12, recording.triggerDate, recording.triggerTime);
+}
+
+// Empty where the stamp does not read; why, the tool tips tell.
+void showStampAsLocal(
+    QLabel &date, QLabel &time, const QString &dateText, const QString &timeText, DateOrder order)
+{
+    const bool isMonthFirst = order == DateOrder::MonthFirst;
+    const QString format
+        = isMonthFirst ? QStringLiteral("MM/dd/yyyy") : QStringLiteral("dd/MM/yyyy");
+    const QDateTime local
+        = joinedAsUtc(dateText.trimmed(), format, timeText.trimmed()).toLocalTime();
+    showStamp(date, time, local.toString(format), local.toString(timeOfDayFormat));
+    if (local.isValid())
+        return;
+    const QString tip = isMonthFirst
+        ? MainWindow::tr("%1 %2 cannot be read as month/day/year and time of day")
+        : MainWindow::tr("%1 %2 cannot be read as day/month/year and time of day");
+    for (QLabel *label : {&date, &time})
+        label->setToolTip(plainToolTip(tip.arg(shownText(dateText), shownText(timeText))));
+}
+
+void showTimesAsLocal(const Ui::MainWindow &ui, const CFGProperties &recording, DateOrder order)
+{
+    showStampAsLocal(*ui.label9, *ui.label10, recording.startDate, recording.startTime, order);
+    showStampAsLocal(*ui.label11, *ui.label12, recording.triggerDate, recording.triggerTime, order);
 }
 
 } // namespace
@@ -79,14 +96,14 @@ void MainWindow::clearView()
     enableRecordingActions(false);
     const QList<QLabel *> values{
         ui->label4, ui->label5, ui->label9, ui->label10, ui->label11, ui->label12};
-    for (QLabel *label : values)
+    for (QLabel *label : values) {
         label->clear();
+        label->setToolTip(QString());
+    }
     for (QListWidget *list : {ui->listWidget, ui->listWidget2}) {
         const QSignalBlocker blocker(list);
         list->clear();
     }
-    ui->label4->setToolTip(QString());
-    ui->label5->setToolTip(QString());
     for (ElidingComboBox *combo : {m_referenceCombo, m_primSecCombo})
         combo->setTexts({}, -1);
     PlotValues::shared().timesAndPositions.fill(0.0);
@@ -123,7 +140,7 @@ void MainWindow::showRecording()
     showName(*ui->label4, m_cfgProperties->stationName);
     showName(*ui->label5, m_cfgProperties->recordingDeviceId);
     if (m_localTimes)
-        showTimesAsLocal(*ui, *m_cfgProperties, QStringLiteral("MM/dd/yyyy"));
+        showTimesAsLocal(*ui, *m_cfgProperties, DateOrder::MonthFirst);
     else
         showTimes(*ui, *m_cfgProperties);
     createPlots();
@@ -138,7 +155,7 @@ void MainWindow::showLocalTimes(bool on)
     if (!m_hasRecording)
         return;
     if (on)
-        showTimesAsLocal(*ui, *m_cfgProperties, QStringLiteral("dd/MM/yyyy"));
+        showTimesAsLocal(*ui, *m_cfgProperties, DateOrder::DayFirst);
     else
         showTimes(*ui, *m_cfgProperties);
 }

@@ -37,11 +37,15 @@ QString asTitle(QString name)
     return name.replace(mark, mark + mark);
 }
 
-// The dropped file on this machine, empty where something else is dropped.
+// Of the dropped files on this machine the one to open, empty where none is dropped.
 QString droppedFile(const QDropEvent &event)
 {
-    const QList<QUrl> urls = event.mimeData()->urls();
-    return urls.isEmpty() ? QString() : urls.first().toLocalFile();
+    QStringList files;
+    for (const QUrl &url : event.mimeData()->urls()) {
+        if (url.isLocalFile())
+            files.append(url.toLocalFile());
+    }
+    return recordingToOpen(files);
 }
 
 } // namespace

@@ -11,35 +11,10 @@
 #include "textreader.h"
 
 #include <QDebug>
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <exception>
-
-namespace {
-
-// Where a path does not exist, the file of the same folder whose name differs in case only, as
-// Windows finds it by itself. Of several, one that differs in the case of its ending alone is
-// nearest.
-QString existingPath(const QString &path)
-{
-    const QFileInfo wanted(path);
-    if (wanted.exists())
-        return path;
-    const QDir folder = wanted.dir();
-    QString found;
-    const QStringList names = folder.entryList(QDir::Files);
-    for (const QString &name : names) {
-        const bool isAlike = name.compare(wanted.fileName(), Qt::CaseInsensitive) == 0;
-        if (isAlike && (found.isEmpty() || name.startsWith(wanted.completeBaseName())))
-            found = name;
-    }
-    return found.isEmpty() ? path : folder.filePath(found);
-}
-
-} // namespace
 
 CFGProperties::CFGProperties(QObject *parent) : QObject(parent) { }
 

@@ -3,6 +3,7 @@
 
 #include "filekind.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 namespace {
@@ -10,6 +11,7 @@ namespace {
 const QLatin1String package(".zip");
 const QLatin1String configuration(".cfg");
 const QLatin1String text(".txt");
+const QLatin1String data(".dat");
 
 } // namespace
 
@@ -38,4 +40,34 @@ bool isPipeOrDevice(const QString &path)
 {
     const QFileInfo there(path);
     return there.exists() && !there.isFile() && !there.isDir();
+}
+
+QString existingPath(const QString &path)
+{
+    const QFileInfo wanted(path);
+    if (wanted.exists())
+        return path;
+    const QDir folder = wanted.dir();
+    QString found;
+    const QStringList names = folder.entryList(QDir::Files);
+    for (const QString &name : names) {
+        const bool isAlike = name.compare(wanted.fileName(), Qt::CaseInsensitive) == 0;
+        if (isAlike && (found.isEmpty() || name.startsWith(wanted.completeBaseName())))
+            found = name;
+    }
+    return found.isEmpty() ? path : folder.filePath(found);
+}
+
+QString recordingToOpen(const QStringList &paths)
+{
+    for (const QString &path : paths) {
+        if (isPackage(path) || isRecording(path))
+            return path;
+        if (!path.endsWith(data, Qt::CaseInsensitive))
+            continue;
+        const QString beside = existingPath(path.chopped(data.size()) + configuration);
+        if (QFileInfo::exists(beside))
+            return beside;
+    }
+    return paths.value(0);
 }

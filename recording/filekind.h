@@ -3,7 +3,7 @@
 
 #pragma once
 
-class QString;
+#include <QStringList>
 
 // What a file is taken for, by its path. Every question has a rule of its own, on purpose: "A.CFG"
 // opens from the dialog but not at start, and "data.TXT" is loaded, yet not as a text export.
@@ -23,3 +23,12 @@ bool isTextExport(const QString &path);
 
 // It is neither a file nor a folder. Reading it could wait for ever, or never end.
 bool isPipeOrDevice(const QString &path);
+
+// Where a path does not exist, the file of the same folder whose name differs in case only, as
+// Windows finds it by itself. Of several, one that differs in the case of its ending alone is
+// nearest.
+QString existingPath(const QString &path);
+
+// The first package or recording among several files, a data file standing for the configuration
+// beside it. Where there is none, the first file.
+QString recordingToOpen(const QStringList &paths);

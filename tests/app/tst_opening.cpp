@@ -466,6 +466,36 @@ private slots:
         QCOMPARE(shownTimes(), toggled);
     }
 
+    void timesThatDoNotReadSayWhy()
+    {
+        const auto tip = [&](const char *label) { return child<QLabel>(label)->toolTip(); };
+        auto *box = child<QCheckBox>("checkBox_convertToLocal");
+        box->setChecked(true);
+        window->open(writeSmallRecording(folder->path(), QStringLiteral("rec"),
+            smallConfiguration("Harju", "15/03/2024", "10:00:00.000000")));
+        const QString start = QStringLiteral(
+            "15/03/2024 10:00:00.000 cannot be read as month/day/year and time of day");
+        QCOMPARE(tip("label9"), start);
+        QCOMPARE(tip("label10"), start);
+        QCOMPARE(
+            tip("label12"), QString(start).replace(QLatin1String(".000 "), QLatin1String(".020 ")));
+        for (const bool local : {false, true, false, true}) {
+            box->setChecked(local);
+            QCOMPARE(tip("label9"), QString());
+            QCOMPARE(tip("label12"), QString());
+        }
+        window->open(writeSmallRecording(folder->path(), QStringLiteral("bad"),
+            smallConfiguration("Harju", "15/03/2024", "9:00:00.000000")));
+        box->setChecked(false);
+        box->setChecked(true);
+        QCOMPARE(tip("label9"),
+            QStringLiteral(
+                "15/03/2024 9:00:00.0000 cannot be read as day/month/year and time of day"));
+        QCOMPARE(tip("label11"), QString());
+        window->open(path("missing.txt")); // shows nothing new
+        QVERIFY(!tip("label9").isEmpty());
+    }
+
     void stationIsShownAsPlainText()
     {
         window->open(writeSmallRecording(
@@ -535,6 +565,23 @@ private slots:
         QVERIFY(drop.isAccepted());
         QCOMPARE(drop.dropAction(), Qt::CopyAction);
         QTRY_COMPARE(window->windowTitle(), QStringLiteral("Wavorin - good.cfg"));
+    }
+
+    void droppedFilesOpenTheFirstRecording()
+    {
+        QMimeData data;
+        const QString good = goodRecording();
+        data.setUrls({QUrl(QStringLiteral("https://www.norvale.example/rec.cfg")),
+            QUrl::fromLocalFile(path("notes.pdf")),
+            QUrl::fromLocalFile(path("good.dat")), // the configuration beside it is opened
+            QUrl::fromLocalFile(path("other.cfg"))});
+        QDragEnterEvent enter(
+            QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(window.get(), &enter);
+        QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(window.get(), &drop);
+        QTRY_COMPARE(window->windowTitle(), QStringLiteral("Wavorin - good.cfg"));
+        QCOMPARE(window->windowFilePath(), good);
     }
 
     void otherDropsAreRefused()

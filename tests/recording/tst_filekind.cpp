@@ -3,6 +3,7 @@
 
 #include "filekind.h"
 
+#include <QTemporaryDir>
 #include <QtTest>
 
 class TestFileKind : public QObject {
@@ -11,6 +12,8 @@ class TestFileKind : public QObject {
 private slots:
     void goesByThePath_data();
     void goesByThePath();
+    void takesTheFirstRecordingOfSeveral_data();
+    void takesTheFirstRecordingOfSeveral();
     void whatIsReadEndsAndComesAtOnce_data();
     void whatIsReadEndsAndComesAtOnce();
 };
@@ -60,6 +63,39 @@ void TestFileKind::goesByThePath()
     QTEST(isPackage(path), "package");
     QTEST(isRecording(path), "recording");
     QTEST(isTextExport(path), "textExport");
+}
+
+void TestFileKind::takesTheFirstRecordingOfSeveral_data()
+{
+    QTest::addColumn<QStringList>("dropped"); // names in a folder with a.cfg, B.CFG and alone.dat
+    QTest::addColumn<QString>("opened");
+    const auto row = [](const char *name, const char *dropped, const char *opened) {
+        QTest::newRow(name) << QString::fromLatin1(dropped).split(QLatin1Char(' '))
+                            << QString::fromLatin1(opened);
+    };
+    row("one", "a.cfg", "a.cfg");
+    row("the first of two", "a.cfg B.CFG", "a.cfg");
+    row("after others", "notes.pdf a.png B.CFG a.cfg", "B.CFG");
+    row("a package", "notes.pdf p.ZIP a.cfg", "p.ZIP");
+    row("a text export", "notes.pdf t.txt", "t.txt");
+    row("a data file stands for its configuration", "a.dat", "a.cfg");
+    row("in another case", "b.dat", "B.CFG");
+    row("a pair, data first", "a.dat a.cfg", "a.cfg");
+    row("a data file alone", "alone.dat", "alone.dat");
+    row("a data file alone before a recording", "alone.dat a.cfg", "a.cfg");
+    row("no recording at all", "notes.pdf a.png", "notes.pdf");
+}
+
+void TestFileKind::takesTheFirstRecordingOfSeveral()
+{
+    QFETCH(QStringList, dropped);
+    const QTemporaryDir folder;
+    for (const char *name : {"a.cfg", "B.CFG", "alone.dat"})
+        QVERIFY(QFile(folder.filePath(QLatin1String(name))).open(QIODevice::WriteOnly));
+    for (QString &name : dropped)
+        name = folder.filePath(name);
+    QTEST(QFileInfo(recordingToOpen(dropped)).fileName(), "opened");
+    QCOMPARE(recordingToOpen({}), QString());
 }
 
 void TestFileKind::whatIsReadEndsAndComesAtOnce_data()
