@@ -116,7 +116,7 @@ private:
     bool loadRecording(const QString &path); // false, too, where it cannot be loaded
     bool parse(const QString &path); // on the loader thread
     void showInvalidPackage();
-    void showWarning(const QString &text);
+    void showWarning(const QString &text, const QString &details = {});
     void clearView();
     void showRecording();
     void setCurrentFile(const QString &path);

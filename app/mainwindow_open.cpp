@@ -48,6 +48,26 @@ QString droppedFile(const QDropEvent &event)
     return recordingToOpen(files);
 }
 
+QString reasonText(CFGProperties::Failure failure)
+{
+    using Failure = CFGProperties::Failure;
+    switch (failure) {
+    case Failure::NoDataFile:
+        return MainWindow::tr("There is no data file (.dat) beside it.");
+    case Failure::NotAscii:
+        return MainWindow::tr("Its data are not ASCII.");
+    case Failure::NoDataLine:
+        return MainWindow::tr("Its data file holds no sample.");
+    case Failure::ReadError:
+        return MainWindow::tr("A file of it cannot be read to its end.");
+    case Failure::LittleMemory:
+        return MainWindow::tr("There is too little memory for it.");
+    case Failure::None:
+        break;
+    }
+    return QString();
+}
+
 } // namespace
 
 void MainWindow::open()
@@ -125,7 +145,8 @@ bool MainWindow::loadRecording(const QString &path)
         setWindowTitle(ApplicationIdentity::applicationName() + QLatin1String(" - ")
             + asTitle(QFileInfo(path).fileName()));
     } else {
-        showWarning(tr("File not supported."));
+        showWarning(tr("File not supported."),
+            path + QLatin1Char('\n') + reasonText(m_cfgProperties->failure));
     }
     if (animation)
         animation->close();
@@ -169,11 +190,16 @@ void MainWindow::showInvalidPackage()
     box->show();
 }
 
-void MainWindow::showWarning(const QString &text)
+void MainWindow::showWarning(const QString &text, const QString &details)
 {
     const QPointer<QMessageBox> box
         = new QMessageBox(QMessageBox::Warning, tr("Application"), text, QMessageBox::Ok, this);
     box->setTextFormat(Qt::PlainText);
+    if (!details.isEmpty()) {
+        box->setInformativeText(details);
+        for (QLabel *label : box->findChildren<QLabel *>())
+            label->setTextFormat(Qt::PlainText);
+    }
     box->exec();
     delete box; // unless the window has gone with it
 }

@@ -8,6 +8,7 @@
 #include "filekind.h"
 #include "memoryneed.h"
 #include "phasors.h"
+#include "readerror.h"
 #include "textreader.h"
 
 #include <QDebug>
@@ -23,9 +24,12 @@ CFGProperties::~CFGProperties() = default;
 void CFGProperties::init()
 {
     clearConfig();
+    failure = Failure::None;
     try {
         load();
-    } catch (const std::exception &) { // out of memory, or a file that cannot be read to its end
+    } catch (const std::exception &error) { // out of memory, or no end of a file
+        failure
+            = dynamic_cast<const ReadError *>(&error) ? Failure::ReadError : Failure::LittleMemory;
         // Records are kept for those who hold them; these no one has seen yet.
         for (AnalogChannel *channel : qAsConst(analogChannels))
             *channel = AnalogChannel();
@@ -64,10 +68,15 @@ bool CFGProperties::readDatFile()
 {
     filePath.replace(QLatin1String(".cfg"), QLatin1String(".dat"), Qt::CaseInsensitive);
     QFile file(existingPath(filePath));
+    failure = Failure::NoDataFile;
     if (!isPipeOrDevice(file.fileName()) && file.open(QIODevice::ReadOnly)) {
         readData(file, *this);
-        if (sampleCount > 0)
+        if (sampleCount > 0) {
+            failure = Failure::None;
             return true;
+        }
+        const bool isAscii = fileType.contains(QLatin1String("ascii"), Qt::CaseInsensitive);
+        failure = isAscii || fileType.isEmpty() ? Failure::NoDataLine : Failure::NotAscii;
     }
     clearConfig();
     return false;

@@ -18,6 +18,8 @@ public:
     // These three survive clearConfig().
     QString filePath; // file to load; names the ".dat" file after a COMTRADE load
     int loaded = 0; // result of the last init(): 1 loaded, 0 failed
+    enum class Failure { None, NoDataFile, NotAscii, NoDataLine, ReadError, LittleMemory };
+    Failure failure = Failure::None; // why it failed; survives clearConfig(), too
     double timeMultiplier = 1.0; // read, not applied
 
     // Reads the ASCII data file beside the configuration (clause 6) and makes the channel records.

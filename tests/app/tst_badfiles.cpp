@@ -86,17 +86,27 @@ private slots:
     {
         QTest::addColumn<QByteArray>("configuration");
         QTest::addColumn<QByteArray>("data");
-        QTest::newRow("no data file") << smallConfiguration() << QByteArray();
-        QTest::newRow("empty configuration, empty data") << QByteArray("") << QByteArray("");
-        QTest::newRow("empty data file") << smallConfiguration() << QByteArray("");
-        QTest::newRow("data without separators") << smallConfiguration() << QByteArray("1\n2\n");
-        QTest::newRow("binary rubbish") << QByteArray(5000, '\0') << QByteArray(5000, '\xff');
+        QTest::addColumn<QString>("reason");
+        const QString noFile = QStringLiteral("There is no data file (.dat) beside it.");
+        const QString noSample = QStringLiteral("Its data file holds no sample.");
+        const QString notAscii = QStringLiteral("Its data are not ASCII.");
+        QTest::newRow("no data file") << smallConfiguration() << QByteArray() << noFile;
+        QTest::newRow("empty configuration, empty data")
+            << QByteArray("") << QByteArray("") << noSample;
+        QTest::newRow("empty data file") << smallConfiguration() << QByteArray("") << noSample;
+        QTest::newRow("data without separators")
+            << smallConfiguration() << QByteArray("1\n2\n") << noSample;
+        QTest::newRow("binary rubbish")
+            << QByteArray(5000, '\0') << QByteArray(5000, '\xff') << noSample;
+        QTest::newRow("binary data")
+            << smallConfiguration().replace("ASCII", "BINARY") << QByteArray(160, '\0') << notAscii;
     }
 
     void unsupportedFile()
     {
         QFETCH(QByteArray, configuration);
         QFETCH(QByteArray, data);
+        QFETCH(QString, reason);
         window->open(goodRecording("before"));
         window->statusBar()->clearMessage();
         QVERIFY(writeTextFile(path("bad.cfg"), configuration));
@@ -108,6 +118,7 @@ private slots:
         QCOMPARE(seen[0].icon, QMessageBox::Warning);
         QCOMPARE(seen[0].title, QStringLiteral("Application"));
         QCOMPARE(seen[0].text, QStringLiteral("File not supported."));
+        QCOMPARE(seen[0].details, path("bad.cfg") + QLatin1Char('\n') + reason);
         QCOMPARE(seen[0].buttons, QMessageBox::Ok);
         QVERIFY(animationIsGone());
         QVERIFY(viewIsEmpty());
@@ -146,6 +157,8 @@ private slots:
         const QList<BoxReader::Box> seen = boxes->take();
         QCOMPARE(seen.size(), 1);
         QCOMPARE(seen[0].text, QStringLiteral("File not supported."));
+        QVERIFY(
+            seen[0].details.endsWith(QLatin1String("\nA file of it cannot be read to its end.")));
         QVERIFY(viewIsEmpty());
         QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - before.cfg"));
         window->open(goodRecording("after"));

@@ -67,6 +67,7 @@ void TestLittleMemory::recordingThatDoesNotFitIsNotSupported()
         QCOMPARE(seen.size(), 1);
         QCOMPARE(seen[0].title, QStringLiteral("Application"));
         QCOMPARE(seen[0].text, QStringLiteral("File not supported."));
+        QCOMPARE(seen[0].details, m_large + QLatin1String("\nThere is too little memory for it."));
         QVERIFY(!window.recording());
         QCOMPARE(window.findChild<QListWidget *>(QStringLiteral("listWidget"))->count(), 0);
         QCOMPARE(window.findChild<QLabel *>(QStringLiteral("label4"))->text(), QString());

@@ -38,6 +38,7 @@ public:
         QMessageBox::Icon icon;
         QString title;
         QString text;
+        QString details;
         QMessageBox::StandardButtons buttons;
         bool modal;
         Qt::TextFormat format;
@@ -59,8 +60,8 @@ private:
             auto *box = qobject_cast<QMessageBox *>(widget);
             if (!box || !box->isVisible())
                 continue;
-            m_boxes.append({box->icon(), box->windowTitle(), box->text(), box->standardButtons(),
-                box->isModal(), box->textFormat()});
+            m_boxes.append({box->icon(), box->windowTitle(), box->text(), box->informativeText(),
+                box->standardButtons(), box->isModal(), box->textFormat()});
             QTest::mouseClick(box->buttons().first(), Qt::LeftButton);
             return;
         }
