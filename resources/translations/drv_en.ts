@@ -56,6 +56,76 @@
     </message>
 </context>
 <context>
+    <name>EventTable</name>
+    <message>
+        <source>Trigger</source>
+        <translation>Trigger</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>Time (ms)</translation>
+    </message>
+    <message>
+        <source>Clock Time</source>
+        <translation>Clock Time</translation>
+    </message>
+    <message>
+        <source>From Trigger (ms)</source>
+        <translation>From Trigger (ms)</translation>
+    </message>
+    <message>
+        <source>From Row Before (ms)</source>
+        <translation>From Row Before (ms)</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Channel</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>State</translation>
+    </message>
+</context>
+<context>
+    <name>EventsDialog</name>
+    <message>
+        <source>Events</source>
+        <translation>Events</translation>
+    </message>
+    <message>
+        <source>&amp;Filter:</source>
+        <translation>&amp;Filter:</translation>
+    </message>
+    <message>
+        <source>Show only channels whose names contain this text</source>
+        <translation>Show only channels whose names contain this text</translation>
+    </message>
+    <message>
+        <source>C&amp;hannel:</source>
+        <translation>C&amp;hannel:</translation>
+    </message>
+    <message>
+        <source>A click shows the time in the plots, a double-click sets a cursor there</source>
+        <translation>A click shows the time in the plots, a double-click sets a cursor there</translation>
+    </message>
+    <message>
+        <source>Copy all rows that pass the filter, with tabs between the columns</source>
+        <translation>Copy all rows that pass the filter, with tabs between the columns</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Table</source>
+        <translation>&amp;Copy Table</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>All Channels</source>
+        <translation>All Channels</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Device Information</source>

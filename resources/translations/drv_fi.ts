@@ -56,6 +56,76 @@
     </message>
 </context>
 <context>
+    <name>EventTable</name>
+    <message>
+        <source>Trigger</source>
+        <translation>Liipaisu</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>Aika (ms)</translation>
+    </message>
+    <message>
+        <source>Clock Time</source>
+        <translation>Kellonaika</translation>
+    </message>
+    <message>
+        <source>From Trigger (ms)</source>
+        <translation>Liipaisusta (ms)</translation>
+    </message>
+    <message>
+        <source>From Row Before (ms)</source>
+        <translation>Edellisestä (ms)</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanava</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Tila</translation>
+    </message>
+</context>
+<context>
+    <name>EventsDialog</name>
+    <message>
+        <source>Events</source>
+        <translation>Tapahtumat</translation>
+    </message>
+    <message>
+        <source>&amp;Filter:</source>
+        <translation>&amp;Suodatin:</translation>
+    </message>
+    <message>
+        <source>Show only channels whose names contain this text</source>
+        <translation>Näytä vain kanavat, joiden nimessä on tämä teksti</translation>
+    </message>
+    <message>
+        <source>C&amp;hannel:</source>
+        <translation>&amp;Kanava:</translation>
+    </message>
+    <message>
+        <source>A click shows the time in the plots, a double-click sets a cursor there</source>
+        <translation>Napsautus näyttää ajan kuvaajissa, kaksoisnapsautus asettaa siihen kursorin</translation>
+    </message>
+    <message>
+        <source>Copy all rows that pass the filter, with tabs between the columns</source>
+        <translation>Kopioi kaikki suodatetut rivit sarkaimin eroteltuina</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Table</source>
+        <translation>K&amp;opioi taulukko</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sulje</translation>
+    </message>
+    <message>
+        <source>All Channels</source>
+        <translation>Kaikki kanavat</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Device Information</source>

@@ -56,6 +56,76 @@
     </message>
 </context>
 <context>
+    <name>EventTable</name>
+    <message>
+        <source>Trigger</source>
+        <translation>触发</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>时间 (ms)</translation>
+    </message>
+    <message>
+        <source>Clock Time</source>
+        <translation>时刻</translation>
+    </message>
+    <message>
+        <source>From Trigger (ms)</source>
+        <translation>距触发 (ms)</translation>
+    </message>
+    <message>
+        <source>From Row Before (ms)</source>
+        <translation>距上一行 (ms)</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>通道</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+</context>
+<context>
+    <name>EventsDialog</name>
+    <message>
+        <source>Events</source>
+        <translation>事件</translation>
+    </message>
+    <message>
+        <source>&amp;Filter:</source>
+        <translation>筛选(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>Show only channels whose names contain this text</source>
+        <translation>仅显示名称中含有此文本的通道</translation>
+    </message>
+    <message>
+        <source>C&amp;hannel:</source>
+        <translation>通道(&amp;H)：</translation>
+    </message>
+    <message>
+        <source>A click shows the time in the plots, a double-click sets a cursor there</source>
+        <translation>单击在图中显示该时刻，双击在该时刻放置游标</translation>
+    </message>
+    <message>
+        <source>Copy all rows that pass the filter, with tabs between the columns</source>
+        <translation>复制筛选出的所有行，列间以制表符分隔</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Table</source>
+        <translation>复制表格(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>All Channels</source>
+        <translation>所有通道</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Device Information</source>
