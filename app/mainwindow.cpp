@@ -12,6 +12,7 @@
 #include "packageunpacker.h"
 #include "plotvalues.h"
 #include "savedialog.h"
+#include "sidewindows.h"
 #include "ui_mainwindow.h"
 #include "vectordialog.h"
 
@@ -43,6 +44,7 @@ MainWindow::MainWindow(QWidget *parent)
     m_vectorDialog->setMainWindow(this);
     m_saveDialog = new SaveDialog(this);
     m_ctvtDialog = new CTVTDialog(this);
+    m_sideWindows = new SideWindows(this);
     m_translator = new QTranslator(this);
 
     for (QWidget *widget : {static_cast<QWidget *>(ui->groupBox), ui->scrollWidget}) {

@@ -5,6 +5,7 @@
 
 #include "dialoghost.h"
 #include "plothost.h"
+#include "windowactions.h"
 
 #include <QList>
 #include <QMainWindow>
@@ -25,6 +26,7 @@ class QTranslator;
 class QVBoxLayout;
 class RecordingWriter;
 class SaveDialog;
+class SideWindows;
 class VectorDialog;
 class plotterDg;
 enum class CaptureTarget;
@@ -144,6 +146,7 @@ private:
     VectorDialog *m_vectorDialog = nullptr;
     SaveDialog *m_saveDialog = nullptr;
     CTVTDialog *m_ctvtDialog = nullptr;
+    SideWindows *m_sideWindows = nullptr;
     QTranslator *m_translator = nullptr;
     PackageUnpacker *m_unpacker = nullptr;
     QThread *m_loaderThread = nullptr;
@@ -156,23 +159,7 @@ private:
     QString m_languageFileName;
     QList<QAction *> languageActions; // English, Suomi, 中文
 
-    QAction *m_openAct = nullptr;
-    QAction *m_saveAsAct = nullptr;
-    QAction *m_saveAsPrimaryAct = nullptr;
-    QAction *m_addPlotterAct = nullptr;
-    QAction *m_removePlotterAct = nullptr;
-    QAction *m_removeCursorsAct = nullptr;
-    QAction *m_showVectorsAct = nullptr;
-    QAction *m_rescaleAct = nullptr;
-    QAction *m_screenshotAct = nullptr;
-    QAction *m_clipboardAct = nullptr;
-    QAction *m_zoomInAct = nullptr;
-    QAction *m_zoomOutAct = nullptr;
-    QAction *m_zoomResetAct = nullptr;
-    QAction *m_vZoomInAct = nullptr;
-    QAction *m_vZoomOutAct = nullptr;
-    QAction *m_exitAct = nullptr;
-    QAction *m_aboutAct = nullptr;
+    WindowActions m_actions;
     QMenu *m_fileMenu = nullptr;
     QMenu *m_editMenu = nullptr;
     QMenu *m_toolsMenu = nullptr;

@@ -49,7 +49,7 @@ QString withoutMnemonic(QString text)
 } // namespace
 
 struct MainWindow::ActionEntry {
-    QAction *MainWindow::*action;
+    QAction *WindowActions::*action;
     const char *text;
     const char *statusTip;
     const char *icon; // image of this name, empty for none
@@ -60,38 +60,38 @@ struct MainWindow::ActionEntry {
 
 const QList<MainWindow::ActionEntry> &MainWindow::actionEntries()
 {
+    using A = WindowActions;
     using W = MainWindow;
     static const QList<ActionEntry> entries{
-        {&W::m_openAct, QT_TR_NOOP("&Open..."), QT_TR_NOOP("Open an existing file."), "open",
-            &W::open, true, QKeySequence::Open},
-        {&W::m_saveAsAct, QT_TR_NOOP("&Save As.."), QT_TR_NOOP("Save recording to file."), "save",
+        {&A::open, QT_TR_NOOP("&Open..."), QT_TR_NOOP("Open an existing file."), "open", &W::open,
+            true, QKeySequence::Open},
+        {&A::saveAs, QT_TR_NOOP("&Save As.."), QT_TR_NOOP("Save recording to file."), "save",
             &W::showSaveDialog, false},
-        {&W::m_saveAsPrimaryAct, QT_TR_NOOP("Save As &Primary"),
-            QT_TR_NOOP("Save as a primary type."), "save", &W::saveAsPrimary, false},
-        {&W::m_addPlotterAct, QT_TR_NOOP("&Add Plotter"), QT_TR_NOOP("Add analog plotter."), "Plus",
+        {&A::saveAsPrimary, QT_TR_NOOP("Save As &Primary"), QT_TR_NOOP("Save as a primary type."),
+            "save", &W::saveAsPrimary, false},
+        {&A::addPlotter, QT_TR_NOOP("&Add Plotter"), QT_TR_NOOP("Add analog plotter."), "Plus",
             &W::setAnalogChannels, false},
-        {&W::m_removePlotterAct, QT_TR_NOOP("&Remove Plotter"), QT_TR_NOOP("Remoe analog plotter."),
+        {&A::removePlotter, QT_TR_NOOP("&Remove Plotter"), QT_TR_NOOP("Remoe analog plotter."),
             "minus", &W::removePlotter, false},
-        {&W::m_removeCursorsAct, QT_TR_NOOP("&Remove All Cursors"),
-            QT_TR_NOOP("Remove all cursors."), "RemoveCursors", &W::removeCursors, false},
-        {&W::m_showVectorsAct, QT_TR_NOOP("&Show Vectors"), QT_TR_NOOP("Show vectors dialog."),
+        {&A::removeCursors, QT_TR_NOOP("&Remove All Cursors"), QT_TR_NOOP("Remove all cursors."),
+            "RemoveCursors", &W::removeCursors, false},
+        {&A::showVectors, QT_TR_NOOP("&Show Vectors"), QT_TR_NOOP("Show vectors dialog."),
             "vector"},
-        {&W::m_rescaleAct, QT_TR_NOOP("Rescale CTVT"), QT_TR_NOOP("Set CTVT ratios."), "",
+        {&A::rescale, QT_TR_NOOP("Rescale CTVT"), QT_TR_NOOP("Set CTVT ratios."), "",
             &W::showCTVTDialog, false},
-        {&W::m_screenshotAct, QT_TR_NOOP("&Save screenshot"), QT_TR_NOOP("Save screenshot."),
+        {&A::screenshot, QT_TR_NOOP("&Save screenshot"), QT_TR_NOOP("Save screenshot."),
             "screenshot", &W::saveScreenShot},
-        {&W::m_clipboardAct, QT_TR_NOOP("&Copy to clipboard"), QT_TR_NOOP("Copy to clipboard."),
+        {&A::clipboard, QT_TR_NOOP("&Copy to clipboard"), QT_TR_NOOP("Copy to clipboard."),
             "clipboard", &W::copyToClipboard},
-        {&W::m_zoomInAct, QT_TR_NOOP("Zoom In"), QT_TR_NOOP("Zoom in."), "zoomin"},
-        {&W::m_zoomOutAct, QT_TR_NOOP("Zoom Out"), QT_TR_NOOP("Zoom out."), "zoomout"},
-        {&W::m_zoomResetAct, QT_TR_NOOP("Zoom Reset"), QT_TR_NOOP("Zoom reset."), "zoomreset"},
-        {&W::m_vZoomInAct, QT_TR_NOOP("Vertical Zoom In"), QT_TR_NOOP("Vertical zoom in."),
-            "zoominh"},
-        {&W::m_vZoomOutAct, QT_TR_NOOP("Vertical Zoom Out"), QT_TR_NOOP("Vertical zoom out."),
+        {&A::zoomIn, QT_TR_NOOP("Zoom In"), QT_TR_NOOP("Zoom in."), "zoomin"},
+        {&A::zoomOut, QT_TR_NOOP("Zoom Out"), QT_TR_NOOP("Zoom out."), "zoomout"},
+        {&A::zoomReset, QT_TR_NOOP("Zoom Reset"), QT_TR_NOOP("Zoom reset."), "zoomreset"},
+        {&A::vZoomIn, QT_TR_NOOP("Vertical Zoom In"), QT_TR_NOOP("Vertical zoom in."), "zoominh"},
+        {&A::vZoomOut, QT_TR_NOOP("Vertical Zoom Out"), QT_TR_NOOP("Vertical zoom out."),
             "zoomouth"},
-        {&W::m_exitAct, QT_TR_NOOP("E&xit"), QT_TR_NOOP("Exit the application."), "", nullptr, true,
+        {&A::exit, QT_TR_NOOP("E&xit"), QT_TR_NOOP("Exit the application."), "", nullptr, true,
             QKeySequence::Quit},
-        {&W::m_aboutAct, QT_TR_NOOP("&About Wavorin"), QT_TR_NOOP("About Wavorin"), "", &W::about},
+        {&A::about, QT_TR_NOOP("&About Wavorin"), QT_TR_NOOP("About Wavorin"), "", &W::about},
     };
     return entries;
 }
@@ -107,10 +107,10 @@ void MainWindow::createActions()
         action->setEnabled(entry.enabled);
         if (entry.slot)
             connect(action, &QAction::triggered, this, entry.slot);
-        this->*entry.action = action;
+        m_actions.*entry.action = action;
     }
-    connect(m_showVectorsAct, &QAction::triggered, m_vectorDialog, &QWidget::show);
-    connect(m_exitAct, &QAction::triggered, this, &QWidget::close);
+    connect(m_actions.showVectors, &QAction::triggered, m_vectorDialog, &QWidget::show);
+    connect(m_actions.exit, &QAction::triggered, this, &QWidget::close);
     createToolBarWidgets();
     createLanguageMenu();
 }
@@ -160,31 +160,32 @@ void MainWindow::createLanguageMenu()
 void MainWindow::createMenus()
 {
     m_fileMenu = menuBar()->addMenu(QString());
-    m_fileMenu->addActions({m_openAct, m_saveAsAct, m_saveAsPrimaryAct});
+    m_fileMenu->addActions({m_actions.open, m_actions.saveAs, m_actions.saveAsPrimary});
     m_fileMenu->addSeparator();
-    m_fileMenu->addAction(m_exitAct);
+    m_fileMenu->addAction(m_actions.exit);
 
     m_editMenu = menuBar()->addMenu(QString());
-    m_editMenu->addActions({m_clipboardAct, m_screenshotAct});
+    m_editMenu->addActions({m_actions.clipboard, m_actions.screenshot});
 
     m_toolsMenu = menuBar()->addMenu(QString());
-    m_toolsMenu->addActions(
-        {m_addPlotterAct, m_removePlotterAct, m_removeCursorsAct, m_showVectorsAct, m_rescaleAct});
+    m_toolsMenu->addActions({m_actions.addPlotter, m_actions.removePlotter, m_actions.removeCursors,
+        m_actions.showVectors, m_actions.rescale});
     m_toolsMenu->addMenu(m_languageMenu);
 
     menuBar()->addSeparator();
     m_helpMenu = menuBar()->addMenu(QString());
-    m_helpMenu->addAction(m_aboutAct);
+    m_helpMenu->addAction(m_actions.about);
     retranslateTexts();
 }
 
 void MainWindow::createToolBars()
 {
-    addToolBar(tr("File"))->addAction(m_openAct);
-    addToolBar(tr("Edit"))->addActions({m_clipboardAct, m_screenshotAct});
+    addToolBar(tr("File"))->addAction(m_actions.open);
+    addToolBar(tr("Edit"))->addActions({m_actions.clipboard, m_actions.screenshot});
     addToolBar(tr("Tools"))
-        ->addActions({m_addPlotterAct, m_removePlotterAct, m_removeCursorsAct, m_showVectorsAct,
-            m_zoomInAct, m_zoomOutAct, m_zoomResetAct, m_vZoomInAct, m_vZoomOutAct});
+        ->addActions({m_actions.addPlotter, m_actions.removePlotter, m_actions.removeCursors,
+            m_actions.showVectors, m_actions.zoomIn, m_actions.zoomOut, m_actions.zoomReset,
+            m_actions.vZoomIn, m_actions.vZoomOut});
 
     QToolBar *spectrumBar = addToolBar(tr("FFT"));
     spectrumBar->addWidget(m_showAnglesCheckBox);
@@ -205,11 +206,11 @@ void MainWindow::createToolBars()
 
 void MainWindow::enableRecordingActions(bool enabled)
 {
-    for (QAction *action :
-        {m_saveAsAct, m_saveAsPrimaryAct, m_addPlotterAct, m_removeCursorsAct, m_rescaleAct})
+    for (QAction *action : {m_actions.saveAs, m_actions.saveAsPrimary, m_actions.addPlotter,
+             m_actions.removeCursors, m_actions.rescale})
         action->setEnabled(enabled);
     if (!enabled)
-        m_removePlotterAct->setEnabled(false); // adding a plot enables it
+        m_actions.removePlotter->setEnabled(false); // adding a plot enables it
 
     const bool phasors = enabled && hasPhasors();
     m_showAnglesCheckBox->setEnabled(phasors);
@@ -223,7 +224,7 @@ void MainWindow::retranslateTexts()
     m_toolsMenu->setTitle(tr("&Tools"));
     m_helpMenu->setTitle(tr("&Help"));
     for (const ActionEntry &entry : actionEntries()) {
-        QAction *action = this->*entry.action;
+        QAction *action = m_actions.*entry.action;
         const QString text = tr(entry.text);
         action->setText(text);
         action->setToolTip(withoutMnemonic(text));

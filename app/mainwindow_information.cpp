@@ -14,6 +14,7 @@
 #include "numbers.h"
 #include "plotvalues.h"
 #include "savedialog.h"
+#include "sidewindows.h"
 #include "timeofday.h"
 #include "ui_mainwindow.h"
 #include "vectordialog.h"
@@ -115,6 +116,7 @@ void MainWindow::clearView()
     m_ctvtDialog->clearChannels();
     m_vectorDialog->setPlotter(nullptr);
     m_vectorDialog->setChannelNames({});
+    m_sideWindows->setRecording(nullptr, nullptr);
     if (disposes)
         disposePlots();
     m_showAnglesCheckBox->setChecked(false); // reaches no plot any more
@@ -146,6 +148,7 @@ void MainWindow::showRecording()
     createPlots();
     enableRecordingActions(true);
     m_ctvtDialog->setChannels(ids, primaries, secondaries);
+    m_sideWindows->setRecording(m_cfgProperties, m_analogPlotter);
 }
 
 // The load reads the month first, the check box the day first: the two differ on purpose.

@@ -7,6 +7,7 @@
 
 #include "cfgproperties.h"
 #include "plotmenu.h"
+#include "sidewindows.h"
 
 #include <QMenu>
 
@@ -18,4 +19,6 @@ void MainWindow::fillPlotMenu(QMenu &menu, Plotter &plot, const QPoint &point, i
     entries.addViews();
     menu.addSeparator();
     entries.addNewCursors(point);
+    menu.addSeparator();
+    m_sideWindows->addTo(menu);
 }

@@ -127,8 +127,8 @@ void MainWindow::createPlots()
     m_analogPlotter->setMaximumHeight(largestPlotHeight);
     m_digitalPlotter = new plotterDg(ui->scrollWidget);
     // The first to hear of a change of the views, which each plot makes by itself.
-    for (const QAction *zoom :
-        {m_zoomInAct, m_zoomOutAct, m_zoomResetAct, m_vZoomInAct, m_vZoomOutAct})
+    for (const QAction *zoom : {m_actions.zoomIn, m_actions.zoomOut, m_actions.zoomReset,
+             m_actions.vZoomIn, m_actions.vZoomOut})
         connect(zoom, &QAction::triggered, m_analogPlotter, &Plotter::noteViews);
     connect(m_horizontalScroll, &QScrollBar::valueChanged, m_analogPlotter, &Plotter::noteViews);
     for (Plotter *plot : {m_analogPlotter, static_cast<Plotter *>(m_digitalPlotter)}) {
@@ -191,14 +191,14 @@ void MainWindow::equip(Plotter *plot)
 {
     plot->setMainWindow(this);
     plot->setMinimumHeight(smallestPlotHeight);
-    connect(m_zoomResetAct, &QAction::triggered, plot, &Plotter::customResetZoom);
+    connect(m_actions.zoomReset, &QAction::triggered, plot, &Plotter::customResetZoom);
     if (plot == m_analogPlotter) {
-        connect(m_zoomOutAct, &QAction::triggered, plot, &Plotter::customZoomOut);
-        connect(m_zoomInAct, &QAction::triggered, plot, &Plotter::customZoomIn);
+        connect(m_actions.zoomOut, &QAction::triggered, plot, &Plotter::customZoomOut);
+        connect(m_actions.zoomIn, &QAction::triggered, plot, &Plotter::customZoomIn);
     }
     if (plot != m_digitalPlotter) {
-        connect(m_vZoomOutAct, &QAction::triggered, plot, &Plotter::customVZoomOut);
-        connect(m_vZoomInAct, &QAction::triggered, plot, &Plotter::customVZoomIn);
+        connect(m_actions.vZoomOut, &QAction::triggered, plot, &Plotter::customVZoomOut);
+        connect(m_actions.vZoomIn, &QAction::triggered, plot, &Plotter::customVZoomIn);
         connect(m_ctvtDialog, &CTVTDialog::scaleChanged, plot, &Plotter::refreshSlot);
     }
     connect(m_saveDialog, &SaveDialog::setStartPoint, plot, &Plotter::setStartPoint);
@@ -306,7 +306,7 @@ void MainWindow::addPlot(const QStringList &names, const QList<int> &channels)
     }
     if (numbers.isEmpty())
         return;
-    m_removePlotterAct->setEnabled(true);
+    m_actions.removePlotter->setEnabled(true);
     const QString given = m_addPlotterDialog->graphName().trimmed();
     const QPointer<Plotter> plot = new Plotter(ui->scrollWidget);
     if (given.isEmpty())
@@ -352,7 +352,7 @@ void MainWindow::removePlotter()
         ui->scrollWidget->repaint();
     }
     if (m_addedPlotters.isEmpty())
-        m_removePlotterAct->setEnabled(false);
+        m_actions.removePlotter->setEnabled(false);
 }
 
 void MainWindow::removeCursors()

@@ -54,6 +54,10 @@
         <source>Close</source>
         <translation>Close</translation>
     </message>
+    <message>
+        <source>Multiplies the values of the recorded side by its rating, even where nothing was changed</source>
+        <translation>Multiplies the values of the recorded side by its rating, even where nothing was changed</translation>
+    </message>
 </context>
 <context>
     <name>EventTable</name>
@@ -460,6 +464,34 @@ Please select another file.</translation>
     <message>
         <source>Values of the primary or the secondary side, or per unit</source>
         <translation>Values of the primary or the secondary side, or per unit</translation>
+    </message>
+    <message>
+        <source>%1 %2 cannot be read as month/day/year and time of day</source>
+        <translation>%1 %2 cannot be read as month/day/year and time of day</translation>
+    </message>
+    <message>
+        <source>%1 %2 cannot be read as day/month/year and time of day</source>
+        <translation>%1 %2 cannot be read as day/month/year and time of day</translation>
+    </message>
+    <message>
+        <source>There is no data file (.dat) beside it.</source>
+        <translation>There is no data file (.dat) beside it.</translation>
+    </message>
+    <message>
+        <source>Its data are not ASCII.</source>
+        <translation>Its data are not ASCII.</translation>
+    </message>
+    <message>
+        <source>Its data file holds no sample.</source>
+        <translation>Its data file holds no sample.</translation>
+    </message>
+    <message>
+        <source>A file of it cannot be read to its end.</source>
+        <translation>A file of it cannot be read to its end.</translation>
+    </message>
+    <message>
+        <source>There is too little memory for it.</source>
+        <translation>There is too little memory for it.</translation>
     </message>
 </context>
 <context>
@@ -1057,6 +1089,25 @@ Do you want to replace it?</translation>
     <message>
         <source>Choose the file</source>
         <translation>Choose the file</translation>
+    </message>
+    <message>
+        <source>There is no such folder</source>
+        <translation>There is no such folder</translation>
+    </message>
+    <message>
+        <source>The file that is there may not be replaced</source>
+        <translation>The file that is there may not be replaced</translation>
+    </message>
+    <message>
+        <source>The folder may not be written to</source>
+        <translation>The folder may not be written to</translation>
+    </message>
+</context>
+<context>
+    <name>SideWindows</name>
+    <message>
+        <source>Events...</source>
+        <translation>Events...</translation>
     </message>
 </context>
 <context>

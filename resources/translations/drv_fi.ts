@@ -54,6 +54,10 @@
         <source>Close</source>
         <translation>Sulje</translation>
     </message>
+    <message>
+        <source>Multiplies the values of the recorded side by its rating, even where nothing was changed</source>
+        <translation>Kertoo tallennetun puolen arvot sen nimellisarvolla, vaikka mitään ei olisi muutettu</translation>
+    </message>
 </context>
 <context>
     <name>EventTable</name>
@@ -460,6 +464,34 @@ Valitse toinen tiedosto.</translation>
     <message>
         <source>Values of the primary or the secondary side, or per unit</source>
         <translation>Ensiö- tai toisiopuolen arvot tai suhteellisarvot</translation>
+    </message>
+    <message>
+        <source>%1 %2 cannot be read as month/day/year and time of day</source>
+        <translation>%1 %2 ei ole muotoa kuukausi/päivä/vuosi ja kellonaika</translation>
+    </message>
+    <message>
+        <source>%1 %2 cannot be read as day/month/year and time of day</source>
+        <translation>%1 %2 ei ole muotoa päivä/kuukausi/vuosi ja kellonaika</translation>
+    </message>
+    <message>
+        <source>There is no data file (.dat) beside it.</source>
+        <translation>Sen vieressä ei ole datatiedostoa (.dat).</translation>
+    </message>
+    <message>
+        <source>Its data are not ASCII.</source>
+        <translation>Sen data ei ole ASCII-muodossa.</translation>
+    </message>
+    <message>
+        <source>Its data file holds no sample.</source>
+        <translation>Sen datatiedostossa ei ole yhtään näytettä.</translation>
+    </message>
+    <message>
+        <source>A file of it cannot be read to its end.</source>
+        <translation>Jotakin sen tiedostoa ei voi lukea loppuun.</translation>
+    </message>
+    <message>
+        <source>There is too little memory for it.</source>
+        <translation>Muisti ei riitä siihen.</translation>
     </message>
 </context>
 <context>
@@ -1057,6 +1089,25 @@ Korvataanko se?</translation>
     <message>
         <source>Choose the file</source>
         <translation>Valitse tiedosto</translation>
+    </message>
+    <message>
+        <source>There is no such folder</source>
+        <translation>Tätä kansiota ei ole</translation>
+    </message>
+    <message>
+        <source>The file that is there may not be replaced</source>
+        <translation>Olemassa olevaa tiedostoa ei saa korvata</translation>
+    </message>
+    <message>
+        <source>The folder may not be written to</source>
+        <translation>Kansioon ei saa kirjoittaa</translation>
+    </message>
+</context>
+<context>
+    <name>SideWindows</name>
+    <message>
+        <source>Events...</source>
+        <translation>Tapahtumat...</translation>
     </message>
 </context>
 <context>

@@ -54,6 +54,10 @@
         <source>Close</source>
         <translation>关闭</translation>
     </message>
+    <message>
+        <source>Multiplies the values of the recorded side by its rating, even where nothing was changed</source>
+        <translation>将记录侧的值乘以其额定值，即使未作任何更改</translation>
+    </message>
 </context>
 <context>
     <name>EventTable</name>
@@ -460,6 +464,34 @@ Please select another file.</source>
     <message>
         <source>Values of the primary or the secondary side, or per unit</source>
         <translation>一次侧值、二次侧值或标幺值</translation>
+    </message>
+    <message>
+        <source>%1 %2 cannot be read as month/day/year and time of day</source>
+        <translation>无法将 %1 %2 读作“月/日/年 时刻”</translation>
+    </message>
+    <message>
+        <source>%1 %2 cannot be read as day/month/year and time of day</source>
+        <translation>无法将 %1 %2 读作“日/月/年 时刻”</translation>
+    </message>
+    <message>
+        <source>There is no data file (.dat) beside it.</source>
+        <translation>同一文件夹中没有数据文件 (.dat)。</translation>
+    </message>
+    <message>
+        <source>Its data are not ASCII.</source>
+        <translation>其数据不是 ASCII 格式。</translation>
+    </message>
+    <message>
+        <source>Its data file holds no sample.</source>
+        <translation>其数据文件不含任何采样。</translation>
+    </message>
+    <message>
+        <source>A file of it cannot be read to its end.</source>
+        <translation>无法完整读取其文件。</translation>
+    </message>
+    <message>
+        <source>There is too little memory for it.</source>
+        <translation>内存不足，无法打开。</translation>
     </message>
 </context>
 <context>
@@ -1057,6 +1089,25 @@ Do you want to replace it?</source>
     <message>
         <source>Choose the file</source>
         <translation>选择文件</translation>
+    </message>
+    <message>
+        <source>There is no such folder</source>
+        <translation>文件夹不存在</translation>
+    </message>
+    <message>
+        <source>The file that is there may not be replaced</source>
+        <translation>已有文件不允许被替换</translation>
+    </message>
+    <message>
+        <source>The folder may not be written to</source>
+        <translation>该文件夹不可写入</translation>
+    </message>
+</context>
+<context>
+    <name>SideWindows</name>
+    <message>
+        <source>Events...</source>
+        <translation>事件...</translation>
     </message>
 </context>
 <context>
