@@ -13,6 +13,8 @@
 
 int main(int argc, char *argv[])
 {
+    if (isQuestion(argc, argv))
+        answerQuestion(argc, argv);
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(

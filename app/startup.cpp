@@ -12,6 +12,8 @@
 #include <QFont>
 #include <QFontInfo>
 
+#include <cstdio>
+
 void preferApplicationFolder()
 {
 #ifndef Q_OS_WIN
@@ -46,6 +48,11 @@ void openOrWait(MainWindow &window, const QString &path)
     if (opensAtStart(path)) {
         window.open(path);
         return;
+    }
+    if (!path.isEmpty()) {
+        const QByteArray name = path.toLocal8Bit();
+        std::fprintf(stderr, "wavorin: %s: not opened: the name does not end with .cfg or .zip\n",
+            name.constData());
     }
     QElapsedTimer timer;
     timer.start();

@@ -18,5 +18,5 @@ void useTheSystemsFont();
 void preferSimplifiedCharacters();
 
 // Opens the recording named on the command line. Without one that is opened at start-up, processes
-// events for two seconds, so that the splash can be seen.
+// events for two seconds, so that the splash can be seen, and says on standard error what it left.
 void openOrWait(MainWindow &window, const QString &path);

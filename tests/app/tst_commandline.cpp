@@ -16,6 +16,8 @@ private slots:
     void missingArgumentIsNull();
     void furtherArgumentsAreIgnored();
     void eightBitTextIsLatin1();
+    void knowsQuestions_data();
+    void knowsQuestions();
 };
 
 void TestCommandLine::readsArgumentOne_data()
@@ -54,6 +56,25 @@ void TestCommandLine::furtherArgumentsAreIgnored()
 void TestCommandLine::eightBitTextIsLatin1()
 {
     QCOMPARE(latin1Argument("h\xc3\xa4iri\xc3\xb6"), QByteArray("h\xe4iri\xf6"));
+}
+
+void TestCommandLine::knowsQuestions_data()
+{
+    QTest::addColumn<QByteArray>("argument");
+    QTest::addColumn<bool>("known");
+    for (const char *question : {"-h", "--help", "-v", "--version"})
+        QTest::newRow(question) << QByteArray(question) << true;
+    for (const char *other : {"", "help", "--helpless", "--version.cfg", "-platform"})
+        QTest::newRow(*other ? other : "nothing") << QByteArray(other) << false;
+}
+
+void TestCommandLine::knowsQuestions()
+{
+    QFETCH(QByteArray, argument);
+    const std::array<const char *, 3> argv{"wavorin", argument.constData(), "--help"};
+    QTEST(isQuestion(2, argv.data()), "known");
+    QTEST(isQuestion(3, argv.data()), "known");
+    QVERIFY(!isQuestion(1, argv.data()));
 }
 
 QTEST_GUILESS_MAIN(TestCommandLine)

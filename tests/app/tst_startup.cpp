@@ -168,12 +168,13 @@ private slots:
     {
         QTest::addColumn<int>("number");
         QTest::addColumn<bool>("opens");
+        QTest::addColumn<bool>("hasFile");
         for (const char *name : {"rec.cfg", "rec.CFG", "rec.txt", "rec.cfg.bak"})
             QVERIFY(writeTextFile(folder.filePath(QLatin1String(name)), smallConfiguration()));
         for (const char *name : {"rec.dat", "rec.dat.bak"})
             QVERIFY(writeTextFile(folder.filePath(QLatin1String(name)), smallData()));
         const auto row = [this](const char *name, const char *file, bool opens) {
-            QTest::newRow(name) << int(waits.size()) << opens;
+            QTest::newRow(name) << int(waits.size()) << opens << (*file != 0);
             const QString argument = *file ? folder.filePath(QLatin1String(file)) : QString();
             waits.emplace_back(new QProcess);
             waits.back()->start(QCoreApplication::applicationFilePath(), {waitOption, argument});
@@ -189,6 +190,7 @@ private slots:
     {
         QFETCH(int, number);
         QFETCH(bool, opens);
+        QFETCH(bool, hasFile);
         QProcess &process = *waits.at(std::size_t(number));
         QVERIFY(process.state() == QProcess::NotRunning || process.waitForFinished());
         QCOMPARE(process.exitCode(), 0);
@@ -196,6 +198,9 @@ private slots:
         QCOMPARE(seen.size(), 3);
         const int elapsed = seen.at(0).toInt();
         QCOMPARE(seen.at(1) == "1", opens);
+        const QByteArray error = process.readAllStandardError();
+        QCOMPARE(error.contains("not opened: the name does not end with .cfg or .zip"),
+            !opens && hasFile);
         QVERIFY2(opens ? elapsed < 2000 : elapsed >= 2000, seen.at(0).constData());
         QVERIFY2(elapsed < 4000, seen.at(0).constData());
         QVERIFY(opens || seen.at(2) == "1");
@@ -220,6 +225,34 @@ private slots:
             QLatin1String("Cannot read file ") + path
                 + QLatin1String(":\nNo such file or directory."));
         QCOMPARE(window.statusBar()->currentMessage(), QStringLiteral("Ready"));
+    }
+
+    void questionsAreAnsweredWithoutADisplay_data()
+    {
+        QTest::addColumn<QString>("question");
+        QTest::addColumn<QString>("begin");
+        QTest::newRow("version") << QStringLiteral("--version") << QStringLiteral("wavorin 1.");
+        QTest::newRow("help") << QStringLiteral("--help") << QStringLiteral("Usage: ");
+    }
+
+    void questionsAreAnsweredWithoutADisplay()
+    {
+        QFETCH(QString, question);
+        QFETCH(QString, begin);
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char *variable : {"DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(QLatin1String(variable));
+        program.setProcessEnvironment(environment);
+        program.start(
+            QCoreApplication::applicationDirPath() + QLatin1String("/wavorin"), {question});
+        QVERIFY(program.waitForFinished());
+        QCOMPARE(program.exitCode(), 0);
+        const QString answer = QString::fromUtf8(program.readAllStandardOutput());
+        QVERIFY2(answer.startsWith(begin), qPrintable(answer));
+        QCOMPARE(
+            answer.contains(QLatin1String("[recording]")), question == QLatin1String("--help"));
+        QCOMPARE(program.readAllStandardError(), QByteArray());
     }
 
     // The program itself, on a display of its own.
