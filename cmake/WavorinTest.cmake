@@ -17,9 +17,12 @@ if(WAVORIN_QUICK_BUILD)
 endif()
 
 # What the names of the toolkit's variables begin with. Wine hands them on under names of its own, and without
-# a display the toolkit finds no fonts on Windows but those of a folder that is named to it.
+# a display the toolkit finds no fonts on Windows but those of a folder that is named to it. The archiver lies
+# where the search path leads, not beside the tests: there Windows finds it first, whatever a test puts in its place.
 set(wavorin_toolkit QT_)
+set(wavorin_test_programs "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
 if(WIN32)
+    set(wavorin_test_programs "${CMAKE_BINARY_DIR}/test-bin")
     set(wavorin_toolkit WINEQT_)
     set(wavorin_test_fonts "${CMAKE_BINARY_DIR}/fonts")
     file(GLOB fonts /usr/share/fonts/truetype/dejavu/DejaVuSans*.ttf
@@ -29,7 +32,8 @@ endif()
 
 # Compiles an executable of the tests, with the libraries it links, as fast as may be.
 function(wavorin_test_executable name)
-    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+    set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF
+        RUNTIME_OUTPUT_DIRECTORY "${wavorin_test_programs}")
     target_link_libraries(${name} PRIVATE wavorin_options wavorin_test_options Qt5::Test ${ARGN})
     if(WIN32) # a static toolkit links the platform "windows" alone by itself
         qt5_import_plugins(${name} INCLUDE Qt5::QOffscreenIntegrationPlugin)
@@ -81,8 +85,10 @@ function(wavorin_test name)
     set(home "${CMAKE_BINARY_DIR}/test-home/${name}")
     file(MAKE_DIRECTORY "${home}" "${CMAKE_BINARY_DIR}/test-output")
     set(platform "${wavorin_toolkit}QPA_PLATFORM=offscreen")
-    if(wavorin_test_fonts)
-        string(APPEND platform ";${wavorin_toolkit}QPA_FONTDIR=${wavorin_test_fonts}")
+    if(WIN32)
+        string(APPEND platform ";${wavorin_toolkit}ASSUME_STDERR_HAS_CONSOLE=1" # or nothing is said
+            ";${wavorin_toolkit}QPA_FONTDIR=${wavorin_test_fonts}"
+            ";WINEPATH=Z:${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
     endif()
     set_tests_properties(${name} PROPERTIES
         TIMEOUT 300

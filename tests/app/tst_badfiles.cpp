@@ -7,8 +7,11 @@
 #include <QtTest>
 
 #include <functional>
+
+#ifdef Q_OS_UNIX
 #include <sys/stat.h>
 #include <unistd.h>
+#endif
 
 using Change = std::function<void(const QString &stem)>;
 Q_DECLARE_METATYPE(Change)
@@ -24,13 +27,14 @@ private slots:
     void unreadableFile_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("reason");
+        QTest::addColumn<QString>("reason"); // on Windows the system's own, in its language
         QTest::newRow("no such file") << "none.cfg"
                                       << "No such file or directory";
         QTest::newRow("no such package") << "none.zip"
                                          << "No such file or directory";
         QTest::newRow("a folder") << "folder.cfg"
                                   << "file to open is a directory";
+#ifdef Q_OS_UNIX
         QTest::newRow("no permission") << "secret.cfg"
                                        << "Permission denied";
         QTest::newRow("a link that leads nowhere") << "dangling.cfg"
@@ -43,6 +47,7 @@ private slots:
                                                      << "It is a pipe or a device";
         QTest::newRow("a device") << "zero.txt"
                                   << "It is a pipe or a device";
+#endif
         QTest::newRow("place markers in the name") << "%2.cfg"
                                                    << "No such file or directory";
         QTest::newRow("tags in the name") << "<b>x</b>.cfg"
@@ -54,6 +59,14 @@ private slots:
         QFETCH(QString, name);
         QFETCH(QString, reason);
         QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("folder.cfg")));
+#ifdef Q_OS_WIN
+        QFile unreadable(folder->filePath(name));
+        QVERIFY(!unreadable.open(QIODevice::ReadOnly));
+        reason = unreadable.errorString();
+        QVERIFY(!reason.isEmpty());
+        while (reason.endsWith(QLatin1Char('.')))
+            reason.chop(1);
+#else
         QVERIFY(QFile::link(path("nowhere.cfg"), path("dangling.cfg")));
         QVERIFY(QFile::link(path("circle.cfg"), path("circle.cfg")));
         QVERIFY(QFile::link(QStringLiteral("/dev/zero"), path("zero.txt")));
@@ -63,6 +76,7 @@ private slots:
         QFile::setPermissions(path("secret.cfg"), {});
         if (name == QLatin1String("secret.cfg") && geteuid() == 0)
             QSKIP("everything is readable for root");
+#endif
         window->open(goodRecording());
         window->statusBar()->clearMessage();
         window->open(folder->filePath(name));
@@ -147,6 +161,9 @@ private slots:
     void fileThatFailsIsNotSupported()
     {
         QFETCH(QString, faulty);
+#ifdef Q_OS_WIN
+        QSKIP("Links need rights of their own there.");
+#endif
         if (!QFile::exists(QStringLiteral("/proc/self/mem")))
             QSKIP("there is no such file here");
         goodRecording("bad");
@@ -173,6 +190,7 @@ private slots:
         QTest::addColumn<int>("channels");
         const QLatin1String cfg(".cfg");
         const QLatin1String dat(".dat");
+#ifdef Q_OS_UNIX // elsewhere what is open can be emptied, but not removed
         QTest::newRow("both are replaced") << Change([=](const QString &stem) {
             QVERIFY(QFile::remove(stem + cfg) && QFile::remove(stem + dat));
             ConfigurationText text;
@@ -182,6 +200,10 @@ private slots:
         }) << 2 << 1;
         QTest::newRow("the configuration is removed")
             << Change([=](const QString &stem) { QVERIFY(QFile::remove(stem + cfg)); }) << 40 << 0;
+        QTest::newRow("the folder is removed") << Change([](const QString &stem) {
+            QVERIFY(QFileInfo(stem).dir().removeRecursively());
+        }) << 0 << 0;
+#endif
         QTest::newRow("the configuration is emptied")
             << Change([=](const QString &stem) { QVERIFY(QFile::resize(stem + cfg, 0)); }) << 40
             << 0;
@@ -193,9 +215,6 @@ private slots:
         QTest::newRow("the data shrink to their first line") << Change([=](const QString &stem) {
             QVERIFY(QFile::resize(stem + dat, smallData().indexOf('\n') + 1));
         }) << 1 << 2;
-        QTest::newRow("the folder is removed") << Change([](const QString &stem) {
-            QVERIFY(QFileInfo(stem).dir().removeRecursively());
-        }) << 0 << 0;
     }
 
     void filesChangeWhileTheLoadBegins()
@@ -223,12 +242,16 @@ private slots:
     // Nobody writes to it, so that its reader would wait for ever.
     void aPipeInTheDataFilesPlaceIsNotSupported()
     {
+#ifdef Q_OS_UNIX
         QVERIFY(writeTextFile(path("bad.cfg"), smallConfiguration()));
         QCOMPARE(mkfifo(QFile::encodeName(path("bad.dat")).constData(), 0600), 0);
         window->open(path("bad.cfg"));
         const QList<BoxReader::Box> seen = boxes->take();
         QCOMPARE(seen.size(), 1);
         QCOMPARE(seen[0].text, QStringLiteral("File not supported."));
+#else
+        QSKIP("Pipes lie in no folder there.");
+#endif
     }
 
     void failedLoadTwiceInARow()

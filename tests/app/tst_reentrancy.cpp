@@ -3,6 +3,7 @@
 
 #include "addplotterdialog.h"
 #include "cfgproperties.h"
+#include "playedarchiver.h"
 #include "plotswindow.h"
 #include "smallrecording.h"
 
@@ -257,7 +258,7 @@ class TestReentrancy : public PlotsWindow {
         connect(window.get(), &MainWindow::initProperties, this, [this] { ++opened; });
     }
 
-    // Small ones, one that takes a while, others that cannot be loaded, and packages for a script
+    // Small ones, one that takes a while, others that cannot be loaded, and packages for a program
     // in the archiver's place.
     void writeFiles()
     {
@@ -284,13 +285,8 @@ class TestReentrancy : public PlotsWindow {
         };
         files.append(writePair(
             folder->filePath(QStringLiteral("long")), text.text(), dataLines(4000, 1000, values)));
-        const QByteArray content = QFile::encodeName(path("small"));
-        QVERIFY(writeTextFile(path("7z.exe"),
-            "#!/bin/sh\ncase $2 in *invalid*) echo Error; exit 2 ;; esac\nsleep 0.01\ncp \""
-                + content + ".cfg\" \"" + content + ".dat\" \"${4#-o}\"\n"));
-        QFile::setPermissions(
-            path("7z.exe"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        qputenv("PATH", QFile::encodeName(folder->path()) + ':' + searchPath);
+        playArchiver("refuse invalid\nsleep 10\ncopy " + QFile::encodeName(path("small")) + ".\n",
+            searchPath);
     }
 
 private slots:

@@ -112,6 +112,9 @@ private slots:
 
     void applicationFolderIsSearchedFirst()
     {
+#ifdef Q_OS_WIN
+        QSKIP("Windows searches there by itself.");
+#endif
         qputenv("PATH", "/usr/bin");
         preferApplicationFolder();
         QCOMPARE(qgetenv("PATH"),
@@ -221,9 +224,14 @@ private slots:
         openOrWait(window, path);
         const QList<BoxReader::Box> seen = boxes.take();
         QCOMPARE(seen.size(), 1);
+#ifdef Q_OS_WIN // which gives the reason in its own language
+        QVERIFY(
+            seen[0].text.startsWith(QLatin1String("Cannot read file ") + path + QLatin1Char(':')));
+#else
         QCOMPARE(seen[0].text,
             QLatin1String("Cannot read file ") + path
                 + QLatin1String(":\nNo such file or directory."));
+#endif
         QCOMPARE(window.statusBar()->currentMessage(), QStringLiteral("Ready"));
     }
 

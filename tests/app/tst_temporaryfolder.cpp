@@ -13,10 +13,13 @@
 
 #include <atomic>
 #include <memory>
-#include <sys/stat.h>
 #include <thread>
-#include <unistd.h>
 #include <vector>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
 
 namespace {
 
@@ -110,9 +113,12 @@ private:
 void TestTemporaryFolder::init()
 {
     // In memory where there is such a place: many files are made.
-    const QString memory = QStringLiteral("/dev/shm");
-    m_folder = std::make_unique<QTemporaryDir>(
-        (QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) + QLatin1String("/XXXXXX"));
+    QString place = QDir::tempPath();
+#ifdef Q_OS_UNIX
+    if (const QString memory = QStringLiteral("/dev/shm"); QFileInfo(memory).isWritable())
+        place = memory;
+#endif
+    m_folder = std::make_unique<QTemporaryDir>(place + QLatin1String("/XXXXXX"));
     QVERIFY(m_folder->isValid());
 }
 
@@ -126,7 +132,12 @@ void TestTemporaryFolder::baseLiesInTheApplicationsDataFolder()
     qputenv("XDG_DATA_HOME", m_folder->path().toLocal8Bit());
     QCoreApplication::setOrganizationName(QStringLiteral("Norvale"));
     QCoreApplication::setApplicationName(QStringLiteral("Wavorin"));
-    const QString expected = path(QStringLiteral("Norvale/Wavorin/tmp/files"));
+#ifdef Q_OS_WIN
+    const QString place = QDir::fromNativeSeparators(qEnvironmentVariable("LOCALAPPDATA"));
+#else
+    const QString place = m_folder->path();
+#endif
+    const QString expected = place + QLatin1String("/Norvale/Wavorin/tmp/files");
     for (int time = 0; time < 2; ++time) { // the second time it exists
         QCOMPARE(temporaryFolderBase(), expected);
         QVERIFY(QFileInfo(expected).isDir());
@@ -241,6 +252,7 @@ void TestTemporaryFolder::renewalEmptiesTheSameFolder()
 // In a folder like the system's temporary one nobody moves what another user owns.
 void TestTemporaryFolder::whatCannotBeMovedIsLeftBehind()
 {
+#ifdef Q_OS_UNIX
     if (geteuid() != 0)
         QSKIP("only the superuser can give folders away");
     QCOMPARE(chmod(QFile::encodeName(m_folder->path()).constData(), 01777), 0);
@@ -264,6 +276,9 @@ void TestTemporaryFolder::whatCannotBeMovedIsLeftBehind()
         folder.renew();
         QCOMPARE(folder.path(), path(QStringLiteral("files5")));
     }
+#else
+    QSKIP("Rights are other ones there.");
+#endif
 }
 
 // However much there is to remove: here the thread for that has not even begun.
@@ -359,8 +374,10 @@ void TestTemporaryFolder::plainPathLeadsToTheFile_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("relative");
+#ifndef Q_OS_WIN // whose names hold no such letters
     QTest::newRow("an asterisk") << QStringLiteral("p*.zip") << false;
     QTest::newRow("a question mark") << QStringLiteral("p?.zip") << false;
+#endif
     QTest::newRow("a hyphen at the beginning") << QStringLiteral("-x.zip") << true;
 }
 
@@ -381,6 +398,7 @@ void TestTemporaryFolder::plainPathLeadsToTheFile()
     QFile read(plain);
     QVERIFY(read.open(QIODevice::ReadOnly));
     QCOMPARE(read.readAll(), QByteArray("x"));
+    read.close();
     folder.remove();
     QCOMPARE(left().join(QLatin1Char(' ')), QStringLiteral("in"));
     QVERIFY(QFileInfo(file).isFile());
@@ -401,6 +419,9 @@ void TestTemporaryFolder::onlyOwnFoldersAreRemoved()
 
 void TestTemporaryFolder::lostParentIsMadeAgain()
 {
+#ifdef Q_OS_WIN
+    QSKIP("Nobody removes a lock that is held there.");
+#endif
     TemporaryFolder folder(path(QStringLiteral("tmp/files")));
     folder.renew();
     QVERIFY(QDir(path(QStringLiteral("tmp"))).removeRecursively());
@@ -487,12 +508,14 @@ void TestTemporaryFolder::writeProtectionIsLifted_data()
     QTest::addColumn<QString>("protectedPath");
     QTest::addColumn<int>("permissions");
     QTest::newRow("a file") << "t/one/a.cfg" << int(QFile::ReadOwner);
-    QTest::newRow("a file that nobody may read") << "t/one/a.cfg" << 0;
     QTest::newRow("a folder") << "t/one" << int(QFile::ReadOwner | QFile::ExeOwner);
+    QTest::newRow("the folder itself") << "t" << int(QFile::ReadOwner | QFile::ExeOwner);
+#ifdef Q_OS_UNIX // elsewhere read-only is all that they can be
+    QTest::newRow("a file that nobody may read") << "t/one/a.cfg" << 0;
     QTest::newRow("a folder that nobody may list")
         << "t/one" << int(QFile::WriteOwner | QFile::ExeOwner);
     QTest::newRow("a folder that nobody may enter") << "t/one" << 0;
-    QTest::newRow("the folder itself") << "t" << int(QFile::ReadOwner | QFile::ExeOwner);
+#endif
 }
 
 void TestTemporaryFolder::writeProtectionIsLifted()
@@ -510,6 +533,9 @@ void TestTemporaryFolder::writeProtectionIsLifted()
 
 void TestTemporaryFolder::writeProtectionBehindALinkStays()
 {
+#ifdef Q_OS_WIN
+    QSKIP("Symbolic links need rights of their own on this platform.");
+#endif
     const OrdinaryUser user;
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(makeFile(path(QStringLiteral("kept"))));
