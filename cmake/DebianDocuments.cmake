@@ -13,5 +13,6 @@ file(WRITE "${share}/doc/wavorin/changelog"
  -- ${CPACK_DEBIAN_PACKAGE_MAINTAINER}  ${date}
 ")
 execute_process(
-    COMMAND gzip -9n "${share}/man/man1/wavorin.1" "${share}/doc/wavorin/changelog"
+    COMMAND gzip -9n "${share}/man/man1/wavorin.1" "${share}/man/man1/wavorin-convert.1"
+        "${share}/doc/wavorin/changelog"
     COMMAND_ERROR_IS_FATAL ANY)

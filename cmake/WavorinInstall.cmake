@@ -13,13 +13,15 @@ file(RELATIVE_PATH executable
 file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/install")
 file(CREATE_LINK "${executable}" "${CMAKE_BINARY_DIR}/install/wavorin" SYMBOLIC)
 install(FILES "${CMAKE_BINARY_DIR}/install/wavorin" DESTINATION "${CMAKE_INSTALL_BINDIR}")
+install(TARGETS wavorin-convert RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 
 set(linux "${PROJECT_SOURCE_DIR}/resources/linux")
 install(FILES "${linux}/wavorin.desktop" DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
 install(FILES "${linux}/wavorin.metainfo.xml" DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
 install(FILES "${linux}/wavorin-mime.xml"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/mime/packages" RENAME wavorin.xml)
-install(FILES "${linux}/wavorin.1" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+install(FILES "${linux}/wavorin.1" "${linux}/wavorin-convert.1"
+    DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
 
 set(icons "${CMAKE_INSTALL_DATADIR}/icons/hicolor")
 foreach(size 16 24 32 48 64 128)
@@ -32,8 +34,9 @@ install(FILES "${PROJECT_SOURCE_DIR}/resources/svg/logo.svg"
     DESTINATION "${icons}/scalable/apps" RENAME wavorin.svg)
 
 install(FILES "${linux}/copyright" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
-install(FILES "${PROJECT_SOURCE_DIR}/docs/manual.md" "${PROJECT_SOURCE_DIR}/docs/formats.md"
-    DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+foreach(document manual formats convert)
+    install(FILES "${PROJECT_SOURCE_DIR}/docs/${document}.md" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+endforeach()
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/pictures" DESTINATION "${CMAKE_INSTALL_DOCDIR}"
     FILES_MATCHING PATTERN "*.png")
 file(GLOB examples "${PROJECT_SOURCE_DIR}/examples/earth-fault.*")

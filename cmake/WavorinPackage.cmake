@@ -25,7 +25,8 @@ set(CPACK_PACKAGE_DESCRIPTION
 power system, when, and how large it was.
 
 It opens COMTRADE recordings of the 1999 layout with ASCII samples, device
-packages that contain one, and text exports.
+packages that contain one, and text exports. The converter that comes with
+it turns other COMTRADE recordings, binary ones and single files, into such.
 
 Analog channels are drawn as waveforms and digital channels as bands over
 one time axis, as primary, secondary or per-unit values. Cursors, phasor

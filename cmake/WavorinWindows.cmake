@@ -3,7 +3,7 @@
 
 # cmake --install for Windows: one folder that runs where it stands, with the archiver beside the
 # viewer. script/windows makes the packages of it.
-install(TARGETS wavorin RUNTIME DESTINATION .)
+install(TARGETS wavorin wavorin-convert RUNTIME DESTINATION .)
 install(PROGRAMS "${WAVORIN_WINDOWS_TREE}/7z/7za.exe" DESTINATION . RENAME 7z.exe)
 configure_file("${WAVORIN_WINDOWS_TREE}/7z/7za.exe" "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/7z.exe" COPYONLY)
 
@@ -25,7 +25,9 @@ foreach(text GPL-2 GPL-3 LGPL-2.1 LGPL-3)
     install(FILES "/usr/share/common-licenses/${text}" DESTINATION licences RENAME "${text}.txt")
 endforeach()
 
-install(FILES "${PROJECT_SOURCE_DIR}/docs/manual.md" "${PROJECT_SOURCE_DIR}/docs/formats.md" DESTINATION docs)
+foreach(document manual formats convert)
+    install(FILES "${PROJECT_SOURCE_DIR}/docs/${document}.md" DESTINATION docs)
+endforeach()
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/pictures" DESTINATION docs FILES_MATCHING PATTERN "*.png")
 file(GLOB examples "${PROJECT_SOURCE_DIR}/examples/earth-fault.*")
 install(FILES ${examples} DESTINATION examples)
