@@ -234,7 +234,11 @@ void Plotter::customResetZoom()
         return;
     s_shared.takeLive(m_view, plotType, SharedView::Rule::Always);
     leadLinked();
-    takeBarPosition();
+    if (QScrollBar *bar = mainWindow ? mainWindow->horizontalScrollBar() : nullptr) {
+        const QSignalBlocker blocker(bar);
+        bar->setValue(0);
+    }
+    rangeScrollBar();
     refreshAll();
 }
 

@@ -36,6 +36,7 @@ private slots:
     void aHiddenPlotLeavesTheSharedZoomAlone();
     void theFirstTurnAfterAZoomMoves();
     void theFirstTurnAfterAResetMoves();
+    void aResetRangesTheScrollBarAnew();
     void aPlotThatWasScrolledAloneFollowsTheNextZoom();
     void allPlotsKeepTheWidestReadout();
     void theWidestReadoutMayGoWithItsPlot();
@@ -189,6 +190,26 @@ void TestPlotterLinked::theFirstTurnAfterAResetMoves()
     bar->setValue(1);
     for (const Plotter *plot : plots())
         QCOMPARE(plot->view().minX, 100.0);
+}
+
+// From 1000 ms, where the whole view ends, to 2100 ms in its intervals of 100 ms.
+void TestPlotterLinked::aResetRangesTheScrollBarAnew()
+{
+    const QScrollBar *bar = pair->host.bar.get();
+    const auto reset = [&] {
+        for (Plotter *plot : plots())
+            plot->customResetZoom();
+    };
+    for (int time = 0; time < 2; ++time) {
+        for (int zoom = 0; zoom < 4; ++zoom)
+            pair->plot->customZoomIn();
+        QVERIFY(bar->maximum() > 44);
+        pair->host.bar->setValue(7);
+        reset();
+        QCOMPARE(bar->value(), 0);
+        QCOMPARE(bar->maximum(), 11);
+        QCOMPARE(pair->plot->view(), pair->plot->home());
+    }
 }
 
 // A plain wheel turn with a horizontal part moves one plot alone.
