@@ -123,7 +123,11 @@ private:
     void showRecording();
     void setCurrentFile(const QString &path);
 
-    QPixmap capture(CaptureTarget target);
+    QPixmap capture(CaptureTarget target, const QString &caption);
+    QString caption() const;
+    bool saveByDialog(const QPixmap &picture); // false where it was cancelled
+    QPixmap report(); // of a recording on screen
+    void addOutputs(QMenu &menu, Plotter &plot); // to the plot's context menu
     QList<Plotter *> plots() const; // all that exist
     RecordingWriter recordingWriter() const; // with the ratings of the CT/VT dialog
     void reportSaving(const QString &failedFile, const QString &error); // empty: none failed

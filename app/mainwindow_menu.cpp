@@ -21,4 +21,6 @@ void MainWindow::fillPlotMenu(QMenu &menu, Plotter &plot, const QPoint &point, i
     entries.addNewCursors(point);
     menu.addSeparator();
     m_sideWindows->addTo(menu);
+    menu.addSeparator();
+    addOutputs(menu, plot);
 }

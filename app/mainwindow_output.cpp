@@ -14,12 +14,14 @@
 #include "plotstyle.h"
 #include "plotterdg.h"
 #include "recordingwriter.h"
+#include "reportpicture.h"
 #include "savedialog.h"
 #include "ui_mainwindow.h"
 
 #include <QClipboard>
 #include <QDir>
 #include <QFileDialog>
+#include <QMenu>
 #include <QMessageBox>
 #include <QSaveFile>
 
@@ -76,7 +78,7 @@ QList<Plotter *> MainWindow::plots() const
     return all;
 }
 
-QPixmap MainWindow::capture(CaptureTarget target)
+QPixmap MainWindow::capture(CaptureTarget target, const QString &caption)
 {
     stylePlots(plots(), captureStyle);
     // The smooth edges of letters would turn as black as the letters and fill their holes.
@@ -93,30 +95,67 @@ QPixmap MainWindow::capture(CaptureTarget target)
     if (isFramed)
         focused->setFocus();
     smoothLetters(plots(), true);
+    return printableCapture(captured, target, caption);
+}
+
+QString MainWindow::caption() const
+{
     const CFGProperties *loaded = recording();
-    return printableCapture(captured, target,
-        loaded ? captureCaption(loaded->startDate, loaded->startTime)
-               : captureCaption(QString(), QString()));
+    return loaded ? captureCaption(loaded->startDate, loaded->startTime)
+                  : captureCaption(QString(), QString());
 }
 
 // A cancelled dialog leaves the plots in the style of the capture, on purpose.
 void MainWindow::saveScreenShot()
 {
-    const QPixmap picture = capture(CaptureTarget::File);
+    if (saveByDialog(capture(CaptureTarget::File, caption())))
+        stylePlots(plots(), screenStyle);
+}
+
+bool MainWindow::saveByDialog(const QPixmap &picture)
+{
     const QString format = QStringLiteral("png");
     const QString path = QFileDialog::getSaveFileName(this, tr("Save As"),
         QDir::currentPath() + QLatin1String("/untitled.") + format,
         tr("%1 Files (*.%2);;All Files (*)").arg(format.toUpper(), format));
-    if (path.isEmpty())
-        return;
-    savePicture(picture, path, format);
-    stylePlots(plots(), screenStyle);
+    if (!path.isEmpty())
+        savePicture(picture, path, format);
+    return !path.isEmpty();
 }
 
 void MainWindow::copyToClipboard()
 {
-    QGuiApplication::clipboard()->setPixmap(capture(CaptureTarget::Clipboard));
+    QGuiApplication::clipboard()->setPixmap(capture(CaptureTarget::Clipboard, caption()));
     stylePlots(plots(), screenStyle);
+}
+
+QPixmap MainWindow::report()
+{
+    const ReportPicture report(
+        *m_cfgProperties, QFileInfo(windowFilePath()).fileName(), m_analogPlotter->cursors());
+    const QPixmap picture = report.around(capture(CaptureTarget::File, QString()), font());
+    stylePlots(plots(), screenStyle);
+    return picture;
+}
+
+void MainWindow::addOutputs(QMenu &menu, Plotter &plot)
+{
+    connect(menu.addAction(tr("Copy Picture with Heading")), &QAction::triggered, this,
+        [this] { QGuiApplication::clipboard()->setPixmap(report()); });
+    connect(menu.addAction(tr("Save Picture with Heading...")), &QAction::triggered, this,
+        [this] { saveByDialog(report()); });
+    const QList<double> times = plot.cursors();
+    const auto [first, last] = std::minmax_element(times.cbegin(), times.cend());
+    QAction *part = menu.addAction(tr("Save P%1 to P%2...")
+                                       .arg(times.size() < 2 ? 1 : first - times.cbegin() + 1)
+                                       .arg(times.size() < 2 ? 2 : last - times.cbegin() + 1));
+    part->setEnabled(times.size() > 1);
+    if (times.size() > 1) {
+        connect(part, &QAction::triggered, this, [this, from = *first, to = *last] {
+            showSaveDialog();
+            m_saveDialog->choose(from, to);
+        });
+    }
 }
 
 void MainWindow::about()

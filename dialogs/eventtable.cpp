@@ -7,23 +7,9 @@
 #include "channelnames.h"
 #include "timeofday.h"
 
-#include <algorithm>
-#include <cmath>
-#include <limits>
-#include <numeric>
-
 namespace {
 
 constexpr int portion = 10'000; // rows
-
-// A time or a difference of times, to the microsecond; the general format where that is too long.
-QString millisecondsText(double ms)
-{
-    constexpr double longest = 1e12;
-    if (!std::isfinite(ms))
-        return QString();
-    return QString::number(ms, std::abs(ms) < longest ? 'f' : 'g', std::abs(ms) < longest ? 3 : 6);
-}
 
 } // namespace
 

@@ -15,6 +15,9 @@
 #include <QShowEvent>
 #include <QStyle>
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 QString wholeMilliseconds(double time)
@@ -68,6 +71,20 @@ void SaveDialog::setSampleTimes(const QVector<double> &times)
     sampleTimes.reserve(times.size());
     for (const double &time : qAsConst(m_times))
         sampleTimes.append(&time);
+}
+
+void SaveDialog::choose(double start, double end)
+{
+    const auto nearest = [this](double time) {
+        const auto isNearer
+            = [time](double a, double b) { return std::abs(a - time) < std::abs(b - time); };
+        return static_cast<int>(
+            std::min_element(m_times.cbegin(), m_times.cend(), isNearer) - m_times.cbegin());
+    };
+    ui->horizontalSlider_StartPoint->setValue(nearest(start));
+    ui->horizontalSlider_EndPoint->setValue(nearest(end));
+    chooseStart(nearest(start));
+    chooseEnd(nearest(end));
 }
 
 void SaveDialog::on_toolButton_Browse_clicked()

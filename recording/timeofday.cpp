@@ -28,3 +28,11 @@ QString clockText(const QString &startTime, double ms)
     return time.toString(timeOfDayFormat)
         + QStringLiteral("%1").arg(ofDay % perMillisecond, 3, 10, QLatin1Char('0'));
 }
+
+QString millisecondsText(double ms)
+{
+    constexpr double longest = 1e12;
+    if (!std::isfinite(ms))
+        return QString();
+    return std::abs(ms) < longest ? QString::number(ms, 'f', 3) : QString::number(ms, 'g', 6);
+}

@@ -493,6 +493,18 @@ Please select another file.</translation>
         <source>There is too little memory for it.</source>
         <translation>There is too little memory for it.</translation>
     </message>
+    <message>
+        <source>Copy Picture with Heading</source>
+        <translation>Copy Picture with Heading</translation>
+    </message>
+    <message>
+        <source>Save Picture with Heading...</source>
+        <translation>Save Picture with Heading...</translation>
+    </message>
+    <message>
+        <source>Save P%1 to P%2...</source>
+        <translation>Save P%1 to P%2...</translation>
+    </message>
 </context>
 <context>
     <name>PlotMenu</name>
@@ -1038,6 +1050,37 @@ Do you want to replace it?</translation>
     <message>
         <source>Select All</source>
         <translation>Select All</translation>
+    </message>
+</context>
+<context>
+    <name>ReportPicture</name>
+    <message>
+        <source>Start: %1 %2</source>
+        <translation>Start: %1 %2</translation>
+    </message>
+    <message>
+        <source>Trigger at %1 ms</source>
+        <translation>Trigger at %1 ms</translation>
+    </message>
+    <message>
+        <source>Cursor</source>
+        <translation>Cursor</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>Time (ms)</translation>
+    </message>
+    <message>
+        <source>Clock Time</source>
+        <translation>Clock Time</translation>
+    </message>
+    <message>
+        <source>From Trigger (ms)</source>
+        <translation>From Trigger (ms)</translation>
+    </message>
+    <message>
+        <source>From Cursor Before (ms)</source>
+        <translation>From Cursor Before (ms)</translation>
     </message>
 </context>
 <context>

@@ -493,6 +493,18 @@ Valitse toinen tiedosto.</translation>
         <source>There is too little memory for it.</source>
         <translation>Muisti ei riitä siihen.</translation>
     </message>
+    <message>
+        <source>Copy Picture with Heading</source>
+        <translation>Kopioi kuva otsikoineen</translation>
+    </message>
+    <message>
+        <source>Save Picture with Heading...</source>
+        <translation>Tallenna kuva otsikoineen...</translation>
+    </message>
+    <message>
+        <source>Save P%1 to P%2...</source>
+        <translation>Tallenna väli P%1–P%2...</translation>
+    </message>
 </context>
 <context>
     <name>PlotMenu</name>
@@ -1038,6 +1050,37 @@ Korvataanko se?</translation>
     <message>
         <source>Select All</source>
         <translation>Valitse kaikki</translation>
+    </message>
+</context>
+<context>
+    <name>ReportPicture</name>
+    <message>
+        <source>Start: %1 %2</source>
+        <translation>Alku: %1 %2</translation>
+    </message>
+    <message>
+        <source>Trigger at %1 ms</source>
+        <translation>Liipaisu kohdassa %1 ms</translation>
+    </message>
+    <message>
+        <source>Cursor</source>
+        <translation>Kursori</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>Aika (ms)</translation>
+    </message>
+    <message>
+        <source>Clock Time</source>
+        <translation>Kellonaika</translation>
+    </message>
+    <message>
+        <source>From Trigger (ms)</source>
+        <translation>Liipaisusta (ms)</translation>
+    </message>
+    <message>
+        <source>From Cursor Before (ms)</source>
+        <translation>Edellisestä kursorista (ms)</translation>
     </message>
 </context>
 <context>

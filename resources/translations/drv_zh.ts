@@ -493,6 +493,18 @@ Please select another file.</source>
         <source>There is too little memory for it.</source>
         <translation>内存不足，无法打开。</translation>
     </message>
+    <message>
+        <source>Copy Picture with Heading</source>
+        <translation>复制带标题的图片</translation>
+    </message>
+    <message>
+        <source>Save Picture with Heading...</source>
+        <translation>保存带标题的图片...</translation>
+    </message>
+    <message>
+        <source>Save P%1 to P%2...</source>
+        <translation>保存 P%1 至 P%2...</translation>
+    </message>
 </context>
 <context>
     <name>PlotMenu</name>
@@ -1038,6 +1050,37 @@ Do you want to replace it?</source>
     <message>
         <source>Select All</source>
         <translation>全选</translation>
+    </message>
+</context>
+<context>
+    <name>ReportPicture</name>
+    <message>
+        <source>Start: %1 %2</source>
+        <translation>起始：%1 %2</translation>
+    </message>
+    <message>
+        <source>Trigger at %1 ms</source>
+        <translation>触发位于 %1 ms</translation>
+    </message>
+    <message>
+        <source>Cursor</source>
+        <translation>游标</translation>
+    </message>
+    <message>
+        <source>Time (ms)</source>
+        <translation>时间 (ms)</translation>
+    </message>
+    <message>
+        <source>Clock Time</source>
+        <translation>时刻</translation>
+    </message>
+    <message>
+        <source>From Trigger (ms)</source>
+        <translation>距触发 (ms)</translation>
+    </message>
+    <message>
+        <source>From Cursor Before (ms)</source>
+        <translation>距上一游标 (ms)</translation>
     </message>
 </context>
 <context>

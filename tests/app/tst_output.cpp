@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "cfgproperties.h"
+#include "contrast.h"
 #include "ctvtdialog.h"
 #include "ordinaryuser.h"
+#include "plotmenus.h"
 #include "plotterdg.h"
 #include "smallrecording.h"
 #include "windowfixture.h"
@@ -762,6 +764,70 @@ private slots:
         QTest::qWait(1500);
         QCOMPARE(window->statusBar()->currentMessage(), QStringLiteral("File saved."));
         QTRY_COMPARE_WITH_TIMEOUT(window->statusBar()->currentMessage(), QString(), 2500);
+    }
+
+    void aReportIsCopiedWithItsHeading()
+    {
+        Plotter *plot = plotNamed(QStringLiteral("Analog"));
+        plot->addCursorAt(10);
+        plot->addCursorAt(25);
+        const int line = window->fontMetrics().lineSpacing();
+        for (int time = 0; time < 2; ++time) {
+            QVERIFY(choose(plot, QStringLiteral("Copy Picture with Heading")));
+            const QImage picture = QGuiApplication::clipboard()->image();
+            QCOMPARE(picture.width(), plotColumn()->width());
+            QCOMPARE(picture.height(), plotColumn()->height() + 2 * (20 + 3 * line));
+            expectStyle(screenStyle);
+            QSet<QRgb> colors; // of the plots: the letters around them have smooth edges
+            const int above = 20 + 3 * line;
+            for (int y = above; y < above + plotColumn()->height(); ++y) {
+                for (int x = 0; x < picture.width(); ++x)
+                    colors.insert(picture.pixel(x, y));
+            }
+            QVERIFY(colors.remove(0xffffffff));
+            for (const QRgb color : qAsConst(colors))
+                QVERIFY2(
+                    contrast(color, 0xffffffff) >= 4.5, qPrintable(QString::number(color, 16)));
+        }
+    }
+
+    void aReportIsSavedWithItsHeading()
+    {
+        Plotter *plot = plotNamed(QStringLiteral("Digital"));
+        for (const char *name : {"report.png", ""}) {
+            answerFileDialog(*name ? path(name) : QString());
+            QVERIFY(choose(plot, QStringLiteral("Save Picture with Heading...")));
+            expectStyle(screenStyle); // also where it was cancelled
+        }
+        const QImage picture(path("report.png"), "png");
+        QCOMPARE(picture.height(),
+            plotColumn()->height() + 20 + 3 * window->fontMetrics().lineSpacing());
+    }
+
+    void theRangeBetweenTheCursorsIsOfferedForSaving()
+    {
+        Plotter *plot = plotNamed(QStringLiteral("Analog"));
+        QVERIFY(!offers(plot, QStringLiteral("Save P1 to P2...")));
+        for (const double time : {25.4, 30.0, 10.6})
+            plot->addCursorAt(time);
+        QVERIFY(choose(plot, QStringLiteral("Save P3 to P2...")));
+        const auto *dialog = window->findChild<QDialog *>(QStringLiteral("SaveDialog"));
+        QVERIFY(dialog->isVisible());
+        const auto text = [&](const char *edit) {
+            return dialog->findChild<QLineEdit *>(QLatin1String(edit))->text();
+        };
+        QCOMPARE(text("lineEdit_Start"), QStringLiteral("11"));
+        QCOMPARE(text("lineEdit_End"), QStringLiteral("30"));
+        QCOMPARE(
+            dialog->findChild<QSlider *>(QStringLiteral("horizontalSlider_StartPoint"))->value(),
+            11);
+        dialog->findChild<QLineEdit *>(QStringLiteral("lineEdit_FilePath"))->setText(path("part"));
+        QTest::mouseClick(
+            dialog->findChild<QWidget *>(QStringLiteral("pushButton_Save")), Qt::LeftButton);
+        QCOMPARE(fileText(path("part.dat")).count(QLatin1Char('\n')), 19); // of 20 lines
+        window->showSaveDialog();
+        QCOMPARE(text("lineEdit_Start"), QStringLiteral("0"));
+        QCOMPARE(text("lineEdit_End"), QStringLiteral("39"));
     }
 
     void saveDialogOffersTheWholeRecording()

@@ -13,6 +13,8 @@ class TestTimeOfDay : public QObject {
 private slots:
     void writesClockTimes_data();
     void writesClockTimes();
+    void writesMilliseconds_data();
+    void writesMilliseconds();
 };
 
 void TestTimeOfDay::writesClockTimes_data()
@@ -45,6 +47,25 @@ void TestTimeOfDay::writesClockTimes()
     QFETCH(QString, start);
     QFETCH(double, ms);
     QTEST(clockText(start, ms), "text");
+}
+
+void TestTimeOfDay::writesMilliseconds_data()
+{
+    QTest::addColumn<double>("ms");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("zero") << 0.0 << "0.000";
+    QTest::newRow("a microsecond") << 0.001 << "0.001";
+    QTest::newRow("negative") << -17.75 << "-17.750";
+    QTest::newRow("a day") << 86400000.0 << "86400000.000";
+    QTest::newRow("ages") << 1.25e300 << "1.25e+300";
+    QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << "";
+    QTest::newRow("infinity") << -std::numeric_limits<double>::infinity() << "";
+}
+
+void TestTimeOfDay::writesMilliseconds()
+{
+    QFETCH(double, ms);
+    QTEST(millisecondsText(ms), "text");
 }
 
 QTEST_GUILESS_MAIN(TestTimeOfDay)

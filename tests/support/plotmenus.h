@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QPointer>
 #include <QWidget>
 
 // Opens the context menu at a point of a plot; null where there is none.
@@ -40,7 +41,7 @@ inline bool offers(QWidget *plot, const QString &text, const QPoint &point = {30
 // Chooses an entry; false where it cannot be chosen.
 inline bool choose(QWidget *plot, const QString &text, const QPoint &point = {300, 150})
 {
-    QMenu *menu = contextMenuAt(plot, point);
+    const QPointer<QMenu> menu = contextMenuAt(plot, point); // a dialog closes it
     QAction *entry = entryOf(menu, text);
     const bool isChosen = entry && entry->isEnabled();
     if (isChosen)
