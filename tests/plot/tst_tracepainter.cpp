@@ -96,10 +96,12 @@ int differentPixels(const QImage &a, const QImage &b)
 QVector<int> litInColumns(const QImage &image)
 {
     QVector<int> lit(image.width());
+    // Half a milliard of pixels in all: with calls that are not inlined, they would take long.
+    int *const column = lit.data();
     for (int y = 0; y < image.height(); ++y) {
         const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
         for (int x = 0; x < image.width(); ++x)
-            lit[x] += qAlpha(line[x]) != 0;
+            column[x] += (line[x] >> 24) != 0; // its alpha
     }
     return lit;
 }
