@@ -47,7 +47,13 @@ if(WAVORIN_QUICK_BUILD)
     if(WAVORIN_HAS_GOLD AND NOT WAVORIN_SANITIZE)
         target_link_options(wavorin_options INTERFACE -fuse-ld=gold)
     endif()
-    wavorin_precompiled(wavorin_widget_headers HEADERS <QtWidgets> LIBRARIES Qt5::Widgets)
+    # What many sources include, not whole modules of the toolkit: every source pays for each template that
+    # a precompiled header uses.
+    set(wavorin_common <QDateTime> <QDir> <QFile> <QStringList> <QVector> <algorithm> <cmath> <memory>)
+    set(wavorin_common_widgets ${wavorin_common} <QApplication> <QColorDialog> <QComboBox> <QFileDialog>
+        <QLabel> <QLineEdit> <QMainWindow> <QPainter> <QScrollBar>)
+    wavorin_precompiled(wavorin_core_headers HEADERS ${wavorin_common} LIBRARIES Qt5::Core)
+    wavorin_precompiled(wavorin_widget_headers HEADERS ${wavorin_common_widgets} LIBRARIES Qt5::Widgets)
 endif()
 
 # A library of one folder: wavorin_library(<name> SOURCES ... [PUBLIC ...] [PRIVATE ...])
@@ -60,5 +66,7 @@ function(wavorin_library name)
     target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE wavorin_options ${arg_PRIVATE})
     if(WAVORIN_QUICK_BUILD AND "Qt5::Widgets" IN_LIST arg_PUBLIC)
         target_precompile_headers(${name} REUSE_FROM wavorin_widget_headers)
+    elseif(WAVORIN_QUICK_BUILD AND "Qt5::Core" IN_LIST arg_PUBLIC)
+        target_precompile_headers(${name} REUSE_FROM wavorin_core_headers)
     endif()
 endfunction()

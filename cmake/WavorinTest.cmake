@@ -13,7 +13,7 @@ if(WAVORIN_QUICK_BUILD)
     wavorin_precompiled(wavorin_test_headers
         HEADERS <QtTest> LIBRARIES wavorin_test_options Qt5::Test)
     wavorin_precompiled(wavorin_widget_test_headers
-        HEADERS <QtTest> <QtWidgets> LIBRARIES wavorin_test_options Qt5::Test Qt5::Widgets)
+        HEADERS <QtTest> ${wavorin_common_widgets} LIBRARIES wavorin_test_options Qt5::Test Qt5::Widgets)
 endif()
 
 # What the names of the toolkit's variables begin with. Wine hands them on under names of its own, and without
