@@ -3,7 +3,25 @@
 
 #include "timeofday.h"
 
+#include <QLocale>
+#include <QRegularExpression>
+
 #include <cmath>
+
+namespace {
+
+constexpr qint64 microsPerMs = 1000;
+constexpr qint64 microsPerDay = 86'400'000 * microsPerMs;
+
+// Text exports have a colon before the milliseconds.
+QTime readStart(const QString &startTime)
+{
+    const QTime start = QTime::fromString(startTime.trimmed(), timeOfDayFormat);
+    return start.isValid() ? start
+                           : QTime::fromString(startTime.trimmed(), QStringLiteral("hh:mm:ss:zzz"));
+}
+
+} // namespace
 
 QDateTime joinedAsUtc(const QString &date, const QString &dateFormat, const QString &time)
 {
@@ -15,18 +33,38 @@ QDateTime joinedAsUtc(const QString &date, const QString &dateFormat, const QStr
 
 QString clockText(const QString &startTime, double ms)
 {
-    constexpr qint64 perMillisecond = 1000;
-    constexpr qint64 perDay = 86'400'000 * perMillisecond;
     constexpr double year = 366 * 86'400'000.0; // ms
-    const QTime start = QTime::fromString(startTime.trimmed(), timeOfDayFormat);
+    const QTime start = readStart(startTime);
     if (!start.isValid() || !(std::abs(ms) <= year))
         return QString();
-    const qint64 micros = start.msecsSinceStartOfDay() * perMillisecond
-        + std::llround(ms * static_cast<double>(perMillisecond));
-    const qint64 ofDay = (micros % perDay + perDay) % perDay;
-    const QTime time = QTime::fromMSecsSinceStartOfDay(static_cast<int>(ofDay / perMillisecond));
+    const qint64 micros = start.msecsSinceStartOfDay() * microsPerMs
+        + std::llround(ms * static_cast<double>(microsPerMs));
+    const qint64 ofDay = (micros % microsPerDay + microsPerDay) % microsPerDay;
+    const QTime time = QTime::fromMSecsSinceStartOfDay(static_cast<int>(ofDay / microsPerMs));
     return time.toString(timeOfDayFormat)
-        + QStringLiteral("%1").arg(ofDay % perMillisecond, 3, 10, QLatin1Char('0'));
+        + QStringLiteral("%1").arg(ofDay % microsPerMs, 3, 10, QLatin1Char('0'));
+}
+
+std::optional<double> timeFromText(const QString &text, const QString &startTime)
+{
+    bool isNumber = false;
+    const double ms = QLocale::c().toDouble(
+        text.trimmed().replace(QLatin1Char(','), QLatin1Char('.')), &isNumber);
+    if (isNumber)
+        return std::isfinite(ms) ? std::optional<double>(ms) : std::nullopt;
+
+    static const QRegularExpression pattern(
+        QStringLiteral("^\\s*(\\d{1,2}:\\d{2}:\\d{2})(?:[.,](\\d{1,6}))?\\s*$"));
+    const QRegularExpressionMatch match = pattern.match(text);
+    const QTime start = readStart(startTime);
+    const QTime second = QTime::fromString(match.captured(1), QStringLiteral("h:mm:ss"));
+    if (!start.isValid() || !second.isValid())
+        return std::nullopt;
+    const qint64 fraction = match.captured(2).leftJustified(6, QLatin1Char('0')).toLongLong();
+    const qint64 micros = static_cast<qint64>(start.msecsTo(second)) * microsPerMs + fraction;
+    const qint64 nearest
+        = micros - std::llround(double(micros) / double(microsPerDay)) * microsPerDay;
+    return static_cast<double>(nearest) / static_cast<double>(microsPerMs);
 }
 
 QString millisecondsText(double ms)

@@ -6,6 +6,8 @@
 #include <QDateTime>
 #include <QString>
 
+#include <optional>
+
 // A time of day as configuration files have it, to the millisecond.
 inline const QString timeOfDayFormat = QStringLiteral("hh:mm:ss.zzz");
 
@@ -21,3 +23,7 @@ QString clockText(const QString &startTime, double ms);
 // A time or a difference of times in ms with three decimals; with six digits where that would be
 // very long, empty where it is no number.
 QString millisecondsText(double ms);
+
+// A time of a recording as a person writes it: a number of ms, with a point or a comma, or the time
+// of day, with or without fractions of a second, less than 12 hours from the start.
+std::optional<double> timeFromText(const QString &text, const QString &startTime);
