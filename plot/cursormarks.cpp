@@ -56,10 +56,13 @@ void CursorMarks::add(double time)
     CustomLabel *label = cursor.label.get();
     label->setObjectName(QStringLiteral("lineLabel"));
     label->setStyleSheet(QStringLiteral(
-        "QLabel{color: #fffa50; background-color: rgba(49, 48, 52, 70%); padding: 0px 2px;}"));
+        "QLabel{color: #fffa50; background-color: rgba(49, 48, 52, 70%); padding: 0px 2px;}"
+        "QLabel:focus{color: #313034; background-color: #fffa50;}"));
     label->setFont(smallFont(m_plot->font()));
     label->setCursor(Qt::SizeHorCursor);
     label->setPlotter(m_plot);
+    label->setFocusPolicy(Qt::TabFocus); // the arrow keys then move its cursor
+    QWidget::setTabOrder(m_cursors.empty() ? m_plot : m_cursors.back().label.get(), label);
     m_cursors.push_back(std::move(cursor));
     number();
 }
@@ -68,12 +71,21 @@ void CursorMarks::remove(int cursor)
 {
     if (cursor < 0 || cursor >= count())
         return;
+    giveFocusBack(m_cursors.at(static_cast<size_t>(cursor)));
     m_cursors.erase(m_cursors.begin() + cursor);
     number();
 }
 
+void CursorMarks::giveFocusBack(const Cursor &cursor)
+{
+    if (m_plot->window()->focusWidget() == cursor.label.get())
+        m_plot->setFocus();
+}
+
 void CursorMarks::clear()
 {
+    for (const Cursor &cursor : m_cursors)
+        giveFocusBack(cursor);
     m_cursors.clear();
 }
 
@@ -102,6 +114,8 @@ void CursorMarks::place(const PlotGeometry &geometry)
         const bool isInView = x >= area.left() && x <= area.right();
         cursor.line->place(x, geometry);
         cursor.line->setVisible(isInView);
+        if (!isInView)
+            giveFocusBack(cursor);
         cursor.label->setVisible(isInView);
         if (isInView)
             marks.push_back({x, cursor.label.get(),

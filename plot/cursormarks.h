@@ -68,6 +68,7 @@ private:
     };
 
     void number();
+    void giveFocusBack(const Cursor &cursor); // that its label has, before that goes
     double difference(size_t later) const; // of a cursor and the one before it, ms
 
     QWidget *m_plot;

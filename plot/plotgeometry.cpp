@@ -39,6 +39,11 @@ double PlotGeometry::lineTime(int x) const
     return width == 0 ? m_view.minX : m_view.minX + m_view.spanX() * (x - left) / width;
 }
 
+double PlotGeometry::traceTime(double x) const
+{
+    return plotWidth() == 0 ? m_view.minX : m_view.minX + m_view.spanX() * (x - left) / plotWidth();
+}
+
 double PlotGeometry::cursorX(double time) const
 {
     return left + (time - m_view.minX) * (plotWidth() - 3) / m_view.spanX();
@@ -61,4 +66,11 @@ int PlotGeometry::rowY(int row, int rows) const
 {
     const qint64 height = plotHeight() - top;
     return top + static_cast<int>((row + 1) * height / (rows + 1));
+}
+
+int PlotGeometry::rowAt(int y, int rows) const
+{
+    const double height = static_cast<double>(plotHeight() - top) / (rows + 1);
+    const int row = height > 0 ? truncated(std::floor((y - top) / height - 0.5)) : -1;
+    return row >= 0 && row < rows ? row : -1;
 }

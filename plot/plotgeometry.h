@@ -37,6 +37,7 @@ public:
     double traceY(double value) const;
     double lineTime(int x) const;
     double cursorX(double time) const;
+    double traceTime(double x) const; // the inverse of traceX()
 
     // The nearest whole pixel, kept within what painting can take. The argument must not be NaN.
     static int pixel(double position);
@@ -45,6 +46,8 @@ public:
 
     // The row's base line in a digital plot of the given number of rows; row counts from 0.
     int rowY(int row, int rows) const;
+    // The row around a height; -1 above the first and below the last one.
+    int rowAt(int y, int rows) const;
 
 private:
     QSize m_widget;

@@ -55,6 +55,7 @@ public:
     // Shows these channels and no others, in this order.
     void showChannels(const QList<int> &numbers);
     const QList<int> &channels() const { return m_channels.order(); }
+    const ShownChannels &shownChannels() const { return m_channels; }
     bool showsSpectrum() const;
 
     // The live view, all zero before setupPlot(), and the full view.
@@ -77,7 +78,7 @@ public:
 
     // Cursor times in ms, in the order in which they were set.
     void addCursorAt(double time);
-    void moveCursor(int cursor, double time);
+    void moveCursor(int cursor, double time); // the readouts follow with the next refresh
     QList<double> cursors() const { return m_marks.cursors.times(); }
     // The time difference of the last neighbouring pair of cursors, ms; 0 with fewer than two.
     double pairDifference() const { return m_marks.cursors.pairDifference(); }
@@ -96,7 +97,6 @@ public:
     virtual void drawValueTable(QPainter *painter);
 
     void receiveMouseMove(QMouseEvent *event) override { mouseMoveEvent(event); }
-
     QSize sizeHint() const override { return {600, 400}; }
     QSize minimumSizeHint() const override { return {300, 200}; }
 

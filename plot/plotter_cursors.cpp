@@ -46,7 +46,6 @@ void Plotter::dragCursor(int x)
         geometryOfView().lineTime(std::clamp(x, area.left(), std::max(area.left(), area.right()))));
 }
 
-// The readouts follow at the next refresh.
 void Plotter::moveCursor(int cursor, double time)
 {
     const auto move = [&](Plotter *plotter) {

@@ -9,6 +9,7 @@
 #include "customlabel.h"
 #include "labeltext.h"
 #include "plothost.h"
+#include "plotsearch.h"
 #include "plottitle.h"
 
 #include <QColorDialog>
@@ -233,6 +234,11 @@ void Plotter::keyPressEvent(QKeyEvent *event)
     }
     noteViews();
     m_keyboard.hold(event->key());
+    const int cursor = m_marks.cursors.cursorOf(qobject_cast<QLabel *>(window()->focusWidget()));
+    if (cursor >= 0 && (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right)) {
+        stepCursor(*this, cursor, event->key() == Qt::Key_Right);
+        return;
+    }
     QScrollBar *bar = mainWindow ? mainWindow->horizontalScrollBar() : nullptr;
     const auto turnBar = [&](int steps) {
         if (bar && (steps < 0 || bar->value() < bar->maximum()))

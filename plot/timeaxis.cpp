@@ -61,6 +61,40 @@ int TimeAxis::searchStart(double time) const
     return m_runs.isEmpty() ? 0 : m_times.size();
 }
 
+std::optional<double> TimeAxis::timeAfter(double time) const
+{
+    std::optional<double> nearest;
+    for (const double other : m_times) {
+        if (other > time && !(nearest && *nearest <= other))
+            nearest = other;
+    }
+    return nearest;
+}
+
+std::optional<double> TimeAxis::timeBefore(double time) const
+{
+    std::optional<double> nearest;
+    for (const double other : m_times) {
+        if (other < time && !(nearest && *nearest >= other))
+            nearest = other;
+    }
+    return nearest;
+}
+
+QVector<TimeAxis::Run> TimeAxis::around(double from, double to) const
+{
+    if (m_runs.isEmpty())
+        return {{0, m_times.size()}};
+    QVector<Run> parts;
+    for (const Run &run : m_runs) {
+        const int first = std::max(run.first, firstAtOrAfter(from, run) - 1);
+        const int last = std::min(run.last, firstAtOrAfter(to, run) + 1);
+        if (first < last)
+            parts.append({first, last});
+    }
+    return parts;
+}
+
 int TimeAxis::sampleAt(double sampleRate, double time) const
 {
     int searchFrom = searchStart(time);

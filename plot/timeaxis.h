@@ -7,6 +7,8 @@
 
 #include <QVector>
 
+#include <optional>
+
 // The sample times of a recording (ms), prepared for drawing: where they ascend, their extremes,
 // and which samples fall on which column of device pixels of a view.
 class TimeAxis {
@@ -42,6 +44,13 @@ public:
 
     // From which sample on the phasor lookup may search for a time.
     int searchStart(double time) const;
+
+    // The nearest time of a sample that is later, or earlier, than a time.
+    std::optional<double> timeAfter(double time) const;
+    std::optional<double> timeBefore(double time) const;
+    // All samples from one time to another, with those next to them on both sides; others may be
+    // among them where the times do not ascend.
+    QVector<Run> around(double from, double to) const;
 
     // The sample nearest to a time, by the rule of the phasor lookup; -1 outside the recorded span.
     int sampleAt(double sampleRate, double time) const;
