@@ -5,7 +5,6 @@
 
 #include "mainwindow.h"
 
-#include "cfgproperties.h"
 #include "plotmenu.h"
 #include "sidewindows.h"
 
@@ -13,9 +12,14 @@
 
 void MainWindow::fillPlotMenu(QMenu &menu, Plotter &plot, const QPoint &point, int cursor)
 {
-    if (!m_hasRecording || cursor >= 0)
+    if (!m_hasRecording)
         return;
-    PlotMenu entries(menu, plot, *m_cfgProperties);
+    PlotMenu entries(menu, plot, *this);
+    if (cursor >= 0) {
+        menu.addSeparator();
+        entries.addMoves(cursor);
+        return;
+    }
     entries.addViews();
     menu.addSeparator();
     entries.addNewCursors(point);

@@ -3,12 +3,55 @@
 
 #include "plotmenu.h"
 
+#include "analogsource.h"
 #include "cfgproperties.h"
-#include "plotter.h"
+#include "plothost.h"
+#include "plotsearch.h"
+#include "plotterdg.h"
+#include "timeofday.h"
 
+#include <QDialogButtonBox>
+#include <QInputDialog>
+#include <QLabel>
 #include <QMenu>
+#include <QPointer>
+#include <QPushButton>
 
 #include <algorithm>
+
+namespace {
+
+// Enough digits to set a cursor there again.
+QString timeText(double time)
+{
+    return QString::number(time, 'g', 12);
+}
+
+// Asks for a time of a recording that starts at startTime. The dialog ends with the plot.
+void askForTime(Plotter *plot, const QString &title, double proposed, const QString &startTime,
+    const std::function<void(double)> &command)
+{
+    auto *dialog = new QInputDialog(plot);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle(title);
+    dialog->setLabelText(PlotMenu::tr("Time in ms, or time of day (hh:mm:ss.zzz):"));
+    dialog->setTextValue(timeText(proposed));
+    const auto timeIn = [=](const QString &text) {
+        const std::optional<double> time = timeFromText(text, startTime);
+        return time && *time >= plot->home().minX && *time <= plot->home().maxX ? time
+                                                                                : std::nullopt;
+    };
+    dialog->open();
+    QPushButton *ok = dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok);
+    QObject::connect(dialog, &QInputDialog::textValueChanged, ok,
+        [=](const QString &text) { ok->setEnabled(timeIn(text).has_value()); });
+    QObject::connect(dialog, &QInputDialog::textValueSelected, plot, [=](const QString &text) {
+        if (const std::optional<double> time = timeIn(text))
+            command(*time);
+    });
+}
+
+} // namespace
 
 void PlotMenu::add(const QString &text, bool isEnabled, const std::function<void()> &command)
 {
@@ -54,7 +97,95 @@ void PlotMenu::addNewCursors(const QPoint &point)
 {
     Plotter *plot = &m_plot;
     const bool hasRoom = plot->cursors().size() < CursorMarks::most;
-    const double trigger = m_recording.triggerOffsetMs;
     add(tr("Cursor Here"), hasRoom, [=] { plot->addCursor(point.x(), point.y()); });
-    add(tr("Cursor at Trigger"), hasRoom, [=] { plot->addCursorAt(trigger); });
+    addCursorAt(tr("Cursor at Trigger"), m_host.recording()->triggerOffsetMs);
+    const double here = plot->geometryOfView().lineTime(point.x());
+    const QString startTime = m_host.recording()->startTime;
+    add(tr("Cursor at Time..."), hasRoom, [=] {
+        askForTime(
+            plot, tr("New Cursor"), here, startTime, [=](double time) { plot->addCursorAt(time); });
+    });
+    addChanges(point);
+    if (!qobject_cast<plotterDg *>(plot))
+        addExtremes(point);
+}
+
+void PlotMenu::addCursorAt(const QString &text, const std::optional<double> &time)
+{
+    Plotter *plot = &m_plot;
+    add(text, time && plot->cursors().size() < CursorMarks::most,
+        [=] { plot->addCursorAt(*time); });
+}
+
+QString PlotMenu::inBrackets(const QString &name) const
+{
+    constexpr int mostPixels = 200;
+    QString shown = m_menu.fontMetrics().elidedText(name, Qt::ElideMiddle, mostPixels);
+    return QStringLiteral(" (%1)").arg(shown.replace(QLatin1Char('&'), QLatin1String("&&")));
+}
+
+// Of the channel on a row of a digital plot; elsewhere of all that have a row.
+void PlotMenu::addChanges(const QPoint &point)
+{
+    const auto *digital = qobject_cast<const plotterDg *>(&m_plot);
+    const int row = digital ? rowAt(*digital, point) : -1;
+    for (const Plotter *other : m_plot.linked())
+        digital = digital ? digital : qobject_cast<const plotterDg *>(other);
+    QVector<DigitalRuns> channels;
+    QString name;
+    if (row >= 0) {
+        const ShownChannel &shown = digital->shownChannels().at(row);
+        channels.append(shown.runs);
+        name = inBrackets(shown.id);
+    } else if (digital) {
+        for (const ShownChannel &shown : digital->shownChannels().byNumber())
+            channels.append(shown.runs);
+    }
+    const double time = m_plot.geometryOfView().lineTime(point.x());
+    const TimeAxis &axis = m_plot.sampleTimes();
+    addCursorAt(tr("Cursor at Previous Change") + name, changeBefore(time, channels, axis));
+    addCursorAt(tr("Cursor at Next Change") + name, changeAfter(time, channels, axis));
+}
+
+void PlotMenu::addExtremes(const QPoint &point)
+{
+    const AnalogSource source(&m_host);
+    const int channel = traceAt(m_plot, source, point);
+    QString name;
+    if (channel >= 0) {
+        name = m_plot.shownChannels().at(channel).id;
+        if (source.isSpectrum(channel))
+            name += QStringLiteral(" FFT");
+        name = inBrackets(name);
+    }
+    const auto timeOf = [&](bool isLargest) {
+        return channel < 0 ? std::nullopt : timeOfExtreme(m_plot, source, channel, isLargest);
+    };
+    addCursorAt(tr("Cursor at Maximum in View") + name, timeOf(true));
+    addCursorAt(tr("Cursor at Minimum in View") + name, timeOf(false));
+}
+
+void PlotMenu::addMoves(int cursor)
+{
+    Plotter *plot = &m_plot;
+    const QList<QLabel *> labels = plot->findChildren<QLabel *>(QStringLiteral("lineLabel"));
+    const QPointer<QLabel> label = labels.at(cursor);
+    const double now = plot->cursors().at(cursor);
+    const QString startTime = m_host.recording()->startTime;
+    const auto step = [=](bool isForward) {
+        if (!label)
+            return;
+        label->setFocus();
+        stepCursor(*plot, cursor, isForward);
+    };
+    add(tr("Move to Time..."), true, [=] {
+        askForTime(plot, tr("Move Cursor"), now, startTime, [=](double time) {
+            if (!label)
+                return;
+            plot->moveCursor(cursor, time);
+            plot->zoomIn(); // which refreshes all plots
+        });
+    });
+    add(tr("Step to Previous Sample"), true, [=] { step(false); });
+    add(tr("Step to Next Sample"), true, [=] { step(true); });
 }

@@ -6,32 +6,40 @@
 #include <QCoreApplication>
 
 #include <functional>
+#include <optional>
 
-class CFGProperties;
 class Plotter;
+class PlotHost;
 class QMenu;
 class QPoint;
 
-// Fills the context menu of a plot with what concerns the plots alone: their views and cursors. All
-// of it may go once the menu is filled, but for the plot, whose end is that of the menu.
+// Fills the context menu of a plot with what concerns the plots alone: their views and cursors. It
+// may go once the menu is filled. The host must hold a recording.
 class PlotMenu {
     Q_DECLARE_TR_FUNCTIONS(PlotMenu)
 
 public:
-    PlotMenu(QMenu &menu, Plotter &plot, const CFGProperties &recording)
-        : m_menu(menu), m_plot(plot), m_recording(recording)
+    PlotMenu(QMenu &menu, Plotter &plot, const PlotHost &host)
+        : m_menu(menu), m_plot(plot), m_host(host)
     {
     }
 
     void addViews();
     // Cursors at a point of the plot and at times of the recording.
     void addNewCursors(const QPoint &point);
+    // Moves of a cursor, whose label then has the keys.
+    void addMoves(int cursor);
 
 private:
     void add(const QString &text, bool isEnabled, const std::function<void()> &command);
     void addZoomToCursors();
+    void addChanges(const QPoint &point);
+    void addExtremes(const QPoint &point);
+    // An entry that sets a cursor at a time, if there is one and room for a cursor.
+    void addCursorAt(const QString &text, const std::optional<double> &time);
+    QString inBrackets(const QString &name) const;
 
     QMenu &m_menu;
     Plotter &m_plot;
-    const CFGProperties &m_recording;
+    const PlotHost &m_host;
 };

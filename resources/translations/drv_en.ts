@@ -536,6 +536,50 @@ Please select another file.</translation>
         <source>Cursor at Trigger</source>
         <translation>Cursor at Trigger</translation>
     </message>
+    <message>
+        <source>Cursor at Time...</source>
+        <translation>Cursor at Time...</translation>
+    </message>
+    <message>
+        <source>New Cursor</source>
+        <translation>New Cursor</translation>
+    </message>
+    <message>
+        <source>Time in ms, or time of day (hh:mm:ss.zzz):</source>
+        <translation>Time in ms, or time of day (hh:mm:ss.zzz):</translation>
+    </message>
+    <message>
+        <source>Cursor at Previous Change</source>
+        <translation>Cursor at Previous Change</translation>
+    </message>
+    <message>
+        <source>Cursor at Next Change</source>
+        <translation>Cursor at Next Change</translation>
+    </message>
+    <message>
+        <source>Cursor at Maximum in View</source>
+        <translation>Cursor at Maximum in View</translation>
+    </message>
+    <message>
+        <source>Cursor at Minimum in View</source>
+        <translation>Cursor at Minimum in View</translation>
+    </message>
+    <message>
+        <source>Move to Time...</source>
+        <translation>Move to Time...</translation>
+    </message>
+    <message>
+        <source>Move Cursor</source>
+        <translation>Move Cursor</translation>
+    </message>
+    <message>
+        <source>Step to Previous Sample</source>
+        <translation>Step to Previous Sample</translation>
+    </message>
+    <message>
+        <source>Step to Next Sample</source>
+        <translation>Step to Next Sample</translation>
+    </message>
 </context>
 <context>
     <name>Plotter</name>

@@ -536,6 +536,50 @@ Valitse toinen tiedosto.</translation>
         <source>Cursor at Trigger</source>
         <translation>Kursori liipaisuhetkeen</translation>
     </message>
+    <message>
+        <source>Cursor at Time...</source>
+        <translation>Kursori aikaan...</translation>
+    </message>
+    <message>
+        <source>New Cursor</source>
+        <translation>Uusi kursori</translation>
+    </message>
+    <message>
+        <source>Time in ms, or time of day (hh:mm:ss.zzz):</source>
+        <translation>Aika (ms) tai kellonaika (hh:mm:ss.zzz):</translation>
+    </message>
+    <message>
+        <source>Cursor at Previous Change</source>
+        <translation>Kursori edelliseen tilanvaihtoon</translation>
+    </message>
+    <message>
+        <source>Cursor at Next Change</source>
+        <translation>Kursori seuraavaan tilanvaihtoon</translation>
+    </message>
+    <message>
+        <source>Cursor at Maximum in View</source>
+        <translation>Kursori näkymän maksimiin</translation>
+    </message>
+    <message>
+        <source>Cursor at Minimum in View</source>
+        <translation>Kursori näkymän minimiin</translation>
+    </message>
+    <message>
+        <source>Move to Time...</source>
+        <translation>Siirrä aikaan...</translation>
+    </message>
+    <message>
+        <source>Move Cursor</source>
+        <translation>Siirrä kursori</translation>
+    </message>
+    <message>
+        <source>Step to Previous Sample</source>
+        <translation>Siirrä edelliseen näytteeseen</translation>
+    </message>
+    <message>
+        <source>Step to Next Sample</source>
+        <translation>Siirrä seuraavaan näytteeseen</translation>
+    </message>
 </context>
 <context>
     <name>Plotter</name>

@@ -536,6 +536,50 @@ Please select another file.</source>
         <source>Cursor at Trigger</source>
         <translation>在触发时刻添加游标</translation>
     </message>
+    <message>
+        <source>Cursor at Time...</source>
+        <translation>在指定时间添加游标...</translation>
+    </message>
+    <message>
+        <source>New Cursor</source>
+        <translation>新游标</translation>
+    </message>
+    <message>
+        <source>Time in ms, or time of day (hh:mm:ss.zzz):</source>
+        <translation>时间 (ms) 或时刻 (hh:mm:ss.zzz)：</translation>
+    </message>
+    <message>
+        <source>Cursor at Previous Change</source>
+        <translation>在上一次变位处添加游标</translation>
+    </message>
+    <message>
+        <source>Cursor at Next Change</source>
+        <translation>在下一次变位处添加游标</translation>
+    </message>
+    <message>
+        <source>Cursor at Maximum in View</source>
+        <translation>在视图最大值处添加游标</translation>
+    </message>
+    <message>
+        <source>Cursor at Minimum in View</source>
+        <translation>在视图最小值处添加游标</translation>
+    </message>
+    <message>
+        <source>Move to Time...</source>
+        <translation>移动到指定时间...</translation>
+    </message>
+    <message>
+        <source>Move Cursor</source>
+        <translation>移动游标</translation>
+    </message>
+    <message>
+        <source>Step to Previous Sample</source>
+        <translation>移至上一个采样点</translation>
+    </message>
+    <message>
+        <source>Step to Next Sample</source>
+        <translation>移至下一个采样点</translation>
+    </message>
 </context>
 <context>
     <name>Plotter</name>

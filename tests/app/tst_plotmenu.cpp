@@ -4,6 +4,9 @@
 #include "plotmenus.h"
 #include "plotswindow.h"
 
+#include <QDialogButtonBox>
+#include <QInputDialog>
+#include <QPointer>
 #include <QScrollBar>
 #include <QWheelEvent>
 
@@ -42,8 +45,17 @@ private slots:
     void nothingIsKeptOfAnotherRecording();
     void cursorsAtExactTimes();
     void noRoomForMoreCursors();
+    void cursorsAtATimeThatIsTyped_data();
+    void cursorsAtATimeThatIsTyped();
+    void timesThatAreNotTaken_data();
+    void timesThatAreNotTaken();
+    void aQuestionEndsWithItsRecording();
+    void cursorsAtChanges();
+    void cursorsAtChangesOfTheRow();
+    void cursorsAtExtremes();
     void theMenuKey();
     void labelsKeepTheirOwnMenu();
+    void movesOfACursor();
 
 private:
     // Of all plots; not a number where they are not in step.
@@ -288,6 +300,110 @@ void TestPlotMenu::noRoomForMoreCursors()
     QVERIFY(!offers(analog(), QStringLiteral("Cursor at Trigger")));
 }
 
+void TestPlotMenu::cursorsAtATimeThatIsTyped_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<double>("time");
+    QTest::newRow("ms") << QStringLiteral("33.125") << 33.125;
+    QTest::newRow("ms, comma") << QStringLiteral("33,125") << 33.125;
+    QTest::newRow("time of day") << QStringLiteral("10:00:00.0455") << 45.5;
+    QTest::newRow("between the samples and the end of the view") << QStringLiteral("100") << 100.0;
+}
+
+void TestPlotMenu::cursorsAtATimeThatIsTyped()
+{
+    QFETCH(QString, text);
+    QFETCH(double, time);
+    analog()->changeView([](PlotView &view) { return view.showTimes(10, 20); });
+    QVERIFY(choose(digital(), QStringLiteral("Cursor at Time...")));
+    auto *dialog = digital()->findChild<QInputDialog *>();
+    QVERIFY(dialog);
+    QVERIFY(!dialog->findChild<QLineEdit *>()->text().isEmpty());
+    dialog->findChild<QLineEdit *>()->selectAll();
+    QTest::keyClicks(dialog->findChild<QLineEdit *>(), text);
+    QTest::keyClick(dialog, Qt::Key_Return);
+    for (const Plotter *each : plots())
+        QCOMPARE(each->cursors(), QList<double>{time});
+}
+
+void TestPlotMenu::timesThatAreNotTaken_data()
+{
+    QTest::addColumn<QString>("text");
+    for (const char *text : {"", "soon", "100.5", "-0.5", "11:00:00", "10:00"})
+        QTest::addRow("'%s'", text) << QString::fromLatin1(text);
+}
+
+void TestPlotMenu::timesThatAreNotTaken()
+{
+    QFETCH(QString, text);
+    QVERIFY(choose(analog(), QStringLiteral("Cursor at Time...")));
+    auto *dialog = analog()->findChild<QInputDialog *>();
+    auto *edit = dialog->findChild<QLineEdit *>();
+    const auto *ok = dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok);
+    QVERIFY(ok->isEnabled());
+    edit->selectAll();
+    QTest::keyClick(edit, Qt::Key_Delete);
+    QTest::keyClicks(edit, text);
+    QVERIFY(!ok->isEnabled());
+    QTest::keyClick(dialog, Qt::Key_Return);
+    QVERIFY(analog()->cursors().isEmpty());
+    edit->setText(QStringLiteral("50"));
+    QVERIFY(ok->isEnabled());
+    QTest::keyClick(dialog, Qt::Key_Escape);
+    QVERIFY(analog()->cursors().isEmpty());
+}
+
+void TestPlotMenu::aQuestionEndsWithItsRecording()
+{
+    QVERIFY(choose(analog(), QStringLiteral("Cursor at Time...")));
+    const QPointer<QInputDialog> dialog = analog()->findChild<QInputDialog *>();
+    open({QStringLiteral("Ia")}, {});
+    QVERIFY(!dialog);
+    QVERIFY(analog()->cursors().isEmpty());
+}
+
+// Of "Trip", which is 1 from 50 ms on, and the only one shown; the menu is opened at 29 and 65 ms.
+void TestPlotMenu::cursorsAtChanges()
+{
+    const QString next = QStringLiteral("Cursor at Next Change");
+    const QString before = QStringLiteral("Cursor at Previous Change");
+    const auto at
+        = [&](double time) { return QPoint(int(analog()->geometryOfView().cursorX(time)), 100); };
+    QVERIFY(!offers(analog(), before, at(29)));
+    QVERIFY(choose(analog(), next, at(29)));
+    QVERIFY(!offers(analog(), next, at(65)));
+    QVERIFY(choose(analog(), before, at(65)));
+    for (const Plotter *each : plots())
+        QCOMPARE(each->cursors(), QList<double>({50, 50}));
+    click(list("listWidget2"), 0);
+    QVERIFY(digital()->isHidden());
+    QVERIFY(!offers(analog(), next, at(29)));
+}
+
+void TestPlotMenu::cursorsAtChangesOfTheRow()
+{
+    const int row = digital()->geometryOfView().rowY(0, 1);
+    QVERIFY(choose(digital(), QStringLiteral("Cursor at Next Change (Trip)"), {200, row}));
+    QVERIFY(
+        choose(digital(), QStringLiteral("Cursor at Next Change"), {200, 10})); // above the rows
+    QCOMPARE(analog()->cursors(), QList<double>({50, 50}));
+    QVERIFY(!offers(digital(), QStringLiteral("Cursor at Maximum in View"), {200, row}));
+}
+
+// "Ia" swings from -10 at 0, 20, 40 ms to 9 at 19, 39, 59 ms; "Ib" is twice that.
+void TestPlotMenu::cursorsAtExtremes()
+{
+    analog()->changeView([](PlotView &view) { return view.showTimes(25, 45); });
+    const auto at = [&](double value) {
+        const PlotGeometry geometry = analog()->geometryOfView();
+        return QPoint(int(geometry.traceX(38)), int(geometry.traceY(value)));
+    };
+    QVERIFY(choose(analog(), QStringLiteral("Cursor at Maximum in View (Ia)"), at(8)));
+    QVERIFY(choose(analog(), QStringLiteral("Cursor at Minimum in View (Ia)"), at(8)));
+    QVERIFY(choose(analog(), QStringLiteral("Cursor at Maximum in View (Ib)"), at(16)));
+    QCOMPARE(digital()->cursors(), QList<double>({39, 40, 39}));
+}
+
 void TestPlotMenu::theMenuKey()
 {
     analog()->setFocus();
@@ -306,6 +422,33 @@ void TestPlotMenu::labelsKeepTheirOwnMenu()
     QVERIFY(offers(analog(), QStringLiteral("Remove Cursor"), point));
     QVERIFY(!offers(analog(), QStringLiteral("Cursor Here"), point));
     QVERIFY(!offers(analog(), QStringLiteral("Remove Cursor")));
+}
+
+void TestPlotMenu::movesOfACursor()
+{
+    window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    analog()->addCursorAt(20);
+    analog()->addCursorAt(50);
+    const auto labels = digital()->findChildren<QLabel *>(QStringLiteral("lineLabel"));
+    const auto point = [&] { return labels.at(1)->geometry().center(); };
+    QVERIFY(choose(digital(), QStringLiteral("Move to Time..."), point()));
+    auto *dialog = digital()->findChild<QInputDialog *>();
+    QCOMPARE(dialog->findChild<QLineEdit *>()->text(), QStringLiteral("50"));
+    QTest::keyClick(dialog->findChild<QLineEdit *>(), Qt::Key_End); // it was selected
+    QTest::keyClicks(dialog->findChild<QLineEdit *>(), QStringLiteral(".25"));
+    QTest::keyClick(dialog, Qt::Key_Return);
+    for (const Plotter *each : plots())
+        QCOMPARE(each->cursors(), QList<double>({20, 50.25}));
+    QVERIFY(choose(digital(), QStringLiteral("Step to Next Sample"), point()));
+    QVERIFY(choose(digital(), QStringLiteral("Step to Next Sample"), point()));
+    QVERIFY(choose(digital(), QStringLiteral("Step to Previous Sample"), point()));
+    QCOMPARE(analog()->cursors(), QList<double>({20, 51}));
+    QCOMPARE(window->focusWidget(), labels.at(1));
+    QTest::keyClick(window->focusWidget(), Qt::Key_Left);
+    QCOMPARE(analog()->cursors(), QList<double>({20, 50}));
+    QVERIFY(choose(digital(), QStringLiteral("Remove Cursor"), point()));
+    QCOMPARE(window->focusWidget(), digital());
 }
 
 QTEST_MAIN(TestPlotMenu)
