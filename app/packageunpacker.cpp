@@ -12,7 +12,37 @@
 #endif
 #ifdef Q_OS_LINUX
 #include <sys/prctl.h>
+#include <sys/syscall.h>
 #endif
+
+namespace {
+
+#ifdef Q_OS_LINUX
+// Has the archiver, this process, end with the viewer, and the rest of its group end with it: a
+// process beside it waits for its end. Being no ordinary child, that one is nobody's to wait for.
+void dieTogether()
+{
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
+#ifdef SYS_close_range
+    const pid_t archiver = getpid();
+    if (syscall(SYS_clone, 0UL, nullptr, nullptr, nullptr, nullptr) != 0) // allowed between threads
+        return;
+    sigset_t end;
+    sigemptyset(&end);
+    sigaddset(&end, SIGTERM);
+    sigprocmask(SIG_BLOCK, &end, nullptr);
+    prctl(PR_SET_PDEATHSIG, SIGTERM);
+    if (syscall(SYS_close_range, 0U, ~0U, 0U) != 0)
+        _exit(0); // the viewer would wait for what is open here
+    if (int received = 0; getppid() == archiver)
+        sigwait(&end, &received);
+    ::kill(-archiver, SIGKILL);
+    _exit(0); // where it has no group of its own
+#endif
+}
+#endif
+
+} // namespace
 
 // The archiver, which may be a script that calls another program: they live and die together.
 class ArchiverProcess : public QProcess {
@@ -38,7 +68,7 @@ protected:
         setpgid(0, 0);
 #endif
 #ifdef Q_OS_LINUX
-        prctl(PR_SET_PDEATHSIG, SIGKILL); // where this program crashes
+        dieTogether();
 #endif
     }
 };

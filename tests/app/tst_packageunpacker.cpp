@@ -69,6 +69,9 @@ private slots:
     void stopKillsTheArchiverAndRemovesTheFolder();
     void nothingIsHeardAfterStop();
     void stopEndsWhatTheArchiverHasStarted();
+    void archiverMayWaitForAllThatItHasStarted();
+    void aCrashEndsWhatTheArchiverHasStarted_data();
+    void aCrashEndsWhatTheArchiverHasStarted();
     void racedPairsNeverMix();
     void aCrashLeavesNothing();
 
@@ -297,6 +300,42 @@ void TestPackageUnpacker::stopEndsWhatTheArchiverHasStarted()
     QVERIFY(!hasEnded(path("pid")));
     m_unpacker->stop();
     QTRY_VERIFY(hasEnded(path("pid")));
+}
+
+// What watches over the archiver is none of its children.
+void TestPackageUnpacker::archiverMayWaitForAllThatItHasStarted()
+{
+    useScript("exec perl -e '1 while wait() > 0; open my $f, \">\", $ARGV[0]' \""
+        + QFile::encodeName(path("waited")) + "\"\n");
+    unpack(QStringLiteral("device.zip"));
+    QVERIFY(QFileInfo::exists(path("waited")));
+}
+
+void TestPackageUnpacker::aCrashEndsWhatTheArchiverHasStarted_data()
+{
+    QTest::addColumn<QByteArray>("script"); // PID stands for the file of the number
+    QTest::newRow("a program in its place") << QByteArray("echo $$ > PID\nexec sleep 60\n");
+    QTest::newRow("a child") << QByteArray("sleep 60 &\necho $! > PID\nwait\n");
+    QTest::newRow("a child of a child")
+        << QByteArray("sh -c 'sleep 60 & echo $! > PID; wait' &\nwait\n");
+    QTest::newRow("a child that ignores that a terminal ends")
+        << QByteArray("trap '' HUP TERM\nsleep 60 &\necho $! > PID\nwait\n");
+}
+
+void TestPackageUnpacker::aCrashEndsWhatTheArchiverHasStarted()
+{
+#ifndef Q_OS_LINUX
+    QSKIP("only Linux tells a process of the end of another");
+#endif
+    QFETCH(QByteArray, script);
+    useScript(script.replace("PID", QFile::encodeName(path("pid"))));
+    const auto crashing = otherInstance();
+    crashing->write("hang.zip\n");
+    crashing->waitForBytesWritten();
+    QTRY_VERIFY(numberIn("pid") > 0);
+    crashing->kill();
+    QVERIFY(crashing->waitForFinished());
+    QTRY_VERIFY(kill(numberIn("pid"), 0) != 0);
 }
 
 // Two programs start and unpack at the same instant.
