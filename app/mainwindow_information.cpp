@@ -33,12 +33,18 @@ QString shownText(const QString &text)
     return shownName(text.trimmed());
 }
 
-// Names may be longer than the room for them, so each tells itself in a tool tip, too.
-void addName(QListWidget &list, const QString &name)
+// Names may be longer than the room for them, so each tells itself in a tool tip, too. There may be
+// a hundred thousand: what the list need not hear of each is kept from it.
+template <typename Channel> void showNames(QListWidget &list, const QList<Channel *> &channels)
 {
-    auto *item = new QListWidgetItem(shownText(name));
-    item->setToolTip(plainToolTip(item->text()));
-    list.addItem(item); // as it is: a change afterwards would be announced for each
+    QStringList names;
+    names.reserve(channels.size());
+    for (const Channel *channel : channels)
+        names.append(shownText(channel->id));
+    list.addItems(names);
+    const QSignalBlocker blocker(list.model());
+    for (int row = 0; row < names.size(); ++row)
+        list.item(row)->setToolTip(plainToolTip(names.at(row)));
 }
 
 void showName(QLabel &label, const QString &name)
@@ -132,10 +138,9 @@ void MainWindow::showRecording()
         ids.append(channel->id);
         primaries.append(generalText(channel->primary));
         secondaries.append(generalText(channel->secondary));
-        addName(*ui->listWidget, channel->id);
     }
-    for (const DigitalChannel *channel : qAsConst(m_cfgProperties->digitalChannels))
-        addName(*ui->listWidget2, channel->id);
+    showNames(*ui->listWidget, m_cfgProperties->analogChannels);
+    showNames(*ui->listWidget2, m_cfgProperties->digitalChannels);
     ui->listWidget->setSelectionMode(QAbstractItemView::MultiSelection);
     ui->listWidget2->setSelectionMode(QAbstractItemView::MultiSelection);
 

@@ -10,24 +10,39 @@
 #include <QHelpEvent>
 #include <QScreen>
 #include <QSignalBlocker>
-#include <QStandardItemModel>
+#include <QStringListModel>
 #include <QStylePainter>
 #include <QToolTip>
 
 #include <algorithm>
 
+namespace {
+
+// Makes nothing of a text before it is asked for: there may be a hundred thousand.
+class Texts : public QStringListModel {
+public:
+    using QStringListModel::QStringListModel;
+
+    QVariant data(const QModelIndex &index, int role) const override
+    {
+        if (role == Qt::UserRole)
+            return QStringListModel::data(index, Qt::DisplayRole);
+        const QVariant value = QStringListModel::data(index, role);
+        return role == Qt::DisplayRole ? shownName(value.toString()) : value;
+    }
+};
+
+} // namespace
+
+ElidingComboBox::ElidingComboBox(QWidget *parent) : QComboBox(parent)
+{
+    setModel(new Texts(this));
+}
+
 void ElidingComboBox::setTexts(const QStringList &texts, int current)
 {
     const QSignalBlocker blocker(this);
-    clear();
-    QList<QStandardItem *> items; // to be announced once, not each
-    items.reserve(texts.size());
-    for (const QString &text : texts) {
-        items.append(new QStandardItem(shownName(text)));
-        items.constLast()->setData(text, Qt::UserRole);
-    }
-    if (!items.isEmpty())
-        qobject_cast<QStandardItemModel *>(model())->invisibleRootItem()->appendRows(items);
+    qobject_cast<QStringListModel *>(model())->setStringList(texts);
     setCurrentIndex(current);
 }
 

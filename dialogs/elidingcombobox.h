@@ -11,7 +11,7 @@ class ElidingComboBox : public QComboBox {
     Q_OBJECT
 
 public:
-    using QComboBox::QComboBox;
+    explicit ElidingComboBox(QWidget *parent = nullptr);
 
     // Replaces the items without a signal. Each has its whole text as data, however it is shown.
     void setTexts(const QStringList &texts, int current);
