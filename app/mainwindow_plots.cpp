@@ -308,7 +308,7 @@ void MainWindow::addPlot(const QStringList &names, const QList<int> &channels)
         return;
     m_actions.removePlotter->setEnabled(true);
     const QString given = m_addPlotterDialog->graphName().trimmed();
-    const QPointer<Plotter> plot = new Plotter(ui->scrollWidget);
+    auto *plot = new Plotter(ui->scrollWidget);
     if (given.isEmpty())
         plot->setProperty(numberOfUnnamed, ++m_graphCount);
     plot->setName(given.isEmpty() ? tr("Graph %1").arg(m_graphCount) : given);
@@ -328,12 +328,13 @@ void MainWindow::addPlot(const QStringList &names, const QList<int> &channels)
 
     // The scroll area knows the plot's place only after its layout was done.
     constexpr int settleTime = 50; // ms
+    const QPointer<Plotter> added(plot);
     QElapsedTimer timer;
     timer.start();
-    while (plot && timer.elapsed() < settleTime)
+    while (added && timer.elapsed() < settleTime)
         QCoreApplication::processEvents(QEventLoop::AllEvents, settleTime);
-    if (plot)
-        ui->scrollArea->ensureWidgetVisible(plot, 0, 0);
+    if (added)
+        ui->scrollArea->ensureWidgetVisible(added, 0, 0);
 }
 
 void MainWindow::removePlotter()

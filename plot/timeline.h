@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <QtGlobal>
+
 class PlotGeometry;
 class PlotLine;
 class QLabel;
@@ -11,6 +13,8 @@ class QWidget;
 // The line that follows the mouse over a plot, with its time; both widgets are children of the plot
 // and lie below its other children. Hidden at first.
 class TimeLine {
+    Q_DISABLE_COPY(TimeLine)
+
 public:
     explicit TimeLine(QWidget *plot);
 

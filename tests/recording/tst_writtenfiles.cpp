@@ -65,6 +65,7 @@ private slots:
     void aFolderThatTakesNoNewFilesHasItsFilesReplaced();
     void aProtectedFileKeepsItsPair_data();
     void aProtectedFileKeepsItsPair();
+    void aFileThatCannotBeReadKeepsItsPair();
     void aFileThatMayNotBeReplacedKeepsItsPair_data();
     void aFileThatMayNotBeReplacedKeepsItsPair();
     void linksAreFollowedToFilesAlone();
@@ -346,6 +347,35 @@ void TestWrittenFiles::aProtectedFileKeepsItsPair()
         QSKIP("The folder for tests cannot be entered by an ordinary user.");
     QTEST(contents(configuration).startsWith("Harju,"), "isConfigurationWritten");
     QTEST(contents(data) == "2,0,1,-1,1", "isDataWritten");
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+}
+
+// It could not come back where the data do not fit.
+void TestWrittenFiles::aFileThatCannotBeReadKeepsItsPair()
+{
+    const RecordingFolder source;
+    CFGProperties recording;
+    source.load(recording, configurationText().text(), dataUpTo(3));
+    const QTemporaryDir folder(QDir::temp().filePath(QStringLiteral("unread-XXXXXX")));
+    QCOMPARE(chmod(qPrintable(folder.path()), 0777), 0);
+    const QString configuration = folder.filePath(QStringLiteral("out.cfg"));
+    const QString data = folder.filePath(QStringLiteral("out.dat"));
+    for (const QString &path : {configuration, data}) {
+        QVERIFY(writeTextFile(path, "as before"));
+        QCOMPARE(chmod(qPrintable(path), 0222), 0);
+    }
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        const OrdinaryUser user;
+        if (!QFileInfo(folder.path()).isWritable() || QFileInfo(data).isReadable())
+            QSKIP("Permissions do not count here.");
+        const auto outcome = RecordingWriter(recording, {}, {}).write(configuration, 1, 1);
+        QCOMPARE(outcome.failedFile, configuration);
+        QCOMPARE(outcome.error, QStringLiteral("Permission denied"));
+    }
+    QCOMPARE(chmod(qPrintable(configuration), 0666), 0);
+    QCOMPARE(chmod(qPrintable(data), 0666), 0);
+    QCOMPARE(contents(configuration), QByteArray("as before"));
+    QCOMPARE(contents(data), QByteArray("as before"));
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
 

@@ -125,11 +125,12 @@ std::filesystem::path readArguments(
             if (!path.empty())
                 throw BadUsage("there are two paths");
             path = *argument;
-        } else if (std::next(argument) == arguments.end()) {
-            throw BadUsage(std::string(*argument) + " takes a value");
         } else {
-            const std::string_view name = *argument++;
-            setOption(options, name, *argument);
+            const auto value = std::next(argument);
+            if (value == arguments.end())
+                throw BadUsage(std::string(*argument) + " takes a value");
+            setOption(options, *argument, *value);
+            argument = value;
         }
     }
     if (path.empty())
