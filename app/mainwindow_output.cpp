@@ -153,7 +153,7 @@ void MainWindow::addOutputs(QMenu &menu, Plotter &plot)
     if (times.size() > 1) {
         connect(part, &QAction::triggered, this, [this, from = *first, to = *last] {
             showSaveDialog();
-            m_saveDialog->choose(from, to);
+            m_saveDialog->chooseSpan(from, to);
         });
     }
 }

@@ -73,7 +73,7 @@ void SaveDialog::setSampleTimes(const QVector<double> &times)
         sampleTimes.append(&time);
 }
 
-void SaveDialog::choose(double start, double end)
+void SaveDialog::chooseSpan(double start, double end)
 {
     const auto nearest = [this](double time) {
         const auto isNearer

@@ -28,7 +28,7 @@ public:
     // The times to choose from, in sample order; to be set before the dialog is shown.
     void setSampleTimes(const QVector<double> &times);
     // Chooses the samples nearest to two times, of a dialog that is shown.
-    void choose(double start, double end);
+    void chooseSpan(double start, double end);
 
 signals:
     void setStartPoint(double time);
