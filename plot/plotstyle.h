@@ -9,4 +9,5 @@
 inline const QString screenStyle = QStringLiteral(
     "Plotter{background-color: #313034; border: 2px outset qlineargradient(x1: 0, y1: 0, x2: 0, "
     "y2: 1, stop: 0 #616064, stop: 1 #313034);}");
+constexpr int borderWidth = 2; // of a plot on the screen
 inline const QString captureStyle = QStringLiteral("Plotter{background-color: transparent;}");

@@ -21,8 +21,8 @@ constexpr int labelGap = 15; // between the line and its label
 constexpr int labelTop = 45;
 constexpr int smallestFont = 7; // pixels
 
-// Covers what it stands over with the background of the plot, which a light picture of the plots
-// has none of.
+// Covers what it stands over within the plot's border with the background of the plot, which a
+// light picture of the plots has none of.
 class TimeLabel : public QLabel {
 public:
     using QLabel::QLabel;
@@ -33,7 +33,10 @@ protected:
         const bool isOnScreen = parentWidget()->styleSheet() == screenStyle;
         QPainter painter(this);
         painter.setCompositionMode(QPainter::CompositionMode_Source);
-        painter.fillRect(rect(), isOnScreen ? QColor(0x313034) : QColor(Qt::transparent));
+        const QRect plot = parentWidget()->rect().translated(-pos());
+        painter.fillRect(
+            rect() & plot.adjusted(borderWidth, borderWidth, -borderWidth, -borderWidth),
+            isOnScreen ? QColor(0x313034) : QColor(Qt::transparent));
         painter.end();
         QLabel::paintEvent(event);
     }
@@ -67,7 +70,8 @@ void TimeLine::show(int x, const PlotGeometry &geometry)
     const int left = x - labelGap - m_label->width() + 1;
     repaintAround(*m_plot, m_label->geometry());
     // A drag may have led the pointer out of the plot.
-    m_label->move(std::clamp(right <= farthest ? right : left, 0, std::max(0, farthest)), labelTop);
+    const int place = right <= farthest ? right : std::min(left, farthest - borderWidth);
+    m_label->move(std::max(borderWidth, place), labelTop);
     m_label->show();
     m_label->lower();
     m_line->place(x, geometry);

@@ -37,6 +37,8 @@ private slots:
     void aLongTimeFitsItsLabel();
     void aTimeAtAnEndIsReadInFull_data();
     void aTimeAtAnEndIsReadInFull();
+    void theTimeLabelLeavesTheBorder_data();
+    void theTimeLabelLeavesTheBorder();
     void theTimeLineLetsTheMouseThrough();
     void aDoubleClickSetsACursorAtOneTimeInAllPlots();
     void atMostTwentyCursors();
@@ -158,7 +160,7 @@ void TestPlotterCursors::aLongTimeFitsItsLabel()
     QCOMPARE(label->font().pixelSize(), usual);
 }
 
-// The label is 70 pixels wide, the plot 803.
+// The label is 70 pixels wide, the plot 803 with a border of two to each side.
 void TestPlotterCursors::aTimeAtAnEndIsReadInFull_data()
 {
     QTest::addColumn<int>("x");
@@ -166,10 +168,10 @@ void TestPlotterCursors::aTimeAtAnEndIsReadInFull_data()
     QTest::newRow("it just fits") << 718 << 733;
     QTest::newRow("one pixel is missing") << 719 << 635;
     QTest::newRow("at the last pixel") << 802 << 718;
-    QTest::newRow("a little beyond it, in a drag") << 817 << 733;
-    QTest::newRow("far beyond it") << 870 << 733;
-    QTest::newRow("a little before the first pixel") << -15 << 0;
-    QTest::newRow("far before it") << -40 << 0;
+    QTest::newRow("a little beyond it, in a drag") << 817 << 731;
+    QTest::newRow("far beyond it") << 870 << 731;
+    QTest::newRow("a little before the first pixel") << -15 << 2;
+    QTest::newRow("far before it") << -40 << 2;
 }
 
 void TestPlotterCursors::aTimeAtAnEndIsReadInFull()
@@ -184,6 +186,36 @@ void TestPlotterCursors::aTimeAtAnEndIsReadInFull()
     }
     PlotPair::move(pair->other, {450, 100});
     QCOMPARE(pair->plot->findChild<QLabel *>(QStringLiteral("timelabel"))->x(), 465);
+}
+
+void TestPlotterCursors::theTimeLabelLeavesTheBorder_data()
+{
+    QTest::addColumn<int>("x");
+    QTest::newRow("at the right") << 718;
+    QTest::newRow("beyond it, in a drag") << 870;
+    QTest::newRow("beyond the left, in a drag") << -40;
+}
+
+// It shows where the focus is.
+void TestPlotterCursors::theTimeLabelLeavesTheBorder()
+{
+    QFETCH(int, x);
+    const auto border = [](Plotter *plotter) {
+        const QImage image = plotter->grab().toImage();
+        QVector<QRgb> pixels;
+        for (int y = 40; y < 70; ++y) {
+            for (const int column : {0, 1, 801, 802})
+                pixels.append(image.pixel(column, y));
+        }
+        return pixels;
+    };
+    PlotPair::move(pair->other, {450, 100});
+    const QVector<QRgb> ofPlot = border(pair->plot);
+    const QVector<QRgb> ofDigital = border(pair->digital);
+    QCOMPARE(ofPlot.count(qRgb(49, 48, 52)), 0); // of the background
+    PlotPair::move(pair->other, {x, 100});
+    QCOMPARE(border(pair->plot), ofPlot);
+    QCOMPARE(border(pair->digital), ofDigital);
 }
 
 void TestPlotterCursors::theTimeLineLetsTheMouseThrough()
