@@ -10,6 +10,7 @@
 #include <QFont>
 #include <QPixmap>
 #include <QRect>
+#include <QRegion>
 #include <QRgb>
 #include <QSize>
 #include <QVector>
@@ -54,6 +55,7 @@ struct BaseLayer {
     BaseContent content;
     QRect part; // of the plot, which the pixmap covers
     QPixmap pixmap;
+    QRegion bright; // what of it white letters would be lost on
 
     // Whether the pixmap holds some of a row of a digital plot around this y of the plot.
     bool holdsRow(int y) const

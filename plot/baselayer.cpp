@@ -12,6 +12,7 @@
 #include <QFontMetrics>
 #include <QPainter>
 #include <QPixmap>
+#include <QRegion>
 #include <QWidget>
 
 #include <algorithm>
@@ -40,6 +41,11 @@ int markX(const PlotGeometry &geometry, double time)
     return std::min(PlotGeometry::pixel(geometry.traceX(time)), geometry.area().right());
 }
 
+bool isInView(const PlotGeometry &geometry, double time)
+{
+    return time >= geometry.view().minX && time <= geometry.view().maxX;
+}
+
 // The time of a grid line. What is left of rounding where a line stands at 0 is no time.
 double gridTime(const PlotSettings &view, int line)
 {
@@ -48,24 +54,41 @@ double gridTime(const PlotSettings &view, int line)
     return std::abs(time) < step * 1e-9 ? 0 : time;
 }
 
-// The stretches of a digital channel around the base line y.
+// A stretch of a digital channel: its line, one pixel high, and the band around it while it is on.
+struct Stretch {
+    QRect line;
+    bool isOn;
+
+    QRect band() const { return line.adjusted(0, -bandReach, 0, bandReach); }
+    QRect bandInside() const { return band().adjusted(1, 1, -1, -1); }
+};
+
+// The stretches of a digital channel around the base line y, in the order of drawing.
 class DigitalRow {
 public:
-    DigitalRow(QPainter &painter, const PlotGeometry &geometry, const TimeAxis &axis,
-        const DigitalRuns &runs, int y)
-        : m_painter(painter), m_geometry(geometry), m_axis(axis), m_runs(runs), m_y(y)
+    DigitalRow(const PlotGeometry &geometry, const TimeAxis &axis, const DigitalRuns &runs, int y)
+        : m_geometry(geometry), m_axis(axis), m_runs(runs), m_y(y)
     {
+        if (runs.count() == 0 || runs.end(runs.count() - 1) >= axis.times().size())
+            return;
+        if (axis.runs().isEmpty())
+            addAll();
+        for (const TimeAxis::Run &ascending : axis.runs())
+            add(ascending);
     }
 
-    void drawAll()
+    const QVector<Stretch> &stretches() const { return m_stretches; }
+
+private:
+    void addAll()
     {
         for (int run = 0; run < m_runs.count(); ++run)
-            draw(run, m_runs.isOn(run));
+            add(run, m_runs.isOn(run));
     }
 
     // The stretches that begin in a run of ascending times. Those within one pixel column are drawn
     // as one, on if any of them is; the last one may lead back.
-    void draw(const TimeAxis::Run &ascending)
+    void add(const TimeAxis::Run &ascending)
     {
         if (!hasColumn(ascending.first))
             return;
@@ -83,12 +106,11 @@ public:
                 isOn = isOn || entered > run + 1;
                 run = std::max(run, entered - 1);
             }
-            draw(run, isOn);
+            add(run, isOn);
         }
     }
 
-private:
-    void draw(int run, bool isOn)
+    void add(int run, bool isOn)
     {
         if (!hasColumn(m_runs.start(run)) || !hasColumn(m_runs.end(run)))
             return;
@@ -98,14 +120,8 @@ private:
             return;
         m_drawnX = from == to ? from : nowhere;
         m_drawnOn = isOn;
-        const QRect line(QPoint(std::min(from, to), m_y), QPoint(std::max(from, to), m_y));
-        if (isOn) {
-            const QRect band = line.adjusted(0, -bandReach, 0, bandReach);
-            m_painter.fillRect(band, bandColor);
-            fillFrame(m_painter, band, rowColor);
-        } else {
-            m_painter.fillRect(line, rowColor);
-        }
+        m_stretches.append(
+            {QRect(QPoint(std::min(from, to), m_y), QPoint(std::max(from, to), m_y)), isOn});
     }
 
     double timeOf(int sample) const { return m_axis.times().at(sample); }
@@ -126,13 +142,13 @@ private:
 
     static constexpr int nowhere = std::numeric_limits<int>::min();
 
-    QPainter &m_painter;
     const PlotGeometry &m_geometry;
     const TimeAxis &m_axis;
     const DigitalRuns &m_runs;
     const int m_y;
     int m_drawnX = nowhere; // of the last stretch, where it stood within one pixel column
     bool m_drawnOn = false;
+    QVector<Stretch> m_stretches;
 };
 
 } // namespace
@@ -155,12 +171,14 @@ QRect layerPart(const QSize &plot, const QRect &seen)
     return {0, top, plot.width(), std::min(plot.height() - top, tallestLayer + raster - 1)};
 }
 
-QPixmap clearLayer(const QSize &pixels, qreal ratio)
+void clearLayer(QPixmap &layer, const QSize &pixels, qreal ratio)
 {
-    QPixmap layer(pixels);
+    if (layer.size() != pixels) {
+        layer = QPixmap(); // before the next one is made
+        layer = QPixmap(pixels);
+    }
     layer.setDevicePixelRatio(ratio);
     layer.fill(Qt::transparent);
-    return layer;
 }
 
 QFont smallFont(const QFont &font)
@@ -234,36 +252,70 @@ QString triggerText(int time)
     return QCoreApplication::translate("Plotter", "Trigger: %1 ms").arg(time);
 }
 
-void drawTriggerMark(QPainter &painter, const PlotGeometry &geometry, const QFont &font, int time)
+QRect triggerTextBox(const PlotGeometry &geometry, const QFont &font, int time)
 {
-    if (time < geometry.view().minX || time > geometry.view().maxX)
+    if (!isInView(geometry, time))
+        return {};
+    const QRect area = geometry.area();
+    const int x = markX(geometry, time);
+    const QFontMetrics metrics(font);
+    QRect box(x + labelGap, 0, metrics.horizontalAdvance(triggerText(time)) + 2, metrics.height());
+    box.moveBottom(area.bottom() - 2);
+    if (box.right() > area.right())
+        box.moveRight(x - labelGap);
+    return box;
+}
+
+void drawTriggerMark(QPainter &painter, const PlotGeometry &geometry, const QFont &font, int time,
+    const QRegion &bright)
+{
+    if (!isInView(geometry, time))
         return;
     const QRect area = geometry.area();
     const int x = markX(geometry, time);
     for (int y = area.top(); y <= area.bottom(); y += dash + dashGap)
         painter.fillRect(x, y, 1, std::min(dash, area.bottom() + 1 - y), Qt::white);
 
-    const QString text = triggerText(time);
-    const QFontMetrics metrics(font);
-    QRect box(x + labelGap, 0, metrics.horizontalAdvance(text) + 2, metrics.height());
-    box.moveBottom(area.bottom() - 2);
-    if (box.right() > area.right())
-        box.moveRight(x - labelGap);
+    const auto drawText = [&](const QColor &color) {
+        painter.setPen(color);
+        painter.drawText(triggerTextBox(geometry, font, time), Qt::AlignLeft | Qt::AlignVCenter,
+            triggerText(time));
+    };
     painter.setFont(font);
-    painter.setPen(Qt::white);
-    painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter, text);
+    drawText(Qt::white);
+    if (bright.isEmpty())
+        return;
+    painter.setClipRegion(bright);
+    drawText(Qt::black);
+    painter.setClipping(false);
 }
 
 void drawDigitalRow(QPainter &painter, const PlotGeometry &geometry, const TimeAxis &axis,
     const DigitalRuns &runs, int y)
 {
-    if (runs.count() == 0 || runs.end(runs.count() - 1) >= axis.times().size())
-        return;
-    DigitalRow row(painter, geometry, axis, runs, y);
-    if (axis.runs().isEmpty())
-        row.drawAll();
-    for (const TimeAxis::Run &ascending : axis.runs())
-        row.draw(ascending);
+    const DigitalRow row(geometry, axis, runs, y);
+    for (const Stretch &stretch : row.stretches()) {
+        if (stretch.isOn) {
+            painter.fillRect(stretch.band(), bandColor);
+            fillFrame(painter, stretch.band(), rowColor);
+        } else {
+            painter.fillRect(stretch.line, rowColor);
+        }
+    }
+}
+
+QRegion digitalBands(const PlotGeometry &geometry, const TimeAxis &axis, const DigitalRuns &runs,
+    int y, const QRect &within)
+{
+    QRegion bands;
+    if (within.top() > y + bandReach || within.bottom() < y - bandReach)
+        return bands;
+    const DigitalRow row(geometry, axis, runs, y);
+    for (const Stretch &stretch : row.stretches()) {
+        if (stretch.isOn)
+            bands += stretch.bandInside() & within;
+    }
+    return bands;
 }
 
 void drawRowLabel(QPainter &painter, const QFont &font, const QString &text, int y)

@@ -5,16 +5,18 @@
 
 #include "plotgeometry.h"
 
+#include <QRegion>
+
 class DigitalRuns;
 class QColor;
 class QFont;
 class QPainter;
 class QPixmap;
-class QRect;
 class TimeAxis;
 
-// A transparent picture of so many pixels of the screen, of which each pixel of a plot is a ratio.
-QPixmap clearLayer(const QSize &pixels, qreal ratio);
+// Makes a transparent picture of so many pixels of the screen, of which each pixel of a plot is a
+// ratio. One of that size is cleared: memory given back and taken anew would cost time.
+void clearLayer(QPixmap &layer, const QSize &pixels, qreal ratio);
 
 // The part of a plot that its base layer covers when some of it is seen: all of it, but of a plot
 // with very many rows only what lies around what is seen, at most so tall.
@@ -41,12 +43,19 @@ void drawFrame(QPainter &painter, const PlotGeometry &geometry);
 // What stands at the trigger mark of a time (ms).
 QString triggerText(int time);
 
-// The trigger mark at a time (ms), when that lies in view.
-void drawTriggerMark(QPainter &painter, const PlotGeometry &geometry, const QFont &font, int time);
+// The trigger mark at a time (ms), when that lies in view, and the place of its text, which is
+// empty when it does not. The text is white, but black over what is bright.
+QRect triggerTextBox(const PlotGeometry &geometry, const QFont &font, int time);
+void drawTriggerMark(QPainter &painter, const PlotGeometry &geometry, const QFont &font, int time,
+    const QRegion &bright = {});
 
 // One digital channel around the base line y.
 void drawDigitalRow(QPainter &painter, const PlotGeometry &geometry, const TimeAxis &axis,
     const DigitalRuns &runs, int y);
+
+// The insides of its bands, as far as they lie within a rectangle.
+QRegion digitalBands(const PlotGeometry &geometry, const TimeAxis &axis, const DigitalRuns &runs,
+    int y, const QRect &within);
 
 // A row's name in the left margin, elided where it is too long.
 void drawRowLabel(QPainter &painter, const QFont &font, const QString &text, int y);

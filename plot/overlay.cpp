@@ -18,7 +18,7 @@ void Overlay::draw(const CursorMarks &cursors, const PlotGeometry &geometry, con
     const int bottom = static_cast<int>(
         std::ceil((CursorMarks::differencesTop + CursorMarks::differencesHeight) * ratio));
     m_top = top / ratio;
-    m_strip = clearLayer({(geometry.widgetSize() * ratio).width(), bottom - top}, ratio);
+    clearLayer(m_strip, {(geometry.widgetSize() * ratio).width(), bottom - top}, ratio);
     if (m_strip.isNull())
         return;
     QPainter painter(&m_strip);

@@ -107,7 +107,8 @@ BaseContent Plotter::baseContent() const
 void Plotter::paintBase(const QRect &seen)
 {
     m_base.part = layerPart(size(), seen);
-    m_base.pixmap = clearLayer(m_base.part.size() * devicePixelRatioF(), devicePixelRatioF());
+    clearLayer(m_base.pixmap, m_base.part.size() * devicePixelRatioF(), devicePixelRatioF());
+    m_base.bright = {};
     if (m_view.isEmpty() || m_base.pixmap.isNull())
         return;
     QPainter painter(&m_base.pixmap);
@@ -170,7 +171,7 @@ void Plotter::drawTrigger(QPainter *painter)
     painter->setClipping(false);
     const PlotGeometry geometry = geometryOfView();
     if (recording() && geometry.isDrawable())
-        drawTriggerMark(*painter, geometry, font(), recording()->triggerOffsetMs);
+        drawTriggerMark(*painter, geometry, font(), recording()->triggerOffsetMs, m_base.bright);
 }
 
 void Plotter::settleReadout()

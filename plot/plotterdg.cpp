@@ -79,11 +79,15 @@ void plotterDg::drawCurves(QPainter *painter)
     if (!geometry.isDrawable())
         return;
     painter->setClipRect(geometry.area());
+    const QRect trigger
+        = triggerTextBox(geometry, font(), recording() ? recording()->triggerOffsetMs : 0);
     int row = 0;
     for (const ShownChannel &shown : qAsConst(m_channels).byNumber()) {
         const int y = geometry.rowY(row++, m_channels.count());
-        if (m_base.holdsRow(y))
-            drawDigitalRow(*painter, geometry, m_timeAxis, shown.runs, y);
+        if (!m_base.holdsRow(y))
+            continue;
+        drawDigitalRow(*painter, geometry, m_timeAxis, shown.runs, y);
+        m_base.bright += digitalBands(geometry, m_timeAxis, shown.runs, y, trigger);
     }
 }
 

@@ -109,6 +109,9 @@ private slots:
     void theFrameFillsItsPixels();
     void theTriggersDashesFillTheirPixels_data() { addRatios(); }
     void theTriggersDashesFillTheirPixels();
+    void theTriggersTextIsBlackOnWhatIsBright_data() { addRatios(); }
+    void theTriggersTextIsBlackOnWhatIsBright();
+    void bandsWithinARectangle();
     void digitalRowsFillTheirPixels_data() { addRatios(); }
     void digitalRowsFillTheirPixels();
     void aBandOfTwoPixelsHasAllCorners();
@@ -420,6 +423,42 @@ void TestBaseLayer::theTriggersDashesFillTheirPixels()
         QCOMPARE(
             deviceRow(image, int(61 * ratio)), stretches({{x, x}}, white, ratio, image.width()));
     }
+}
+
+// On black, letters within it are not seen; all else is as without it.
+void TestBaseLayer::theTriggersTextIsBlackOnWhatIsBright()
+{
+    QFETCH(double, ratio);
+    const PlotGeometry geometry = geometryOf({0, 700, 7, 0, 1, 4});
+    const QImage usual
+        = paint([&](QPainter &painter) { drawTriggerMark(painter, geometry, font, 250); }, ratio);
+    QImage expected = usual;
+    for (int y = qRound(249 * ratio); y < qRound(254 * ratio); ++y) {
+        for (int x = qRound(370 * ratio); x < qRound(600 * ratio); ++x)
+            expected.setPixel(x, y, black);
+    }
+    QVERIFY(expected != usual);
+    const QImage image = paint(
+        [&](QPainter &painter) {
+            drawTriggerMark(painter, geometry, font, 250, QRect(370, 249, 230, 5));
+        },
+        ratio);
+    QCOMPARE(image, expected);
+}
+
+// On from 200 to 301 ms, which is from x = 300 to 401, and from 600 ms on.
+void TestBaseLayer::bandsWithinARectangle()
+{
+    const PlotGeometry geometry = geometryOf({0, 700, 7, 0, 1, 4});
+    const TimeAxis axis({0, 200, 301, 600, 700});
+    const DigitalRuns runs({0, 1, 0, 1, 1});
+    const auto bands
+        = [&](const QRect &within) { return digitalBands(geometry, axis, runs, 100, within); };
+    QCOMPARE(bands(area), QRegion(301, 96, 100, 9) + QRegion(701, 96, 97, 9));
+    QCOMPARE(bands(QRect(350, 100, 400, 20)), QRegion(350, 100, 51, 5) + QRegion(701, 100, 49, 5));
+    QCOMPARE(bands(QRect(100, 106, 698, 20)), QRegion());
+    QCOMPARE(bands(QRect(100, 60, 698, 35)), QRegion());
+    QCOMPARE(bands(QRect()), QRegion());
 }
 
 // Off from 0 to 200 ms, on to 301, off to 600, and on for less than a pixel there.

@@ -3,12 +3,14 @@
 
 #include "fakeplothost.h"
 #include "plotterdg.h"
+#include "textsearch.h"
 
 #include <QLabel>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QtTest>
 
+#include <algorithm>
 #include <memory>
 
 // A plot of 800 x 261 with three rows over 1000 ms: base lines at y = 100, 140 and 180.
@@ -30,6 +32,8 @@ private slots:
     void rowsStayWithinThePlotArea();
     void rowsHaveTheirNamesInTheMargin();
     void triggerAndGrid();
+    void theTriggersTextIsReadOverTheLastBand_data();
+    void theTriggersTextIsReadOverTheLastBand();
     void verticalZoomWithoutPropagationDoesNothing();
     void neverKeepsRoomForAReadout();
     void wheel_data();
@@ -252,6 +256,55 @@ void TestPlotterDg::triggerAndGrid()
     for (int y = 61; y < 220; ++y)
         white += image.pixel(450, y) == qRgb(255, 255, 255);
     QVERIFY(white > 40 && white < 159); // dashed, at 500 ms
+}
+
+void TestPlotterDg::theTriggersTextIsReadOverTheLastBand_data()
+{
+    QTest::addColumn<int>("from"); // ms, of the band
+    QTest::addColumn<int>("to"); // x, to which letters are white
+    QTest::newRow("that covers it") << 0 << 0;
+    QTest::newRow("that begins in it") << 540 << 478;
+    QTest::newRow("that begins behind it") << 900 << 797;
+}
+
+// 34 rows, 16 pixels apart: the last one has its base line at y = 604, and its band is filled from
+// y = 600 to 608. The text stands from x = 456 to y = 618.
+void TestPlotterDg::theTriggersTextIsReadOverTheLastBand()
+{
+    QFETCH(int, from);
+    QFETCH(int, to);
+    QVector<int> states(1001, 0);
+    std::fill(states.begin() + from, states.end(), 1);
+    for (int i = 3; i < 34; ++i) {
+        host->addDigital(QString::number(i), states);
+        plot->addChannel(i);
+    }
+    const QFont font = crispFont(14);
+    plot->setFont(font);
+    plot->setupPlot();
+    area->resize(800, 661);
+    plot->resize(800, 661);
+    const QImage image = plot->grab().toImage();
+
+    QImage text(image.size(), QImage::Format_RGB32);
+    text.fill(Qt::black);
+    QPainter painter(&text);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(
+        456, 618 + 1 - QFontMetrics(font).descent(), QStringLiteral("Trigger: 500 ms"));
+    painter.end();
+    const QRect ink = inkRect(text, text.rect());
+    QVERIFY(ink.top() < 606 && ink.bottom() > 612 && ink.right() > 540);
+    for (int y = ink.top(); y <= ink.bottom(); ++y) {
+        for (int x = ink.left(); x <= ink.right(); ++x) {
+            const bool isOverBand = y >= 600 && y <= 608 && x > to;
+            if (isInk(text, x, y))
+                QCOMPARE(image.pixel(x, y), isOverBand ? qRgb(0, 0, 0) : qRgb(255, 255, 255));
+            else if (isOverBand)
+                QCOMPARE(image.pixel(x, y), band);
+        }
+    }
 }
 
 void TestPlotterDg::verticalZoomWithoutPropagationDoesNothing()
