@@ -15,6 +15,7 @@ int main(int argc, char *argv[])
 {
     if (isQuestion(argc, argv))
         answerQuestion(argc, argv);
+    giveFreedPicturesBack();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(

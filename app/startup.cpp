@@ -14,6 +14,18 @@
 
 #include <cstdio>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
+void giveFreedPicturesBack()
+{
+#ifdef __GLIBC__
+    constexpr int smallestPicture = 1 << 20; // bytes
+    mallopt(M_MMAP_THRESHOLD, smallestPicture);
+#endif
+}
+
 void preferApplicationFolder()
 {
 #ifndef Q_OS_WIN

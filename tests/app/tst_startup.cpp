@@ -17,8 +17,13 @@
 #include <QTextStream>
 #include <QtTest>
 
+#include <cstdlib>
 #include <memory>
 #include <vector>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 namespace {
 
@@ -145,6 +150,24 @@ private slots:
         const QStringList tried = QFont::substitutes(QApplication::font().family());
         QVERIFY(tried.contains(QStringLiteral("noto sans cjk sc")));
         QVERIFY(tried.contains(QStringLiteral("microsoft yahei")));
+    }
+
+    // A block that the allocator took from the system alone, and not from its stock.
+    void freedPicturesGoBackToTheSystem()
+    {
+#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+        giveFreedPicturesBack();
+        for (const std::size_t megabytes : {1, 16, 2, 30, 6}) {
+            const auto before = mallinfo2();
+            void *const picture = std::malloc(megabytes << 20);
+            const auto meanwhile = mallinfo2();
+            std::free(picture);
+            QCOMPARE(meanwhile.hblks, before.hblks + 1);
+            QCOMPARE(mallinfo2().hblks, before.hblks);
+        }
+#else
+        QSKIP("The allocator is another one.");
+#endif
     }
 
     void everyBrandHasImagesOfItsOwn_data()
