@@ -173,7 +173,9 @@ QRect layerPart(const QSize &plot, const QRect &seen)
 
 void clearLayer(QPixmap &layer, const QSize &pixels, qreal ratio)
 {
-    if (layer.size() != pixels) {
+    constexpr double reserve = 1.25;
+    const QSize kept = layer.size().expandedTo(pixels).boundedTo(pixels * reserve);
+    if (layer.size() != kept) {
         layer = QPixmap(); // before the next one is made
         layer = QPixmap(pixels);
     }

@@ -15,7 +15,8 @@ class QPixmap;
 class TimeAxis;
 
 // Makes a transparent picture of so many pixels of the screen, of which each pixel of a plot is a
-// ratio. One of that size is cleared: memory given back and taken anew would cost time.
+// ratio. One that is as large or a little larger is cleared and kept as it is: plots change their
+// size by little and back when another one comes, and memory given back and taken anew costs time.
 void clearLayer(QPixmap &layer, const QSize &pixels, qreal ratio);
 
 // The part of a plot that its base layer covers when some of it is seen: all of it, but of a plot

@@ -6,6 +6,7 @@
 #include "textsearch.h"
 #include "timeaxis.h"
 
+#include <QPixmap>
 #include <QtTest>
 
 #include <cmath>
@@ -85,6 +86,8 @@ class TestBaseLayer : public QObject {
     Q_OBJECT
 
 private slots:
+    void aLayerOfAboutItsSizeIsKept_data();
+    void aLayerOfAboutItsSizeIsKept();
     void coversAPartOfATallPlot_data();
     void coversAPartOfATallPlot();
     void timeGridStandsOnItsTimes();
@@ -123,6 +126,32 @@ private:
 };
 
 // 7 intervals of 100 pixels.
+void TestBaseLayer::aLayerOfAboutItsSizeIsKept_data()
+{
+    QTest::addColumn<QSize>("pixels");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("the same size") << QSize(100, 200) << QSize(100, 200);
+    QTest::newRow("a little smaller") << QSize(99, 170) << QSize(100, 200);
+    QTest::newRow("much lower") << QSize(100, 150) << QSize(100, 150);
+    QTest::newRow("much narrower") << QSize(70, 200) << QSize(70, 200);
+    QTest::newRow("wider") << QSize(101, 190) << QSize(101, 190);
+    QTest::newRow("higher") << QSize(90, 201) << QSize(90, 201);
+}
+
+void TestBaseLayer::aLayerOfAboutItsSizeIsKept()
+{
+    QFETCH(QSize, pixels);
+    QPixmap layer(100, 200);
+    layer.fill(Qt::red);
+    clearLayer(layer, pixels, 1.5);
+    QTEST(layer.size(), "size");
+    QCOMPARE(layer.devicePixelRatio(), 1.5);
+    QImage clear(layer.size(), QImage::Format_ARGB32_Premultiplied);
+    clear.fill(Qt::transparent);
+    clear.setDevicePixelRatio(1.5);
+    QCOMPARE(layer.toImage(), clear);
+}
+
 void TestBaseLayer::coversAPartOfATallPlot_data()
 {
     QTest::addColumn<int>("height");
