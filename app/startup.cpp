@@ -22,7 +22,9 @@ void giveFreedPicturesBack()
 {
 #ifdef __GLIBC__
     constexpr int smallestPicture = 1 << 20; // bytes
+    constexpr int stock = 8 << 20; // of smaller blocks, which come and go with every redraw
     mallopt(M_MMAP_THRESHOLD, smallestPicture);
+    mallopt(M_TRIM_THRESHOLD, stock);
 #endif
 }
 
