@@ -23,6 +23,8 @@ public:
     // The number of the first spectrum; beyond all numbers where there is no recording.
     int firstSpectrum() const;
     bool isSpectrum(int number) const { return number >= firstSpectrum(); }
+    // Null where there is no such channel.
+    const AnalogChannel *channel(int number) const;
     // What the samples are multiplied by; 1 where there is no such channel.
     double factor(int number) const;
     ShownChannel shown(int number) const;
@@ -32,8 +34,6 @@ public:
     ValueExtremes prepare(QMap<int, ShownChannel> &channels) const;
 
 private:
-    const AnalogChannel *channel(int number) const;
-
     const PlotHost *m_host;
     const CFGProperties *m_recording;
     int m_valueMode;

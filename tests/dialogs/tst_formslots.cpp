@@ -3,6 +3,8 @@
 
 #include "addplotterdialog.h"
 #include "ctvtdialog.h"
+#include "eventsdialog.h"
+#include "measurementsdialog.h"
 #include "savedialog.h"
 #include "vectordialog.h"
 
@@ -33,6 +35,8 @@ void TestFormSlots::allHaveTheirSignals()
     QObject host;
     AddPlotterDialog addPlotter;
     CTVTDialog ctvt;
+    EventsDialog events;
+    MeasurementsDialog measurements;
     SaveDialog save;
     VectorDialog vectors;
     vectors.setMainWindow(&host);

@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "texttable.h"
+
+#include "labeltext.h"
+
+#include <functional>
+
+namespace {
+
+QString joined(const TextTable &table, const std::function<QString(const QString &)> &field,
+    const QString &separator, const QString &lineEnd)
+{
+    QString text;
+    for (const QStringList &row : QVector<QStringList>{table.headings} + table.rows) {
+        QStringList fields;
+        for (const QString &cell : row)
+            fields.append(field(cell));
+        text += fields.join(separator) + lineEnd;
+    }
+    return text;
+}
+
+QString quoted(QString cell)
+{
+    static const QString marks = QStringLiteral(",\"\r\n");
+    const auto isMark = [](QChar c) { return marks.contains(c); };
+    if (std::none_of(cell.cbegin(), cell.cend(), isMark))
+        return cell;
+    const QString quote = QStringLiteral("\"");
+    return quote + cell.replace(quote, quote + quote) + quote;
+}
+
+} // namespace
+
+QString TextTable::tabSeparated() const
+{
+    return joined(
+        *this, [](const QString &cell) { return cell.simplified(); }, QStringLiteral("\t"),
+        QStringLiteral("\n"));
+}
+
+QByteArray TextTable::commaSeparated() const
+{
+    return "\xEF\xBB\xBF"
+        + joined(*this, quoted, QStringLiteral(","), QStringLiteral("\r\n")).toUtf8();
+}
+
+void TextTableModel::setTable(const TextTable &table)
+{
+    const bool isAsLarge = table.rows.size() == m_table.rows.size()
+        && table.headings.size() == m_table.headings.size() && table.names == m_table.names;
+    if (!isAsLarge)
+        beginResetModel();
+    m_table = table;
+    if (!isAsLarge) {
+        endResetModel();
+    } else if (rowCount() > 0 && columnCount() > 0) {
+        emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+        emit headerDataChanged(Qt::Vertical, 0, rowCount() - 1);
+        emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+    }
+}
+
+int TextTableModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_table.rows.size();
+}
+
+int TextTableModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : std::max(0, m_table.headings.size() - m_table.names);
+}
+
+QVariant TextTableModel::data(const QModelIndex &index, int role) const
+{
+    if (role == Qt::DisplayRole)
+        return m_table.rows.at(index.row()).at(m_table.names + index.column());
+    if (role == Qt::TextAlignmentRole)
+        return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
+    return QVariant();
+}
+
+QVariant TextTableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    const bool isColumn = orientation == Qt::Horizontal;
+    if (role == Qt::TextAlignmentRole && !isColumn)
+        return static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter);
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
+        return QVariant();
+    QStringList texts = isColumn
+        ? m_table.headings.mid(m_table.names + section, 1)
+        : static_cast<QStringList>(m_table.rows.at(section).mid(0, m_table.names));
+    texts.removeAll(QString());
+    const QString text = texts.join(QStringLiteral(", "));
+    return role == Qt::ToolTipRole ? plainToolTip(text) : text;
+}

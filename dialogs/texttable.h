@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QStringList>
+#include <QVector>
+
+// A table of texts. The columns at the left name the row, the others are its cells.
+struct TextTable {
+    QStringList headings; // one for each column
+    int names = 1; // columns that name the row
+    QVector<QStringList> rows; // each as long as the headings
+
+    // Headings and rows, with tabs between the columns, as spreadsheets paste it.
+    QString tabSeparated() const;
+    // The same with commas, by RFC 4180, in UTF-8 with the mark that spreadsheets know it by.
+    QByteArray commaSeparated() const;
+};
+
+// Shows a table: its cells, with the names of a row as its header.
+class TextTableModel : public QAbstractTableModel {
+    Q_OBJECT
+
+public:
+    using QAbstractTableModel::QAbstractTableModel;
+
+    // Another table of the same size keeps what is selected.
+    void setTable(const TextTable &table);
+    const TextTable &table() const { return m_table; }
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(
+        int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+
+private:
+    TextTable m_table;
+};

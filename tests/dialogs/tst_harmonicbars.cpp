@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "harmonicbars.h"
+
+#include <QtTest>
+
+namespace {
+
+const QColor blue(0x00, 0xb9, 0xf2);
+const QColor panel(0x31, 0x30, 0x34);
+
+Harmonics harmonicsOf(const QList<double> &values)
+{
+    Harmonics harmonics;
+    for (int i = 0; i < values.size(); ++i)
+        harmonics[static_cast<size_t>(i)] = values.at(i);
+    return harmonics;
+}
+
+} // namespace
+
+class TestHarmonicBars : public QObject {
+    Q_OBJECT
+
+private slots:
+    void barsAreAsHighAsTheHarmonics();
+    void barsStandSideBySide_data();
+    void barsStandSideBySide();
+    void barsAreDrawnInTheirPlaces();
+    void withoutHarmonicsThereIsAText();
+    void whatIsNotFiniteHasNoBar();
+};
+
+void TestHarmonicBars::barsAreAsHighAsTheHarmonics()
+{
+    HarmonicBars bars;
+    bars.resize(462, 300);
+    bars.setHarmonics(harmonicsOf({10, 5, 0, 2.5}), QString());
+    const int room = 300 - 2 * 6 - 2 * bars.fontMetrics().height(); // beside the texts
+    QCOMPARE(bars.bar(1).height(), room);
+    QCOMPARE(bars.bar(2).height(), qRound(room / 2.0));
+    QCOMPARE(bars.bar(3).height(), 0);
+    QCOMPARE(bars.bar(4).height(), qRound(room / 4.0));
+    QVERIFY(bars.bar(5).isNull()); // there is no fifth
+    QCOMPARE(bars.bar(1).bottom(), bars.bar(4).bottom());
+    // The highest need not be the fundamental.
+    bars.setHarmonics(harmonicsOf({5, 10}), QString());
+    QCOMPARE(bars.bar(1).height(), qRound(room / 2.0));
+    QCOMPARE(bars.bar(2).height(), room);
+}
+
+void TestHarmonicBars::barsStandSideBySide_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("as small as can be") << HarmonicBars().minimumSizeHint();
+    QTest::newRow("usual") << QSize(400, 250);
+    QTest::newRow("wide") << QSize(1777, 250);
+}
+
+void TestHarmonicBars::barsStandSideBySide()
+{
+    QFETCH(QSize, size);
+    HarmonicBars bars;
+    bars.resize(size);
+    bars.setHarmonics(harmonicsOf({1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1}), QString());
+    QRect before(0, 0, 1, 1);
+    for (int order = 1; order <= 15; ++order) {
+        const QRect bar = bars.bar(order);
+        QVERIFY(bar.width() > 0 && bar.height() > 0);
+        QVERIFY(bar.left() > before.right());
+        QVERIFY(bars.rect().contains(bar));
+        before = bar;
+    }
+}
+
+void TestHarmonicBars::barsAreDrawnInTheirPlaces()
+{
+    HarmonicBars bars;
+    bars.resize(462, 300);
+    bars.setHarmonics(harmonicsOf({10, 5}), QString());
+    const QImage picture = bars.grab().toImage();
+    QCOMPARE(picture.pixelColor(bars.bar(2).center()), blue);
+    QCOMPARE(picture.pixelColor(bars.bar(2).topLeft()), blue);
+    QCOMPARE(picture.pixelColor(bars.bar(2).bottomRight()), blue);
+    QCOMPARE(picture.pixelColor(bars.bar(2).left() - 1, bars.bar(2).center().y()), panel);
+    QCOMPARE(picture.pixelColor(bars.bar(1).right() + 1, bars.bar(1).center().y()), panel);
+    // The order below the bar and the share above it.
+    const auto hasText = [&](int top) {
+        const QRect place(bars.bar(2).left(), top, bars.bar(2).width(), 14);
+        bool found = false;
+        for (int x = place.left(); x <= place.right(); ++x) {
+            for (int y = place.top(); y <= place.bottom(); ++y)
+                found = found || picture.pixelColor(x, y).lightness() > 150;
+        }
+        return found;
+    };
+    QVERIFY(hasText(bars.bar(2).bottom() + 2));
+    QVERIFY(hasText(bars.bar(2).top() - 15));
+}
+
+void TestHarmonicBars::withoutHarmonicsThereIsAText()
+{
+    HarmonicBars bars;
+    bars.resize(462, 300);
+    const QImage empty = bars.grab().toImage();
+    bars.setHarmonics(Harmonics(), QStringLiteral("There is no cursor."));
+    QVERIFY(bars.bar(1).isNull());
+    QVERIFY(bars.grab().toImage() != empty);
+    bars.setHarmonics(harmonicsOf({0, 0}), QString()); // a dead channel
+    QVERIFY(bars.bar(1).isNull());
+    QVERIFY(!bars.grab().isNull());
+}
+
+void TestHarmonicBars::whatIsNotFiniteHasNoBar()
+{
+    HarmonicBars bars;
+    bars.resize(462, 300);
+    bars.setHarmonics(harmonicsOf({10, qInf(), qQNaN()}), QString());
+    QVERIFY(bars.bar(1).height() > 0);
+    QVERIFY(bars.bar(2).isNull());
+    QVERIFY(bars.bar(3).isNull());
+    QVERIFY(!bars.grab().isNull());
+}
+
+QTEST_MAIN(TestHarmonicBars)
+#include "tst_harmonicbars.moc"

@@ -1,0 +1,578 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "elidingcombobox.h"
+#include "fakeplothost.h"
+#include "harmonicbars.h"
+#include "measurementsdialog.h"
+#include "plotterdg.h"
+#include "pseudotranslator.h"
+
+#include <QCheckBox>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <cmath>
+
+namespace {
+
+// Tells the dialog of the plot's redrawings, as the window does.
+class Host : public FakePlotHost {
+public:
+    void refreshVectors() override
+    {
+        if (dialog)
+            dialog->refresh();
+    }
+    MeasurementsDialog *dialog = nullptr;
+};
+
+// Cells are told apart by bars.
+QStringList lines(const QTableView *view)
+{
+    QStringList result;
+    const QAbstractItemModel *model = view->model();
+    for (int row = 0; row < model->rowCount(); ++row) {
+        QStringList cells{model->headerData(row, Qt::Vertical).toString()};
+        for (int column = 0; column < model->columnCount(); ++column)
+            cells.append(model->index(row, column).data().toString());
+        result.append(cells.join(QLatin1Char('|')));
+    }
+    return result;
+}
+
+QStringList headings(const QTableView *view)
+{
+    QStringList result;
+    for (int column = 0; column < view->model()->columnCount(); ++column)
+        result.append(view->model()->headerData(column, Qt::Horizontal).toString());
+    return result;
+}
+
+QStringList texts(const QList<const char *> &expected)
+{
+    QStringList result;
+    for (const char *text : expected)
+        result.append(QString::fromUtf8(text));
+    return result;
+}
+
+} // namespace
+
+// A recording of 101 samples, one each millisecond, with cycles of 20 samples: IL1 counts up from 0
+// and is secondary at 400/5, IL2 counts down and is primary, Freq names no side. Their phasors are
+// 10 at 30 degrees, 20 at -90, and none.
+class TestMeasurementsDialog : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void tellsTheValuesAtTheCursors();
+    void tellsWhatIsTicked();
+    void tellsTheSide_data();
+    void tellsTheSide();
+    void measuresSpectraAndDigitalPlots();
+    void followsTheCursors();
+    void followsTheChannelsOfThePlot();
+    void measuresChannelsWithoutAPlotOfTheirOwn();
+    void anglesGoByTheChosenReference();
+    void differencesGoBetweenTheChosenCursors();
+    void chosenCursorsStayAsLongAsTheyExist();
+    void sequencesAreThoseOfTheChosenPhases();
+    void harmonicsAreThoseOfTheChosenChannel();
+    void refreshesOnceForManyRequests();
+    void refreshesNothingWhileHidden();
+    void turnsItsPagesByKeys();
+    void copiesTheTableShown();
+    void savesTheTableShown();
+    void tellsWhySavingFailed_data();
+    void tellsWhySavingFailed();
+    void survivesTheEndOfThePlot();
+    void survivesTheEndOfTheRecording();
+    void survivesAStrangerAsMainWindow();
+    void beginsAnewWithAnotherRecording();
+    void everyWidgetHasAName();
+    void retranslatesOnALanguageChange();
+
+private:
+    template <class T> T *child(const char *name) const
+    {
+        return dialog->findChild<T *>(QLatin1String(name));
+    }
+    QTableView *view(const char *name) const { return child<QTableView>(name); }
+    QStringList atCursors() const { return lines(view("tableView_cursors")); }
+    void tick(const char *box) { QTest::mouseClick(child<QCheckBox>(box), Qt::LeftButton); }
+    void turnTo(int page) { child<QTabWidget>("tabWidget")->setCurrentIndex(page); }
+    void choose(const char *box, int entry) { child<ElidingComboBox>(box)->setCurrentIndex(entry); }
+    int chosen(const char *box) const { return child<ElidingComboBox>(box)->currentIndex(); }
+    void saveInto(const QString &path);
+
+    std::unique_ptr<Host> host;
+    std::unique_ptr<Plotter> plot;
+    std::unique_ptr<MeasurementsDialog> dialog;
+};
+
+void TestMeasurementsDialog::init()
+{
+    host = std::make_unique<Host>();
+    QVector<double> times;
+    QVector<float> up;
+    QVector<float> down;
+    for (int i = 0; i <= 100; ++i) {
+        times.append(i);
+        up.append(static_cast<float>(i));
+        down.append(static_cast<float>(-i));
+    }
+    host->setTimes(times);
+    host->source->sampleRate = 1000;
+    host->source->lineFrequency = 50;
+    host->source->samplesPerCycle = 20;
+    AnalogChannel *first = host->addAnalog(QStringLiteral("IL1"), up);
+    first->ps = QStringLiteral("S");
+    first->toPrimary = 80;
+    first->secondary = 5;
+    first->fftAngles.fill(static_cast<float>(M_PI / 6), 101);
+    first->fftMagnitudes.fill(10, 101);
+    AnalogChannel *second = host->addAnalog(QStringLiteral("IL2"), down, QStringLiteral("kA"));
+    second->ps = QStringLiteral("P");
+    second->toSecondary = 0.5;
+    second->primary = 100;
+    second->fftAngles.fill(static_cast<float>(-M_PI / 2), 101);
+    second->fftMagnitudes.fill(20, 101);
+    host->addAnalog(QStringLiteral("Freq"), up, QStringLiteral("Hz"));
+    host->addDigital(QStringLiteral("TRIP"), QVector<int>(101, 1));
+
+    plot = std::make_unique<Plotter>(nullptr);
+    plot->setMainWindow(host.get());
+    plot->setName(QStringLiteral("Analog"));
+    plot->resize(900, 400);
+    plot->addChannel(0);
+    plot->addChannel(1);
+    plot->setupPlot();
+    plot->addCursorAt(20);
+    plot->addCursorAt(50.2);
+
+    dialog = std::make_unique<MeasurementsDialog>();
+    dialog->setMainWindow(host.get());
+    host->dialog = dialog.get();
+    dialog->showForPlotter(plot.get());
+    QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
+}
+
+void TestMeasurementsDialog::cleanup()
+{
+    host->dialog = nullptr;
+    dialog.reset();
+    plot.reset();
+    host.reset();
+}
+
+void TestMeasurementsDialog::tellsTheValuesAtTheCursors()
+{
+    QVERIFY(!dialog->isModal());
+    QCOMPARE(dialog->windowTitle(), QStringLiteral("Measurements: Analog"));
+    QCOMPARE(headings(view("tableView_cursors")), texts({"P1 (20.000 ms)", "P2 (50.200 ms)"}));
+    QCOMPARE(atCursors(),
+        texts({"IL1, Value, A (primary)|1600|4000", "IL2, Value, kA (primary)|-20|-50"}));
+}
+
+void TestMeasurementsDialog::tellsWhatIsTicked()
+{
+    tick("checkBox_angle");
+    QCOMPARE(atCursors(),
+        texts({"IL1, Value, A (primary)|1600|4000", "IL1, Angle, °|30.00|30.00",
+            "IL2, Value, kA (primary)|-20|-50", "IL2, Angle, °|-90.00|-90.00"}));
+    tick("checkBox_angle");
+    tick("checkBox_fundamental");
+    QCOMPARE(atCursors().at(1), QStringLiteral("IL1, RMS of fundamental, A (primary)|800|800"));
+    tick("checkBox_trueRms"); // of 1 to 20 the root of 143.5, of 31 to 50 that of 1673.5
+    QCOMPARE(atCursors().at(2), QStringLiteral("IL1, True RMS, A (primary)|958.332|3272.67"));
+    tick("checkBox_peak");
+    QCOMPARE(atCursors().at(3), QStringLiteral("IL1, Peak, A (primary)|1600|4000"));
+    QCOMPARE(atCursors().at(7), QStringLiteral("IL2, Peak, kA (primary)|20|50"));
+    for (const char *box : {"checkBox_fundamental", "checkBox_trueRms", "checkBox_peak"})
+        tick(box);
+    QCOMPARE(atCursors().size(), 2);
+}
+
+void TestMeasurementsDialog::tellsTheSide_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QStringList>("rows");
+    QTest::newRow("primary") << 0
+                             << texts({"IL1, Value, A (primary)|1600|4000",
+                                    "IL2, Value, kA (primary)|-20|-50", "Freq, Value, Hz|20|50"});
+    QTest::newRow("secondary") << 1
+                               << texts({"IL1, Value, A (secondary)|20|50",
+                                      "IL2, Value, kA (secondary)|-10|-25",
+                                      "Freq, Value, Hz|20|50"});
+    QTest::newRow("per unit") << 2
+                              << texts({"IL1, Value, p.u.|4|10", "IL2, Value, p.u.|-0.2|-0.5",
+                                     "Freq, Value, Hz|20|50"});
+}
+
+void TestMeasurementsDialog::tellsTheSide()
+{
+    QFETCH(int, mode);
+    QFETCH(QStringList, rows);
+    plot->showChannels({0, 1, 2});
+    host->mode = mode;
+    plot->rescaleValues();
+    plot->refreshPixmap();
+    QTRY_COMPARE(atCursors(), rows);
+}
+
+void TestMeasurementsDialog::measuresSpectraAndDigitalPlots()
+{
+    plot->showChannels({3}); // the spectrum of IL1
+    plot->refreshPixmap();
+    tick("checkBox_angle");
+    tick("checkBox_peak");
+    QTRY_COMPARE(atCursors(),
+        texts({"IL1 FFT, Value, A (primary)|800|800", "IL1 FFT, Angle, °|30.00|30.00"}));
+    plotterDg digital(nullptr);
+    digital.setMainWindow(host.get());
+    digital.setName(QStringLiteral("Digital"));
+    digital.addChannel(0);
+    digital.setupPlot();
+    digital.addCursorAt(30);
+    dialog->showForPlotter(&digital);
+    QTRY_COMPARE(atCursors(), texts({"TRIP, Value|1"}));
+    QCOMPARE(dialog->windowTitle(), QStringLiteral("Measurements: Digital"));
+    QCOMPARE(chosen("comboBox_phase1"), 0);
+    QCOMPARE(chosen("comboBox_channel"), 0);
+}
+
+void TestMeasurementsDialog::followsTheCursors()
+{
+    plot->addCursorAt(99.6);
+    QTRY_COMPARE(atCursors().at(0), QStringLiteral("IL1, Value, A (primary)|1600|4000|8000"));
+    plot->addCursorAt(200); // outside the recording
+    QTRY_COMPARE(atCursors().at(0), QStringLiteral("IL1, Value, A (primary)|1600|4000|8000|"));
+    plot->clearCursors();
+    plot->refreshPixmap();
+    QTRY_COMPARE(atCursors().at(0), QStringLiteral("IL1, Value, A (primary)"));
+    plot->addCursorAt(1);
+    QTRY_COMPARE(atCursors().at(0), QStringLiteral("IL1, Value, A (primary)|80"));
+}
+
+void TestMeasurementsDialog::followsTheChannelsOfThePlot()
+{
+    plot->showChannels({2});
+    plot->refreshPixmap();
+    QTRY_COMPARE(atCursors(), texts({"Freq, Value, Hz|20|50"}));
+    plot->showChannels({});
+    plot->refreshPixmap();
+    QTRY_COMPARE(atCursors(), QStringList());
+}
+
+void TestMeasurementsDialog::measuresChannelsWithoutAPlotOfTheirOwn()
+{
+    dialog->showForChannels(plot.get(), {1, 2}, 1);
+    QTRY_COMPARE(atCursors(), texts({"IL2, Value, kA (primary)|-20|-50", "Freq, Value, Hz|20|50"}));
+    QCOMPARE(dialog->windowTitle(), QStringLiteral("Measurements"));
+    QCOMPARE(child<ElidingComboBox>("comboBox_reference")->currentText(), QStringLiteral("IL2"));
+    QCOMPARE(chosen("comboBox_phase1"), 2);
+    plot->showChannels({0}); // is of no concern
+    plot->refreshPixmap();
+    QTest::qWait(20);
+    QCOMPARE(atCursors().size(), 2);
+    dialog->showForPlotter(plot.get());
+    QTRY_COMPARE(atCursors(), texts({"IL1, Value, A (primary)|1600|4000"}));
+}
+
+void TestMeasurementsDialog::anglesGoByTheChosenReference()
+{
+    tick("checkBox_angle");
+    choose("comboBox_reference", 2);
+    QCOMPARE(atCursors().at(1), QStringLiteral("IL1, Angle, °|120.00|120.00"));
+    QCOMPARE(atCursors().at(3), QStringLiteral("IL2, Angle, °|0.00|0.00"));
+    choose("comboBox_reference", 3); // which has no phasors
+    QCOMPARE(atCursors().at(1), QStringLiteral("IL1, Angle, °||"));
+    choose("comboBox_reference", 0);
+    QCOMPARE(atCursors().at(1), QStringLiteral("IL1, Angle, °|30.00|30.00"));
+    host->reference = 1; // that of the window, from the next opening on
+    dialog->showForPlotter(plot.get());
+    QTRY_COMPARE(atCursors().at(3), QStringLiteral("IL2, Angle, °|-120.00|-120.00"));
+}
+
+void TestMeasurementsDialog::differencesGoBetweenTheChosenCursors()
+{
+    plot->addCursorAt(90);
+    turnTo(1);
+    const QTableView *table = view("tableView_differences");
+    QCOMPARE(headings(table),
+        texts({"P1", "P2", "Difference", "Smallest", "at (ms)", "Largest", "at (ms)"}));
+    QCOMPARE(lines(table),
+        texts({"Time, ms|20.000|50.200|30.200||||", "Time, cycles|||1.510||||",
+            "IL1, Value, A (primary)|1600|4000|2400|1600|20.000|4000|50.000",
+            "IL2, Value, kA (primary)|-20|-50|-30|-50|50.000|-20|20.000"}));
+    choose("comboBox_from", 2);
+    QCOMPARE(lines(table).at(2),
+        QStringLiteral("IL1, Value, A (primary)|7200|4000|-3200|4000|50.000|7200|90.000"));
+    QCOMPARE(headings(table).mid(0, 2), texts({"P3", "P2"}));
+    choose("comboBox_to", 0);
+    QCOMPARE(lines(table).at(0), QStringLiteral("Time, ms|90.000|20.000|-70.000||||"));
+}
+
+void TestMeasurementsDialog::chosenCursorsStayAsLongAsTheyExist()
+{
+    plot->addCursorAt(90);
+    turnTo(1);
+    choose("comboBox_from", 2);
+    choose("comboBox_to", 1);
+    plot->addCursorAt(95);
+    QTRY_COMPARE(child<ElidingComboBox>("comboBox_to")->count(), 4);
+    QCOMPARE(chosen("comboBox_from"), 2);
+    QCOMPARE(chosen("comboBox_to"), 1);
+    plot->clearCursors();
+    plot->refreshPixmap();
+    QTRY_COMPARE(child<ElidingComboBox>("comboBox_to")->count(), 0);
+    QVERIFY(lines(view("tableView_differences")).isEmpty());
+    plot->addCursorAt(10);
+    plot->addCursorAt(30);
+    QTRY_COMPARE(lines(view("tableView_differences")).value(0),
+        QStringLiteral("Time, ms|10.000|30.000|20.000||||"));
+}
+
+// A third of each: 800 at 30 degrees and 20 at -90, turned by 120 degrees and by -120. Of the
+// positive sequence 20 turns to 30 degrees and adds up with 800; of the negative one it turns to
+// 150. Both divided by 3.
+void TestMeasurementsDialog::sequencesAreThoseOfTheChosenPhases()
+{
+    host->source->analogChannels.at(2)->fftAngles.fill(0, 101);
+    host->source->analogChannels.at(2)->fftMagnitudes.fill(0, 101);
+    turnTo(2);
+    const QTableView *table = view("tableView_sequences");
+    QCOMPARE(headings(table), texts({"P1 (20.000 ms)", "P2 (50.200 ms)"}));
+    QCOMPARE(lines(table).at(0), QStringLiteral("Positive sequence, RMS||")); // only two are shown
+    choose("comboBox_phase3", 3);
+    QCOMPARE(lines(table).mid(0, 2),
+        texts(
+            {"Positive sequence, RMS|273.333|273.333", "Positive sequence, Angle, °|30.00|30.00"}));
+    choose("comboBox_phase1", 3);
+    choose("comboBox_phase3", 1); // the sum of all is (692.82, 400 - 20)
+    QCOMPARE(lines(table).at(5), QStringLiteral("Zero sequence, Angle, °|28.74|28.74"));
+}
+
+void TestMeasurementsDialog::harmonicsAreThoseOfTheChosenChannel()
+{
+    turnTo(3);
+    const QTableView *table = view("tableView_harmonics");
+    QCOMPARE(headings(table), texts({"RMS, A (primary)", "% of fundamental"}));
+    QCOMPARE(lines(table).size(), 15);
+    QCOMPARE(lines(table).at(0), QStringLiteral("1|800|100.00"));
+    QVERIFY(child<HarmonicBars>("bars")->bar(1).height() > 0);
+    choose("comboBox_channel", 2);
+    QCOMPARE(lines(table).at(0), QStringLiteral("1|20|100.00"));
+    QCOMPARE(headings(table).at(0), QStringLiteral("RMS, kA (primary)"));
+    choose("comboBox_channel", 3);
+    QCOMPARE(lines(table).at(0), QStringLiteral("1||"));
+    QVERIFY(child<HarmonicBars>("bars")->bar(1).isNull());
+    choose("comboBox_channel", 1);
+    plot->addCursorAt(95); // too near to the end
+    QTRY_COMPARE(child<ElidingComboBox>("comboBox_cursor")->count(), 3);
+    choose("comboBox_cursor", 2);
+    QCOMPARE(lines(table).at(0), QStringLiteral("1||"));
+    choose("comboBox_cursor", 1);
+    QCOMPARE(lines(table).at(0), QStringLiteral("1|800|100.00"));
+}
+
+void TestMeasurementsDialog::refreshesOnceForManyRequests()
+{
+    const QSignalSpy changes(view("tableView_cursors")->model(), &QAbstractItemModel::dataChanged);
+    for (int i = 0; i < 8; ++i)
+        dialog->refresh();
+    QCOMPARE(changes.count(), 0);
+    QTRY_COMPARE(changes.count(), 1);
+    QTest::qWait(30);
+    QCOMPARE(changes.count(), 1);
+}
+
+void TestMeasurementsDialog::refreshesNothingWhileHidden()
+{
+    dialog->hide();
+    plot->addCursorAt(60);
+    QTest::qWait(30);
+    QCOMPARE(atCursors().at(0), QStringLiteral("IL1, Value, A (primary)|1600|4000"));
+    dialog->show();
+    QCOMPARE(atCursors().at(0), QStringLiteral("IL1, Value, A (primary)|1600|4000|4800"));
+}
+
+void TestMeasurementsDialog::turnsItsPagesByKeys()
+{
+    const auto *pages = child<QTabWidget>("tabWidget");
+    dialog->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
+    for (const int page : {1, 2, 3, 0, 1}) {
+        QTest::keyClick(dialog.get(), Qt::Key_Tab, Qt::ControlModifier);
+        QCOMPARE(pages->currentIndex(), page);
+        QCOMPARE(child<QCheckBox>("checkBox_angle")->isEnabled(), page < 2);
+    }
+    child<QCheckBox>("checkBox_angle")->setFocus();
+    for (const int page : {0, 3}) {
+        QTest::keyClick(dialog.get(), Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(pages->currentIndex(), page);
+    }
+    QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    QVERIFY(!dialog->isVisible());
+}
+
+void TestMeasurementsDialog::copiesTheTableShown()
+{
+    const QString expected = QStringLiteral("Channel\tQuantity\tUnit\tP1 (20.000 ms)\tP2 (50.200 "
+                                            "ms)\nIL1\tValue\tA (primary)\t1600\t4000\n"
+                                            "IL2\tValue\tkA (primary)\t-20\t-50\n");
+    QTest::mouseClick(child<QPushButton>("pushButton_copy"), Qt::LeftButton);
+    QCOMPARE(QGuiApplication::clipboard()->text(), expected);
+    QGuiApplication::clipboard()->clear();
+    dialog->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
+    QTest::keyClick(dialog.get(), Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QGuiApplication::clipboard()->text(), expected);
+    view("tableView_cursors")->setFocus(); // which would copy a cell by itself
+    QGuiApplication::clipboard()->clear();
+    QTest::keyClick(view("tableView_cursors"), Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QGuiApplication::clipboard()->text(), expected);
+    turnTo(3);
+    QTest::mouseClick(child<QPushButton>("pushButton_copy"), Qt::LeftButton);
+    QVERIFY(QGuiApplication::clipboard()->text().startsWith(
+        QLatin1String("Harmonic\tRMS, A (primary)\t% of fundamental\n1\t800\t100.00\n")));
+}
+
+// Answers the file dialog that the button opens.
+void TestMeasurementsDialog::saveInto(const QString &path)
+{
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, dialog.get(), [&] {
+        auto *box = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        if (!box || !box->isVisible())
+            return;
+        timer.stop();
+        if (path.isEmpty())
+            return box->reject();
+        box->selectFile(path);
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+    timer.start(10);
+    QTest::mouseClick(child<QPushButton>("pushButton_save"), Qt::LeftButton);
+}
+
+void TestMeasurementsDialog::savesTheTableShown()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("values.csv"));
+    const QSignalSpy saved(dialog.get(), &MeasurementsDialog::saved);
+    saveInto(QString());
+    QCOMPARE(saved.count(), 0);
+    saveInto(path);
+    QCOMPARE(saved.count(), 1);
+    QCOMPARE(saved.at(0), QVariantList({QString(), QString()}));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(),
+        QByteArray("\xEF\xBB\xBF"
+                   "Channel,Quantity,Unit,P1 (20.000 ms),P2 (50.200 ms)\r\n"
+                   "IL1,Value,A (primary),1600,4000\r\nIL2,Value,kA (primary),-20,-50\r\n"));
+}
+
+void TestMeasurementsDialog::tellsWhySavingFailed_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("no such folder") << QStringLiteral("/nowhere/values.csv");
+#ifdef Q_OS_UNIX
+    QTest::newRow("a device") << QStringLiteral("/dev/null");
+#endif
+}
+
+void TestMeasurementsDialog::tellsWhySavingFailed()
+{
+    QFETCH(QString, path);
+    const QSignalSpy saved(dialog.get(), &MeasurementsDialog::saved);
+    dialog->saveTable(path);
+    QCOMPARE(saved.count(), 1);
+    QCOMPARE(saved.at(0).at(0).toString(), path);
+    QVERIFY(!saved.at(0).at(1).toString().isEmpty());
+}
+
+void TestMeasurementsDialog::survivesTheEndOfThePlot()
+{
+    plot.reset();
+    dialog->refresh();
+    QTRY_COMPARE(atCursors(), QStringList());
+    for (int page = 3; page >= 0; --page)
+        turnTo(page);
+    QCOMPARE(dialog->windowTitle(), QStringLiteral("Measurements"));
+}
+
+void TestMeasurementsDialog::survivesTheEndOfTheRecording()
+{
+    host->hasRecording = false;
+    dialog->refresh();
+    QTRY_COMPARE(atCursors(), QStringList());
+    for (int page = 3; page >= 0; --page)
+        turnTo(page);
+    dialog->setPlotter(nullptr);
+    QCOMPARE(child<ElidingComboBox>("comboBox_reference")->count(), 1);
+}
+
+void TestMeasurementsDialog::survivesAStrangerAsMainWindow()
+{
+    QObject stranger;
+    dialog->setMainWindow(&stranger);
+    dialog->showForPlotter(plot.get());
+    for (int page = 3; page >= 0; --page)
+        turnTo(page);
+    QCOMPARE(atCursors(), QStringList());
+}
+
+// Also of the extremes, which are kept for each channel.
+void TestMeasurementsDialog::beginsAnewWithAnotherRecording()
+{
+    turnTo(1);
+    QCOMPARE(lines(view("tableView_differences")).size(), 4);
+    dialog->setPlotter(nullptr);
+    host->source->analogChannels.at(0)->values.fill(7);
+    dialog->setPlotter(plot.get());
+    QTRY_COMPARE(lines(view("tableView_differences")).value(2),
+        QStringLiteral("IL1, Value, A (primary)|560|560|0|560|20.000|560|20.000"));
+}
+
+// For those who hear the window: a text of its own, or a label for it.
+void TestMeasurementsDialog::everyWidgetHasAName()
+{
+    QList<const QWidget *> labelled;
+    for (const QLabel *label : dialog->findChildren<QLabel *>())
+        labelled.append(label->buddy());
+    for (const QTableView *table : dialog->findChildren<QTableView *>())
+        QVERIFY(!table->accessibleName().isEmpty());
+    QVERIFY(!child<HarmonicBars>("bars")->accessibleName().isEmpty());
+    const auto boxes = dialog->findChildren<ElidingComboBox *>();
+    QCOMPARE(boxes.size(), 8);
+    for (const ElidingComboBox *box : boxes)
+        QVERIFY2(labelled.contains(box), qPrintable(box->objectName()));
+}
+
+void TestMeasurementsDialog::retranslatesOnALanguageChange()
+{
+    PseudoTranslator translator;
+    QCoreApplication::installTranslator(&translator);
+    QTRY_COMPARE(dialog->windowTitle(),
+        QStringLiteral("<MeasurementsDialog>Measurements: %1").arg(plot->name()));
+    QCOMPARE(atCursors().at(0),
+        QStringLiteral(
+            "IL1, <MeasurementsDialog>Value, A (<MeasurementsDialog>primary)|1600|4000"));
+    QCOMPARE(child<QPushButton>("pushButton_copy")->text(),
+        QStringLiteral("<MeasurementsDialog>&Copy Table"));
+}
+
+QTEST_MAIN(TestMeasurementsDialog)
+#include "tst_measurementsdialog.moc"
