@@ -45,6 +45,9 @@ MainWindow::MainWindow(QWidget *parent)
     m_saveDialog = new SaveDialog(this);
     m_ctvtDialog = new CTVTDialog(this);
     m_sideWindows = new SideWindows(this);
+    connect(m_sideWindows, &SideWindows::saved, this, &MainWindow::reportSaving);
+    connect(m_vectorDialog, &VectorDialog::measurementsWanted, m_sideWindows,
+        &SideWindows::showMeasurementsOf);
     m_translator = new QTranslator(this);
 
     for (QWidget *widget : {static_cast<QWidget *>(ui->groupBox), ui->scrollWidget}) {
@@ -97,6 +100,7 @@ QString MainWindow::recordingsFolder() const
 void MainWindow::refreshVectors()
 {
     m_vectorDialog->refresh();
+    m_sideWindows->refresh();
 }
 
 void MainWindow::slotLanguageChanged(QAction *action)

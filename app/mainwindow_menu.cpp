@@ -24,7 +24,7 @@ void MainWindow::fillPlotMenu(QMenu &menu, Plotter &plot, const QPoint &point, i
     menu.addSeparator();
     entries.addNewCursors(point);
     menu.addSeparator();
-    m_sideWindows->addTo(menu);
+    m_sideWindows->addTo(menu, plot);
     menu.addSeparator();
     addOutputs(menu, plot);
 }

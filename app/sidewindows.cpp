@@ -4,6 +4,7 @@
 #include "sidewindows.h"
 
 #include "eventsdialog.h"
+#include "measurementsdialog.h"
 #include "plotter.h"
 
 #include <QAction>
@@ -15,11 +16,21 @@ void SideWindows::setRecording(const CFGProperties *recording, Plotter *plot)
     m_plot = plot;
     if (m_events)
         m_events->setRecording(m_events->isVisible() ? recording : nullptr);
+    if (m_measurements)
+        m_measurements->setPlotter(plot);
 }
 
-void SideWindows::addTo(QMenu &menu)
+void SideWindows::addTo(QMenu &menu, Plotter &plot)
 {
     connect(menu.addAction(tr("Events...")), &QAction::triggered, this, &SideWindows::showEvents);
+    connect(menu.addAction(tr("Measurements...")), &QAction::triggered, &plot,
+        [this, &plot] { showMeasurements(&plot); });
+}
+
+void SideWindows::refresh()
+{
+    if (m_measurements)
+        m_measurements->refresh();
 }
 
 void SideWindows::showEvents()
@@ -43,4 +54,33 @@ void SideWindows::showEvents()
     m_events->show();
     m_events->raise();
     m_events->activateWindow();
+}
+
+MeasurementsDialog *SideWindows::measurements()
+{
+    if (!m_measurements) {
+        m_measurements = new MeasurementsDialog(m_window);
+        m_measurements->setMainWindow(m_window);
+        connect(m_measurements, &MeasurementsDialog::saved, this, &SideWindows::saved);
+    }
+    return m_measurements;
+}
+
+void SideWindows::showMeasurements(Plotter *plot)
+{
+    measurements()->showForPlotter(plot);
+    connect(plot, &QObject::destroyed, this, &SideWindows::leave, Qt::UniqueConnection);
+}
+
+// A plot that is removed leaves the measurements to the first one.
+void SideWindows::leave(const QObject *plot)
+{
+    if (m_measurements->plotter() == plot)
+        m_measurements->setPlotter(m_plot == plot ? nullptr : m_plot.data());
+}
+
+void SideWindows::showMeasurementsOf(const QList<int> &channels, int reference)
+{
+    if (m_plot)
+        measurements()->showForChannels(m_plot, channels, reference);
 }

@@ -8,6 +8,7 @@
 
 class CFGProperties;
 class EventsDialog;
+class MeasurementsDialog;
 class Plotter;
 class QMenu;
 
@@ -22,13 +23,25 @@ public:
     // The recording on screen and any of its plots; null before another one is loaded.
     void setRecording(const CFGProperties *recording, Plotter *plot);
     // Offers the windows in the context menu of a plot.
-    void addTo(QMenu &menu);
+    void addTo(QMenu &menu, Plotter &plot);
+    // After a change of cursors, channels or values; cheap while no window shows them.
+    void refresh();
+    // Of analog channels (0-based), against a reference (-1 for none).
+    void showMeasurementsOf(const QList<int> &channels, int reference);
+
+signals:
+    // Of what a window was told to save; the path and the reason where that failed, else empty.
+    void saved(const QString &failedFile, const QString &error);
 
 private:
     void showEvents();
+    MeasurementsDialog *measurements();
+    void showMeasurements(Plotter *plot);
+    void leave(const QObject *plot);
 
     QWidget *m_window;
     const CFGProperties *m_recording = nullptr;
     QPointer<Plotter> m_plot; // through which all plots are moved
     EventsDialog *m_events = nullptr;
+    MeasurementsDialog *m_measurements = nullptr;
 };

@@ -24,8 +24,16 @@ void VectorDialog::setMainWindow(QObject *object)
     mainWindow = qobject_cast<DialogHost *>(object) ? object : nullptr;
     firstPanel = new VectorWidget(this);
     firstPanel->disableRemoval();
-    firstPanel->setMainWindow(mainWindow);
+    equip(firstPanel);
     ui->horizontalLayout_vectors->addWidget(firstPanel);
+}
+
+void VectorDialog::equip(VectorWidget *panel)
+{
+    panel->setMainWindow(mainWindow);
+    connect(panel, &VectorWidget::measurementsWanted, this, [this](const QList<int> &channels) {
+        emit measurementsWanted(channels, referencePosition());
+    });
 }
 
 void VectorDialog::setPlotter(Plotter *source)
@@ -65,7 +73,7 @@ void VectorDialog::refresh()
 void VectorDialog::on_toolButton_clicked()
 {
     auto *panel = new VectorWidget(this);
-    panel->setMainWindow(mainWindow);
+    equip(panel);
     panel->setChannelNames(channelNames);
     panel->setPlotter(plotter);
     connect(panel, &VectorWidget::deleteSignal, this, &VectorDialog::deleteWidgetSlot);

@@ -39,6 +39,10 @@ public:
     // Draws all panels again in 10 ms; many requests make one drawing. Nothing while hidden.
     void refresh();
 
+signals:
+    // Of channels of one panel, by their numbers from 0 on; the reference is -1 for none.
+    void measurementsWanted(const QList<int> &channels, int reference);
+
 public slots:
     void on_toolButton_clicked();
     void deleteWidgetSlot(VectorWidget *widget);
@@ -51,6 +55,7 @@ protected:
 
 private:
     QList<VectorWidget *> panels() const;
+    void equip(VectorWidget *panel);
 
     QStringList channelNames;
     VectorWidget *firstPanel = nullptr;

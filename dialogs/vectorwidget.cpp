@@ -14,8 +14,10 @@
 #include "vectordialog.h"
 
 #include <QColorDialog>
+#include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
@@ -268,6 +270,27 @@ void VectorWidget::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange)
         ui->retranslateUi(this);
     QWidget::changeEvent(event);
+}
+
+// Over a check box, the right button chooses a colour.
+void VectorWidget::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (event->reason() == QContextMenuEvent::Mouse
+        && qobject_cast<QCheckBox *>(childAt(event->pos()))) {
+        event->ignore();
+        return;
+    }
+    QList<int> channels;
+    for (const int number : checkedChannels()) {
+        if (number > 0)
+            channels.append(number - 1);
+    }
+    auto *menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    QAction *measure = menu->addAction(tr("Measurements..."));
+    measure->setEnabled(plotter && !channels.isEmpty());
+    connect(measure, &QAction::triggered, this, [=] { emit measurementsWanted(channels); });
+    menu->popup(event->globalPos());
 }
 
 void VectorWidget::renderPixmaps()

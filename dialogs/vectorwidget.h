@@ -55,6 +55,8 @@ public slots:
 signals:
     // The receiver may delete the widget.
     void deleteSignal(VectorWidget *widget);
+    // Of the checked channels, by their numbers from 0 on.
+    void measurementsWanted(const QList<int> &channels);
 
 protected:
     void mousePressEvent(QMouseEvent *event) override;
@@ -62,6 +64,7 @@ protected:
     void showEvent(QShowEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
 
 private:
     void makeCheckBoxes(int count);

@@ -33,7 +33,8 @@ public:
     // Whether a spectrum trace also draws its angle.
     virtual bool showsAngles() const = 0;
 
-    // Asks the phasor dialog to draw again; cheap while the dialog is hidden.
+    // Asks the windows that follow the cursors, such as the phasor dialog, to draw again; cheap
+    // while they are hidden.
     virtual void refreshVectors() = 0;
 
     // Adds what the window offers at a point of a plot to the plot's context menu. The cursor is

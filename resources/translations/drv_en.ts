@@ -507,6 +507,257 @@ Please select another file.</translation>
     </message>
 </context>
 <context>
+    <name>MeasurementsDialog</name>
+    <message>
+        <source>Measurements</source>
+        <translation>Measurements</translation>
+    </message>
+    <message>
+        <source>The fundamental over the cycle around the cursor</source>
+        <translation>The fundamental over the cycle around the cursor</translation>
+    </message>
+    <message>
+        <source>RMS of &amp;fundamental</source>
+        <translation>RMS of &amp;fundamental</translation>
+    </message>
+    <message>
+        <source>Positive where the channel leads the reference</source>
+        <translation>Positive where the channel leads the reference</translation>
+    </message>
+    <message>
+        <source>&amp;Angle</source>
+        <translation>&amp;Angle</translation>
+    </message>
+    <message>
+        <source>With harmonics and DC, over the cycle before the cursor</source>
+        <translation>With harmonics and DC, over the cycle before the cursor</translation>
+    </message>
+    <message>
+        <source>&amp;True RMS</source>
+        <translation>&amp;True RMS</translation>
+    </message>
+    <message>
+        <source>The largest absolute value in the cycle before the cursor</source>
+        <translation>The largest absolute value in the cycle before the cursor</translation>
+    </message>
+    <message>
+        <source>&amp;Peak</source>
+        <translation>&amp;Peak</translation>
+    </message>
+    <message>
+        <source>&amp;Reference:</source>
+        <translation>&amp;Reference:</translation>
+    </message>
+    <message>
+        <source>Reference channel of the angles</source>
+        <translation>Reference channel of the angles</translation>
+    </message>
+    <message>
+        <source>Cursors</source>
+        <translation>Cursors</translation>
+    </message>
+    <message>
+        <source>Values at the cursors</source>
+        <translation>Values at the cursors</translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation>Differences</translation>
+    </message>
+    <message>
+        <source>Fro&amp;m:</source>
+        <translation>Fro&amp;m:</translation>
+    </message>
+    <message>
+        <source>T&amp;o:</source>
+        <translation>T&amp;o:</translation>
+    </message>
+    <message>
+        <source>Differences between two cursors</source>
+        <translation>Differences between two cursors</translation>
+    </message>
+    <message>
+        <source>Sequences</source>
+        <translation>Sequences</translation>
+    </message>
+    <message>
+        <source>Phase &amp;1:</source>
+        <translation>Phase &amp;1:</translation>
+    </message>
+    <message>
+        <source>Phase &amp;2:</source>
+        <translation>Phase &amp;2:</translation>
+    </message>
+    <message>
+        <source>Phase &amp;3:</source>
+        <translation>Phase &amp;3:</translation>
+    </message>
+    <message>
+        <source>Sequence components at the cursors</source>
+        <translation>Sequence components at the cursors</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmonics</translation>
+    </message>
+    <message>
+        <source>C&amp;hannel:</source>
+        <translation>C&amp;hannel:</translation>
+    </message>
+    <message>
+        <source>C&amp;ursor:</source>
+        <translation>C&amp;ursor:</translation>
+    </message>
+    <message>
+        <source>Harmonics as bars</source>
+        <translation>Harmonics as bars</translation>
+    </message>
+    <message>
+        <source>Harmonics of the cycle around the cursor</source>
+        <translation>Harmonics of the cycle around the cursor</translation>
+    </message>
+    <message>
+        <source>Copy the table that is shown, with tabs between the columns</source>
+        <translation>Copy the table that is shown, with tabs between the columns</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Table</source>
+        <translation>&amp;Copy Table</translation>
+    </message>
+    <message>
+        <source>Save the table that is shown, with commas between the columns</source>
+        <translation>Save the table that is shown, with commas between the columns</translation>
+    </message>
+    <message>
+        <source>&amp;Save as CSV...</source>
+        <translation>&amp;Save as CSV...</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>secondary</source>
+        <translation>secondary</translation>
+    </message>
+    <message>
+        <source>primary</source>
+        <translation>primary</translation>
+    </message>
+    <message>
+        <source>There is no cursor.</source>
+        <translation>There is no cursor.</translation>
+    </message>
+    <message>
+        <source>No whole cycle of this channel lies around the cursor.</source>
+        <translation>No whole cycle of this channel lies around the cursor.</translation>
+    </message>
+    <message>
+        <source>Measurements: %1</source>
+        <translation>Measurements: %1</translation>
+    </message>
+    <message>
+        <source>Save as CSV</source>
+        <translation>Save as CSV</translation>
+    </message>
+    <message>
+        <source>CSV Files (*.csv)</source>
+        <translation>CSV Files (*.csv)</translation>
+    </message>
+    <message>
+        <source>It is a pipe or a device</source>
+        <translation>It is a pipe or a device</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Value</translation>
+    </message>
+    <message>
+        <source>RMS of fundamental</source>
+        <translation>RMS of fundamental</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>True RMS</source>
+        <translation>True RMS</translation>
+    </message>
+    <message>
+        <source>Peak</source>
+        <translation>Peak</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Channel</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Quantity</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unit</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Difference</translation>
+    </message>
+    <message>
+        <source>Smallest</source>
+        <translation>Smallest</translation>
+    </message>
+    <message>
+        <source>at (ms)</source>
+        <translation>at (ms)</translation>
+    </message>
+    <message>
+        <source>Largest</source>
+        <translation>Largest</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>cycles</source>
+        <translation>cycles</translation>
+    </message>
+    <message>
+        <source>Component</source>
+        <translation>Component</translation>
+    </message>
+    <message>
+        <source>RMS</source>
+        <translation>RMS</translation>
+    </message>
+    <message>
+        <source>Positive sequence</source>
+        <translation>Positive sequence</translation>
+    </message>
+    <message>
+        <source>Negative sequence</source>
+        <translation>Negative sequence</translation>
+    </message>
+    <message>
+        <source>Zero sequence</source>
+        <translation>Zero sequence</translation>
+    </message>
+    <message>
+        <source>Harmonic</source>
+        <translation>Harmonic</translation>
+    </message>
+    <message>
+        <source>RMS, %1</source>
+        <translation>RMS, %1</translation>
+    </message>
+    <message>
+        <source>% of fundamental</source>
+        <translation>% of fundamental</translation>
+    </message>
+</context>
+<context>
     <name>PlotMenu</name>
     <message>
         <source>Earlier</source>
@@ -1196,6 +1447,10 @@ Do you want to replace it?</translation>
         <source>Events...</source>
         <translation>Events...</translation>
     </message>
+    <message>
+        <source>Measurements...</source>
+        <translation>Measurements...</translation>
+    </message>
 </context>
 <context>
     <name>VectorDialog</name>
@@ -1217,6 +1472,10 @@ Do you want to replace it?</translation>
     <message>
         <source>Remove this diagram</source>
         <translation>Remove this diagram</translation>
+    </message>
+    <message>
+        <source>Measurements...</source>
+        <translation>Measurements...</translation>
     </message>
 </context>
 </TS>

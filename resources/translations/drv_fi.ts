@@ -507,6 +507,257 @@ Valitse toinen tiedosto.</translation>
     </message>
 </context>
 <context>
+    <name>MeasurementsDialog</name>
+    <message>
+        <source>Measurements</source>
+        <translation>Mittaukset</translation>
+    </message>
+    <message>
+        <source>The fundamental over the cycle around the cursor</source>
+        <translation>Perusaalto kursorin ympärillä olevan jakson ajalta</translation>
+    </message>
+    <message>
+        <source>RMS of &amp;fundamental</source>
+        <translation>&amp;Perusaallon tehollisarvo</translation>
+    </message>
+    <message>
+        <source>Positive where the channel leads the reference</source>
+        <translation>Positiivinen, kun kanava on vertailukanavaa edellä</translation>
+    </message>
+    <message>
+        <source>&amp;Angle</source>
+        <translation>&amp;Kulma</translation>
+    </message>
+    <message>
+        <source>With harmonics and DC, over the cycle before the cursor</source>
+        <translation>Yliaallot ja tasakomponentti mukaan lukien, kursoria edeltävän jakson ajalta</translation>
+    </message>
+    <message>
+        <source>&amp;True RMS</source>
+        <translation>&amp;Todellinen tehollisarvo</translation>
+    </message>
+    <message>
+        <source>The largest absolute value in the cycle before the cursor</source>
+        <translation>Suurin itseisarvo kursoria edeltävän jakson aikana</translation>
+    </message>
+    <message>
+        <source>&amp;Peak</source>
+        <translation>&amp;Huippuarvo</translation>
+    </message>
+    <message>
+        <source>&amp;Reference:</source>
+        <translation>&amp;Vertailu:</translation>
+    </message>
+    <message>
+        <source>Reference channel of the angles</source>
+        <translation>Kulmien vertailukanava</translation>
+    </message>
+    <message>
+        <source>Cursors</source>
+        <translation>Kursorit</translation>
+    </message>
+    <message>
+        <source>Values at the cursors</source>
+        <translation>Arvot kursoreiden kohdalla</translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation>Erot</translation>
+    </message>
+    <message>
+        <source>Fro&amp;m:</source>
+        <translation>&amp;Mistä:</translation>
+    </message>
+    <message>
+        <source>T&amp;o:</source>
+        <translation>M&amp;ihin:</translation>
+    </message>
+    <message>
+        <source>Differences between two cursors</source>
+        <translation>Kahden kursorin väliset erot</translation>
+    </message>
+    <message>
+        <source>Sequences</source>
+        <translation>Symmetriset komponentit</translation>
+    </message>
+    <message>
+        <source>Phase &amp;1:</source>
+        <translation>Vaihe &amp;1:</translation>
+    </message>
+    <message>
+        <source>Phase &amp;2:</source>
+        <translation>Vaihe &amp;2:</translation>
+    </message>
+    <message>
+        <source>Phase &amp;3:</source>
+        <translation>Vaihe &amp;3:</translation>
+    </message>
+    <message>
+        <source>Sequence components at the cursors</source>
+        <translation>Symmetriset komponentit kursoreiden kohdalla</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Yliaallot</translation>
+    </message>
+    <message>
+        <source>C&amp;hannel:</source>
+        <translation>Ka&amp;nava:</translation>
+    </message>
+    <message>
+        <source>C&amp;ursor:</source>
+        <translation>K&amp;ursori:</translation>
+    </message>
+    <message>
+        <source>Harmonics as bars</source>
+        <translation>Yliaallot pylväinä</translation>
+    </message>
+    <message>
+        <source>Harmonics of the cycle around the cursor</source>
+        <translation>Kursorin ympärillä olevan jakson yliaallot</translation>
+    </message>
+    <message>
+        <source>Copy the table that is shown, with tabs between the columns</source>
+        <translation>Kopioi näkyvä taulukko sarkaimin eroteltuna</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Table</source>
+        <translation>K&amp;opioi taulukko</translation>
+    </message>
+    <message>
+        <source>Save the table that is shown, with commas between the columns</source>
+        <translation>Tallenna näkyvä taulukko pilkuin eroteltuna</translation>
+    </message>
+    <message>
+        <source>&amp;Save as CSV...</source>
+        <translation>Tallenna &amp;CSV-tiedostoon...</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sulje</translation>
+    </message>
+    <message>
+        <source>secondary</source>
+        <translation>toisio</translation>
+    </message>
+    <message>
+        <source>primary</source>
+        <translation>ensiö</translation>
+    </message>
+    <message>
+        <source>There is no cursor.</source>
+        <translation>Kursoria ei ole.</translation>
+    </message>
+    <message>
+        <source>No whole cycle of this channel lies around the cursor.</source>
+        <translation>Kursorin ympärillä ei ole tämän kanavan kokonaista jaksoa.</translation>
+    </message>
+    <message>
+        <source>Measurements: %1</source>
+        <translation>Mittaukset: %1</translation>
+    </message>
+    <message>
+        <source>Save as CSV</source>
+        <translation>Tallenna CSV-tiedostoon</translation>
+    </message>
+    <message>
+        <source>CSV Files (*.csv)</source>
+        <translation>CSV-tiedostot (*.csv)</translation>
+    </message>
+    <message>
+        <source>It is a pipe or a device</source>
+        <translation>Kyseessä on putki tai laite</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Arvo</translation>
+    </message>
+    <message>
+        <source>RMS of fundamental</source>
+        <translation>Perusaallon tehollisarvo</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Kulma</translation>
+    </message>
+    <message>
+        <source>True RMS</source>
+        <translation>Todellinen tehollisarvo</translation>
+    </message>
+    <message>
+        <source>Peak</source>
+        <translation>Huippuarvo</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>Kanava</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Suure</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Yksikkö</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Ero</translation>
+    </message>
+    <message>
+        <source>Smallest</source>
+        <translation>Pienin</translation>
+    </message>
+    <message>
+        <source>at (ms)</source>
+        <translation>hetki (ms)</translation>
+    </message>
+    <message>
+        <source>Largest</source>
+        <translation>Suurin</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Aika</translation>
+    </message>
+    <message>
+        <source>cycles</source>
+        <translation>jaksoa</translation>
+    </message>
+    <message>
+        <source>Component</source>
+        <translation>Komponentti</translation>
+    </message>
+    <message>
+        <source>RMS</source>
+        <translation>Tehollisarvo</translation>
+    </message>
+    <message>
+        <source>Positive sequence</source>
+        <translation>Myötäkomponentti</translation>
+    </message>
+    <message>
+        <source>Negative sequence</source>
+        <translation>Vastakomponentti</translation>
+    </message>
+    <message>
+        <source>Zero sequence</source>
+        <translation>Nollakomponentti</translation>
+    </message>
+    <message>
+        <source>Harmonic</source>
+        <translation>Yliaalto</translation>
+    </message>
+    <message>
+        <source>RMS, %1</source>
+        <translation>Tehollisarvo, %1</translation>
+    </message>
+    <message>
+        <source>% of fundamental</source>
+        <translation>% perusaallosta</translation>
+    </message>
+</context>
+<context>
     <name>PlotMenu</name>
     <message>
         <source>Earlier</source>
@@ -1196,6 +1447,10 @@ Korvataanko se?</translation>
         <source>Events...</source>
         <translation>Tapahtumat...</translation>
     </message>
+    <message>
+        <source>Measurements...</source>
+        <translation>Mittaukset...</translation>
+    </message>
 </context>
 <context>
     <name>VectorDialog</name>
@@ -1217,6 +1472,10 @@ Korvataanko se?</translation>
     <message>
         <source>Remove this diagram</source>
         <translation>Poista tämä osoitinpiirros</translation>
+    </message>
+    <message>
+        <source>Measurements...</source>
+        <translation>Mittaukset...</translation>
     </message>
 </context>
 </TS>

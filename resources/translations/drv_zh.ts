@@ -507,6 +507,257 @@ Please select another file.</source>
     </message>
 </context>
 <context>
+    <name>MeasurementsDialog</name>
+    <message>
+        <source>Measurements</source>
+        <translation>测量</translation>
+    </message>
+    <message>
+        <source>The fundamental over the cycle around the cursor</source>
+        <translation>游标两侧一个周波内的基波</translation>
+    </message>
+    <message>
+        <source>RMS of &amp;fundamental</source>
+        <translation>基波有效值(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Positive where the channel leads the reference</source>
+        <translation>通道超前参考通道时为正</translation>
+    </message>
+    <message>
+        <source>&amp;Angle</source>
+        <translation>相角(&amp;A)</translation>
+    </message>
+    <message>
+        <source>With harmonics and DC, over the cycle before the cursor</source>
+        <translation>含谐波和直流，取游标之前的一个周波</translation>
+    </message>
+    <message>
+        <source>&amp;True RMS</source>
+        <translation>真有效值(&amp;T)</translation>
+    </message>
+    <message>
+        <source>The largest absolute value in the cycle before the cursor</source>
+        <translation>游标之前一个周波内的最大绝对值</translation>
+    </message>
+    <message>
+        <source>&amp;Peak</source>
+        <translation>峰值(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Reference:</source>
+        <translation>参考通道(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>Reference channel of the angles</source>
+        <translation>相角的参考通道</translation>
+    </message>
+    <message>
+        <source>Cursors</source>
+        <translation>游标</translation>
+    </message>
+    <message>
+        <source>Values at the cursors</source>
+        <translation>各游标处的值</translation>
+    </message>
+    <message>
+        <source>Differences</source>
+        <translation>差值</translation>
+    </message>
+    <message>
+        <source>Fro&amp;m:</source>
+        <translation>从(&amp;M)：</translation>
+    </message>
+    <message>
+        <source>T&amp;o:</source>
+        <translation>到(&amp;O)：</translation>
+    </message>
+    <message>
+        <source>Differences between two cursors</source>
+        <translation>两个游标之间的差值</translation>
+    </message>
+    <message>
+        <source>Sequences</source>
+        <translation>序分量</translation>
+    </message>
+    <message>
+        <source>Phase &amp;1:</source>
+        <translation>相 &amp;1：</translation>
+    </message>
+    <message>
+        <source>Phase &amp;2:</source>
+        <translation>相 &amp;2：</translation>
+    </message>
+    <message>
+        <source>Phase &amp;3:</source>
+        <translation>相 &amp;3：</translation>
+    </message>
+    <message>
+        <source>Sequence components at the cursors</source>
+        <translation>各游标处的序分量</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>谐波</translation>
+    </message>
+    <message>
+        <source>C&amp;hannel:</source>
+        <translation>通道(&amp;H)：</translation>
+    </message>
+    <message>
+        <source>C&amp;ursor:</source>
+        <translation>游标(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>Harmonics as bars</source>
+        <translation>谐波柱状图</translation>
+    </message>
+    <message>
+        <source>Harmonics of the cycle around the cursor</source>
+        <translation>游标两侧一个周波的谐波</translation>
+    </message>
+    <message>
+        <source>Copy the table that is shown, with tabs between the columns</source>
+        <translation>复制所显示的表格，列间以制表符分隔</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Table</source>
+        <translation>复制表格(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Save the table that is shown, with commas between the columns</source>
+        <translation>保存所显示的表格，列间以逗号分隔</translation>
+    </message>
+    <message>
+        <source>&amp;Save as CSV...</source>
+        <translation>另存为 CSV(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>secondary</source>
+        <translation>二次</translation>
+    </message>
+    <message>
+        <source>primary</source>
+        <translation>一次</translation>
+    </message>
+    <message>
+        <source>There is no cursor.</source>
+        <translation>没有游标。</translation>
+    </message>
+    <message>
+        <source>No whole cycle of this channel lies around the cursor.</source>
+        <translation>游标两侧没有该通道的完整周波。</translation>
+    </message>
+    <message>
+        <source>Measurements: %1</source>
+        <translation>测量：%1</translation>
+    </message>
+    <message>
+        <source>Save as CSV</source>
+        <translation>另存为 CSV</translation>
+    </message>
+    <message>
+        <source>CSV Files (*.csv)</source>
+        <translation>CSV 文件 (*.csv)</translation>
+    </message>
+    <message>
+        <source>It is a pipe or a device</source>
+        <translation>它是管道或设备</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>RMS of fundamental</source>
+        <translation>基波有效值</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>相角</translation>
+    </message>
+    <message>
+        <source>True RMS</source>
+        <translation>真有效值</translation>
+    </message>
+    <message>
+        <source>Peak</source>
+        <translation>峰值</translation>
+    </message>
+    <message>
+        <source>Channel</source>
+        <translation>通道</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>量</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>差值</translation>
+    </message>
+    <message>
+        <source>Smallest</source>
+        <translation>最小值</translation>
+    </message>
+    <message>
+        <source>at (ms)</source>
+        <translation>时刻 (ms)</translation>
+    </message>
+    <message>
+        <source>Largest</source>
+        <translation>最大值</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>cycles</source>
+        <translation>周波</translation>
+    </message>
+    <message>
+        <source>Component</source>
+        <translation>分量</translation>
+    </message>
+    <message>
+        <source>RMS</source>
+        <translation>有效值</translation>
+    </message>
+    <message>
+        <source>Positive sequence</source>
+        <translation>正序</translation>
+    </message>
+    <message>
+        <source>Negative sequence</source>
+        <translation>负序</translation>
+    </message>
+    <message>
+        <source>Zero sequence</source>
+        <translation>零序</translation>
+    </message>
+    <message>
+        <source>Harmonic</source>
+        <translation>谐波次数</translation>
+    </message>
+    <message>
+        <source>RMS, %1</source>
+        <translation>有效值，%1</translation>
+    </message>
+    <message>
+        <source>% of fundamental</source>
+        <translation>占基波的 %</translation>
+    </message>
+</context>
+<context>
     <name>PlotMenu</name>
     <message>
         <source>Earlier</source>
@@ -1196,6 +1447,10 @@ Do you want to replace it?</source>
         <source>Events...</source>
         <translation>事件...</translation>
     </message>
+    <message>
+        <source>Measurements...</source>
+        <translation>测量...</translation>
+    </message>
 </context>
 <context>
     <name>VectorDialog</name>
@@ -1217,6 +1472,10 @@ Do you want to replace it?</source>
     <message>
         <source>Remove this diagram</source>
         <translation>移除此相量图</translation>
+    </message>
+    <message>
+        <source>Measurements...</source>
+        <translation>测量...</translation>
     </message>
 </context>
 </TS>

@@ -1,10 +1,17 @@
 // SPDX-FileCopyrightText: 2026 Norvale
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "customlabel.h"
 #include "eventsdialog.h"
+#include "measurementsdialog.h"
 #include "plotmenus.h"
 #include "plotswindow.h"
+#include "vectordialog.h"
+#include "vectorwidget.h"
 
+#include <QCheckBox>
+#include <QLabel>
+#include <QStatusBar>
 #include <QTableView>
 
 // The recording lasts from 0 to 99 ms, its whole view to 100; Trip changes at 50 ms, the trigger.
@@ -28,7 +35,35 @@ private slots:
     void eventsAreGoneWithAFailedLoad();
     void eventsThatWereClosedKeepNothing();
 
+    void measurementsStandBesideThePlots();
+    void measurementsFollowADraggedCursor();
+    void measurementsFollowTheValueMode();
+    void measurementsFollowTheRecording();
+    void measurementsAreGoneWithAFailedLoad();
+    void measurementsOfARemovedPlotAreThoseOfTheFirst();
+    void measurementsOpenFromAPhasorPanel();
+    void measurementsAreSavedAndReported();
+
 private:
+    MeasurementsDialog *measurements() const { return window->findChild<MeasurementsDialog *>(); }
+    // Of the first page: the names of the rows, or the cells of a row.
+    QStringList measured(int row = -1) const
+    {
+        const QAbstractItemModel *model
+            = measurements()->findChild<QTableView *>(QStringLiteral("tableView_cursors"))->model();
+        QStringList texts;
+        for (int i = 0; row < 0 && i < model->rowCount(); ++i)
+            texts.append(model->headerData(i, Qt::Vertical).toString());
+        for (int i = 0; row >= 0 && i < model->columnCount(); ++i)
+            texts.append(model->index(row, i).data().toString());
+        return texts;
+    }
+    void showMeasurements(Plotter *plot)
+    {
+        QVERIFY(choose(plot, QStringLiteral("Measurements...")));
+        QVERIFY(QTest::qWaitForWindowExposed(measurements()));
+    }
+
     EventsDialog *events() const { return window->findChild<EventsDialog *>(); }
     QTableView *table() const { return events()->findChild<QTableView *>(); }
     int rows() const { return table()->model()->rowCount(); }
@@ -125,6 +160,152 @@ void TestSideWindows::eventsThatWereClosedKeepNothing()
     QCOMPARE(rows(), 0);
     showEvents();
     QCOMPARE(rows(), 3);
+}
+
+// Ia counts from -10 to 9 in each 20 ms, Ib twice that.
+void TestSideWindows::measurementsStandBesideThePlots()
+{
+    QVERIFY(!measurements());
+    showMeasurements(analog());
+    QVERIFY(!measurements()->isModal());
+    QCOMPARE(measured(),
+        QStringList(
+            {QStringLiteral("Ia, Value, A (primary)"), QStringLiteral("Ib, Value, A (primary)")}));
+    QCOMPARE(measured(0), QStringList());
+    analog()->addCursorAt(25);
+    digital()->addCursorAt(50);
+    QTRY_COMPARE(measured(0), QStringList({QStringLiteral("-5"), QStringLiteral("0")}));
+    QCOMPARE(measured(1), QStringList({QStringLiteral("-10"), QStringLiteral("0")}));
+    showMeasurements(digital());
+    QTRY_COMPARE(measured(), QStringList({QStringLiteral("Trip, Value")}));
+    QCOMPARE(measured(0), QStringList({QStringLiteral("0"), QStringLiteral("1")}));
+    QCOMPARE(window->findChildren<MeasurementsDialog *>().size(), 1);
+    window->removeCursors();
+    QTRY_COMPARE(measured(0), QStringList());
+}
+
+void TestSideWindows::measurementsFollowADraggedCursor()
+{
+    analog()->addCursorAt(25);
+    showMeasurements(analog());
+    QCOMPARE(measured(0), QStringList({QStringLiteral("-5")}));
+    const auto *label = analog()->findChild<CustomLabel *>(QStringLiteral("lineLabel"));
+    const QPoint from = label->geometry().center();
+    QTest::mousePress(analog(), Qt::LeftButton, {}, from);
+    QStringList shown{measured(0)};
+    for (int step = 1; step <= 5; ++step) {
+        const QPoint to = from + QPoint(100 * step, 0);
+        QMouseEvent move(QEvent::MouseMove, to, analog()->mapToGlobal(to), Qt::NoButton,
+            Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(analog(), &move);
+        const int sample = qRound(analog()->cursors().at(0));
+        QTRY_COMPARE(measured(0), QStringList(QString::number(sample % 20 - 10)));
+        shown += measured(0);
+    }
+    QTest::mouseRelease(analog(), Qt::LeftButton, {}, from + QPoint(500, 0));
+    QVERIFY(shown.removeDuplicates() < 4);
+}
+
+void TestSideWindows::measurementsFollowTheValueMode()
+{
+    analog()->addCursorAt(25);
+    showMeasurements(analog());
+    combo("comboBox_primSec")->setCurrentIndex(1);
+    QTRY_COMPARE(measured(),
+        QStringList({QStringLiteral("Ia, Value, A (secondary)"),
+            QStringLiteral("Ib, Value, A (secondary)")}));
+    QCOMPARE(measured(1), QStringList({QStringLiteral("-0.125")})); // of -10 at 400/5
+    combo("comboBox_primSec")->setCurrentIndex(2);
+    QTRY_COMPARE(measured(),
+        QStringList({QStringLiteral("Ia, Value, p.u."), QStringLiteral("Ib, Value, p.u.")}));
+    QCOMPARE(measured(1), QStringList({QStringLiteral("-0.025")}));
+    combo("comboBox_primSec")->setCurrentIndex(0);
+    QTRY_COMPARE(measured(1), QStringList({QStringLiteral("-10")}));
+    QTest::mouseClick(list("listWidget")->viewport(), Qt::LeftButton, {},
+        list("listWidget")->visualItemRect(list("listWidget")->item(0)).center());
+    QTRY_COMPARE(measured(), QStringList({QStringLiteral("Ib, Value, A (primary)")}));
+}
+
+void TestSideWindows::measurementsFollowTheRecording()
+{
+    showMeasurements(analog());
+    for (int time = 0; time < 2; ++time) {
+        open({QStringLiteral("Ic")}, {}, "S");
+        analog()->addCursorAt(12);
+        QTRY_COMPARE(measured(), QStringList({QStringLiteral("Ic, Value, A (secondary)")}));
+        QTRY_COMPARE(measured(0), QStringList({QStringLiteral("2")}));
+    }
+    measurements()->close();
+    open({QStringLiteral("Id")}, {});
+    showMeasurements(analog());
+    QCOMPARE(measured(), QStringList({QStringLiteral("Id, Value, A (primary)")}));
+}
+
+void TestSideWindows::measurementsAreGoneWithAFailedLoad()
+{
+    showMeasurements(analog());
+    QVERIFY(writeTextFile(path("bad.cfg"), "x"));
+    {
+        const BoxReader boxes;
+        window->open(path("bad.cfg"));
+    }
+    QTRY_COMPARE(measured(), QStringList());
+    open({QStringLiteral("Ic")}, {});
+    QTRY_COMPARE(measured().size(), 1);
+}
+
+void TestSideWindows::measurementsOfARemovedPlotAreThoseOfTheFirst()
+{
+    compose({QStringLiteral("Ib"), QStringLiteral("Ib_FFT")}, QStringLiteral("Mine"));
+    showMeasurements(plot(QStringLiteral("Mine")));
+    QCOMPARE(measured(),
+        QStringList({QStringLiteral("Ib, Value, A (primary)"),
+            QStringLiteral("Ib FFT, Value, A (primary)")}));
+    QCOMPARE(measurements()->windowTitle(), QStringLiteral("Measurements: Mine"));
+    window->removePlotter();
+    QCOMPARE(measurements()->plotter(), analog());
+    QTRY_COMPARE(measured(),
+        QStringList(
+            {QStringLiteral("Ia, Value, A (primary)"), QStringLiteral("Ib, Value, A (primary)")}));
+}
+
+void TestSideWindows::measurementsOpenFromAPhasorPanel()
+{
+    analog()->addCursorAt(50);
+    trigger("&Show Vectors");
+    auto *vectors = window->findChild<VectorDialog *>();
+    QVERIFY(QTest::qWaitForWindowExposed(vectors));
+    vectors->on_toolButton_clicked(); // a second panel
+    for (VectorWidget *panel : vectors->findChildren<VectorWidget *>()) {
+        QTRY_VERIFY(panel->isVisible());
+        const QPoint diagram = panel->findChild<QLabel *>(QStringLiteral("labelVector"))
+                                   ->mapTo(panel, QPoint(50, 50));
+        QVERIFY(!offers(panel, QStringLiteral("Measurements..."), diagram)); // nothing is ticked
+        QCheckBox *box = panel->findChildren<QCheckBox *>().at(1);
+        box->setChecked(true);
+        vectors->findChild<QComboBox *>(QStringLiteral("comboBox_reference"))->setCurrentIndex(1);
+        QVERIFY(!contextMenuAt(panel, box->mapTo(panel, box->rect().center()))); // its colour
+        QVERIFY(choose(panel, QStringLiteral("Measurements..."), diagram));
+        QCOMPARE(measured(), QStringList({QStringLiteral("Ib, Value, A (primary)")}));
+        QCOMPARE(measured(0), QStringList({QStringLiteral("0")}));
+        const auto *reference
+            = measurements()->findChild<QComboBox *>(QStringLiteral("comboBox_reference"));
+        QCOMPARE(reference->currentText(), QStringLiteral("Ia"));
+        measurements()->close();
+    }
+}
+
+void TestSideWindows::measurementsAreSavedAndReported()
+{
+    showMeasurements(analog());
+    BoxReader boxes;
+    measurements()->saveTable(path("values.csv"));
+    QCOMPARE(window->statusBar()->currentMessage(), QStringLiteral("File saved."));
+    QVERIFY(QFile::exists(path("values.csv")));
+    QCOMPARE(boxes.count(), 0);
+    measurements()->saveTable(path("none/values.csv"));
+    QCOMPARE(boxes.count(), 1);
+    QVERIFY(boxes.take().at(0).text.startsWith(QLatin1String("Cannot write file ")));
 }
 
 QTEST_MAIN(TestSideWindows)
