@@ -56,6 +56,24 @@ if(WAVORIN_QUICK_BUILD)
     wavorin_precompiled(wavorin_widget_headers HEADERS ${wavorin_common_widgets} LIBRARIES Qt5::Widgets)
 endif()
 
+# Of a static toolkit every target would compile a source for each plugin. These are compiled once, for
+# programs with windows to link; tests take the platform without a display besides.
+if(WIN32)
+    function(wavorin_plugins name)
+        add_library(${name} OBJECT)
+        foreach(plugin ${ARGN})
+            get_target_property(source ${plugin} INTERFACE_SOURCES)
+            target_sources(${name} PRIVATE "${source}")
+        endforeach()
+        target_link_libraries(${name} PRIVATE Qt5::Core)
+        set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+    endfunction()
+    wavorin_plugins(wavorin_plugins
+        Qt5::QWindowsIntegrationPlugin Qt5::QWindowsVistaStylePlugin Qt5::QGifPlugin Qt5::QICOPlugin)
+    wavorin_plugins(wavorin_test_plugins Qt5::QOffscreenIntegrationPlugin)
+    set_property(TARGET ${Qt5Gui_PLUGINS} ${Qt5Widgets_PLUGINS} PROPERTY INTERFACE_SOURCES)
+endif()
+
 # A library of one folder: wavorin_library(<name> SOURCES ... [PUBLIC ...] [PRIVATE ...])
 # Only its own folder is exported as include directory, so that an include that points to a higher
 # layer does not compile.
