@@ -58,7 +58,7 @@ endfunction()
 # tests/support. PATHS defines SOURCE_DIR and TEST_OUTPUT_DIR, the project's folder and the one for what a
 # test leaves to look at.
 # UNIX leaves a test out on Windows, for what only other systems have; docs/windows.md says what.
-# Tests that take some seconds name them as their COST: the longest begin first.
+# Tests that take some seconds name them as their COST: the longest begin first. They have the label "slow".
 # It runs without a display, in UTC and in the C locale, with settings and data folders of its own.
 function(wavorin_test name)
     cmake_parse_arguments(arg "PATHS;UNIX" "COST" "LIBRARIES" ${ARGN})
@@ -68,8 +68,10 @@ function(wavorin_test name)
     if(arg_UNIX AND WIN32)
         return()
     endif()
+    set(label slow)
     if(NOT arg_COST)
         set(arg_COST 0)
+        set(label quick)
     endif()
     set(source "${CMAKE_CURRENT_SOURCE_DIR}/${name}.cpp")
     set(interfaces ${PROJECT_SOURCE_DIR}/plot ${PROJECT_SOURCE_DIR}/dialogs ${PROJECT_SOURCE_DIR}/dialogs/label)
@@ -98,5 +100,6 @@ function(wavorin_test name)
     set_tests_properties(${name} PROPERTIES
         TIMEOUT 300
         COST ${arg_COST}
+        LABELS ${label}
         ENVIRONMENT "${platform};TZ=UTC;LC_ALL=C.UTF-8;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/tsan.supp")
 endfunction()
