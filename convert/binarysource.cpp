@@ -137,7 +137,7 @@ void BinarySource::readValues(const char *record, size_t rows, SampleBlock &bloc
         block.values = Series();
     auto &values = std::get<Series>(block.values);
     values.resize(rows * m_analogs);
-    auto *value = values.data();
+    typename Kind::Value *value = values.data();
     for (size_t row = 0; row < rows; ++row, record += m_recordBytes) {
         const char *at = record + headBytes;
         for (size_t k = 0; k < m_analogs; ++k, at += Kind::bytes)

@@ -6,7 +6,7 @@
 #include "outputpaths.h"
 #include "recordinginput.h"
 #include "scaling.h"
-#include "texts.h"
+#include "textencoding.h"
 
 #include <QFileInfo>
 

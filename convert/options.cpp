@@ -3,7 +3,7 @@
 
 #include "options.h"
 
-#include "texts.h"
+#include "textencoding.h"
 
 #include <QDir>
 #include <QFileInfo>

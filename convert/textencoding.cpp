@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Norvale
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "texts.h"
+#include "textencoding.h"
 
 #include <QTextCodec>
 
@@ -50,6 +50,7 @@ bool decodeTexts(Configuration &configuration, QTextCodec *encoding)
     const std::vector<std::string *> all = texts(configuration);
     bool isValid = true;
     std::vector<QString> letters;
+    letters.reserve(all.size());
     for (const std::string *text : all)
         letters.push_back(decoded(*text, encoding ? *encoding : utf8(), isValid));
     if (!isValid && encoding)
