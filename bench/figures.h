@@ -5,6 +5,8 @@
 
 #include "ratio.h"
 
+#include <QString>
+
 // What is measured, one source for each group. A call takes seconds to minutes.
 
 // The resident memory of thirty plots of 1700 x 320 with two cursors, less that of one, against 250
@@ -19,6 +21,8 @@ Ratio phasorsAgainstTransforms(int samplesPerCycle);
 // The drawing of four phasor panels against the 16 ms that a frame of the screen takes.
 Ratio panelsAgainstFrame();
 Ratio writingPlainlyAgainstWriting();
+// The binary data that the converter reads in a second of the processor, against 200 MB.
+Ratio convertingAgainstGoal();
 Ratio recolouringAgainstAPass();
 Ratio redrawingAgainstRedrawing(int samples, int fewerSamples);
 // Of a recording in the middle of which the times step back once, by a millisecond of 1000.
@@ -28,3 +32,7 @@ Ratio zoomingThirtyPlotsAgainstOne();
 Ratio drawingInFullAgainstThinned();
 // The time that a move of the pointer over one of eight linked plots takes, with the repaints.
 Ratio redrawingAgainstPointing();
+
+// The pattern of a folder in memory where the system has one: what a file system takes for many
+// megabytes varies widely.
+QString folderInMemory();

@@ -43,6 +43,7 @@ const Figure figures[] = {
         Goal::AtMost, 1.1},
     {"drawing four phasor panels / a frame", panelsAgainstFrame, Goal::AtMost, 1},
     {"writing, plain writer / writer", writingPlainlyAgainstWriting, Goal::AtLeast, 10},
+    {"converting binary data / 200 MB/s", convertingAgainstGoal, Goal::AtLeast, 1},
     {"recolouring a picture / a plain pass", recolouringAgainstAPass, Goal::AtMost, 5},
     {"redrawing, 1,000,000 samples / 2,000",
         [] { return redrawingAgainstRedrawing(1000000, 2000); }, Goal::AtMost, 5},

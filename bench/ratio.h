@@ -24,6 +24,15 @@ template <typename Work> double milliseconds(Work &&work)
     return static_cast<double>(std::clock() - start) * 1000 / CLOCKS_PER_SEC;
 }
 
+// The time of the quickest of some rounds, in which other programs hindered the work least.
+template <typename Work> double shortestTime(int rounds, Work &&work)
+{
+    double shortest = milliseconds(work);
+    for (int round = 1; round < rounds; ++round)
+        shortest = std::min(shortest, milliseconds(work));
+    return shortest;
+}
+
 // The time of one piece of work against that of another, in the round of the middle ratio. The two
 // take turns, so that whatever else the machine does meets both. What prepares a round is not
 // timed.

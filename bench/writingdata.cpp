@@ -41,14 +41,13 @@ void writePlainly(const CFGProperties &recording, const QString &path)
     file.commit();
 }
 
-// A folder in memory where the system has one: what the file system takes for 35 MB varies widely.
-QString folderPattern()
+} // namespace
+
+QString folderInMemory()
 {
     const QString memory = QStringLiteral("/dev/shm");
     return (QDir(memory).exists() ? memory : QDir::tempPath()) + QStringLiteral("/wavorin-XXXXXX");
 }
-
-} // namespace
 
 Ratio writingPlainlyAgainstWriting()
 {
@@ -58,7 +57,7 @@ Ratio writingPlainlyAgainstWriting()
     buffer.setData(text.data());
     buffer.open(QIODevice::ReadOnly);
     readData(buffer, recording);
-    const QTemporaryDir folder(folderPattern());
+    const QTemporaryDir folder(folderInMemory());
     const RecordingWriter writer(recording, {}, {});
     const Ratio ratio = timesInTurn(
         rounds, [&] { writePlainly(recording, folder.filePath(QStringLiteral("plain.dat"))); },
