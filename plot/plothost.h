@@ -37,6 +37,9 @@ public:
     // while they are hidden.
     virtual void refreshVectors() = 0;
 
+    // The pointer has come to a point of a plot or, with null, has left the plot.
+    virtual void pointAt(const Plotter * /*plot*/, const QPoint & /*point*/) { }
+
     // Adds what the window offers at a point of a plot to the plot's context menu. The cursor is
     // that of the label at the point, -1 where none is there.
     virtual void fillPlotMenu(

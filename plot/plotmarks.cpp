@@ -5,6 +5,7 @@
 
 PlotMarks::PlotMarks(QWidget *plot)
     : timeLine(plot),
+      timeMark(new TimeMark(plot)),
       startMarker{new PlotLine(plot, QStringLiteral("startMarker"), QStringLiteral("red"))},
       endMarker{new PlotLine(plot, QStringLiteral("endMarker"), QStringLiteral("red"))},
       cursors(plot)
@@ -15,6 +16,7 @@ void PlotMarks::place(const PlotGeometry &geometry)
 {
     cursors.place(geometry);
     timeLine.refresh(geometry);
+    timeMark->hide();
     startMarker.place(geometry);
     endMarker.place(geometry);
 }

@@ -6,6 +6,7 @@
 #include "cursormarks.h"
 #include "savemarker.h"
 #include "timeline.h"
+#include "timemark.h"
 
 class PlotGeometry;
 class QWidget;
@@ -15,11 +16,12 @@ struct PlotMarks {
     explicit PlotMarks(QWidget *plot);
 
     TimeLine timeLine;
+    TimeMark *timeMark;
     SaveMarker startMarker;
     SaveMarker endMarker;
     CursorMarks cursors;
 
-    // Sets all of them to their places in a view.
+    // Sets all of them to their places in a view; but the mark goes till the pointer moves again.
     void place(const PlotGeometry &geometry);
     // Takes over the cursors and the range to be saved of another plot.
     void copy(const PlotMarks &other);

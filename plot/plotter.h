@@ -171,7 +171,7 @@ private:
     void rangeScrollBar();
     void takeBarPosition();
     void scrollView(int dx, int dy);
-    void showTimeLine(int x);
+    void showTimeLine(int x, const Plotter &pointed);
     void removeCursors(int first, int last);
     void dragCursor(int x);
     void takeKeyboard();

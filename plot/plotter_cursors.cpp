@@ -12,10 +12,16 @@
 
 #include <algorithm>
 
-void Plotter::showTimeLine(int x)
+// The line stands at the same place in all plots, the mark at the time of the plot pointed at.
+void Plotter::showTimeLine(int x, const Plotter &pointed)
 {
-    if (!m_view.isEmpty())
-        m_marks.timeLine.show(x, geometryOfView());
+    if (m_view.isEmpty())
+        return;
+    m_marks.timeLine.show(x, geometryOfView());
+    if (&pointed == this)
+        m_marks.timeMark->hide();
+    else if (!pointed.m_view.isEmpty())
+        m_marks.timeMark->show(pointed.geometryOfView().lineTime(x), geometryOfView());
 }
 
 void Plotter::addCursor(int x, int /*y*/)

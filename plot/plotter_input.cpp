@@ -135,9 +135,11 @@ void Plotter::mouseMoveEvent(QMouseEvent *event)
         dragCursor(point.x());
     if (m_rubberBand.isShown())
         m_rubberBand.growTo(point);
-    showTimeLine(point.x());
+    showTimeLine(point.x(), *this);
     for (Plotter *plotter : qAsConst(linkedPlotters))
-        plotter->showTimeLine(point.x());
+        plotter->showTimeLine(point.x(), *this);
+    if (mainWindow)
+        mainWindow->pointAt(this, point);
 }
 
 void Plotter::mouseReleaseEvent(QMouseEvent * /*event*/)
@@ -282,6 +284,10 @@ void Plotter::keyReleaseEvent(QKeyEvent * /*event*/)
 void Plotter::leaveEvent(QEvent * /*event*/)
 {
     m_keyboard.endGrab();
+    for (Plotter *plotter : qAsConst(linkedPlotters))
+        plotter->m_marks.timeMark->hide();
+    if (mainWindow)
+        mainWindow->pointAt(nullptr, {});
 }
 
 void Plotter::contextMenuEvent(QContextMenuEvent *event)
