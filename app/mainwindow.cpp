@@ -13,12 +13,14 @@
 #include "plotvalues.h"
 #include "savedialog.h"
 #include "sidewindows.h"
+#include "statusfield.h"
 #include "ui_mainwindow.h"
 #include "vectordialog.h"
 
 #include <QCloseEvent>
 #include <QFile>
 #include <QProcess>
+#include <QStatusBar>
 #include <QThread>
 #include <QTranslator>
 
@@ -60,6 +62,8 @@ MainWindow::MainWindow(QWidget *parent)
     createMenus();
     createToolBars();
     statusBar()->showMessage(tr("Ready"));
+    m_statusField = new StatusField(*this, statusBar());
+    statusBar()->addPermanentWidget(m_statusField);
     readSettings();
     setCurrentFile(QString());
     setUnifiedTitleAndToolBarOnMac(true);
@@ -101,6 +105,12 @@ void MainWindow::refreshVectors()
 {
     m_vectorDialog->refresh();
     m_sideWindows->refresh();
+    m_statusField->refresh();
+}
+
+void MainWindow::pointAt(const Plotter *plot, const QPoint &point)
+{
+    m_statusField->pointAt(plot, point);
 }
 
 void MainWindow::slotLanguageChanged(QAction *action)

@@ -27,6 +27,7 @@ class QVBoxLayout;
 class RecordingWriter;
 class SaveDialog;
 class SideWindows;
+class StatusField;
 class VectorDialog;
 class plotterDg;
 enum class CaptureTarget;
@@ -57,6 +58,7 @@ public:
     int referenceIndex() const override;
     bool showsAngles() const override;
     void refreshVectors() override;
+    void pointAt(const Plotter *plot, const QPoint &point) override;
     void fillPlotMenu(QMenu &menu, Plotter &plot, const QPoint &point, int cursor) override;
     void refreshPlots() override;
     void saveRecording(const QString &path, double start, double end) override;
@@ -151,6 +153,7 @@ private:
     SaveDialog *m_saveDialog = nullptr;
     CTVTDialog *m_ctvtDialog = nullptr;
     SideWindows *m_sideWindows = nullptr;
+    StatusField *m_statusField = nullptr;
     QTranslator *m_translator = nullptr;
     PackageUnpacker *m_unpacker = nullptr;
     QThread *m_loaderThread = nullptr;

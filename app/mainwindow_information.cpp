@@ -15,6 +15,7 @@
 #include "plotvalues.h"
 #include "savedialog.h"
 #include "sidewindows.h"
+#include "statusfield.h"
 #include "timeofday.h"
 #include "ui_mainwindow.h"
 #include "vectordialog.h"
@@ -123,6 +124,7 @@ void MainWindow::clearView()
     m_vectorDialog->setPlotter(nullptr);
     m_vectorDialog->setChannelNames({});
     m_sideWindows->setRecording(nullptr, nullptr);
+    m_statusField->showFile(QString());
     if (disposes)
         disposePlots();
     m_showAnglesCheckBox->setChecked(false); // reaches no plot any more

@@ -12,6 +12,7 @@
 #include "filewarning.h"
 #include "loadinganimation.h"
 #include "packageunpacker.h"
+#include "statusfield.h"
 
 #include <QCoreApplication>
 #include <QDropEvent>
@@ -142,8 +143,10 @@ bool MainWindow::loadRecording(const QString &path)
     const bool isLoaded = m_cfgProperties->loaded != 0;
     if (isLoaded) {
         showRecording();
-        setWindowTitle(ApplicationIdentity::applicationName() + QLatin1String(" - ")
-            + asTitle(QFileInfo(path).fileName()));
+        const QString name = QFileInfo(path).fileName();
+        setWindowTitle(
+            ApplicationIdentity::applicationName() + QLatin1String(" - ") + asTitle(name));
+        m_statusField->showFile(name);
     } else {
         showWarning(tr("File not supported."),
             path + QLatin1Char('\n') + reasonText(m_cfgProperties->failure));

@@ -1453,6 +1453,25 @@ Do you want to replace it?</translation>
     </message>
 </context>
 <context>
+    <name>StatusField</name>
+    <message>
+        <source>Primary</source>
+        <translation>Primary</translation>
+    </message>
+    <message>
+        <source>Secondary</source>
+        <translation>Secondary</translation>
+    </message>
+    <message>
+        <source>Per Unit</source>
+        <translation>Per Unit</translation>
+    </message>
+    <message>
+        <source>from trigger: %1 ms</source>
+        <translation>from trigger: %1 ms</translation>
+    </message>
+</context>
+<context>
     <name>VectorDialog</name>
     <message>
         <source>Vectors</source>

@@ -1453,6 +1453,25 @@ Korvataanko se?</translation>
     </message>
 </context>
 <context>
+    <name>StatusField</name>
+    <message>
+        <source>Primary</source>
+        <translation>Ensiö</translation>
+    </message>
+    <message>
+        <source>Secondary</source>
+        <translation>Toisio</translation>
+    </message>
+    <message>
+        <source>Per Unit</source>
+        <translation>Suhteellisarvo</translation>
+    </message>
+    <message>
+        <source>from trigger: %1 ms</source>
+        <translation>liipaisusta: %1 ms</translation>
+    </message>
+</context>
+<context>
     <name>VectorDialog</name>
     <message>
         <source>Vectors</source>

@@ -1453,6 +1453,25 @@ Do you want to replace it?</source>
     </message>
 </context>
 <context>
+    <name>StatusField</name>
+    <message>
+        <source>Primary</source>
+        <translation>一次值</translation>
+    </message>
+    <message>
+        <source>Secondary</source>
+        <translation>二次值</translation>
+    </message>
+    <message>
+        <source>Per Unit</source>
+        <translation>标幺值</translation>
+    </message>
+    <message>
+        <source>from trigger: %1 ms</source>
+        <translation>距触发：%1 ms</translation>
+    </message>
+</context>
+<context>
     <name>VectorDialog</name>
     <message>
         <source>Vectors</source>

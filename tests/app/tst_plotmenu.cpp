@@ -205,7 +205,7 @@ void TestPlotMenu::oneStepBackForEachGesture()
 void TestPlotMenu::manyStepsBackAndNoMore_data()
 {
     QTest::addColumn<uint>("seed");
-    for (uint seed = 1; seed <= 12; ++seed)
+    for (uint seed = 1; seed <= 6; ++seed)
         QTest::addRow("seed %u", seed) << seed;
 }
 

@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "statusfield.h"
+
+#include "cfgproperties.h"
+#include "labeltext.h"
+#include "plothost.h"
+#include "plotsearch.h"
+#include "plotterdg.h"
+#include "timeofday.h"
+
+#include <QEvent>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int mostOfFile = 200; // pixels of its name
+
+// "Trip = 1"; the name alone outside the recorded times.
+QString stateText(const ShownChannel &channel, int sample)
+{
+    return sample < 0 || channel.runs.count() == 0
+        ? channel.id
+        : QStringLiteral("%1 = %2")
+              .arg(channel.id)
+              .arg(channel.runs.isOn(channel.runs.runOf(sample)) ? 1 : 0);
+}
+
+} // namespace
+
+StatusField::StatusField(const PlotHost &host, QWidget *parent) : ElidingLabel(parent), m_host(host)
+{
+    setObjectName(QStringLiteral("statusField"));
+    setStyleSheet(QStringLiteral("QLabel{color: white; font-weight: normal;}"));
+    setTextFormat(Qt::PlainText);
+    hide();
+}
+
+void StatusField::showFile(const QString &name)
+{
+    m_file = name;
+    m_plot = nullptr;
+    m_widest = 0;
+    refresh();
+    setVisible(!name.isEmpty());
+}
+
+void StatusField::pointAt(const Plotter *plot, const QPoint &point)
+{
+    m_plot = plot;
+    m_point = point;
+    refresh();
+}
+
+void StatusField::refresh()
+{
+    QStringList parts;
+    if (!m_file.isEmpty() && m_host.recording()) {
+        parts << fontMetrics().elidedText(m_file, Qt::ElideMiddle, mostOfFile) << sideText();
+        if (m_plot && !m_plot->sampleTimes().times().isEmpty())
+            parts << pointedText();
+    }
+    const QString shown = parts.join(QStringLiteral("  |  "));
+    if (shown == text())
+        return;
+    setText(shown);
+    setToolTip(plainToolTip(shown));
+    const int width = fontMetrics().horizontalAdvance(shown) + 2 * fontMetrics().averageCharWidth();
+    if (width > m_widest) {
+        m_widest = width;
+        updateGeometry();
+    }
+}
+
+QString StatusField::sideText() const
+{
+    switch (m_host.valueMode()) {
+    case 0:
+        return tr("Primary");
+    case 1:
+        return tr("Secondary");
+    default:
+        return tr("Per Unit");
+    }
+}
+
+// The time is that of the line in the plot pointed at.
+QString StatusField::pointedText() const
+{
+    const CFGProperties &recording = *m_host.recording();
+    const double time = m_plot->geometryOfView().lineTime(m_point.x());
+    QStringList parts{QStringLiteral("%1: %2 ms").arg(m_plot->name(), millisecondsText(time)),
+        clockText(recording.startTime, time),
+        tr("from trigger: %1 ms").arg(millisecondsText(time - recording.triggerOffsetMs))};
+    const int row = qobject_cast<const plotterDg *>(m_plot) ? rowAt(*m_plot, m_point) : -1;
+    if (row >= 0)
+        parts << stateText(m_plot->shownChannels().at(row),
+            m_plot->sampleTimes().sampleAt(recording.sampleRate, time));
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral("  |  "));
+}
+
+QSize StatusField::sizeHint() const
+{
+    const int most = parentWidget()->width() * 3 / 4;
+    return {std::min(m_widest, most), fontMetrics().height()};
+}
+
+void StatusField::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        refresh();
+    ElidingLabel::changeEvent(event);
+}

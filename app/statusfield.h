@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "elidinglabel.h"
+
+#include <QPoint>
+#include <QPointer>
+
+class PlotHost;
+class Plotter;
+
+// The field at the right of the status bar: the recording on screen, the side of its values, and
+// what stands under the pointer in which plot. Hidden while there is no recording.
+class StatusField : public ElidingLabel {
+    Q_OBJECT
+
+public:
+    // The host must outlive the field.
+    StatusField(const PlotHost &host, QWidget *parent);
+
+    // Of the recording just shown; empty before another one is loaded.
+    void showFile(const QString &name);
+    // The pointer stands at a point of a plot, or, with null, over none.
+    void pointAt(const Plotter *plot, const QPoint &point);
+    // After any change of what stands under the pointer.
+    void refresh();
+
+    // The widest text so far, so that the field does not go to and fro with the pointer, but not so
+    // much that no room is left for messages; not higher than they are.
+    QSize sizeHint() const override;
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    QString sideText() const;
+    QString pointedText() const;
+
+    const PlotHost &m_host;
+    QString m_file;
+    QPointer<const Plotter> m_plot;
+    QPoint m_point;
+    int m_widest = 0;
+};

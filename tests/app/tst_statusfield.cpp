@@ -1,0 +1,202 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "plotswindow.h"
+
+#include <QLabel>
+#include <QMouseEvent>
+#include <QStatusBar>
+
+// The recording lasts from 0 to 99 ms, its whole view to 100; it starts at 10 o'clock and its
+// trigger lies at 50 ms. "Trip" is 1 from there on.
+class TestStatusField : public PlotsWindow {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { startAsMaker(); }
+    void init() { openWindow(); }
+    void cleanup() { closeWindow(); }
+
+    void nothingIsShownWithoutARecording();
+    void thePointerInAnAnalogPlot();
+    void thePointerOverARow_data();
+    void thePointerOverARow();
+    void theSideOfTheValues();
+    void aViewThatChangesUnderThePointer();
+    void anotherRecordingAndNone();
+    void aLongNameLeavesRoomForMessages();
+    void marksInTheOtherPlots();
+    void noMarkOutOfView();
+
+private:
+    QLabel *field() const { return child<QLabel>("statusField"); }
+    static void point(QWidget *plot, const QPoint &place)
+    {
+        QMouseEvent event(QEvent::MouseMove, place, plot->mapToGlobal(place), Qt::NoButton,
+            Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(plot, &event);
+    }
+    static void leave(QWidget *plot)
+    {
+        QEvent event(QEvent::Leave);
+        QApplication::sendEvent(plot, &event);
+    }
+    // Where the time of the line is the last one of the view.
+    static QPoint rightEdge(const Plotter *plot)
+    {
+        return {plot->width() - plot->geometryOfView().readoutWidth() - 3, 150};
+    }
+    static QWidget *mark(const Plotter *plot)
+    {
+        return plot->findChild<QWidget *>(QStringLiteral("timemark"));
+    }
+    void openUsual()
+    {
+        open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {QStringLiteral("Trip")});
+    }
+};
+
+void TestStatusField::nothingIsShownWithoutARecording()
+{
+    QVERIFY(field()->isHidden());
+    const int height = window->statusBar()->height();
+    openUsual();
+    QVERIFY(field()->isVisible());
+    QCoreApplication::processEvents();
+    QCOMPARE(window->statusBar()->height(), height); // the plots keep their room
+}
+
+void TestStatusField::thePointerInAnAnalogPlot()
+{
+    openUsual();
+    QCOMPARE(field()->text(), QStringLiteral("recording.cfg  |  Primary"));
+    point(analog(), {100, 150});
+    QCOMPARE(field()->text(),
+        QStringLiteral("recording.cfg  |  Primary  |  Analog: 0.000 ms  |  10:00:00.000000  |  "
+                       "from trigger: -50.000 ms"));
+    QCOMPARE(field()->toolTip(), field()->text());
+    point(analog(), rightEdge(analog()));
+    QCOMPARE(field()->text(),
+        QStringLiteral("recording.cfg  |  Primary  |  Analog: 100.000 ms  |  10:00:00.100000  |  "
+                       "from trigger: 50.000 ms"));
+    leave(analog());
+    QCOMPARE(field()->text(), QStringLiteral("recording.cfg  |  Primary"));
+}
+
+void TestStatusField::thePointerOverARow_data()
+{
+    QTest::addColumn<double>("from");
+    QTest::addColumn<int>("y");
+    QTest::addColumn<QString>("row");
+    QTest::newRow("off") << 25.0 << 130 << QStringLiteral("  |  Trip = 0");
+    QTest::newRow("on") << 50.0 << 130 << QStringLiteral("  |  Trip = 1");
+    QTest::newRow("outside the samples") << 99.5 << 130 << QStringLiteral("  |  Trip");
+    QTest::newRow("above the row") << 25.0 << 10 << QString();
+}
+
+void TestStatusField::thePointerOverARow()
+{
+    QFETCH(double, from);
+    QFETCH(int, y);
+    QFETCH(QString, row);
+    openUsual();
+    digital()->resize(digital()->width(), 200); // the row stands from y = 84 to 134
+    analog()->changeView([=](PlotView &view) { return view.showTimes(from, from + 10); });
+    point(digital(), {100, y});
+    QVERIFY2(field()->text().contains(QStringLiteral("Digital: ")), qPrintable(field()->text()));
+    QVERIFY2(field()->text().endsWith(QStringLiteral(" ms") + row), qPrintable(field()->text()));
+}
+
+void TestStatusField::theSideOfTheValues()
+{
+    openUsual();
+    for (int twice = 0; twice < 2; ++twice) {
+        combo("comboBox_primSec")->setCurrentIndex(1);
+        QCOMPARE(field()->text(), QStringLiteral("recording.cfg  |  Secondary"));
+        combo("comboBox_primSec")->setCurrentIndex(2);
+        QCOMPARE(field()->text(), QStringLiteral("recording.cfg  |  Per Unit"));
+        combo("comboBox_primSec")->setCurrentIndex(0);
+        QCOMPARE(field()->text(), QStringLiteral("recording.cfg  |  Primary"));
+    }
+}
+
+void TestStatusField::aViewThatChangesUnderThePointer()
+{
+    openUsual();
+    point(analog(), rightEdge(analog()));
+    QTest::keyClick(analog(), Qt::Key_Plus);
+    QVERIFY2(
+        field()->text().contains(QStringLiteral("Analog: 50.000 ms")), qPrintable(field()->text()));
+    trigger("Zoom Reset");
+    QVERIFY2(field()->text().contains(QStringLiteral("Analog: 100.000 ms")),
+        qPrintable(field()->text()));
+}
+
+void TestStatusField::anotherRecordingAndNone()
+{
+    for (int twice = 0; twice < 2; ++twice) {
+        openUsual();
+        point(analog(), {100, 150});
+        openUsual();
+        QCOMPARE(field()->text(), QStringLiteral("recording.cfg  |  Primary"));
+    }
+    window->refreshVectors();
+    QCOMPARE(field()->text(), QStringLiteral("recording.cfg  |  Primary"));
+}
+
+void TestStatusField::aLongNameLeavesRoomForMessages()
+{
+    openUsual();
+    const QString renamed = folder->filePath(QString(120, QLatin1Char('n')));
+    for (const char *ending : {".cfg", ".dat"})
+        QVERIFY(QFile::copy(folder->filePath(QStringLiteral("recording") + QLatin1String(ending)),
+            renamed + QLatin1String(ending)));
+    const int width = window->width();
+    window->open(renamed + QStringLiteral(".cfg"));
+    point(digital(), {100, 130});
+    QCoreApplication::processEvents();
+    QCOMPARE(window->width(), width);
+    QVERIFY(field()->text().startsWith(QStringLiteral("nnn")));
+    QVERIFY(field()->text().contains(QStringLiteral("n.cfg")));
+    QVERIFY(field()->x() >= window->statusBar()->width() / 5);
+}
+
+// The digital plot keeps no room for the readout, so that equal pixels are other times.
+void TestStatusField::marksInTheOtherPlots()
+{
+    openUsual();
+    compose({QStringLiteral("Ib")});
+    Plotter *added = plot(QStringLiteral("Graph 1"));
+    analog()->addCursorAt(50);
+    for (const Plotter *each : plots())
+        QVERIFY(mark(each)->isHidden());
+    point(analog(), rightEdge(analog()));
+    QVERIFY(mark(analog())->isHidden());
+    QVERIFY(mark(added)->isVisible());
+    QVERIFY(mark(digital())->isVisible());
+    QCOMPARE(mark(added)->geometry().center().x(), rightEdge(analog()).x());
+    QCOMPARE(mark(digital())->geometry().center().x(), digital()->width() - 3);
+    QCOMPARE(mark(digital())->y(), digital()->height() - 41 + 1);
+    point(digital(), {100, 100});
+    QVERIFY(mark(digital())->isHidden());
+    QCOMPARE(mark(analog())->geometry().center().x(), 100);
+    trigger("Zoom In"); // the old place would be another time
+    QVERIFY(mark(analog())->isHidden());
+    point(digital(), {101, 100});
+    QVERIFY(mark(analog())->isVisible());
+    leave(digital());
+    for (const Plotter *each : plots())
+        QVERIFY(mark(each)->isHidden());
+}
+
+void TestStatusField::noMarkOutOfView()
+{
+    openUsual();
+    point(analog(), {99, 150});
+    QVERIFY(mark(digital())->isHidden());
+    point(analog(), {100, 150});
+    QVERIFY(mark(digital())->isVisible());
+}
+
+QTEST_MAIN(TestStatusField)
+#include "tst_statusfield.moc"
