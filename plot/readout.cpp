@@ -94,6 +94,7 @@ Readout::Layout Readout::layout(const PlotGeometry &geometry, const QFont &font)
     layout.widths.resize(columns);
     for (QVector<int> lacking : {timesFit ? times : columnWidths(font, least, false, cellBorder),
              columnWidths(font, least, true, cellPadding),
+             columnWidths(font, Header::TwoLines, true, cellPadding),
              columnWidths(font, Header::OneLine, true, cellPadding)}) {
         for (int column = 0; column < columns; ++column)
             lacking[column] -= layout.widths[column];

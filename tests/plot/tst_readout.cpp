@@ -56,6 +56,7 @@ private slots:
     void fourTimesAreReadable();
     void namesGoBeforeValues();
     void columnsShareTheRoomWhenTooWide();
+    void timesOnTwoLinesGoBeforeTimesOnOne();
     void twentyCursorsKeepTheirNames();
     void emptyCellsStayEmpty();
     void rowsMoveTogetherBeforeTheyAreLeftOut();
@@ -199,6 +200,23 @@ void TestReadout::columnsShareTheRoomWhenTooWide()
 }
 
 // Where there is just room for the names, with the two pixels that stay free in a cell.
+// Three pixels are missing for all times with their padding, of which they can give up six; the
+// third cursor has no values, so its column is narrower than the others without its time.
+void TestReadout::timesOnTwoLinesGoBeforeTimesOnOne()
+{
+    const QString value = QStringLiteral("-1234.5"); // narrower than a time
+    const Readout readout
+        = table({{QStringLiteral("Name"), QStringLiteral("P1 (1234.5)"),
+                     QStringLiteral("P2 (5678.9)"), QStringLiteral("P3 (9012.3)")},
+            {QStringLiteral("Ia"), value, value, QString()}});
+    int columns = metrics.horizontalAdvance(QStringLiteral("Name")) + 8;
+    for (const char *time : {"(1234.5)", "(5678.9)", "(9012.3)"})
+        columns += metrics.horizontalAdvance(QLatin1String(time)) + 8;
+    const QImage image = draw(readout, geometryOf({800, 301}, columns + 8 - 3), font);
+    for (const char *text : {"(1234.5)", "(5678.9)", "(9012.3)", "P1", "P2", "P3"})
+        QVERIFY2(!findText(image, QLatin1String(text), font).isNull(), text);
+}
+
 void TestReadout::twentyCursorsKeepTheirNames()
 {
     QStringList header{QStringLiteral("Parameter")};
