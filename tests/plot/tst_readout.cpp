@@ -199,7 +199,6 @@ void TestReadout::columnsShareTheRoomWhenTooWide()
     QVERIFY(ink.right() < 796);
 }
 
-// Where there is just room for the names, with the two pixels that stay free in a cell.
 // Three pixels are missing for all times with their padding, of which they can give up six; the
 // third cursor has no values, so its column is narrower than the others without its time.
 void TestReadout::timesOnTwoLinesGoBeforeTimesOnOne()
@@ -217,6 +216,7 @@ void TestReadout::timesOnTwoLinesGoBeforeTimesOnOne()
         QVERIFY2(!findText(image, QLatin1String(text), font).isNull(), text);
 }
 
+// Where there is just room for the names, with the two pixels that stay free in a cell.
 void TestReadout::twentyCursorsKeepTheirNames()
 {
     QStringList header{QStringLiteral("Parameter")};
