@@ -17,6 +17,7 @@
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QSaveFile>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QTimer>
 
@@ -121,8 +122,11 @@ void MeasurementsDialog::showForChannels(
     bringForward();
 }
 
+// No larger than its screen.
 void MeasurementsDialog::bringForward()
 {
+    if (!isVisible())
+        resize(size().boundedTo(screen()->availableSize() * 9 / 10));
     show();
     raise();
     activateWindow();

@@ -159,7 +159,8 @@ std::optional<double> Measured::at(
             return std::nullopt;
         return static_cast<double>(channel.values().at(sample)) * channel.factor;
     case Quantity::FundamentalRms:
-        return phasor ? std::optional<double>(std::abs(*phasor)) : std::nullopt;
+        return phasor ? scaled(static_cast<double>(phasorOf(*channel.analog, sample).magnitude))
+                      : std::nullopt;
     case Quantity::Angle:
         return phasor ? angle(*phasor, sample) : std::nullopt;
     case Quantity::TrueRms:

@@ -17,6 +17,7 @@ using Complex = std::complex<double>;
 constexpr double turn = 6.283185307179586; // radians
 constexpr double fullTurn = 360; // degrees
 const double rootOfTwo = std::sqrt(2.0);
+constexpr double precision = 0x1p-24; // of the samples, relative
 
 bool isWithin(const QVector<float> &values, qint64 first, int count)
 {
@@ -90,8 +91,10 @@ Harmonics harmonicsAround(const AnalogChannel &channel, int sample, int samplesP
     if (sample >= channel.fftMagnitudes.size() || !isWithin(channel.values, first, count))
         return harmonics;
     std::array<Complex, harmonicCount> sums;
+    double largest = 0;
     for (int i = 0; i < count; ++i) {
         const auto value = static_cast<double>(channel.values.at(static_cast<int>(first) + i));
+        largest = std::max(largest, std::abs(value));
         const Complex step = std::polar(1.0, -turn * i / count);
         Complex turned = value;
         for (Complex &sum : sums)
@@ -100,7 +103,8 @@ Harmonics harmonicsAround(const AnalogChannel &channel, int sample, int samplesP
     harmonics[0] = static_cast<double>(phasorOf(channel, sample).magnitude);
     for (int order = 2; order <= harmonicCount && 2 * order < count; ++order) {
         const auto place = static_cast<size_t>(order - 1);
-        harmonics[place] = std::abs(sums[place]) * rootOfTwo / count;
+        const double rms = std::abs(sums[place]) * rootOfTwo / count;
+        harmonics[place] = rms < largest * precision ? 0 : rms;
     }
     return harmonics;
 }

@@ -50,8 +50,8 @@ using Harmonics = std::array<std::optional<double>, harmonicCount>;
 // Those of the cycle around a sample. It begins N / 2 - 1 samples (whole number division) before
 // the sample, as that of the phasor does. The first one is the magnitude of the channel's phasor.
 // Harmonic k of the others is sqrt(2) / N times the magnitude of the sum of x(i) exp(-j 2 pi k i /
-// N) over the samples i of the cycle. There is none from N / 2 on, which sampling cannot tell from
-// lower ones.
+// N) over the samples i of the cycle; 0 where the samples are not precise enough to show it. There
+// is none from N / 2 on, which sampling cannot tell from lower ones.
 Harmonics harmonicsAround(const AnalogChannel &channel, int sample, int samplesPerCycle);
 
 // A time (ms) in cycles of the line frequency (Hz); nothing where that is not positive.

@@ -55,6 +55,7 @@ private slots:
     void anglesGoByTheReference_data();
     void anglesGoByTheReference();
     void differencesGoFromTheFirstToTheSecond();
+    void equalMagnitudesDifferByNothing();
     void differencesOfAnglesGoTheShorterWay();
     void extremesAreFoundBetweenTheCursors_data();
     void extremesAreFoundBetweenTheCursors();
@@ -232,6 +233,18 @@ void TestMeasurementTables::differencesGoFromTheFirstToTheSecond()
     QCOMPARE(lines(differenceTable(m_measured, {channel("IL1")}, {Quantity::Value}, 0, 0)).mid(1),
         texts({"Time||ms|70.000|70.000|0.000||||", "Time||cycles|||||||",
             "IL1|Value|A (primary)|70|70|0|70|70.000|70|70.000"}));
+}
+
+// However their angles round: 1/3 in single precision at any two angles.
+void TestMeasurementTables::equalMagnitudesDifferByNothing()
+{
+    const MeasuredChannel turning = channel("IL1", 10, 1.0F / 3);
+    for (int i = 0; i < 30; ++i) {
+        m_channels.back().fftAngles[50] = static_cast<float>(i) / 5;
+        const TextTable table
+            = differenceTable(m_measured, {turning}, {Quantity::FundamentalRms}, 0, 1);
+        QCOMPARE(table.rows.last().at(5), QStringLiteral("0"));
+    }
 }
 
 void TestMeasurementTables::differencesOfAnglesGoTheShorterWay()

@@ -69,6 +69,7 @@ private slots:
     void harmonicsAreToldApart();
     void harmonicsEndBelowHalfTheSamples_data();
     void harmonicsEndBelowHalfTheSamples();
+    void whatIsOnlyRoundedIsNoHarmonic();
     void theFundamentalIsThatOfThePhasors();
     void aCycleMustLieWithinTheRecording_data();
     void aCycleMustLieWithinTheRecording();
@@ -291,6 +292,18 @@ void TestMeasurements::harmonicsEndBelowHalfTheSamples()
     const Harmonics harmonics = harmonicsAround(channel, 50, samplesPerCycle);
     for (int k = 1; k <= 15; ++k)
         QCOMPARE(harmonics.at(static_cast<size_t>(k - 1)).has_value(), k <= last);
+}
+
+void TestMeasurements::whatIsOnlyRoundedIsNoHarmonic()
+{
+    const AnalogChannel channel
+        = channelOf(wave(128, [](int i) { return 100 * std::cos(turn * i / 64); }), 64);
+    const Harmonics harmonics = harmonicsAround(channel, 60, 64);
+    for (int k = 2; k <= 15; ++k)
+        QCOMPARE(harmonics.at(static_cast<size_t>(k - 1)), std::optional<double>(0.0));
+    const AnalogChannel third
+        = channelOf(wave(128, [](int i) { return 1e-12 * std::cos(3 * turn * i / 64); }), 64);
+    QVERIFY(*harmonicsAround(third, 60, 64).at(2) > 7e-13);
 }
 
 void TestMeasurements::theFundamentalIsThatOfThePhasors()
