@@ -141,6 +141,8 @@ private:
     void equip(Plotter *plot); // a new one, with what it needs of the window
     // A plot of the channels named; of several of one name, their 0-based numbers tell which.
     void addPlot(const QStringList &names, const QList<int> &channels);
+    void addPlot(const QString &name, const QList<int> &numbers); // without a name, one by number
+    void addUnitPlots();
     void linkPlots();
     void setRequiredDigitalChannels(); // as setRequiredAnChannels()
     void showChosenChannels();

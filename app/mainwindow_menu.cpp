@@ -6,9 +6,12 @@
 #include "mainwindow.h"
 
 #include "plotmenu.h"
+#include "plotter.h"
 #include "sidewindows.h"
+#include "unitplots.h"
 
 #include <QMenu>
+#include <QPointer>
 
 void MainWindow::fillPlotMenu(QMenu &menu, Plotter &plot, const QPoint &point, int cursor)
 {
@@ -24,7 +27,25 @@ void MainWindow::fillPlotMenu(QMenu &menu, Plotter &plot, const QPoint &point, i
     menu.addSeparator();
     entries.addNewCursors(point);
     menu.addSeparator();
+    menu.addAction(tr("Plots by Unit"), this, &MainWindow::addUnitPlots);
     m_sideWindows->addTo(menu, plot);
     menu.addSeparator();
     addOutputs(menu, plot);
+}
+
+// Events are processed after each plot: another recording may come, or the window go.
+void MainWindow::addUnitPlots()
+{
+    const QPointer<Plotter> first(m_analogPlotter);
+    const QVector<UnitPlot> plots = first ? plotsByUnit(*m_cfgProperties) : QVector<UnitPlot>();
+    for (const UnitPlot &plot : plots) {
+        if (!first)
+            return;
+        QString name = plot.unit;
+        if (plot.kind == UnitPlot::Kind::Currents)
+            name = tr("Currents FFT");
+        else if (plot.kind == UnitPlot::Kind::Voltages)
+            name = tr("Voltages FFT");
+        addPlot(name, plot.channels);
+    }
 }

@@ -304,14 +304,17 @@ void MainWindow::addPlot(const QStringList &names, const QList<int> &channels)
         if (number >= 0)
             numbers.append(isSpectrum ? ids.size() + number : number);
     }
-    if (numbers.isEmpty())
-        return;
+    if (!numbers.isEmpty())
+        addPlot(m_addPlotterDialog->graphName().trimmed(), numbers);
+}
+
+void MainWindow::addPlot(const QString &name, const QList<int> &numbers)
+{
     m_actions.removePlotter->setEnabled(true);
-    const QString given = m_addPlotterDialog->graphName().trimmed();
     auto *plot = new Plotter(ui->scrollWidget);
-    if (given.isEmpty())
+    if (name.isEmpty())
         plot->setProperty(numberOfUnnamed, ++m_graphCount);
-    plot->setName(given.isEmpty() ? tr("Graph %1").arg(m_graphCount) : given);
+    plot->setName(name.isEmpty() ? tr("Graph %1").arg(m_graphCount) : name);
     equip(plot);
     m_plotLayout->insertWidget(m_plotLayout->indexOf(m_digitalPlotter), plot);
     setTabOrder(m_addedPlotters.isEmpty() ? m_analogPlotter : m_addedPlotters.constLast(), plot);
@@ -319,7 +322,7 @@ void MainWindow::addPlot(const QStringList &names, const QList<int> &channels)
     setColumnHeight();
     linkPlots();
 
-    for (const int number : qAsConst(numbers))
+    for (const int number : numbers)
         plot->addChannel(number);
     plot->setupPlot();
     plot->show(); // at the time of any plot on screen, which may not be that of the first

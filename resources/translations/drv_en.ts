@@ -505,6 +505,18 @@ Please select another file.</translation>
         <source>Save P%1 to P%2...</source>
         <translation>Save P%1 to P%2...</translation>
     </message>
+    <message>
+        <source>Plots by Unit</source>
+        <translation>Plots by Unit</translation>
+    </message>
+    <message>
+        <source>Currents FFT</source>
+        <translation>Currents FFT</translation>
+    </message>
+    <message>
+        <source>Voltages FFT</source>
+        <translation>Voltages FFT</translation>
+    </message>
 </context>
 <context>
     <name>MeasurementsDialog</name>

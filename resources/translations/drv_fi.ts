@@ -505,6 +505,18 @@ Valitse toinen tiedosto.</translation>
         <source>Save P%1 to P%2...</source>
         <translation>Tallenna väli P%1–P%2...</translation>
     </message>
+    <message>
+        <source>Plots by Unit</source>
+        <translation>Kuvaajat yksiköittäin</translation>
+    </message>
+    <message>
+        <source>Currents FFT</source>
+        <translation>Virrat FFT</translation>
+    </message>
+    <message>
+        <source>Voltages FFT</source>
+        <translation>Jännitteet FFT</translation>
+    </message>
 </context>
 <context>
     <name>MeasurementsDialog</name>

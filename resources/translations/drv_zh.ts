@@ -505,6 +505,18 @@ Please select another file.</source>
         <source>Save P%1 to P%2...</source>
         <translation>保存 P%1 至 P%2...</translation>
     </message>
+    <message>
+        <source>Plots by Unit</source>
+        <translation>按单位添加曲线图</translation>
+    </message>
+    <message>
+        <source>Currents FFT</source>
+        <translation>电流 FFT</translation>
+    </message>
+    <message>
+        <source>Voltages FFT</source>
+        <translation>电压 FFT</translation>
+    </message>
 </context>
 <context>
     <name>MeasurementsDialog</name>
