@@ -9,7 +9,6 @@
 #include "plotstyle.h"
 #include "plottitle.h"
 
-#include <QColorDialog>
 #include <QLineEdit>
 #include <QPaintEvent>
 #include <QPainter>
@@ -25,7 +24,6 @@ Plotter::Plotter(QWidget *parent)
       m_marks(this),
       m_rubberBand(this),
       m_channelLabels(this),
-      colorDialog(new QColorDialog(Qt::white, this)),
       hostWidget(parent)
 {
     setObjectName(QStringLiteral("Plotter"));

@@ -187,7 +187,7 @@ private:
     PlotHost *mainWindow = nullptr;
     ChannelLabels m_channelLabels;
     LabelDrag m_labelDrag;
-    QColorDialog *colorDialog;
+    QColorDialog *colorDialog = nullptr; // made when it is first shown
     int zoomLevel = 0;
     QList<Plotter *> linkedPlotters;
     // Kept for their values; nothing reads them.

@@ -62,7 +62,8 @@ bool Plotter::event(QEvent *event)
         break;
     case QEvent::LanguageChange:
         plotterLabel->retranslate();
-        colorDialog->setWindowTitle(QColorDialog::tr("Select Color"));
+        if (colorDialog)
+            colorDialog->setWindowTitle(QColorDialog::tr("Select Color"));
         refreshPixmap();
         break;
     case QEvent::Hide:
@@ -200,6 +201,8 @@ void Plotter::chooseColor(const QLabel *label)
 {
     const int channel = label->property("channel").toInt();
     m_keyboard.release();
+    if (!colorDialog)
+        colorDialog = new QColorDialog(this);
     colorDialog->setCurrentColor(Qt::white);
     const QPointer<Plotter> self(this); // another recording may replace the plot meanwhile
     const bool isAccepted = colorDialog->exec() == QDialog::Accepted;

@@ -707,6 +707,7 @@ void TestPlotterInput::aChannelLabelOffersColours()
     QFETCH(bool, accepted);
     auto *label = pair->plot->findChild<QLabel *>(QStringLiteral("channelLabel"));
     QVERIFY(label);
+    QVERIFY(!pair->plot->findChild<QColorDialog *>()); // dear to make, and hardly ever asked for
     QColor initial;
     QTimer::singleShot(0, this, [&] {
         auto *dialog = qobject_cast<QColorDialog *>(QApplication::activeModalWidget());
