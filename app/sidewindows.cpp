@@ -17,7 +17,7 @@ void SideWindows::setRecording(const CFGProperties *recording, Plotter *plot)
     if (m_events)
         m_events->setRecording(m_events->isVisible() ? recording : nullptr);
     if (m_measurements)
-        m_measurements->setPlotter(plot);
+        m_measurements->setPlotter(m_measurements->isVisible() ? plot : nullptr);
 }
 
 void SideWindows::addTo(QMenu &menu, Plotter &plot)
