@@ -37,13 +37,14 @@ std::optional<double> toValue(std::string_view field)
 {
     // Nearly all are short whole numbers.
     constexpr size_t mostLetters = 16;
+    const size_t end = std::min(field.size(), mostLetters);
     const bool isNegative = !field.empty() && field.front() == '-';
     std::int64_t whole = 0;
     size_t at = isNegative ? 1 : 0;
     const size_t first = at;
-    for (; at < field.size() && field[at] >= '0' && field[at] <= '9'; ++at)
+    for (; at < end && field[at] >= '0' && field[at] <= '9'; ++at)
         whole = whole * 10 + (field[at] - '0');
-    if (at == field.size() && at != first && at <= mostLetters)
+    if (at == field.size() && at != first)
         return static_cast<double>(isNegative ? -whole : whole);
     return toNumber(field);
 }

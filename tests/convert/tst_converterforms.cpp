@@ -99,6 +99,8 @@ private slots:
     void markOfAMissingValue();
     void numbersBeyondCounts_data();
     void numbersBeyondCounts();
+    void moreDigitsThanAnyCount_data();
+    void moreDigitsThanAnyCount();
     void valueThatLooksLikeAMarkStays();
     void timesOfSamples_data();
     void timesOfSamples();
@@ -260,6 +262,32 @@ void TestConverterForms::numbersBeyondCounts()
     read.filePath = m_folder->path(QStringLiteral("out.cfg"));
     read.init();
     QCOMPARE(read.analogChannels.at(0)->rawValues.at(0), static_cast<float>(value));
+}
+
+void TestConverterForms::moreDigitsThanAnyCount_data()
+{
+    QTest::addColumn<QByteArray>("field");
+    QTest::addColumn<QByteArray>("written");
+    const auto row = [](const char *name, const char *field, const char *written) {
+        QTest::newRow(name) << QByteArray(field) << QByteArray(written);
+    };
+    row("sixteen digits", "9007199254740993", "9007199254740992");
+    row("twenty-three digits", "12345678901234567890123", "1.2345678901234568e+22");
+    row("negative", "-12345678901234567890123", "-1.2345678901234568e+22");
+    row("zeros before them", "00000000000000000000000000000042", "42");
+    row("decimals", "0.12345678901234567", "0.12345678901234566");
+}
+
+void TestConverterForms::moreDigitsThanAnyCount()
+{
+    QFETCH(QByteArray, field);
+    QFETCH(QByteArray, written);
+    PublishedRecording made;
+    made.rates = QByteArrayList{"1200,1"};
+    m_folder->write("r.cfg", made.configuration({2013, "ASCII"}));
+    m_folder->write("r.dat", "1,0," + field + ",1\n");
+    QCOMPARE(m_folder->run(QStringLiteral("@r.cfg -o @out")).errors, QByteArray());
+    QCOMPARE(m_folder->read("out.dat"), "1,0," + written + ",1\r\n");
 }
 
 void TestConverterForms::valueThatLooksLikeAMarkStays()
