@@ -23,10 +23,13 @@ Failure inputFailure(const QString &path, const std::string &what)
 QString identity(const QString &path)
 {
     const QFileInfo file(path);
-    const QString there = file.canonicalFilePath();
-    return there.isEmpty()
-        ? QFileInfo(file.path()).canonicalFilePath() + QLatin1Char('/') + file.fileName()
-        : there;
+    QString name = file.canonicalFilePath();
+    if (name.isEmpty())
+        name = QFileInfo(file.path()).canonicalFilePath() + QLatin1Char('/') + file.fileName();
+#ifdef Q_OS_WIN
+    name = name.toLower(); // the case of letters makes no difference there
+#endif
+    return name;
 }
 
 } // namespace

@@ -68,7 +68,7 @@ bool SectionReader::nextLine(std::string_view &line)
         return false;
     }
     constexpr char endMark = 0x1a;
-    if (m_layout == Layout::WholeFile && !line.empty() && line.front() == endMark) {
+    if (!line.empty() && line.front() == endMark) {
         m_isAtEnd = true;
         return false;
     }

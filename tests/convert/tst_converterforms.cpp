@@ -453,6 +453,9 @@ void TestConverterForms::endMarkOfTheOldRevisions()
     m_folder->write("r.dat", made.data(form) + "\x1a");
     QCOMPARE(m_folder->run(QStringLiteral("@r.cfg -o @out")).errors, QByteArray());
     QCOMPARE(m_folder->read("out.dat"), QByteArray("1,0,1,0\r\n"));
+    m_folder->write("one.cff", made.singleFile(form) + '\x1a');
+    QCOMPARE(m_folder->run(QStringLiteral("@one.cff")).errors, QByteArray());
+    QCOMPARE(m_folder->read("one.dat"), QByteArray("1,0,1,0\r\n"));
 }
 
 void TestConverterForms::wordOfTheTypeInSmallLetters()

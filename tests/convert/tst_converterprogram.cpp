@@ -62,6 +62,7 @@ private slots:
     void namesOfColumns();
     void inputIsNeverReplaced_data();
     void inputIsNeverReplaced();
+    void inputInOtherLettersIsNeverReplaced();
     void otherOutputOfTheSameRunIsNotReplaced();
     void existingFilesNeedForce();
     void batchGoesOnAfterAFault();
@@ -389,6 +390,19 @@ void TestConverterProgram::inputIsNeverReplaced()
     QCOMPARE(m_folder->read("a.cfg"), configuration);
     QCOMPARE(m_folder->read("a.dat"), data);
     QCOMPARE(m_folder->read("s.dat"), data);
+}
+
+// Whether the file system takes the two names for one, or not.
+void TestConverterProgram::inputInOtherLettersIsNeverReplaced()
+{
+    writePair("a");
+    const QByteArray configuration = m_folder->read("a.cfg");
+    const QByteArray data = m_folder->read("a.dat");
+    const bool isOneFile = QFile::exists(m_folder->path(QStringLiteral("A.CFG")));
+    const auto outcome = m_folder->run(QStringLiteral("--force @a.cfg -o @A"));
+    QCOMPARE(outcome.status, isOneFile ? 3 : 0);
+    QCOMPARE(m_folder->read("a.cfg"), configuration);
+    QCOMPARE(m_folder->read("a.dat"), data);
 }
 
 void TestConverterProgram::otherOutputOfTheSameRunIsNotReplaced()
