@@ -32,7 +32,7 @@ std::vector<std::string *> texts(Configuration &configuration)
 QString decoded(const std::string &text, const QTextCodec &codec, bool &isValid)
 {
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    const QString letters = codec.toUnicode(text.data(), static_cast<int>(text.size()), &state);
+    QString letters = codec.toUnicode(text.data(), static_cast<int>(text.size()), &state);
     isValid = isValid && state.invalidChars == 0 && state.remainingChars == 0
         && !letters.contains(QChar(QChar::ReplacementCharacter));
     return letters;
