@@ -22,7 +22,7 @@ Plotter::Plotter(QWidget *parent)
       plotType(QStringLiteral("Analog")),
       plotterLabel(new PlotTitle(this)),
       m_marks(this),
-      m_rubberBand(this),
+      m_drags(this),
       m_channelLabels(this),
       hostWidget(parent)
 {
@@ -151,7 +151,7 @@ void Plotter::paintEvent(QPaintEvent *event)
     style()->drawPrimitive(QStyle::PE_Widget, &background, &painter, this);
     drawBase(painter, event->rect());
     m_overlay.paint(painter);
-    m_rubberBand.paint(painter);
+    m_drags.band.paint(painter);
     if (hasFocus()) {
         QStyleOptionFocusRect frame;
         frame.initFrom(this);

@@ -5,13 +5,12 @@
 
 #include "basecontent.h"
 #include "channellabels.h"
-#include "labeldrag.h"
 #include "mousemovereceiver.h"
 #include "overlay.h"
+#include "plotdrags.h"
 #include "plotgeometry.h"
 #include "plotkeyboard.h"
 #include "plotmarks.h"
-#include "rubberband.h"
 #include "sharedview.h"
 #include "shownchannels.h"
 #include "timeaxis.h"
@@ -161,6 +160,8 @@ private:
     void drawBase(QPainter &painter, QRect seen);
     void placeMarks();
     ViewHistory::Views views() const; // of this plot and the linked ones
+    bool lead(const ViewChange &change); // without a note of the views
+    void dragView(const QPoint &way);
     bool zoomTime(double factor, SharedView::Rule sharing);
     void zoomLinked(double factor, SharedView::Rule sharing);
     bool zoomValues(double factor, bool keepsCentre);
@@ -182,11 +183,10 @@ private:
     PlotView m_view;
     ReadoutRoom m_readoutRoom;
     PlotMarks m_marks;
-    RubberBand m_rubberBand;
+    PlotDrags m_drags;
     Overlay m_overlay;
     PlotHost *mainWindow = nullptr;
     ChannelLabels m_channelLabels;
-    LabelDrag m_labelDrag;
     QColorDialog *colorDialog = nullptr; // made when it is first shown
     int zoomLevel = 0;
     QList<Plotter *> linkedPlotters;

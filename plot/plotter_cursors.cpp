@@ -44,7 +44,7 @@ void Plotter::addCursorAt(double time)
 
 void Plotter::dragCursor(int x)
 {
-    const int cursor = m_marks.cursors.cursorOf(m_labelDrag.label());
+    const int cursor = m_marks.cursors.cursorOf(m_drags.label.label());
     if (cursor < 0 || m_view.isEmpty())
         return;
     const QRect area = geometryOfView().area();
@@ -78,7 +78,7 @@ void Plotter::removeCursors(int first, int last)
 
 void Plotter::clearCursors()
 {
-    m_labelDrag.end();
+    m_drags.label.end();
     m_marks.cursors.clear();
 }
 
@@ -101,7 +101,7 @@ void Plotter::placeMarks()
     if (m_view.isEmpty())
         return;
     m_marks.place(geometryOfView());
-    const QLabel *dragged = m_labelDrag.label();
+    const QLabel *dragged = m_drags.label.label();
     if (dragged && dragged->isHidden()) // by a zoom; it would not be told of its release
         endDrag();
 }

@@ -89,30 +89,35 @@ void Plotter::letGo()
 
 void Plotter::endDrag()
 {
-    if (m_labelDrag.end())
+    if (m_drags.label.end())
         refreshAll(); // the readouts follow the end of a drag
-    if (m_rubberBand.isShown())
-        m_rubberBand.hide();
+    if (m_drags.band.isShown())
+        m_drags.band.hide();
+    m_drags.view.end();
 }
 
 void Plotter::mousePressEvent(QMouseEvent *event)
 {
     auto *label = qobject_cast<CustomLabel *>(childAt(event->pos()));
     if (label && label->objectName().contains(QLatin1String("lineLabel"))) {
-        m_labelDrag.press(label, event->pos());
+        m_drags.label.press(label, event->pos());
         return;
     }
     const QRect area = geometryOfView().area();
     const QPoint point(caught(event->pos().x(), area.left(), area.right()),
         caught(event->pos().y(), area.top(), area.bottom()));
     if (event->button() == Qt::LeftButton && area.contains(point)) {
-        m_rubberBand.begin(point);
+        m_drags.band.begin(point);
         return;
     }
     for (Plotter *plotter : qAsConst(linkedPlotters)) {
-        if (plotter->m_rubberBand.isShown())
-            plotter->m_rubberBand.hide();
+        if (plotter->m_drags.band.isShown())
+            plotter->m_drags.band.hide();
         plotter->plotterLabel->closeEditor();
+    }
+    if (event->button() == Qt::MiddleButton && area.contains(point) && !m_drags.band.isShown()) {
+        noteViews();
+        m_drags.view.begin(event->pos());
     }
 }
 
@@ -132,10 +137,12 @@ void Plotter::mouseMoveEvent(QMouseEvent *event)
 {
     takeKeyboard();
     const QPoint point = event->pos();
-    if (m_labelDrag.moveTo(point))
+    if (m_drags.label.moveTo(point))
         dragCursor(point.x());
-    if (m_rubberBand.isShown())
-        m_rubberBand.growTo(point);
+    if (m_drags.band.isShown())
+        m_drags.band.growTo(point);
+    if (m_drags.view.isActive())
+        dragView(m_drags.view.moveTo(point));
     showTimeLine(point.x(), *this);
     for (Plotter *plotter : qAsConst(linkedPlotters))
         plotter->showTimeLine(point.x(), *this);
@@ -145,18 +152,20 @@ void Plotter::mouseMoveEvent(QMouseEvent *event)
 
 void Plotter::mouseReleaseEvent(QMouseEvent * /*event*/)
 {
-    if (m_labelDrag.end()) {
+    if (m_drags.label.end()) {
         refreshAll();
         if (mainWindow)
             mainWindow->refreshVectors();
         return;
     }
+    if (m_drags.view.end())
+        return;
     noteViews();
-    if (!m_rubberBand.isShown() || !zoomToBand(true))
+    if (!m_drags.band.isShown() || !zoomToBand(true))
         return;
     for (Plotter *plotter : qAsConst(linkedPlotters)) {
         if (plotter->isOnScreen()) {
-            plotter->m_rubberBand.copy(m_rubberBand);
+            plotter->m_drags.band.copy(m_drags.band);
             plotter->applyRubberBand();
         }
     }
@@ -179,7 +188,7 @@ void Plotter::mouseDoubleClickEvent(QMouseEvent *event)
     }
     if (qobject_cast<CustomLabel *>(label))
         return;
-    m_rubberBand.hide();
+    m_drags.band.hide();
     if (m_marks.cursors.isFull())
         return;
     addCursor(event->pos().x(), event->pos().y());

@@ -94,6 +94,11 @@ void Plotter::followLinked()
 bool Plotter::changeView(const ViewChange &change)
 {
     noteViews();
+    return lead(change);
+}
+
+bool Plotter::lead(const ViewChange &change)
+{
     if (!change(m_view))
         return false;
     s_shared.timeZoom = m_view.timeZoom();
@@ -102,6 +107,17 @@ bool Plotter::changeView(const ViewChange &change)
     rangeScrollBar();
     refreshAll();
     return true;
+}
+
+// By a way in pixels; a digital plot has no values to move.
+void Plotter::dragView(const QPoint &way)
+{
+    const PlotGeometry geometry = geometryOfView();
+    if (!geometry.isDrawable())
+        return;
+    const double time = -way.x() * view().spanX() / geometry.plotWidth();
+    const double value = way.y() * view().spanY() / (geometry.plotHeight() - PlotGeometry::top);
+    lead([&](PlotView &now) { return now.moveBy(time, digitalFlag ? 0 : value); });
 }
 
 ViewHistory::Views Plotter::views() const
@@ -261,8 +277,8 @@ void Plotter::scrollView(int dx, int dy)
 
 bool Plotter::zoomToBand(bool withValues)
 {
-    m_rubberBand.hide();
-    const QRect band = m_rubberBand.rect();
+    m_drags.band.hide();
+    const QRect band = m_drags.band.rect();
     if (band.right() - band.left() <= 2 || band.bottom() - band.top() <= 2
         || !m_view.zoomToBand(band, size(), withValues))
         return false;

@@ -160,6 +160,20 @@ bool PlotView::moveTimes(double distance)
     return !m_isEmpty && PlotSettings::isUsable(view.minX, view.maxX) && show(view);
 }
 
+bool PlotView::moveBy(double time, double value)
+{
+    if (m_isEmpty)
+        return false;
+    PlotSettings view = m_live;
+    if (PlotSettings::isUsable(view.minX + time, view.maxX + time)) {
+        view.minX += time;
+        view.maxX += time;
+    }
+    if (m_part.move(m_extremes, value))
+        view = withRange(view, m_part.at(m_extremes));
+    return show(view);
+}
+
 PlotView PlotView::returnedTo(const PlotView &earlier) const
 {
     PlotView view(*this);

@@ -43,6 +43,8 @@ public:
     bool showAllTimes();
     // Moves by a time in ms, but no further beyond the full view than it is there already.
     bool moveTimes(double distance);
+    // Moves by a time and a value; a range that could not be shown there stays.
+    bool moveBy(double time, double value);
 
     // This view gone back to the times and the part of the values that an earlier one showed.
     PlotView returnedTo(const PlotView &earlier) const;

@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "plotpair.h"
+
+#include <QtTest>
+
+Q_DECLARE_METATYPE(Qt::MouseButton)
+
+// The views are 0 to 1000 ms over 703 pixels and -12 to 12 over 200 pixels.
+class TestViewDrag : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() { pair = std::make_unique<PlotPair>(); }
+    void cleanup() { pair.reset(); }
+
+    void allPlotsMoveInTimeOneInValue();
+    void aDigitalPlotHasNoValuesToMove();
+    void thereAndBackIsTheSameView();
+    void oneDragIsOneStepBack();
+    void onlyTheMiddleButtonInThePlotArea_data();
+    void onlyTheMiddleButtonInThePlotArea();
+    void aDragEndsWithItsButton_data();
+    void aDragEndsWithItsButton();
+
+private:
+    void press(Plotter *plot, const QPoint &point) const
+    {
+        QTest::mousePress(plot, Qt::MiddleButton, {}, point);
+    }
+    std::unique_ptr<PlotPair> pair;
+};
+
+void TestViewDrag::allPlotsMoveInTimeOneInValue()
+{
+    press(pair->plot, {400, 150});
+    PlotPair::move(pair->plot, {300, 140}, Qt::MiddleButton);
+    PlotPair::move(pair->plot, {259, 200}, Qt::MiddleButton); // 141 to the left, 50 down
+    QTest::mouseRelease(pair->plot, Qt::MiddleButton, {}, {259, 200});
+    for (const Plotter *each : QList<Plotter *>{pair->plot, pair->other, pair->digital}) {
+        QCOMPARE(each->view().minX, 141000.0 / 703);
+        QCOMPARE(each->view().maxX, 1000 + 141000.0 / 703);
+    }
+    QCOMPARE(pair->plot->view().minY, -6.0);
+    QCOMPARE(pair->plot->view().maxY, 18.0);
+    QCOMPARE(pair->other->view().minY, -12.0);
+}
+
+void TestViewDrag::aDigitalPlotHasNoValuesToMove()
+{
+    const PlotSettings before = pair->digital->view();
+    press(pair->digital, {400, 150});
+    PlotPair::move(pair->digital, {330, 250}, Qt::MiddleButton);
+    QTest::mouseRelease(pair->digital, Qt::MiddleButton, {}, {330, 250});
+    QVERIFY(pair->digital->view().minX > 0);
+    QCOMPARE(pair->plot->view().minX, pair->digital->view().minX);
+    QCOMPARE(pair->digital->view().minY, before.minY);
+    QCOMPARE(pair->plot->view().minY, -12.0);
+}
+
+void TestViewDrag::thereAndBackIsTheSameView()
+{
+    for (int twice = 0; twice < 2; ++twice) {
+        press(pair->plot, {400, 150});
+        for (const int x : {420, 500, 401, 400})
+            PlotPair::move(pair->plot, {x, x / 4 + 50}, Qt::MiddleButton);
+        QTest::mouseRelease(pair->plot, Qt::MiddleButton, {}, {400, 150});
+        QVERIFY(qAbs(pair->plot->view().minX) < 1e-9);
+        QVERIFY(qAbs(pair->plot->view().maxY - 12) < 1e-9);
+    }
+}
+
+void TestViewDrag::oneDragIsOneStepBack()
+{
+    const PlotSettings before = pair->plot->view();
+    press(pair->plot, {400, 150});
+    for (int x = 399; x > 350; --x)
+        PlotPair::move(pair->plot, {x, 160}, Qt::MiddleButton);
+    QTest::mouseRelease(pair->plot, Qt::MiddleButton, {}, {350, 160});
+    QVERIFY(!(pair->plot->view() == before));
+    pair->other->showPreviousView();
+    QVERIFY(pair->plot->view() == before);
+    QCOMPARE(pair->other->view().minX, 0.0);
+    QVERIFY(!pair->plot->hasPreviousView());
+}
+
+void TestViewDrag::onlyTheMiddleButtonInThePlotArea_data()
+{
+    QTest::addColumn<Qt::MouseButton>("button");
+    QTest::addColumn<QPoint>("point");
+    QTest::newRow("right button") << Qt::RightButton << QPoint(400, 150);
+    QTest::newRow("left of the area") << Qt::MiddleButton << QPoint(50, 150);
+    QTest::newRow("above it") << Qt::MiddleButton << QPoint(400, 20);
+}
+
+void TestViewDrag::onlyTheMiddleButtonInThePlotArea()
+{
+    QFETCH(Qt::MouseButton, button);
+    QFETCH(QPoint, point);
+    QTest::mousePress(pair->plot, button, {}, point);
+    PlotPair::move(pair->plot, point + QPoint(50, 20), button);
+    QTest::mouseRelease(pair->plot, button, {}, point + QPoint(50, 20));
+    QCOMPARE(pair->plot->view().minX, 0.0);
+    QCOMPARE(pair->plot->view().minY, -12.0);
+}
+
+void TestViewDrag::aDragEndsWithItsButton_data()
+{
+    QTest::addColumn<bool>("isReleased");
+    QTest::newRow("released") << true;
+    QTest::newRow("hidden") << false;
+}
+
+void TestViewDrag::aDragEndsWithItsButton()
+{
+    QFETCH(bool, isReleased);
+    press(pair->plot, {400, 150});
+    QCOMPARE(pair->plot->cursor().shape(), Qt::ClosedHandCursor);
+    if (isReleased) {
+        QTest::mouseRelease(pair->plot, Qt::MiddleButton, {}, {400, 150});
+    } else {
+        pair->plot->hide();
+        pair->plot->show();
+    }
+    QCOMPARE(pair->plot->cursor().shape(), Qt::ArrowCursor);
+    PlotPair::move(pair->plot, {300, 150});
+    QCOMPARE(pair->plot->view().minX, 0.0);
+}
+
+QTEST_MAIN(TestViewDrag)
+#include "tst_viewdrag.moc"
