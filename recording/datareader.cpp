@@ -20,7 +20,7 @@
 
 namespace {
 
-constexpr int blockSize = 1 << 18; // bytes read at once
+constexpr int mostBlockBytes = 1 << 18; // read at once
 // Lines gathered before they go to their channels. Blocks of a power of two would contend for the
 // same few lines of the processor's cache.
 constexpr size_t mostBlockRows = 240;
@@ -103,6 +103,9 @@ public:
 
     void read()
     {
+        // A small file needs no large buffer; what tells no size, or grows, is read all the same.
+        const int blockSize = static_cast<int>(
+            std::clamp<qint64>(m_device.size() + 1, mostBlockBytes / 64, mostBlockBytes));
         QByteArray buffer;
         bool goesOn = true;
         int kept = 0; // bytes of a line begun in the block before

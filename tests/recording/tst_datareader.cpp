@@ -31,6 +31,13 @@ private:
     qint64 m_step = 0;
 };
 
+// A device that does not know how much it holds.
+class UnmeasuredBuffer : public QBuffer {
+public:
+    using QBuffer::QBuffer;
+    qint64 size() const override { return 0; }
+};
+
 // A configuration as it stands after its file was read: channel k has a = k + 1, b = k / 4.
 void configure(CFGProperties &recording, int analog, int digital)
 {
@@ -222,6 +229,7 @@ private slots:
     void anyFileReadsAsThePlainReaderReadsIt_data();
     void anyFileReadsAsThePlainReaderReadsIt();
     void linesAcrossBlocksReadAsThePlainReaderReadsThem();
+    void aDeviceWithoutASizeIsReadToItsEnd();
     void hundredsOfThousandsOfLinesLoad();
     void aFileWithoutSamplesClearsTheRecording_data();
     void aFileWithoutSamplesClearsTheRecording();
@@ -720,6 +728,23 @@ void TestDataReader::linesAcrossBlocksReadAsThePlainReaderReadsThem()
     QVERIFY2(found.isEmpty(), found.constData());
     qDeleteAll(expected.analogChannels);
     qDeleteAll(expected.digitalChannels);
+}
+
+void TestDataReader::aDeviceWithoutASizeIsReadToItsEnd()
+{
+    // Lines of ten bytes, so that no power of two ends with one of them.
+    QByteArray data;
+    for (int i = 0; i < 2000; ++i)
+        data += "1," + QByteArray::number(1000 + i) + ",5,\n";
+    UnmeasuredBuffer buffer(&data);
+    buffer.open(QIODevice::ReadOnly);
+    CFGProperties recording;
+    configure(recording, 1, 0);
+    readData(buffer, recording);
+    QCOMPARE(recording.sampleCount, 2000);
+    QCOMPARE(recording.sampleTimes.constFirst(), 1.0);
+    QCOMPARE(recording.sampleTimes.constLast(), 2.999);
+    QCOMPARE(recording.analogChannels.constFirst()->rawValues.count(5.0F), 2000);
 }
 
 void TestDataReader::hundredsOfThousandsOfLinesLoad()
