@@ -276,7 +276,7 @@ private slots:
             environment.remove(QLatin1String(variable));
         program.setProcessEnvironment(environment);
         program.start(
-            QCoreApplication::applicationDirPath() + QLatin1String("/wavorin"), {question});
+            QCoreApplication::applicationDirPath() + QLatin1String("/../bin/wavorin"), {question});
         QVERIFY(program.waitForFinished());
         QCOMPARE(program.exitCode(), 0);
         const QString answer = QString::fromUtf8(program.readAllStandardOutput());

@@ -79,7 +79,11 @@ void TestFileKind::takesTheFirstRecordingOfSeveral_data()
     row("a package", "notes.pdf p.ZIP a.cfg", "p.ZIP");
     row("a text export", "notes.pdf t.txt", "t.txt");
     row("a data file stands for its configuration", "a.dat", "a.cfg");
+#ifdef Q_OS_WIN // where both names are those of one file
+    row("in another case", "b.dat", "b.cfg");
+#else
     row("in another case", "b.dat", "B.CFG");
+#endif
     row("a pair, data first", "a.dat a.cfg", "a.cfg");
     row("a data file alone", "alone.dat", "alone.dat");
     row("a data file alone before a recording", "alone.dat a.cfg", "a.cfg");
