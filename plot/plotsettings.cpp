@@ -3,6 +3,8 @@
 
 #include "plotsettings.h"
 
+#include <QByteArray>
+
 #include <algorithm>
 #include <cmath>
 
@@ -13,6 +15,13 @@ constexpr double largest = 1e300;
 // A range finer than this fraction of its ends leaves too few digits of a double for the grid
 // steps.
 constexpr double finest = 1e-12;
+
+// As it reads. pow() of the library on Windows misses negative powers by units in the last place,
+// and a grid would have an interval too many.
+double powerOfTen(int exponent)
+{
+    return ("1e" + QByteArray::number(exponent)).toDouble();
+}
 
 } // namespace
 
@@ -33,7 +42,7 @@ void PlotSettings::adjustAxis(double &min, double &max, double &ticks)
         max += room;
     }
     const double grossStep = (max - min) * 0.25;
-    double step = std::pow(10.0, std::floor(std::log10(grossStep)));
+    double step = powerOfTen(static_cast<int>(std::floor(std::log10(grossStep))));
     if (grossStep > 5 * step)
         step *= 5;
     else if (grossStep > 3 * step)

@@ -35,6 +35,7 @@ void TestPlotSettings::adjustAxis_data()
     QTest::newRow("0 to 1.4 widens to step 0.3") << 0.0 << 1.4 << 0.0 << 1.5 << 5.0;
     QTest::newRow("0 to 0.5 stays, step 0.1") << 0.0 << 0.5 << 0.0 << 0.5 << 5.0;
     QTest::newRow("0 to 0.3 stays, step 0.05") << 0.0 << 0.3 << 0.0 << 0.3 << 6.0;
+    QTest::newRow("0.1 to 0.35 stays, step 0.05") << 0.1 << 0.35 << 0.1 << 0.35 << 5.0;
     QTest::newRow("gross step at three steps is not tripled") << 0.0 << 12.0 << 0.0 << 12.0 << 12.0;
     QTest::newRow("gross step just above three is") << 0.0 << 12.4 << 0.0 << 15.0 << 5.0;
     QTest::newRow("gross step at five steps is only tripled") << 0.0 << 20.0 << 0.0 << 21.0 << 7.0;
