@@ -24,6 +24,7 @@ QStringList toldBy(QProcess &program)
     if (program.error() != QProcess::UnknownError || program.exitCode() != 0)
         return {QStringLiteral("failed")};
     return QString::fromUtf8(program.readAllStandardOutput())
+        .remove(QLatin1Char('\r')) // which Windows adds
         .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
 
