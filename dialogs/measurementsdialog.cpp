@@ -86,7 +86,11 @@ void MeasurementsDialog::addShortcut(
 
 void MeasurementsDialog::prepareTable(QTableView *view)
 {
-    view->setModel(new TextTableModel(view));
+    auto *model = new TextTableModel(view);
+    view->setModel(model);
+    for (const QHeaderView *header : {view->horizontalHeader(), view->verticalHeader()})
+        connect(model, &TextTableModel::namesChanged, header->viewport(),
+            QOverload<>::of(&QWidget::update));
     view->verticalHeader()->setTextElideMode(Qt::ElideMiddle);
     view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     view->verticalHeader()->setHighlightSections(false);

@@ -5,7 +5,9 @@
 
 #include "labeltext.h"
 
+#include <algorithm>
 #include <functional>
+#include <utility>
 
 namespace {
 
@@ -51,16 +53,28 @@ void TextTableModel::setTable(const TextTable &table)
 {
     const bool isAsLarge = table.rows.size() == m_table.rows.size()
         && table.headings.size() == m_table.headings.size() && table.names == m_table.names;
-    if (!isAsLarge)
-        beginResetModel();
-    m_table = table;
     if (!isAsLarge) {
+        beginResetModel();
+        m_table = table;
         endResetModel();
-    } else if (rowCount() > 0 && columnCount() > 0) {
-        emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
-        emit headerDataChanged(Qt::Vertical, 0, rowCount() - 1);
-        emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+        return;
     }
+    const TextTable before = std::exchange(m_table, table);
+    bool isNamedAnew = table.headings != before.headings;
+    for (int row = 0; row < rowCount(); ++row) {
+        const QStringList &now = table.rows.at(row);
+        for (int place = 0; place < now.size(); ++place) {
+            if (now.at(place) == before.rows.at(row).at(place))
+                continue;
+            const QModelIndex cell = index(row, place - table.names);
+            if (cell.isValid())
+                emit dataChanged(cell, cell);
+            else
+                isNamedAnew = true;
+        }
+    }
+    if (isNamedAnew)
+        emit namesChanged();
 }
 
 int TextTableModel::rowCount(const QModelIndex &parent) const

@@ -26,7 +26,7 @@ class TextTableModel : public QAbstractTableModel {
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    // Another table of the same size keeps what is selected.
+    // Another table of the same size keeps what is selected, and only what differs is shown anew.
     void setTable(const TextTable &table);
     const TextTable &table() const { return m_table; }
 
@@ -35,6 +35,11 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QVariant headerData(
         int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+
+signals:
+    // Of columns or rows, while their number stays. The model's own signals for this have a view
+    // lay out and paint all of its cells again.
+    void namesChanged();
 
 private:
     TextTable m_table;
