@@ -20,6 +20,8 @@ Ratio readingAgainstConverting();
 Ratio phasorsAgainstTransforms(int samplesPerCycle);
 // The drawing of four phasor panels against the 16 ms that a frame of the screen takes.
 Ratio panelsAgainstFrame();
+// The move of a cursor over a plot and in the window of measurements against such a frame.
+Ratio measuringAgainstFrame();
 Ratio writingPlainlyAgainstWriting();
 // The binary data that the converter reads in a second of the processor, against 200 MB.
 Ratio convertingAgainstGoal();

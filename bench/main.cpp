@@ -42,6 +42,7 @@ const Figure figures[] = {
     {"phasors of 400, computed / transforms alone", [] { return phasorsAgainstTransforms(400); },
         Goal::AtMost, 1.1},
     {"drawing four phasor panels / a frame", panelsAgainstFrame, Goal::AtMost, 1},
+    {"measuring at a dragged cursor / a frame", measuringAgainstFrame, Goal::AtMost, 1},
     {"writing, plain writer / writer", writingPlainlyAgainstWriting, Goal::AtLeast, 10},
     {"converting binary data / 200 MB/s", convertingAgainstGoal, Goal::AtLeast, 1},
     {"recolouring a picture / a plain pass", recolouringAgainstAPass, Goal::AtMost, 5},
