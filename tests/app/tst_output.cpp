@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
+#include <QSlider>
 #include <QStatusBar>
 
 #include <algorithm>
