@@ -18,16 +18,6 @@ namespace {
 
 constexpr int mostOfFile = 200; // pixels of its name
 
-// "Trip = 1"; the name alone outside the recorded times.
-QString stateText(const ShownChannel &channel, int sample)
-{
-    return sample < 0 || channel.runs.count() == 0
-        ? channel.id
-        : QStringLiteral("%1 = %2")
-              .arg(channel.id)
-              .arg(channel.runs.isOn(channel.runs.runOf(sample)) ? 1 : 0);
-}
-
 } // namespace
 
 StatusField::StatusField(const PlotHost &host, QWidget *parent) : ElidingLabel(parent), m_host(host)

@@ -3,6 +3,7 @@
 
 #include "baselayer.h"
 
+#include "channelnames.h"
 #include "digitalruns.h"
 #include "labeltext.h"
 #include "numbers.h"
@@ -328,6 +329,6 @@ void drawRowLabel(QPainter &painter, const QFont &font, const QString &text, int
     box.moveTop(y - box.height() / 2);
     painter.setFont(small);
     painter.setPen(Qt::white);
-    painter.drawText(box, Qt::AlignRight | Qt::AlignVCenter,
-        metrics.elidedText(text, Qt::ElideRight, marginWidth));
+    painter.drawText(
+        box, Qt::AlignRight | Qt::AlignVCenter, fittingName(text, QString(), metrics, marginWidth));
 }

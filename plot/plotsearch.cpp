@@ -115,6 +115,14 @@ int rowAt(const Plotter &plot, const QPoint &point)
     return numbers.value(plot.geometryOfView().rowAt(point.y(), numbers.size()), -1);
 }
 
+QString stateText(const ShownChannel &channel, int sample)
+{
+    return sample < 0 || channel.runs.count() == 0
+        ? channel.id
+        : QStringLiteral("%1 = %2").arg(
+            channel.id, QString::number(channel.runs.isOn(channel.runs.runOf(sample)) ? 1 : 0));
+}
+
 std::optional<double> changeAfter(
     double time, const QVector<DigitalRuns> &channels, const TimeAxis &axis)
 {

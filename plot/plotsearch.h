@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QString>
 #include <QVector>
 
 #include <optional>
@@ -12,6 +13,7 @@ class DigitalRuns;
 class Plotter;
 class QPoint;
 class TimeAxis;
+struct ShownChannel;
 
 // What stands at a place of a plot, and the exact times (ms) of what is looked for.
 
@@ -25,6 +27,8 @@ std::optional<double> timeOfExtreme(
 
 // Of a digital plot, the channel of the row at a point; -1 where there is no row.
 int rowAt(const Plotter &plot, const QPoint &point);
+// "Trip = 1" at a sample of a digital channel; the name alone for -1.
+QString stateText(const ShownChannel &channel, int sample);
 // The nearest change of any of the channels after, or before, a time.
 std::optional<double> changeAfter(
     double time, const QVector<DigitalRuns> &channels, const TimeAxis &axis);

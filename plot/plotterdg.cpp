@@ -6,9 +6,14 @@
 #include "baselayer.h"
 #include "cfgproperties.h"
 #include "channelnames.h"
+#include "labeltext.h"
+#include "plotsearch.h"
 #include "plottitle.h"
+#include "timeofday.h"
 
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -100,6 +105,31 @@ void plotterDg::customVZoomOut2() { }
 void plotterDg::mouseReleaseEvent(QMouseEvent *event)
 {
     Plotter::mouseReleaseEvent(event);
+}
+
+bool plotterDg::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto *help = static_cast<QHelpEvent *>(event);
+        const QString tip = nameTip(help->pos());
+        if (!tip.isEmpty()) {
+            QToolTip::showText(help->globalPos(), plainToolTip(tip), this);
+            return true;
+        }
+    }
+    return Plotter::event(event);
+}
+
+// The names stand beside the times; the nearest of these is the first one in view.
+QString plotterDg::nameTip(const QPoint &point) const
+{
+    const int row = point.x() < PlotGeometry::left ? rowAt(*this, point) : -1;
+    if (row < 0 || !recording())
+        return QString();
+    const double time = view().minX;
+    const int sample = sampleTimes().sampleAt(recording()->sampleRate, time);
+    const QString state = stateText(shownChannels().at(row), sample);
+    return sample < 0 ? state : tr("%1 at %2 ms").arg(state, millisecondsText(time));
 }
 
 void plotterDg::wheelEvent(QWheelEvent *event)

@@ -27,8 +27,13 @@ public slots:
     void customVZoomOut2() override;
 
 protected:
+    bool event(QEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     ShownChannel shownChannel(int number) const override;
     ValueExtremes prepareTraces() override;
+
+private:
+    // Of the row whose name stands at a point; empty where none does.
+    QString nameTip(const QPoint &point) const;
 };

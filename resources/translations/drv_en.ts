@@ -1509,4 +1509,11 @@ Do you want to replace it?</translation>
         <translation>Measurements...</translation>
     </message>
 </context>
+<context>
+    <name>plotterDg</name>
+    <message>
+        <source>%1 at %2 ms</source>
+        <translation>%1 at %2 ms</translation>
+    </message>
+</context>
 </TS>

@@ -1509,4 +1509,11 @@ Korvataanko se?</translation>
         <translation>Mittaukset...</translation>
     </message>
 </context>
+<context>
+    <name>plotterDg</name>
+    <message>
+        <source>%1 at %2 ms</source>
+        <translation>%1 hetkellä %2 ms</translation>
+    </message>
+</context>
 </TS>

@@ -1509,4 +1509,11 @@ Do you want to replace it?</source>
         <translation>测量...</translation>
     </message>
 </context>
+<context>
+    <name>plotterDg</name>
+    <message>
+        <source>%1 at %2 ms</source>
+        <translation>%1，%2 ms 时</translation>
+    </message>
+</context>
 </TS>

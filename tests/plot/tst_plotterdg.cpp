@@ -5,9 +5,11 @@
 #include "plotterdg.h"
 #include "textsearch.h"
 
+#include <QHelpEvent>
 #include <QLabel>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QToolTip>
 #include <QtTest>
 
 #include <algorithm>
@@ -31,6 +33,9 @@ private slots:
     void rowsShowTheStatesOfUnorderedTimes();
     void rowsStayWithinThePlotArea();
     void rowsHaveTheirNamesInTheMargin();
+    void namesTooLongForTheMarginShowBothEnds();
+    void namesHaveToolTips_data();
+    void namesHaveToolTips();
     void triggerAndGrid();
     void theTriggersTextIsReadOverTheLastBand_data();
     void theTriggersTextIsReadOverTheLastBand();
@@ -245,6 +250,52 @@ void TestPlotterDg::rowsHaveTheirNamesInTheMargin()
     }
     QVERIFY(ink(120).isNull());
     QVERIFY(ink(100).width() != ink(180).width()); // another name
+}
+
+// The small font has 10 pixels; the margin leaves 90.
+void TestPlotterDg::namesTooLongForTheMarginShowBothEnds()
+{
+    host->addDigital(QStringLiteral("Feeder protection stage 1 trip"), QVector<int>(1001, 0));
+    host->addDigital(QStringLiteral("Feeder protection stage 2 trip"), QVector<int>(1001, 0));
+    host->addDigital(QStringLiteral("Breaker protection stage 2 trip"), QVector<int>(1001, 0));
+    plot->showChannels({3, 4, 5}); // at y = 100, 140 and 180
+    plot->setupPlot();
+    plot->refreshPixmap();
+    const QImage image = plot->grab().toImage();
+    const auto name = [&](int y) { return image.copy(4, y - 7, 90, 15); };
+    QVERIFY(name(100) != name(140)); // by the end
+    QVERIFY(name(140) != name(180)); // by the beginning
+    QCOMPARE(image.copy(64, 133, 30, 15), image.copy(64, 173, 30, 15)); // the end is the same
+}
+
+void TestPlotterDg::namesHaveToolTips_data()
+{
+    QTest::addColumn<int>("start"); // ms, of the view
+    QTest::addColumn<QPoint>("point");
+    QTest::addColumn<QString>("tip");
+    QTest::newRow("off") << 0 << QPoint(50, 100) << QStringLiteral("Pick-up = 0 at 0.000 ms");
+    QTest::newRow("another view") << 300 << QPoint(50, 100)
+                                  << QStringLiteral("Pick-up = 1 at 300.000 ms");
+    QTest::newRow("on") << 0 << QPoint(99, 140) << QStringLiteral("Closed = 1 at 0.000 ms");
+    QTest::newRow("last row") << 0 << QPoint(4, 180) << QStringLiteral("Dense = 0 at 0.000 ms");
+    QTest::newRow("above the rows") << 0 << QPoint(50, 50) << QString();
+    QTest::newRow("beside the names") << 0 << QPoint(100, 100) << QString();
+}
+
+void TestPlotterDg::namesHaveToolTips()
+{
+    QFETCH(int, start);
+    QFETCH(QPoint, point);
+    QFETCH(QString, tip);
+    plot->changeView([=](PlotView &view) { return view.showTimes(start, start + 500); });
+    for (int twice = 0; twice < 2; ++twice) {
+        QHelpEvent help(QEvent::ToolTip, point, plot->mapToGlobal(point));
+        QApplication::sendEvent(plot, &help);
+        QCOMPARE(QToolTip::text(), tip);
+        QHelpEvent beside(QEvent::ToolTip, {400, 20}, plot->mapToGlobal({400, 20}));
+        QApplication::sendEvent(plot, &beside);
+        QTRY_VERIFY(QToolTip::text().isEmpty());
+    }
 }
 
 void TestPlotterDg::triggerAndGrid()
