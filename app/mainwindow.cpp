@@ -9,6 +9,7 @@
 #include "brand.h"
 #include "cfgproperties.h"
 #include "ctvtdialog.h"
+#include "openhint.h"
 #include "packageunpacker.h"
 #include "plotvalues.h"
 #include "savedialog.h"
@@ -57,6 +58,7 @@ MainWindow::MainWindow(QWidget *parent)
         widget->setFocusPolicy(Qt::WheelFocus);
     }
     m_plotLayout = new QVBoxLayout(ui->scrollWidget);
+    m_openHint = new OpenHint(ui->scrollArea->viewport());
 
     createActions();
     createMenus();

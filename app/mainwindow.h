@@ -17,6 +17,7 @@
 class AddPlotterDialog;
 class CTVTDialog;
 class ElidingComboBox;
+class OpenHint;
 class PackageUnpacker;
 class Plotter;
 class QCheckBox;
@@ -50,6 +51,7 @@ public:
     // meanwhile. While another one loads, it returns at once and the last path asked for is opened
     // afterwards. Unpacking is given up for that, and for Escape. Failures are shown to the user.
     void open(const QString &path);
+    void sayNotOpened(const QString &path); // in the status bar, until a recording is opened
 
     // The recording, from the end of a successful load to the beginning of the next load.
     CFGProperties *recording() const override;
@@ -156,6 +158,7 @@ private:
     CTVTDialog *m_ctvtDialog = nullptr;
     SideWindows *m_sideWindows = nullptr;
     StatusField *m_statusField = nullptr;
+    OpenHint *m_openHint = nullptr; // seen while no recording is on screen
     QTranslator *m_translator = nullptr;
     PackageUnpacker *m_unpacker = nullptr;
     QThread *m_loaderThread = nullptr;

@@ -11,6 +11,7 @@
 #include "filekind.h"
 #include "filewarning.h"
 #include "loadinganimation.h"
+#include "openhint.h"
 #include "packageunpacker.h"
 #include "statusfield.h"
 
@@ -92,6 +93,11 @@ void MainWindow::open(const QString &path)
         m_opening = false;
 }
 
+void MainWindow::sayNotOpened(const QString &path)
+{
+    m_statusField->showNotOpened(path);
+}
+
 void MainWindow::load(QString path)
 {
     QFile tried(path); // only to see that it can be read; it stays open to the end
@@ -137,6 +143,7 @@ bool MainWindow::loadRecording(const QString &path)
 {
     m_isComtrade = !isTextExport(path);
     const QPointer<QLabel> animation = newLoadingAnimation(this);
+    m_openHint->hide();
     clearView();
     if (!parse(path))
         return false;
@@ -148,6 +155,7 @@ bool MainWindow::loadRecording(const QString &path)
             ApplicationIdentity::applicationName() + QLatin1String(" - ") + asTitle(name));
         m_statusField->showFile(name);
     } else {
+        m_openHint->show();
         showWarning(tr("File not supported."),
             path + QLatin1Char('\n') + reasonText(m_cfgProperties->failure));
     }

@@ -67,6 +67,7 @@ void openOrWait(MainWindow &window, const QString &path)
         const QByteArray name = path.toLocal8Bit();
         std::fprintf(stderr, "wavorin: %s: not opened: the name does not end with .cfg or .zip\n",
             name.constData());
+        window.sayNotOpened(path);
     }
     QElapsedTimer timer;
     timer.start();

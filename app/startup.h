@@ -23,5 +23,6 @@ void useTheSystemsFont();
 void preferSimplifiedCharacters();
 
 // Opens the recording named on the command line. Without one that is opened at start-up, processes
-// events for two seconds, so that the splash can be seen, and says on standard error what it left.
+// events for two seconds, so that the splash can be seen, and says on standard error and in the
+// status bar what it left.
 void openOrWait(MainWindow &window, const QString &path);

@@ -33,8 +33,17 @@ void StatusField::showFile(const QString &name)
     m_file = name;
     m_plot = nullptr;
     m_widest = 0;
+    if (!name.isEmpty())
+        m_notOpened.clear();
     refresh();
-    setVisible(!name.isEmpty());
+    setVisible(!text().isEmpty());
+}
+
+void StatusField::showNotOpened(const QString &path)
+{
+    m_notOpened = path;
+    refresh();
+    show();
 }
 
 void StatusField::pointAt(const Plotter *plot, const QPoint &point)
@@ -51,6 +60,8 @@ void StatusField::refresh()
         parts << fontMetrics().elidedText(m_file, Qt::ElideMiddle, mostOfFile) << sideText();
         if (m_plot && !m_plot->sampleTimes().times().isEmpty())
             parts << pointedText();
+    } else if (m_file.isEmpty() && !m_notOpened.isEmpty()) {
+        parts << tr("%1 was not opened: the name does not end with .cfg or .zip").arg(m_notOpened);
     }
     const QString shown = parts.join(QStringLiteral("  |  "));
     if (shown == text())

@@ -12,7 +12,8 @@ class PlotHost;
 class Plotter;
 
 // The field at the right of the status bar: the recording on screen, the side of its values, and
-// what stands under the pointer in which plot. Hidden while there is no recording.
+// what stands under the pointer in which plot. Without a recording it is hidden, but for a note on
+// what was not opened.
 class StatusField : public ElidingLabel {
     Q_OBJECT
 
@@ -22,6 +23,8 @@ public:
 
     // Of the recording just shown; empty before another one is loaded.
     void showFile(const QString &name);
+    // A path that was not opened at the start; said until a recording is shown.
+    void showNotOpened(const QString &path);
     // The pointer stands at a point of a plot, or, with null, over none.
     void pointAt(const Plotter *plot, const QPoint &point);
     // After any change of what stands under the pointer.
@@ -40,6 +43,7 @@ private:
 
     const PlotHost &m_host;
     QString m_file;
+    QString m_notOpened;
     QPointer<const Plotter> m_plot;
     QPoint m_point;
     int m_widest = 0;

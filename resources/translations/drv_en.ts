@@ -770,6 +770,13 @@ Please select another file.</translation>
     </message>
 </context>
 <context>
+    <name>OpenHint</name>
+    <message>
+        <source>Open a recording: File &gt; Open... (Ctrl+O), or drop a .cfg, .zip or .txt file here.</source>
+        <translation>Open a recording: File &gt; Open... (Ctrl+O), or drop a .cfg, .zip or .txt file here.</translation>
+    </message>
+</context>
+<context>
     <name>PlotMenu</name>
     <message>
         <source>Earlier</source>
@@ -1481,6 +1488,10 @@ Do you want to replace it?</translation>
     <message>
         <source>from trigger: %1 ms</source>
         <translation>from trigger: %1 ms</translation>
+    </message>
+    <message>
+        <source>%1 was not opened: the name does not end with .cfg or .zip</source>
+        <translation>%1 was not opened: the name does not end with .cfg or .zip</translation>
     </message>
 </context>
 <context>

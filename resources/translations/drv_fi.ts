@@ -770,6 +770,13 @@ Valitse toinen tiedosto.</translation>
     </message>
 </context>
 <context>
+    <name>OpenHint</name>
+    <message>
+        <source>Open a recording: File &gt; Open... (Ctrl+O), or drop a .cfg, .zip or .txt file here.</source>
+        <translation>Avaa häiriötallenne: Tiedosto &gt; Avaa... (Ctrl+O), tai pudota .cfg-, .zip- tai .txt-tiedosto tähän.</translation>
+    </message>
+</context>
+<context>
     <name>PlotMenu</name>
     <message>
         <source>Earlier</source>
@@ -1481,6 +1488,10 @@ Korvataanko se?</translation>
     <message>
         <source>from trigger: %1 ms</source>
         <translation>liipaisusta: %1 ms</translation>
+    </message>
+    <message>
+        <source>%1 was not opened: the name does not end with .cfg or .zip</source>
+        <translation>Tiedostoa %1 ei avattu: nimen lopussa ei ole .cfg eikä .zip</translation>
     </message>
 </context>
 <context>

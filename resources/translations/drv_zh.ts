@@ -770,6 +770,13 @@ Please select another file.</source>
     </message>
 </context>
 <context>
+    <name>OpenHint</name>
+    <message>
+        <source>Open a recording: File &gt; Open... (Ctrl+O), or drop a .cfg, .zip or .txt file here.</source>
+        <translation>打开故障录波：文件(F) &gt; 打开(O)... (Ctrl+O)，或将 .cfg、.zip 或 .txt 文件拖放到此处。</translation>
+    </message>
+</context>
+<context>
     <name>PlotMenu</name>
     <message>
         <source>Earlier</source>
@@ -1481,6 +1488,10 @@ Do you want to replace it?</source>
     <message>
         <source>from trigger: %1 ms</source>
         <translation>距触发：%1 ms</translation>
+    </message>
+    <message>
+        <source>%1 was not opened: the name does not end with .cfg or .zip</source>
+        <translation>未打开 %1：文件名不以 .cfg 或 .zip 结尾</translation>
     </message>
 </context>
 <context>

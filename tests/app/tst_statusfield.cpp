@@ -18,6 +18,8 @@ private slots:
     void cleanup() { closeWindow(); }
 
     void nothingIsShownWithoutARecording();
+    void whatWasNotOpenedIsSaidUntilARecordingIs();
+    void whatWasNotOpenedIsSaidInTheLanguageOfTheWindow();
     void thePointerInAnAnalogPlot();
     void thePointerOverARow_data();
     void thePointerOverARow();
@@ -64,6 +66,42 @@ void TestStatusField::nothingIsShownWithoutARecording()
     QVERIFY(field()->isVisible());
     QCoreApplication::processEvents();
     QCOMPARE(window->statusBar()->height(), height); // the plots keep their room
+}
+
+void TestStatusField::whatWasNotOpenedIsSaidUntilARecordingIs()
+{
+    const BoxReader boxes;
+    const QString said
+        = QStringLiteral("/a/x.CFG was not opened: the name does not end with .cfg or .zip");
+    window->sayNotOpened(QStringLiteral("/a/x.CFG"));
+    QVERIFY(field()->isVisible());
+    QCOMPARE(field()->text(), said);
+    QCOMPARE(field()->toolTip(), said);
+    window->open(folder->filePath(QStringLiteral("none.cfg")));
+    QCOMPARE(field()->text(), said);
+    QFile(folder->filePath(QStringLiteral("alone.cfg"))).open(QIODevice::WriteOnly);
+    window->open(folder->filePath(QStringLiteral("alone.cfg")));
+    QCOMPARE(boxes.count(), 2);
+    QVERIFY(field()->isVisible());
+    QCOMPARE(field()->text(), said);
+    openUsual();
+    QCOMPARE(field()->text(), QStringLiteral("recording.cfg  |  Primary"));
+    window->open(folder->filePath(QStringLiteral("alone.cfg")));
+    QVERIFY(field()->isHidden());
+    QVERIFY(field()->text().isEmpty());
+}
+
+void TestStatusField::whatWasNotOpenedIsSaidInTheLanguageOfTheWindow()
+{
+    window->sayNotOpened(QStringLiteral("x.CFG"));
+    trigger("Suomi");
+    QCoreApplication::processEvents();
+    QCOMPARE(field()->text(),
+        QStringLiteral("Tiedostoa x.CFG ei avattu: nimen lopussa ei ole .cfg eikä .zip"));
+    trigger("English");
+    QCoreApplication::processEvents();
+    QCOMPARE(field()->text(),
+        QStringLiteral("x.CFG was not opened: the name does not end with .cfg or .zip"));
 }
 
 void TestStatusField::thePointerInAnAnalogPlot()
