@@ -17,13 +17,6 @@ namespace {
 
 const QString degrees = QStringLiteral("°");
 
-QString fixedText(double value, int decimals)
-{
-    const QString text = QString::number(value, 'f', decimals);
-    const bool isZero = value < 0 && text.toDouble() == 0;
-    return isZero ? text.mid(1) : text;
-}
-
 // The seam of the angles is at its upper end however they are rounded.
 QString angleText(double angle)
 {

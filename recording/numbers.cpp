@@ -88,10 +88,16 @@ QString generalText(double value)
     return QString::number(value, 'g', 6);
 }
 
+QString fixedText(double value, int decimals)
+{
+    const QString text = QString::number(value, 'f', decimals);
+    const bool isZero = text.startsWith(QLatin1Char('-')) && text.toDouble() == 0;
+    return isZero ? text.mid(1) : text;
+}
+
 QString sixDecimals(double value)
 {
-    const QString text = QString::number(value, 'f', 6);
-    return text == QLatin1String("-0.000000") ? text.mid(1) : text;
+    return fixedText(value, 6);
 }
 
 char *writeWhole(char *at, double value)

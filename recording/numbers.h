@@ -18,6 +18,7 @@ int fieldToInt(const char *begin, const char *end);
 // Texts of numbers. A value that rounds to zero has no sign: read again, "-0" would be written as
 // "0".
 QString generalText(double value); // six digits, with an exponent where that is shorter
+QString fixedText(double value, int decimals);
 QString sixDecimals(double value);
 
 // Write a number without decimals, rounded as the toolkit does, and give the end of it.

@@ -3,6 +3,8 @@
 
 #include "timeofday.h"
 
+#include "numbers.h"
+
 #include <QLocale>
 #include <QRegularExpression>
 
@@ -72,5 +74,5 @@ QString millisecondsText(double ms)
     constexpr double longest = 1e12;
     if (!std::isfinite(ms))
         return QString();
-    return std::abs(ms) < longest ? QString::number(ms, 'f', 3) : QString::number(ms, 'g', 6);
+    return std::abs(ms) < longest ? fixedText(ms, 3) : QString::number(ms, 'g', 6);
 }

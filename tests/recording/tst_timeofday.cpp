@@ -56,6 +56,9 @@ void TestTimeOfDay::writesMilliseconds_data()
     QTest::newRow("zero") << 0.0 << "0.000";
     QTest::newRow("a microsecond") << 0.001 << "0.001";
     QTest::newRow("negative") << -17.75 << "-17.750";
+    QTest::newRow("next to nothing before") << -0.0004 << "0.000";
+    QTest::newRow("rounded to a microsecond before") << -0.0006 << "-0.001";
+    QTest::newRow("negative zero") << -0.0 << "0.000";
     QTest::newRow("a day") << 86400000.0 << "86400000.000";
     QTest::newRow("ages") << 1.25e300 << "1.25e+300";
     QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << "";
