@@ -11,6 +11,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QStyle>
+#include <QStyleOption>
 #include <QTableView>
 #include <QtTest>
 
@@ -34,6 +36,8 @@ private slots:
     void copiesAllRows();
     void copiesSelectedRowsInOrder();
     void retranslatesOnALanguageChange();
+    void hasRoomForAllChannelsInEveryLanguage_data();
+    void hasRoomForAllChannelsInEveryLanguage();
     void hasNamesForEveryControl();
 
 private:
@@ -231,6 +235,26 @@ void TestEventsDialog::retranslatesOnALanguageChange()
     QVERIFY(!names().split(QLatin1Char('|')).contains(QStringLiteral("Trigger")));
     QCOMPARE(channels->currentIndex(), 1);
     QCoreApplication::removeTranslator(&translator);
+}
+
+void TestEventsDialog::hasRoomForAllChannelsInEveryLanguage_data()
+{
+    QTest::addColumn<QString>("entry");
+    QTest::newRow("English") << QStringLiteral("All Channels");
+    QTest::newRow("Finnish") << QStringLiteral("Kaikki kanavat");
+    QTest::newRow("Chinese") << QStringLiteral("所有通道");
+}
+
+// The language may change after the window was first shown.
+void TestEventsDialog::hasRoomForAllChannelsInEveryLanguage()
+{
+    QFETCH(QString, entry);
+    const auto *channels = dialog->findChild<QComboBox *>(QStringLiteral("comboBox_channel"));
+    QStyleOptionComboBox option;
+    option.initFrom(channels);
+    const QRect field = channels->style()->subControlRect(
+        QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, channels);
+    QVERIFY(field.width() > channels->fontMetrics().horizontalAdvance(entry));
 }
 
 void TestEventsDialog::hasNamesForEveryControl()
