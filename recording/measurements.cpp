@@ -69,7 +69,9 @@ double wrappedDegrees(double degrees)
 
 std::optional<double> leadDegrees(Complex phasor, Complex reference)
 {
-    if (phasor == 0.0 || reference == 0.0)
+    const auto hasDirection
+        = [](Complex one) { return one != 0.0 && std::isfinite(std::abs(one)); };
+    if (!hasDirection(phasor) || !hasDirection(reference))
         return std::nullopt;
     return wrappedDegrees((std::arg(phasor) - std::arg(reference)) * fullTurn / turn);
 }

@@ -30,7 +30,7 @@ std::complex<double> complexRms(const Phasor &phasor, double factor);
 double wrappedDegrees(double degrees);
 
 // By how many degrees a phasor leads a reference, above -180 and up to 180; nothing where one of
-// them is 0, which has no direction.
+// them is 0 or not finite, which has no direction.
 std::optional<double> leadDegrees(std::complex<double> phasor, std::complex<double> reference);
 
 // The symmetrical components of the phasors of three phases, by the turn a of 120 degrees:

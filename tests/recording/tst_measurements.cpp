@@ -165,6 +165,8 @@ void TestMeasurements::aPhasorLeadsAnother_data()
     QTest::newRow("turned round by its factor") << 100.0 << 40.0 << 3.0 << -2.0 << -120.0;
     QTest::newRow("without a magnitude") << 100.0 << 40.0 << 0.0 << 1.0 << nothing;
     QTest::newRow("without a factor") << 100.0 << 40.0 << 3.0 << 0.0 << nothing;
+    QTest::newRow("by a ratio of x to 0") << 100.0 << 40.0 << 3.0 << qInf() << nothing;
+    QTest::newRow("by a ratio of 0 to 0") << 100.0 << 40.0 << 3.0 << qQNaN() << nothing;
 }
 
 void TestMeasurements::aPhasorLeadsAnother()
