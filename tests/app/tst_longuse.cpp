@@ -167,8 +167,9 @@ class TestLongUse : public PlotsWindow {
         qInfo("%lld bytes more, %lld of records; %d handles, %d threads",
             after.bytes - before.bytes, bytes, after.handles, after.threads);
         QVERIFY2(beyond < (256 + 4 * loads) * 1024, qPrintable(QString::number(beyond)));
-        QCOMPARE(after.handles, before.handles);
-        QCOMPARE(after.threads, before.threads);
+        // Those of an archiver that has just ended may still have been there before.
+        QVERIFY2(after.handles <= before.handles, qPrintable(QString::number(after.handles)));
+        QVERIFY2(after.threads <= before.threads, qPrintable(QString::number(after.threads)));
     }
 
 private slots:

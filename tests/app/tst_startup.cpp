@@ -159,7 +159,7 @@ private slots:
         giveFreedPicturesBack();
         for (const std::size_t megabytes : {1, 16, 2, 30, 6}) {
             const auto before = mallinfo2();
-            void *const picture = std::malloc(megabytes << 20);
+            void *const volatile picture = std::malloc(megabytes << 20); // not to be optimised away
             const auto meanwhile = mallinfo2();
             std::free(picture);
             QCOMPARE(meanwhile.hblks, before.hblks + 1);
