@@ -139,8 +139,10 @@ void Plotter::mouseMoveEvent(QMouseEvent *event)
     const QPoint point = event->pos();
     if (m_drags.label.moveTo(point))
         dragCursor(point.x());
-    if (m_drags.band.isShown())
+    if (m_drags.band.isShown()) {
         m_drags.band.growTo(point);
+        m_drags.band.preview(m_view, geometryOfView(), !digitalFlag);
+    }
     if (m_drags.view.isActive())
         dragView(m_drags.view.moveTo(point));
     showTimeLine(point.x(), *this);

@@ -278,9 +278,7 @@ void Plotter::scrollView(int dx, int dy)
 bool Plotter::zoomToBand(bool withValues)
 {
     m_drags.band.hide();
-    const QRect band = m_drags.band.rect();
-    if (band.right() - band.left() <= 2 || band.bottom() - band.top() <= 2
-        || !m_view.zoomToBand(band, size(), withValues))
+    if (!m_drags.band.zoom(m_view, withValues))
         return false;
     s_shared.timeZoom = m_view.timeZoom();
     if (withValues)

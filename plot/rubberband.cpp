@@ -3,10 +3,15 @@
 
 #include "rubberband.h"
 
+#include "bandpreview.h"
 #include "baselayer.h"
+#include "plotgeometry.h"
+#include "plotview.h"
 
 #include <QPainter>
 #include <QWidget>
+
+RubberBand::RubberBand(QWidget *plot) : m_plot(plot), m_preview(new BandPreview(plot)) { }
 
 void RubberBand::begin(const QPoint &corner)
 {
@@ -27,8 +32,25 @@ void RubberBand::growTo(const QPoint &corner)
 void RubberBand::hide()
 {
     m_isShown = false;
+    m_preview->hide();
     update();
     m_plot->unsetCursor();
+}
+
+bool RubberBand::zoom(PlotView &view, bool withValues) const
+{
+    const QRect band = rect();
+    return band.right() - band.left() > 2 && band.bottom() - band.top() > 2
+        && view.zoomToBand(band, m_plot->size(), withValues);
+}
+
+void RubberBand::preview(const PlotView &view, const PlotGeometry &geometry, bool hasValues) const
+{
+    PlotView zoomed = view;
+    if (m_isShown && geometry.isDrawable() && zoom(zoomed, true))
+        m_preview->show(zoomed.live(), hasValues, geometry, rect());
+    else
+        m_preview->hide();
 }
 
 void RubberBand::paint(QPainter &painter) const

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Norvale
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "bandpreview.h"
 #include "plotpair.h"
 
 #include <QFrame>
@@ -43,6 +44,8 @@ private slots:
     void aMoveOfThePointerRedrawsNoBaseLayer();
     void aCursorRedrawsEachPlotOnce();
     void aDragRedrawsNoBaseLayerUntilItEnds();
+    void aBandRedrawsNoBaseLayerUntilItEnds_data();
+    void aBandRedrawsNoBaseLayerUntilItEnds();
     void aRefreshThatChangesNothingRedrawsNone();
     void aZoomRedrawsEachPlotOnce();
     void aReadoutThatWidensRedrawsEachPlotOnce_data();
@@ -150,6 +153,31 @@ void TestPlotterRedraws::aDragRedrawsNoBaseLayerUntilItEnds()
     QCOMPARE(baseLayers(), QList<int>({0, 0, 0, 0, 0, 0, 0, 0}));
     QTest::mouseRelease(analog.first(), Qt::LeftButton, {}, {590, 80});
     QCOMPARE(baseLayers(), QList<int>({1, 1, 1, 1, 1, 1, 1, 0}));
+}
+
+void TestPlotterRedraws::aBandRedrawsNoBaseLayerUntilItEnds_data()
+{
+    QTest::addColumn<bool>("isDigital");
+    QTest::newRow("analog") << false;
+    QTest::newRow("digital") << true;
+}
+
+void TestPlotterRedraws::aBandRedrawsNoBaseLayerUntilItEnds()
+{
+    QFETCH(bool, isDigital);
+    Plotter *plot = isDigital ? static_cast<Plotter *>(digital) : analog.first();
+    plot->raise();
+    QTest::mousePress(plot, Qt::LeftButton, {}, {200, 100});
+    (void)refreshes();
+    for (int x = 210; x < 600; x += 10) {
+        PlotPair::move(plot, {x, 200}, Qt::LeftButton);
+        QTest::qWait(1);
+    }
+    QVERIFY(plot->findChild<BandPreview *>()->isVisible());
+    QCOMPARE(baseLayers(), QList<int>({0, 0, 0, 0, 0, 0, 0, 0}));
+    QCOMPARE(refreshes(), QList<int>({0, 0, 0, 0, 0, 0, 0, 0}));
+    QTest::mouseRelease(plot, Qt::LeftButton, {}, {590, 200});
+    QCOMPARE(baseLayers(), QList<int>({1, 1, 1, 1, 1, 1, 1, 1}));
 }
 
 void TestPlotterRedraws::aRefreshThatChangesNothingRedrawsNone()
