@@ -25,22 +25,6 @@
 
 namespace {
 
-constexpr int perUnitMode = 2; // the modes of the host
-constexpr int secondaryMode = 1;
-
-// The unit of what is shown of a channel, with the side.
-QString shownUnit(const QString &unit, const AnalogChannel &channel, int valueMode)
-{
-    const bool hasSides = channel.ps == QLatin1String("P") || channel.ps == QLatin1String("S");
-    if (!hasSides)
-        return unit;
-    if (valueMode == perUnitMode)
-        return QStringLiteral("p.u.");
-    const QString side = valueMode == secondaryMode ? MeasurementsDialog::tr("secondary")
-                                                    : MeasurementsDialog::tr("primary");
-    return unit.isEmpty() ? side : QStringLiteral("%1 (%2)").arg(unit, side);
-}
-
 QString trimmedName(const QString &name)
 {
     return shownName(name.trimmed());

@@ -17,13 +17,6 @@ namespace {
 
 const QString degrees = QStringLiteral("°");
 
-// The seam of the angles is at its upper end however they are rounded.
-QString angleText(double angle)
-{
-    const QString text = fixedText(angle, 2);
-    return text == QLatin1String("-180.00") ? text.mid(1) : text;
-}
-
 QString textOf(Quantity quantity, const std::optional<double> &value)
 {
     if (!value)
@@ -103,6 +96,27 @@ QStringList extremeTexts(const MeasuredChannel &channel, int from, int to)
 }
 
 } // namespace
+
+// The seam of the angles is at its upper end.
+QString angleText(double angle)
+{
+    const QString text = fixedText(angle, 2);
+    return text == QLatin1String("-180.00") ? text.mid(1) : text;
+}
+
+QString shownUnit(const QString &unit, const AnalogChannel &channel, int valueMode)
+{
+    constexpr int secondaryMode = 1;
+    constexpr int perUnitMode = 2;
+    const bool hasSides = channel.ps == QLatin1String("P") || channel.ps == QLatin1String("S");
+    if (!hasSides)
+        return unit;
+    if (valueMode == perUnitMode)
+        return QStringLiteral("p.u.");
+    const QString side = valueMode == secondaryMode ? MeasurementsDialog::tr("secondary")
+                                                    : MeasurementsDialog::tr("primary");
+    return unit.isEmpty() ? side : QStringLiteral("%1 (%2)").arg(unit, side);
+}
 
 const QVector<float> &MeasuredChannel::values() const
 {

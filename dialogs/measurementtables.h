@@ -42,6 +42,12 @@ struct MeasuredCursor {
     int sample = -1; // the nearest; -1 outside the recording
 };
 
+// The unit of what is shown of a channel in a value mode (0 primary, 1 secondary, 2 per unit), with
+// the side.
+QString shownUnit(const QString &unit, const AnalogChannel &channel, int valueMode);
+// Degrees above -180 and up to 180, however they are rounded.
+QString angleText(double angle);
+
 // What is measured, and against what.
 struct Measured {
     QVector<MeasuredCursor> cursors;

@@ -7,6 +7,8 @@
 #include "channelnames.h"
 #include "dialoghost.h"
 #include "elidingcheckbox.h"
+#include "labeltext.h"
+#include "measurementtables.h"
 #include "numbers.h"
 #include "phasordiagram.h"
 #include "plotter.h"
@@ -17,10 +19,12 @@
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QHelpEvent>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
+#include <QToolTip>
 
 namespace {
 
@@ -272,6 +276,29 @@ void VectorWidget::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
 }
 
+bool VectorWidget::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto *help = static_cast<QHelpEvent *>(event);
+    QToolTip::showText(help->globalPos(), plainToolTip(tipAt(help->pos())), this);
+    return true;
+}
+
+QString VectorWidget::tipAt(const QPoint &point) const
+{
+    const QWidget *place = childAt(point);
+    int found = -1;
+    if (place == ui->labelVector) {
+        const QPoint origin = PhasorDiagram(0, ui->labelVector->size()).origin();
+        const QPoint right = place->mapFrom(this, point) - origin;
+        found = phasorAtLine(m_drawn, {right.x(), -right.y()});
+    } else if (place == ui->labelMagnitudes) {
+        found = phasorAtText(m_drawn, place->mapFrom(this, point), place->width());
+    }
+    return found < 0 ? QString() : tipOf(m_drawn.at(found));
+}
+
 // Over a check box, the right button chooses a colour.
 void VectorWidget::contextMenuEvent(QContextMenuEvent *event)
 {
@@ -298,6 +325,7 @@ void VectorWidget::renderPixmaps()
     renderPending = false;
     diagramPixmap.fill(Qt::transparent);
     magnitudesPixmap.fill(Qt::transparent);
+    m_drawn.clear();
     if (!plotter)
         return;
 
@@ -324,7 +352,6 @@ void VectorWidget::drawPhasors(QPainter &diagramPainter, QPainter &magnitudesPai
     const int reference = referenceChannel();
     // Texts that stand on it or lower lie outside the pixmap.
     const int lowestBaseLine = ui->labelMagnitudes->height() + 2 * font.pixelSize();
-    int texts = 0;
     const QList<double> times = plotter->cursors();
     if (!times.isEmpty()) {
         diagramPainter.resetTransform();
@@ -335,13 +362,13 @@ void VectorWidget::drawPhasors(QPainter &diagramPainter, QPainter &magnitudesPai
     diagramPainter.resetTransform();
     diagramPainter.translate(diagram.origin());
     diagramPainter.scale(1, -1);
-    for (const double time : times) {
-        SampleAtTime sample(time, plotter->sampleTimes());
+    for (int cursor = 0; cursor < times.size(); ++cursor) {
+        SampleAtTime sample(times.at(cursor), plotter->sampleTimes());
         const auto phasorOf = [&](int channel) {
             const AnalogChannel *record = recordOf(channel);
             return record ? ::phasorOf(*record, sample.of(*record)) : Phasor();
         };
-        const float referenceAngle = phasorOf(reference).angle;
+        const Phasor referencePhasor = phasorOf(reference);
         for (const int channel : channels) {
             // Unsigned, so that channel 0, a name unknown to the recording, has a colour as well.
             const QColor color
@@ -350,8 +377,12 @@ void VectorWidget::drawPhasors(QPainter &diagramPainter, QPainter &magnitudesPai
             setPenColor(diagramPainter, color);
             setPenColor(magnitudesPainter, color);
             const Phasor phasor = phasorOf(channel);
-            diagramPainter.drawLine(QPoint(0, 0), diagram.lineEnd(phasor, referenceAngle));
-            const QPoint position = magnitudeTextPosition(texts++, ui->labelMagnitudes->width());
+            const QPoint end = diagram.lineEnd(phasor, referencePhasor.angle);
+            diagramPainter.drawLine(QPoint(0, 0), end);
+            const QPoint position
+                = magnitudeTextPosition(m_drawn.size(), ui->labelMagnitudes->width());
+            m_drawn.append({names.value(channel - 1), recordedUnit(channel), cursor, phasor,
+                names.value(reference - 1), referencePhasor, end});
             if (position.y() < lowestBaseLine)
                 magnitudesPainter.drawText(position,
                     fittingName(names.value(channel - 1),
@@ -366,6 +397,17 @@ int VectorWidget::referenceChannel() const
 {
     const int position = owner ? owner->referencePosition() : -1;
     return position < 0 ? 0 : positionOf(owner->referenceName(), recordingNames(), position) + 1;
+}
+
+// With the side, of a channel counted from 1.
+QString VectorWidget::recordedUnit(int channel) const
+{
+    const AnalogChannel *record = recordOf(channel);
+    if (!record)
+        return QString();
+    const int side = record->ps == QLatin1String("S") ? 1 : 0;
+    return shownUnit(
+        shownName(recording()->analogUnits.value(channel - 1)).trimmed(), *record, side);
 }
 
 // Numbers of the checked channels in the recording, 1-based; 0 for a name that it does not have.

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "drawnphasors.h"
+
 #include <QColor>
 #include <QList>
 #include <QPixmap>
@@ -59,6 +61,7 @@ signals:
     void measurementsWanted(const QList<int> &channels);
 
 protected:
+    bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void showEvent(QShowEvent *event) override;
@@ -72,10 +75,12 @@ private:
     void renderPixmaps();
     void drawPhasors(QPainter &diagramPainter, QPainter &magnitudesPainter,
         const PhasorDiagram &diagram, const QList<int> &channels);
+    QString tipAt(const QPoint &point) const; // empty where nothing is drawn
     int referenceChannel() const; // its number in the recording, 1-based; 0 for none
     QList<int> checkedChannels() const;
     double extremeOf(const QList<int> &channels) const;
     const AnalogChannel *recordOf(int channel) const;
+    QString recordedUnit(int channel) const;
     const CFGProperties *recording() const;
     QStringList recordingNames() const;
     QPixmap pixmapFor(const QWidget &label) const;
@@ -86,6 +91,7 @@ private:
     QPointer<Plotter> plotter;
     QPixmap diagramPixmap;
     QPixmap magnitudesPixmap;
+    DrawnPhasors m_drawn; // in both
     QStringList channelNames;
     QList<QCheckBox *> checkBoxes; // parallel to channelNames, as far as they are made
     VectorDialog *owner;

@@ -18,14 +18,6 @@ namespace {
 
 constexpr int reach = 3; // pixels to both sides of a point within which a trace passes it
 
-double distanceToLine(const QPointF &point, const QPointF &from, const QPointF &to)
-{
-    const QPointF along = to - from;
-    const double length = QPointF::dotProduct(along, along);
-    const double share = length > 0 ? QPointF::dotProduct(point - from, along) / length : 0;
-    return QLineF(point, from + std::clamp(share, 0.0, 1.0) * along).length();
-}
-
 // In pixels; infinite where the trace does not pass.
 double distanceToTrace(const QPoint &point, const PlotGeometry &geometry, const TimeAxis &axis,
     const QVector<float> &values, double factor)
@@ -67,6 +59,14 @@ std::optional<double> nearestChange(const QVector<DigitalRuns> &channels, const 
 }
 
 } // namespace
+
+double distanceToLine(const QPointF &point, const QPointF &from, const QPointF &to)
+{
+    const QPointF along = to - from;
+    const double length = QPointF::dotProduct(along, along);
+    const double share = length > 0 ? QPointF::dotProduct(point - from, along) / length : 0;
+    return QLineF(point, from + std::clamp(share, 0.0, 1.0) * along).length();
+}
 
 int traceAt(const Plotter &plot, const AnalogSource &source, const QPoint &point)
 {

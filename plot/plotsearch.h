@@ -12,8 +12,12 @@ class AnalogSource;
 class DigitalRuns;
 class Plotter;
 class QPoint;
+class QPointF;
 class TimeAxis;
 struct ShownChannel;
+
+// Of a point from the stretch between two others.
+double distanceToLine(const QPointF &point, const QPointF &from, const QPointF &to);
 
 // What stands at a place of a plot, and the exact times (ms) of what is looked for.
 

@@ -1519,6 +1519,22 @@ Do you want to replace it?</translation>
         <source>Measurements...</source>
         <translation>Measurements...</translation>
     </message>
+    <message>
+        <source>%1 at P%2</source>
+        <translation>%1 at P%2</translation>
+    </message>
+    <message>
+        <source>RMS: %1</source>
+        <translation>RMS: %1</translation>
+    </message>
+    <message>
+        <source>Angle to %1: %2°</source>
+        <translation>Angle to %1: %2°</translation>
+    </message>
+    <message>
+        <source>Angle: %1°</source>
+        <translation>Angle: %1°</translation>
+    </message>
 </context>
 <context>
     <name>plotterDg</name>

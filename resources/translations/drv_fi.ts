@@ -1519,6 +1519,22 @@ Korvataanko se?</translation>
         <source>Measurements...</source>
         <translation>Mittaukset...</translation>
     </message>
+    <message>
+        <source>%1 at P%2</source>
+        <translation>%1 kohdassa P%2</translation>
+    </message>
+    <message>
+        <source>RMS: %1</source>
+        <translation>Tehollisarvo: %1</translation>
+    </message>
+    <message>
+        <source>Angle to %1: %2°</source>
+        <translation>Kulma kanavaan %1: %2°</translation>
+    </message>
+    <message>
+        <source>Angle: %1°</source>
+        <translation>Kulma: %1°</translation>
+    </message>
 </context>
 <context>
     <name>plotterDg</name>

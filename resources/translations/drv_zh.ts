@@ -1519,6 +1519,22 @@ Do you want to replace it?</source>
         <source>Measurements...</source>
         <translation>测量...</translation>
     </message>
+    <message>
+        <source>%1 at P%2</source>
+        <translation>P%2 处的 %1</translation>
+    </message>
+    <message>
+        <source>RMS: %1</source>
+        <translation>有效值：%1</translation>
+    </message>
+    <message>
+        <source>Angle to %1: %2°</source>
+        <translation>相对于 %1 的角度：%2°</translation>
+    </message>
+    <message>
+        <source>Angle: %1°</source>
+        <translation>角度：%1°</translation>
+    </message>
 </context>
 <context>
     <name>plotterDg</name>
