@@ -137,6 +137,7 @@ void MainWindow::createToolBarWidgets()
     m_primSecCombo = new ElidingComboBox(this);
     m_primSecCombo->setObjectName(QStringLiteral("comboBox_primSec"));
     m_primSecCombo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    m_primSecLabel->setBuddy(m_primSecCombo);
     connect(m_primSecCombo, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
         &MainWindow::primSecChanged);
 }
@@ -235,6 +236,7 @@ void MainWindow::retranslateTexts()
     m_referenceCombo->setToolTip(tr("Reference channel of the FFT angles"));
     m_primSecLabel->setToolTip(tr("Values of the primary or the secondary side, or per unit"));
     m_primSecCombo->setToolTip(m_primSecLabel->toolTip());
+    m_referenceCombo->setAccessibleName(m_referenceCombo->toolTip());
     m_languageMenu->setTitle(tr("Language"));
 }
 

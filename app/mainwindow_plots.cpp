@@ -160,6 +160,7 @@ void MainWindow::retranslatePlots()
         return;
     m_analogPlotter->setName(tr("Analog"));
     m_digitalPlotter->setName(tr("Digital"));
+    m_horizontalScroll->setAccessibleName(tr("Time in view"));
     for (Plotter *plot : qAsConst(m_addedPlotters)) {
         const int number = plot->property(numberOfUnnamed).toInt();
         if (number > 0)

@@ -62,8 +62,9 @@ void CTVTDialog::setChannels(
 
 void CTVTDialog::makeRows(int count)
 {
-    const int end = std::min(channelNames.size(), nameLabels.size() + count);
-    for (int i = nameLabels.size(); i < end; ++i) {
+    const int first = nameLabels.size();
+    const int end = std::min(channelNames.size(), first + count);
+    for (int i = first; i < end; ++i) {
         nameLabels.append(new QLabel(shownName(channelNames.at(i)), this));
         nameLabels.last()->setTextFormat(Qt::PlainText);
         primaryEdits.append(new QLineEdit(appliedPrimaries.value(i), this));
@@ -72,9 +73,19 @@ void CTVTDialog::makeRows(int count)
         ui->gridLayout->addWidget(primaryEdits.last(), i + 1, 1);
         ui->gridLayout->addWidget(secondaryEdits.last(), i + 1, 2);
     }
+    nameEdits(first);
     if (!secondaryEdits.isEmpty()) {
         setTabOrder(secondaryEdits.last(), ui->pushButton_Close);
         setTabOrder(secondaryEdits.last(), ui->pushButton_Set);
+    }
+}
+
+void CTVTDialog::nameEdits(int first)
+{
+    for (int i = first; i < nameLabels.size(); ++i) {
+        const QString name = shownName(channelNames.at(i));
+        primaryEdits.at(i)->setAccessibleName(tr("%1, primary").arg(name));
+        secondaryEdits.at(i)->setAccessibleName(tr("%1, secondary").arg(name));
     }
 }
 
@@ -130,8 +141,10 @@ void CTVTDialog::on_pushButton_Close_clicked()
 
 void CTVTDialog::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
+        nameEdits(0);
+    }
     QDialog::changeEvent(event);
 }
 

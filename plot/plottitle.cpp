@@ -54,6 +54,8 @@ void PlotTitle::setTitle(const QString &title)
     setAlignment(fits ? Qt::AlignCenter : Qt::AlignLeft | Qt::AlignVCenter);
     setToolTip(fits ? QString() : plainToolTip(title));
     m_title = title;
+    for (QWidget *widget : {parentWidget(), static_cast<QWidget *>(m_editor)})
+        widget->setAccessibleName(title);
 }
 
 void PlotTitle::place(int y)

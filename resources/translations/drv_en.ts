@@ -27,6 +27,14 @@
         <source>Remove from the plot</source>
         <translation>Remove from the plot</translation>
     </message>
+    <message>
+        <source>Channels</source>
+        <translation>Channels</translation>
+    </message>
+    <message>
+        <source>Channels of the plot</source>
+        <translation>Channels of the plot</translation>
+    </message>
 </context>
 <context>
     <name>CTVTDialog</name>
@@ -57,6 +65,14 @@
     <message>
         <source>Multiplies the values of the recorded side by its rating, even where nothing was changed</source>
         <translation>Multiplies the values of the recorded side by its rating, even where nothing was changed</translation>
+    </message>
+    <message>
+        <source>%1, primary</source>
+        <translation>%1, primary</translation>
+    </message>
+    <message>
+        <source>%1, secondary</source>
+        <translation>%1, secondary</translation>
     </message>
 </context>
 <context>
@@ -516,6 +532,14 @@ Please select another file.</translation>
     <message>
         <source>Voltages FFT</source>
         <translation>Voltages FFT</translation>
+    </message>
+    <message>
+        <source>Plots</source>
+        <translation>Plots</translation>
+    </message>
+    <message>
+        <source>Time in view</source>
+        <translation>Time in view</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +1558,14 @@ Do you want to replace it?</translation>
     <message>
         <source>Angle: %1°</source>
         <translation>Angle: %1°</translation>
+    </message>
+    <message>
+        <source>Phasor diagram</source>
+        <translation>Phasor diagram</translation>
+    </message>
+    <message>
+        <source>RMS values</source>
+        <translation>RMS values</translation>
     </message>
 </context>
 <context>

@@ -27,6 +27,14 @@
         <source>Remove from the plot</source>
         <translation>Poista kuvaajasta</translation>
     </message>
+    <message>
+        <source>Channels</source>
+        <translation>Kanavat</translation>
+    </message>
+    <message>
+        <source>Channels of the plot</source>
+        <translation>Kuvaajan kanavat</translation>
+    </message>
 </context>
 <context>
     <name>CTVTDialog</name>
@@ -57,6 +65,14 @@
     <message>
         <source>Multiplies the values of the recorded side by its rating, even where nothing was changed</source>
         <translation>Kertoo tallennetun puolen arvot sen nimellisarvolla, vaikka mitään ei olisi muutettu</translation>
+    </message>
+    <message>
+        <source>%1, primary</source>
+        <translation>%1, ensiö</translation>
+    </message>
+    <message>
+        <source>%1, secondary</source>
+        <translation>%1, toisio</translation>
     </message>
 </context>
 <context>
@@ -516,6 +532,14 @@ Valitse toinen tiedosto.</translation>
     <message>
         <source>Voltages FFT</source>
         <translation>Jännitteet FFT</translation>
+    </message>
+    <message>
+        <source>Plots</source>
+        <translation>Kuvaajat</translation>
+    </message>
+    <message>
+        <source>Time in view</source>
+        <translation>Näkyvä aika</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +1558,14 @@ Korvataanko se?</translation>
     <message>
         <source>Angle: %1°</source>
         <translation>Kulma: %1°</translation>
+    </message>
+    <message>
+        <source>Phasor diagram</source>
+        <translation>Osoitinpiirros</translation>
+    </message>
+    <message>
+        <source>RMS values</source>
+        <translation>Tehollisarvot</translation>
     </message>
 </context>
 <context>

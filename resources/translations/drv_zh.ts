@@ -27,6 +27,14 @@
         <source>Remove from the plot</source>
         <translation>从曲线图中移除</translation>
     </message>
+    <message>
+        <source>Channels</source>
+        <translation>通道</translation>
+    </message>
+    <message>
+        <source>Channels of the plot</source>
+        <translation>曲线图的通道</translation>
+    </message>
 </context>
 <context>
     <name>CTVTDialog</name>
@@ -57,6 +65,14 @@
     <message>
         <source>Multiplies the values of the recorded side by its rating, even where nothing was changed</source>
         <translation>将记录侧的值乘以其额定值，即使未作任何更改</translation>
+    </message>
+    <message>
+        <source>%1, primary</source>
+        <translation>%1，一次侧</translation>
+    </message>
+    <message>
+        <source>%1, secondary</source>
+        <translation>%1，二次侧</translation>
     </message>
 </context>
 <context>
@@ -516,6 +532,14 @@ Please select another file.</source>
     <message>
         <source>Voltages FFT</source>
         <translation>电压 FFT</translation>
+    </message>
+    <message>
+        <source>Plots</source>
+        <translation>曲线图</translation>
+    </message>
+    <message>
+        <source>Time in view</source>
+        <translation>显示的时间</translation>
     </message>
 </context>
 <context>
@@ -1534,6 +1558,14 @@ Do you want to replace it?</source>
     <message>
         <source>Angle: %1°</source>
         <translation>角度：%1°</translation>
+    </message>
+    <message>
+        <source>Phasor diagram</source>
+        <translation>相量图</translation>
+    </message>
+    <message>
+        <source>RMS values</source>
+        <translation>有效值</translation>
     </message>
 </context>
 <context>

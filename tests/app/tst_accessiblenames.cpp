@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "smallrecording.h"
+#include "windowfixture.h"
+
+#include <QAccessible>
+#include <QComboBox>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QScrollBar>
+#include <QToolButton>
+
+// What a screen reader calls the parts of the window and of its dialogs.
+class TestAccessibleNames : public WindowFixture {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { closeWindow(); }
+    void whateverTakesTheFocusHasOne_data();
+    void whateverTakesTheFocusHasOne();
+    void tellWhatAPartIs_data();
+    void tellWhatAPartIs();
+    void ofPlotsAreTheirTitles();
+    void followTheLanguage();
+
+private:
+    // Outside Windows the toolkit gives a combo box's value for its name, and tells its label
+    // apart.
+    static QString nameOf(QWidget *widget)
+    {
+        QAccessibleInterface *part = QAccessible::queryAccessibleInterface(widget);
+        if (!qobject_cast<QComboBox *>(widget))
+            return part->text(QAccessible::Name);
+        const auto labels = part->relations(QAccessible::Label);
+        return labels.isEmpty() ? widget->accessibleName()
+                                : labels.first().first->text(QAccessible::Name);
+    }
+    void choose(const QString &language) const
+    {
+        for (QAction *each : window->findChildren<QAction *>()) {
+            if (each->text() == language)
+                each->trigger();
+        }
+        QCoreApplication::processEvents();
+    }
+    template <class T> T *part(const QString &form, const char *name) const
+    {
+        const QWidget *parent = form.isEmpty() ? window.get() : window->findChild<QWidget *>(form);
+        return parent->findChild<T *>(QLatin1String(name));
+    }
+};
+
+void TestAccessibleNames::init()
+{
+    startAsMaker();
+    makeWindow();
+    window->open(writeSmallRecording(folder->path(), QStringLiteral("rec")));
+    window->addPlotter({QStringLiteral("IL1")});
+    showActive();
+}
+
+void TestAccessibleNames::whateverTakesTheFocusHasOne_data()
+{
+    QTest::addColumn<QString>("dialog"); // none for the window itself
+    QTest::newRow("window") << QString();
+    for (const char *dialog : {"AddPlotterDialog", "CTVTDialog", "SaveDialog", "VectorDialog"})
+        QTest::newRow(dialog) << QString::fromLatin1(dialog);
+}
+
+void TestAccessibleNames::whateverTakesTheFocusHasOne()
+{
+    QFETCH(QString, dialog);
+    QWidget *form = window.get();
+    if (!dialog.isEmpty()) {
+        form = child<QDialog>(dialog.toLatin1());
+        QVERIFY(form);
+        form->show();
+        QVERIFY(QTest::qWaitForWindowExposed(form));
+    }
+    int count = 0;
+    QStringList nameless;
+    for (auto *widget : form->findChildren<QWidget *>()) {
+        if (widget->window() != form || (widget->focusPolicy() & Qt::TabFocus) == 0
+            || widget->objectName().startsWith(QLatin1String("qt_")))
+            continue;
+        ++count;
+        if (nameOf(widget).trimmed().isEmpty())
+            nameless += QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ')
+                + widget->objectName();
+    }
+    QVERIFY(count > 3);
+    QVERIFY2(nameless.isEmpty(), qPrintable(nameless.join(QStringLiteral(", "))));
+}
+
+void TestAccessibleNames::tellWhatAPartIs_data()
+{
+    QTest::addColumn<QString>("dialog"); // none for the window itself
+    QTest::addColumn<QString>("part");
+    QTest::addColumn<QString>("name");
+    const auto row = [](const char *dialog, const char *part, const char *name) {
+        QTest::newRow(part) << QString::fromLatin1(dialog) << QString::fromLatin1(part)
+                            << QString::fromLatin1(name);
+    };
+    row("", "listWidget", "Analog Channels:");
+    row("", "listWidget2", "Digital Channels:");
+    row("", "scrollWidget", "Plots");
+    row("", "comboBox_mainReference", "Reference channel of the FFT angles");
+    row("", "comboBox_primSec", "Primary/Secondary:");
+    row("VectorDialog", "comboBox_reference", "Reference:");
+    row("VectorDialog", "toolButton", "Add a diagram");
+    row("VectorWidget", "labelVector", "Phasor diagram");
+    row("VectorWidget", "labelMagnitudes", "RMS values");
+    row("SaveDialog", "lineEdit_FilePath", "File path:");
+    row("SaveDialog", "toolButton_Browse", "Choose the file");
+    row("SaveDialog", "horizontalSlider_StartPoint", "Recording start point (ms):");
+    row("SaveDialog", "horizontalSlider_EndPoint", "Recording end point (ms):");
+    row("AddPlotterDialog", "lineEdit_graphName", "Graph name:");
+    row("AddPlotterDialog", "listWidget_unSelected", "Channels");
+    row("AddPlotterDialog", "listWidget_Selected", "Channels of the plot");
+    row("AddPlotterDialog", "pushButton_add", "Add to the plot");
+    row("AddPlotterDialog", "pushButton_remove", "Remove from the plot");
+}
+
+void TestAccessibleNames::tellWhatAPartIs()
+{
+    QFETCH(QString, dialog);
+    QFETCH(QString, part);
+    QFETCH(QString, name);
+    auto *widget = this->part<QWidget>(dialog, part.toLatin1());
+    QVERIFY(widget);
+    QCOMPARE(nameOf(widget).trimmed(), name);
+}
+
+void TestAccessibleNames::ofPlotsAreTheirTitles()
+{
+    for (const auto *plot : window->findChildren<Plotter *>())
+        QCOMPARE(plot->accessibleName(), plot->name() + QStringLiteral(" Plotter"));
+    for (const auto *bar :
+        window->findChildren<QScrollBar *>(QString(), Qt::FindDirectChildrenOnly))
+        QVERIFY(!bar->accessibleName().isEmpty());
+}
+
+void TestAccessibleNames::followTheLanguage()
+{
+    auto *add = part<QToolButton>(QStringLiteral("VectorDialog"), "toolButton");
+    const auto *primary = child<QDialog>("CTVTDialog")->findChild<QLineEdit *>();
+    for (int twice = 0; twice < 2; ++twice) {
+        choose(QStringLiteral("Suomi"));
+        QCOMPARE(nameOf(child<QWidget>("scrollWidget")), QStringLiteral("Kuvaajat"));
+        QCOMPARE(nameOf(add), QStringLiteral("Lisää osoitinpiirros"));
+        QCOMPARE(primary->accessibleName(), QStringLiteral("IL1, ensiö"));
+        choose(QStringLiteral("English"));
+        QCOMPARE(primary->accessibleName(), QStringLiteral("IL1, primary"));
+        QCOMPARE(nameOf(child<QWidget>("scrollWidget")), QStringLiteral("Plots"));
+        QCOMPARE(nameOf(add), QStringLiteral("Add a diagram"));
+    }
+}
+
+QTEST_MAIN(TestAccessibleNames)
+#include "tst_accessiblenames.moc"
