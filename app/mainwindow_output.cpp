@@ -21,6 +21,7 @@
 #include <QClipboard>
 #include <QDir>
 #include <QFileDialog>
+#include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
 #include <QSaveFile>
@@ -46,6 +47,14 @@ void stylePlots(const QList<Plotter *> &plots, const QString &styleSheet)
 {
     for (Plotter *plot : plots)
         plot->setStyleSheet(styleSheet);
+}
+
+void styleCursorNames(const QList<Plotter *> &plots, const QString &styleSheet)
+{
+    for (const Plotter *plot : plots) {
+        for (QLabel *name : plot->findChildren<QLabel *>(QStringLiteral("lineLabel")))
+            name->setStyleSheet(styleSheet);
+    }
 }
 
 // What stood there goes only where all of the picture can be written. A file that cannot be
@@ -133,7 +142,9 @@ QPixmap MainWindow::report()
 {
     const ReportPicture report(
         *m_cfgProperties, QFileInfo(windowFilePath()).fileName(), m_analogPlotter->cursors());
+    styleCursorNames(plots(), cursorNamePaperStyle);
     const QPixmap picture = report.around(capture(CaptureTarget::File, QString()), font());
+    styleCursorNames(plots(), cursorNameStyle);
     stylePlots(plots(), screenStyle);
     return picture;
 }

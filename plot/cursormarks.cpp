@@ -6,6 +6,7 @@
 #include "baselayer.h"
 #include "numbers.h"
 #include "plotgeometry.h"
+#include "plotstyle.h"
 #include "textrow.h"
 
 #include <QFontMetrics>
@@ -55,9 +56,7 @@ void CursorMarks::add(double time)
         std::make_unique<CustomLabel>(m_plot)};
     CustomLabel *label = cursor.label.get();
     label->setObjectName(QStringLiteral("lineLabel"));
-    label->setStyleSheet(QStringLiteral(
-        "QLabel{color: #fffa50; background-color: rgba(49, 48, 52, 70%); padding: 0px 2px;}"
-        "QLabel:focus{color: #313034; background-color: #fffa50;}"));
+    label->setStyleSheet(cursorNameStyle);
     label->setFont(smallFont(m_plot->font()));
     label->setCursor(Qt::SizeHorCursor);
     label->setPlotter(m_plot);

@@ -792,6 +792,35 @@ private slots:
         }
     }
 
+    void namesOfCursorsAreLegibleInAReport_data()
+    {
+        QTest::addColumn<QString>("plot");
+        QTest::newRow("over traces") << QStringLiteral("Analog");
+        QTest::newRow("over states") << QStringLiteral("Digital");
+    }
+
+    void namesOfCursorsAreLegibleInAReport()
+    {
+        QFETCH(QString, plot);
+        plotNamed(plot)->addCursorAt(10);
+        QLabel *name = plotNamed(plot)->findChild<QLabel *>(QStringLiteral("lineLabel"));
+        const QString style = name->styleSheet();
+        const int above = 20 + 3 * window->fontMetrics().lineSpacing();
+        for (int time = 0; time < 2; ++time) {
+            QVERIFY(choose(plotNamed(plot), QStringLiteral("Copy Picture with Heading")));
+            const QImage picture = QGuiApplication::clipboard()->image().copy(
+                QRect(name->mapTo(plotColumn(), QPoint(0, above)), name->size()));
+            const QRgb behind = picture.pixel(0, 0);
+            int legible = 0;
+            for (int y = 0; y < picture.height(); ++y) {
+                for (int x = 0; x < picture.width(); ++x)
+                    legible += contrast(picture.pixel(x, y), behind) >= 4.5 ? 1 : 0;
+            }
+            QVERIFY2(legible > 10, qPrintable(QString::number(legible)));
+            QCOMPARE(name->styleSheet(), style);
+        }
+    }
+
     void aReportIsSavedWithItsHeading()
     {
         Plotter *plot = plotNamed(QStringLiteral("Digital"));
