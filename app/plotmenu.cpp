@@ -27,7 +27,8 @@ QString timeText(double time)
     return QString::number(time, 'g', 12);
 }
 
-// Asks for a time of a recording that starts at startTime. The dialog ends with the plot.
+// Asks for a time of a recording that starts at startTime; what is proposed may lie beyond it, as a
+// view may. The dialog ends with the plot.
 void askForTime(Plotter *plot, const QString &title, double proposed, const QString &startTime,
     const std::function<void(double)> &command)
 {
@@ -35,7 +36,7 @@ void askForTime(Plotter *plot, const QString &title, double proposed, const QStr
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowTitle(title);
     dialog->setLabelText(PlotMenu::tr("Time in ms, or time of day (hh:mm:ss.zzz):"));
-    dialog->setTextValue(timeText(proposed));
+    dialog->setTextValue(timeText(std::clamp(proposed, plot->home().minX, plot->home().maxX)));
     const auto timeIn = [=](const QString &text) {
         const std::optional<double> time = timeFromText(text, startTime);
         return time && *time >= plot->home().minX && *time <= plot->home().maxX ? time

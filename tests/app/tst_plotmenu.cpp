@@ -49,6 +49,7 @@ private slots:
     void cursorsAtATimeThatIsTyped();
     void timesThatAreNotTaken_data();
     void timesThatAreNotTaken();
+    void whatIsProposedIsTaken();
     void aQuestionEndsWithItsRecording();
     void cursorsAtChanges();
     void cursorsAtChangesOfTheRow();
@@ -351,6 +352,16 @@ void TestPlotMenu::timesThatAreNotTaken()
     QVERIFY(ok->isEnabled());
     QTest::keyClick(dialog, Qt::Key_Escape);
     QVERIFY(analog()->cursors().isEmpty());
+}
+
+// The view may lie beyond the recording, which ends at 100 ms.
+void TestPlotMenu::whatIsProposedIsTaken()
+{
+    analog()->changeView([](PlotView &view) { return view.moveBy(90, 0); });
+    QVERIFY(analog()->view().minX > 80);
+    QVERIFY(choose(analog(), QStringLiteral("Cursor at Time...")));
+    QTest::keyClick(analog()->findChild<QInputDialog *>(), Qt::Key_Return);
+    QCOMPARE(analog()->cursors(), QList<double>{100});
 }
 
 void TestPlotMenu::aQuestionEndsWithItsRecording()
