@@ -123,7 +123,6 @@ void MainWindow::clearView()
     m_ctvtDialog->clearChannels();
     m_vectorDialog->setPlotter(nullptr);
     m_vectorDialog->setChannelNames({});
-    m_sideWindows->setRecording(nullptr, nullptr);
     m_statusField->showFile(QString());
     if (disposes)
         disposePlots();

@@ -12,6 +12,7 @@
 #include "elidingcombobox.h"
 #include "plotterdg.h"
 #include "savedialog.h"
+#include "sidewindows.h"
 #include "ui_mainwindow.h"
 #include "vectordialog.h"
 
@@ -173,6 +174,7 @@ void MainWindow::disposePlots()
 {
     if (!m_analogPlotter)
         return;
+    m_sideWindows->setRecording(nullptr, nullptr);
     m_analogPlotter->setLinkedPlotters({});
     m_analogPlotter->resetPlot(); // plots of the next recording begin at the full view
     for (Plotter *plot : plots())
@@ -351,6 +353,7 @@ void MainWindow::removePlotter()
         for (Plotter *plot : plots())
             plot->removeLinkedPlotter(removed->name());
         m_plotLayout->removeWidget(removed);
+        m_sideWindows->leave(removed);
         delete removed;
         setColumnHeight();
         m_analogPlotter->zoomIn(); // the widest readout may have gone

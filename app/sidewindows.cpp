@@ -69,14 +69,12 @@ MeasurementsDialog *SideWindows::measurements()
 void SideWindows::showMeasurements(Plotter *plot)
 {
     measurements()->showForPlotter(plot);
-    connect(plot, &QObject::destroyed, this, &SideWindows::leave, Qt::UniqueConnection);
 }
 
-// A plot that is removed leaves the measurements to the first one.
-void SideWindows::leave(const QObject *plot)
+void SideWindows::leave(const Plotter *plot)
 {
-    if (m_measurements->plotter() == plot)
-        m_measurements->setPlotter(m_plot == plot ? nullptr : m_plot.data());
+    if (m_measurements && m_measurements->plotter() == plot)
+        m_measurements->setPlotter(m_plot);
 }
 
 void SideWindows::showMeasurementsOf(const QList<int> &channels, int reference)

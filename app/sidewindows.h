@@ -20,12 +20,14 @@ class SideWindows : public QObject {
 public:
     explicit SideWindows(QWidget *window) : QObject(window), m_window(window) { }
 
-    // The recording on screen and any of its plots; null before another one is loaded.
+    // The recording on screen and a plot that stays as long; null before they go.
     void setRecording(const CFGProperties *recording, Plotter *plot);
     // Offers the windows in the context menu of a plot.
     void addTo(QMenu &menu, Plotter &plot);
     // After a change of cursors, channels or values; cheap while no window shows them.
     void refresh();
+    // Before a plot is removed: its measurements become those of the plot given with the recording.
+    void leave(const Plotter *plot);
     // Of analog channels (0-based), against a reference (-1 for none).
     void showMeasurementsOf(const QList<int> &channels, int reference);
 
@@ -37,7 +39,6 @@ private:
     void showEvents();
     MeasurementsDialog *measurements();
     void showMeasurements(Plotter *plot);
-    void leave(const QObject *plot);
 
     QWidget *m_window;
     const CFGProperties *m_recording = nullptr;
