@@ -76,7 +76,7 @@ int firstReaching(const TraceSummary &trace, int first, int last, const Conditio
 // The smallest and the largest value between two samples, each with the time of its first sample.
 QStringList extremeTexts(const MeasuredChannel &channel, int from, int to)
 {
-    const QStringList none{QString(), QString(), QString(), QString()};
+    QStringList none{QString(), QString(), QString(), QString()};
     const int first = std::min(from, to);
     const int last = std::max(from, to) + 1;
     if (first < 0 || last > channel.trace.values().size())
@@ -156,6 +156,8 @@ std::optional<double> Measured::at(
         const QVector<int> &states = channel.digital->values;
         return sample < states.size() ? std::optional<double>(states.at(sample)) : std::nullopt;
     }
+    if (!channel.analog)
+        return std::nullopt;
     const auto scaled = [&](std::optional<double> value) {
         return value ? *value * std::abs(channel.factor) : value;
     };
