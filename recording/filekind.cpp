@@ -65,7 +65,7 @@ QString recordingToOpen(const QStringList &paths)
             return path;
         if (!path.endsWith(data, Qt::CaseInsensitive))
             continue;
-        const QString beside = existingPath(path.chopped(data.size()) + configuration);
+        QString beside = existingPath(path.chopped(data.size()) + configuration);
         if (QFileInfo::exists(beside))
             return beside;
     }
