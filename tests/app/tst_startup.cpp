@@ -157,7 +157,7 @@ private slots:
     {
 #if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
         giveFreedPicturesBack();
-        for (const std::size_t megabytes : {1, 16, 2, 30, 6}) {
+        for (const std::size_t megabytes : {1UL, 16UL, 2UL, 30UL, 6UL}) {
             const auto before = mallinfo2();
             void *const volatile picture = std::malloc(megabytes << 20); // not to be optimised away
             const auto meanwhile = mallinfo2();
