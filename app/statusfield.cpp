@@ -25,6 +25,8 @@ StatusField::StatusField(const PlotHost &host, QWidget *parent) : ElidingLabel(p
     setObjectName(QStringLiteral("statusField"));
     setStyleSheet(QStringLiteral("QLabel{color: white; font-weight: normal;}"));
     setTextFormat(Qt::PlainText);
+    setSizePolicy(
+        sizePolicy().horizontalPolicy(), QSizePolicy::Ignored); // the bar keeps its height
     hide();
 }
 
