@@ -13,6 +13,8 @@ class QWidget;
 
 // The lines that stand over a plot at times of the recording, children of the plot.
 struct PlotMarks {
+    Q_DISABLE_COPY(PlotMarks)
+
     explicit PlotMarks(QWidget *plot);
 
     TimeLine timeLine;

@@ -14,6 +14,8 @@ class QWidget;
 // The band that the mouse draws over a plot to zoom to what is in it. A preview of what its release
 // will give comes and goes with it.
 class RubberBand {
+    Q_DISABLE_COPY(RubberBand)
+
 public:
     explicit RubberBand(QWidget *plot);
 
