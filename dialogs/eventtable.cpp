@@ -5,7 +5,10 @@
 
 #include "cfgproperties.h"
 #include "channelnames.h"
+#include "texttable.h"
 #include "timeofday.h"
+
+#include <limits>
 
 namespace {
 
@@ -88,10 +91,20 @@ bool EventTable::canFetchMore(const QModelIndex &parent) const
 
 void EventTable::fetchMore(const QModelIndex &parent)
 {
-    if (!canFetchMore(parent))
-        return;
+    if (canFetchMore(parent))
+        fetch(portion);
+}
+
+void EventTable::fetchAll()
+{
+    if (canFetchMore({}))
+        fetch(std::numeric_limits<int>::max());
+}
+
+void EventTable::fetch(int most)
+{
     QVector<Event> more;
-    append(more, portion);
+    append(more, most);
     beginInsertRows({}, m_events.size(), m_events.size() + more.size() - 1);
     m_events += more;
     endInsertRows();
@@ -162,25 +175,24 @@ QVariant EventTable::headerData(int section, Qt::Orientation orientation, int ro
     return QVariant();
 }
 
-QString EventTable::asText(QList<int> rows)
+QString EventTable::asText(const QList<int> &rows)
 {
-    if (rows.isEmpty()) {
-        while (canFetchMore({}))
-            fetchMore({});
-        rows.reserve(m_events.size());
-        for (int row = 0; row < m_events.size(); ++row)
-            rows.append(row);
-    }
-    QStringList lines;
-    const auto addLine = [&](const auto &cell) {
+    QStringList headings;
+    for (int column = 0; column < ColumnCount; ++column)
+        headings.append(headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
+    QString text = tabSeparatedLine(headings);
+    const auto addRow = [&](int row) {
         QStringList cells;
         for (int column = 0; column < ColumnCount; ++column)
-            cells.append(cell(column).simplified());
-        lines.append(cells.join(QLatin1Char('\t')));
+            cells.append(textAt(row, static_cast<Column>(column)));
+        text += tabSeparatedLine(cells);
     };
-    addLine(
-        [&](int column) { return headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(); });
-    for (const int row : qAsConst(rows))
-        addLine([&](int column) { return textAt(row, static_cast<Column>(column)); });
-    return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
+    if (rows.isEmpty()) {
+        fetchAll();
+        for (int row = 0; row < m_events.size(); ++row)
+            addRow(row);
+    }
+    for (const int row : rows)
+        addRow(row);
+    return text;
 }

@@ -38,7 +38,8 @@ public:
 
     double timeOf(int row) const { return m_events.at(row).time; } // ms
     // Headers and rows with tabs between the columns; all rows where none are given.
-    QString asText(QList<int> rows);
+    QString asText(const QList<int> &rows);
+    void fetchAll(); // the rows that are not made yet
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
@@ -68,6 +69,7 @@ private:
 
     void restart(const std::function<bool(int)> &isShown);
     void append(QVector<Event> &events, int most);
+    void fetch(int most); // one row at least is left
     bool isAtEnd() const { return m_queue.empty() && m_hasTrigger; }
     QString textAt(int row, Column column) const;
 

@@ -11,16 +11,11 @@
 
 namespace {
 
-QString joined(const TextTable &table, const std::function<QString(const QString &)> &field,
-    const QString &separator, const QString &lineEnd)
+QString joined(const TextTable &table, const std::function<QString(const QStringList &)> &lineOf)
 {
-    QString text;
-    for (const QStringList &row : QVector<QStringList>{table.headings} + table.rows) {
-        QStringList fields;
-        for (const QString &cell : row)
-            fields.append(field(cell));
-        text += fields.join(separator) + lineEnd;
-    }
+    QString text = lineOf(table.headings);
+    for (const QStringList &row : table.rows)
+        text += lineOf(row);
     return text;
 }
 
@@ -34,19 +29,30 @@ QString quoted(QString cell)
     return quote + cell.replace(quote, quote + quote) + quote;
 }
 
+QString commaSeparatedLine(QStringList cells)
+{
+    for (QString &cell : cells)
+        cell = quoted(cell);
+    return cells.join(QLatin1Char(',')) + QStringLiteral("\r\n");
+}
+
 } // namespace
+
+QString tabSeparatedLine(QStringList cells)
+{
+    for (QString &cell : cells)
+        cell = cell.simplified();
+    return cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
+}
 
 QString TextTable::tabSeparated() const
 {
-    return joined(
-        *this, [](const QString &cell) { return cell.simplified(); }, QStringLiteral("\t"),
-        QStringLiteral("\n"));
+    return joined(*this, tabSeparatedLine);
 }
 
 QByteArray TextTable::commaSeparated() const
 {
-    return "\xEF\xBB\xBF"
-        + joined(*this, quoted, QStringLiteral(","), QStringLiteral("\r\n")).toUtf8();
+    return "\xEF\xBB\xBF" + joined(*this, commaSeparatedLine).toUtf8();
 }
 
 void TextTableModel::setTable(const TextTable &table)

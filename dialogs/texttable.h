@@ -7,15 +7,20 @@
 #include <QStringList>
 #include <QVector>
 
+// The cells of a row with tabs between them, as spreadsheets paste it; none holds a tab or a line
+// end of its own.
+QString tabSeparatedLine(QStringList cells);
+
 // A table of texts. The columns at the left name the row, the others are its cells.
 struct TextTable {
     QStringList headings; // one for each column
     int names = 1; // columns that name the row
     QVector<QStringList> rows; // each as long as the headings
 
-    // Headings and rows, with tabs between the columns, as spreadsheets paste it.
+    // Headings and rows, each as a line with tabs.
     QString tabSeparated() const;
-    // The same with commas, by RFC 4180, in UTF-8 with the mark that spreadsheets know it by.
+    // Headings and rows with commas, by RFC 4180, in UTF-8 with the mark that spreadsheets know it
+    // by.
     QByteArray commaSeparated() const;
 };
 

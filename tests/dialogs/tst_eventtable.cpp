@@ -5,6 +5,7 @@
 #include "eventtable.h"
 
 #include <QAbstractItemModelTester>
+#include <QSignalSpy>
 #include <QtTest>
 
 #include <limits>
@@ -223,7 +224,12 @@ void TestEventTable::makesManyRowsInPortions()
 
     table->setFilter(EventTable::allChannels, QStringLiteral("a"));
     QCOMPARE(table->rowCount(), 10'000);
+    const QSignalSpy insertions(table.get(), &EventTable::rowsInserted);
     QCOMPARE(table->asText({}).count(QLatin1Char('\n')), 25'002); // with the headers
+    QCOMPARE(insertions.count(), 1); // a view takes note of each
+    QCOMPARE(table->rowCount(), 25'001);
+    table->fetchAll();
+    QCOMPARE(insertions.count(), 1);
 }
 
 void TestEventTable::copiesRows_data()
