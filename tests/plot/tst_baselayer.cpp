@@ -125,7 +125,6 @@ private:
     QFont font = crispFont(12);
 };
 
-// 7 intervals of 100 pixels.
 void TestBaseLayer::aLayerOfAboutItsSizeIsKept_data()
 {
     QTest::addColumn<QSize>("pixels");
@@ -176,6 +175,7 @@ void TestBaseLayer::coversAPartOfATallPlot()
     QTEST(layerPart({800, height}, seen), "part");
 }
 
+// 7 intervals of 100 pixels.
 void TestBaseLayer::timeGridStandsOnItsTimes()
 {
     const QImage image = paint([](QPainter &painter) {
