@@ -98,6 +98,8 @@ void Plotter::endDrag()
 
 void Plotter::mousePressEvent(QMouseEvent *event)
 {
+    if (m_drags.view.isActive()) // another button; what it drags would go on beside the view
+        return;
     auto *label = qobject_cast<CustomLabel *>(childAt(event->pos()));
     if (label && label->objectName().contains(QLatin1String("lineLabel"))) {
         m_drags.label.press(label, event->pos());
@@ -115,7 +117,8 @@ void Plotter::mousePressEvent(QMouseEvent *event)
             plotter->m_drags.band.hide();
         plotter->plotterLabel->closeEditor();
     }
-    if (event->button() == Qt::MiddleButton && area.contains(point) && !m_drags.band.isShown()) {
+    if (event->button() == Qt::MiddleButton && area.contains(point) && !m_drags.band.isShown()
+        && !m_drags.label.label()) {
         noteViews();
         m_drags.view.begin(event->pos());
     }

@@ -23,6 +23,10 @@ private slots:
     void onlyTheMiddleButtonInThePlotArea();
     void aDragEndsWithItsButton_data();
     void aDragEndsWithItsButton();
+    void aBandGoesOnBesideTheMiddleButton();
+    void aCursorIsDraggedBesideTheMiddleButton();
+    void anotherButtonDragsNothingBesideTheView_data();
+    void anotherButtonDragsNothingBesideTheView();
 
 private:
     void press(Plotter *plot, const QPoint &point) const
@@ -126,6 +130,69 @@ void TestViewDrag::aDragEndsWithItsButton()
     QCOMPARE(pair->plot->cursor().shape(), Qt::ArrowCursor);
     PlotPair::move(pair->plot, {300, 150});
     QCOMPARE(pair->plot->view().minX, 0.0);
+}
+
+void TestViewDrag::aBandGoesOnBesideTheMiddleButton()
+{
+    for (int twice = 0; twice < 2; ++twice) {
+        QTest::mousePress(pair->plot, Qt::LeftButton, {}, {191, 100});
+        PlotPair::move(pair->plot, {400, 180}, Qt::LeftButton);
+        press(pair->plot, {400, 180});
+        PlotPair::move(pair->plot, {543, 200}, Qt::LeftButton | Qt::MiddleButton);
+        QTest::mouseRelease(pair->plot, Qt::LeftButton, {}, {543, 200});
+        PlotPair::move(pair->plot, {700, 100}, Qt::MiddleButton);
+        QTest::mouseRelease(pair->plot, Qt::MiddleButton, {}, {700, 100});
+        QCOMPARE(pair->plot->view().minX, 200.0);
+        QCOMPARE(pair->plot->view().maxX, 800.0);
+        pair->plot->customResetZoom();
+    }
+}
+
+// At x = 240 stands 200 ms, at 500 stands 4000 / 7 ms.
+void TestViewDrag::aCursorIsDraggedBesideTheMiddleButton()
+{
+    pair->digital->raise();
+    QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {240, 150});
+    const QPoint grip = PlotPair::lineLabels(pair->digital).first()->geometry().center();
+    QTest::mousePress(pair->digital, Qt::LeftButton, {}, grip);
+    PlotPair::move(pair->digital, {400, 180}, Qt::LeftButton);
+    press(pair->digital, {400, 180});
+    PlotPair::move(pair->digital, {500, 200}, Qt::LeftButton | Qt::MiddleButton);
+    QTest::mouseRelease(pair->digital, Qt::LeftButton, {}, {500, 200});
+    PlotPair::move(pair->digital, {700, 100}, Qt::MiddleButton);
+    QTest::mouseRelease(pair->digital, Qt::MiddleButton, {}, {700, 100});
+    QCOMPARE(pair->plot->cursors(), pair->digital->cursors());
+    QCOMPARE(pair->digital->cursors(), QList<double>{4000.0 / 7});
+    QCOMPARE(pair->digital->view().minX, 0.0);
+}
+
+void TestViewDrag::anotherButtonDragsNothingBesideTheView_data()
+{
+    QTest::addColumn<QPoint>("point");
+    QTest::newRow("no band") << QPoint(300, 100);
+    QTest::newRow("no cursor") << QPoint();
+}
+
+// The view goes 100 pixels to the right and 50 down.
+void TestViewDrag::anotherButtonDragsNothingBesideTheView()
+{
+    QFETCH(QPoint, point);
+    pair->plot->addCursorAt(300);
+    if (point.isNull())
+        point = PlotPair::lineLabels(pair->digital).first()->geometry().center();
+    pair->digital->raise();
+    for (int twice = 0; twice < 2; ++twice) {
+        pair->digital->customResetZoom();
+        press(pair->digital, {400, 150});
+        QTest::mousePress(pair->digital, Qt::LeftButton, {}, point);
+        PlotPair::move(pair->digital, {500, 200}, Qt::LeftButton | Qt::MiddleButton);
+        QTest::mouseRelease(pair->digital, Qt::LeftButton, {}, {500, 200});
+        PlotPair::move(pair->digital, {450, 220}, Qt::MiddleButton);
+        QTest::mouseRelease(pair->digital, Qt::MiddleButton, {}, {450, 220});
+        QCOMPARE(pair->digital->view().minX, -100000.0 / 703);
+        QCOMPARE(pair->digital->view().maxX, 1000 - 100000.0 / 703);
+        QCOMPARE(pair->digital->cursors(), QList<double>{300});
+    }
 }
 
 QTEST_MAIN(TestViewDrag)
