@@ -81,10 +81,12 @@ void SaveDialog::chooseSpan(double start, double end)
         return static_cast<int>(
             std::min_element(m_times.cbegin(), m_times.cend(), isNearer) - m_times.cbegin());
     };
-    ui->horizontalSlider_StartPoint->setValue(nearest(start));
-    ui->horizontalSlider_EndPoint->setValue(nearest(end));
-    chooseStart(nearest(start));
-    chooseEnd(nearest(end));
+    const int first = nearest(start);
+    const int last = nearest(end);
+    ui->horizontalSlider_StartPoint->setValue(first);
+    ui->horizontalSlider_EndPoint->setValue(last);
+    chooseStart(first);
+    chooseEnd(last);
 }
 
 void SaveDialog::on_toolButton_Browse_clicked()
