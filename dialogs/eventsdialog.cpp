@@ -10,7 +10,6 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QSignalBlocker>
 
 #include <algorithm>
 
@@ -35,11 +34,10 @@ EventsDialog::~EventsDialog() = default;
 
 void EventsDialog::setRecording(const CFGProperties *recording)
 {
-    const QSignalBlocker blocker(ui->lineEdit_filter);
-    ui->lineEdit_filter->clear();
     m_table->setRecording(recording);
     ui->comboBox_channel->setTexts({}, -1);
     nameEntries();
+    ui->lineEdit_filter->clear(); // its button to clear it follows its signals
 }
 
 // The first entry stands for all channels, the others for those that change.
@@ -108,7 +106,18 @@ void EventsDialog::changeEvent(QEvent *event)
     QDialog::changeEvent(event);
 }
 
-// Return does what a double-click does, and copying takes whole rows in their order.
+void EventsDialog::chooseOutermost(bool isLast)
+{
+    if (isLast)
+        m_table->fetchAll();
+    const int column = std::max(0, ui->tableView->currentIndex().column());
+    ui->tableView->selectionModel()->setCurrentIndex(
+        m_table->index(isLast ? m_table->rowCount() - 1 : 0, column),
+        QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+// Return does what a double-click does, Home and End go along the rows instead of within one, and
+// copying takes whole rows in their order.
 bool EventsDialog::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched != ui->tableView || event->type() != QEvent::KeyPress)
@@ -116,6 +125,14 @@ bool EventsDialog::eventFilter(QObject *watched, QEvent *event)
     auto *press = static_cast<QKeyEvent *>(event);
     if (press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter) {
         on_tableView_doubleClicked(ui->tableView->currentIndex());
+        return true;
+    }
+    if (press->matches(QKeySequence::SelectAll))
+        m_table->fetchAll(); // the view knows of those rows alone that are made
+    const bool isEnd = press->key() == Qt::Key_End;
+    if ((isEnd || press->key() == Qt::Key_Home)
+        && (press->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier) {
+        chooseOutermost(isEnd);
         return true;
     }
     if (press->matches(QKeySequence::Copy)) {

@@ -46,6 +46,7 @@ private:
     void setFilter();
     void nameEntries();
     void copy(const QList<int> &rows);
+    void chooseOutermost(bool isLast); // the first or the last row
 
     std::unique_ptr<Ui::EventsDialog> ui;
     EventTable *m_table;

@@ -5,6 +5,7 @@
 
 #include "cfgproperties.h"
 #include "channelnames.h"
+#include "labeltext.h"
 #include "texttable.h"
 #include "timeofday.h"
 
@@ -125,6 +126,8 @@ QVariant EventTable::data(const QModelIndex &index, int role) const
     const auto column = static_cast<Column>(index.column());
     if (role == Qt::DisplayRole)
         return textAt(index.row(), column);
+    if (role == Qt::ToolTipRole && column == Channel)
+        return plainToolTip(textAt(index.row(), column));
     if (role == Qt::TextAlignmentRole && column < Channel)
         return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
     return QVariant();

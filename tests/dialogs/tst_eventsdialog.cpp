@@ -14,9 +14,22 @@
 #include <QStyle>
 #include <QStyleOption>
 #include <QTableView>
+#include <QToolButton>
 #include <QtTest>
 
 #include <memory>
+
+namespace {
+
+QVector<double> chosen(const QSignalSpy &times)
+{
+    QVector<double> chosen;
+    for (const QVariantList &arguments : times)
+        chosen.append(arguments.constFirst().toDouble());
+    return chosen;
+}
+
+} // namespace
 
 class TestEventsDialog : public QObject {
     Q_OBJECT
@@ -28,13 +41,17 @@ private slots:
     void showsATimeByAClick();
     void showsATimeAgain();
     void showsTimesByTheArrowKeys();
+    void goesToTheFirstAndTheLastRow();
+    void reachesRowsThatAreNotMadeYet();
     void setsACursorByADoubleClick();
     void setsACursorByReturn();
     void filtersByText();
     void filtersByChannel();
     void beginsAnewWithARecording();
+    void offersToClearATextAlone();
     void copiesAllRows();
     void copiesSelectedRowsInOrder();
+    void tellsWholeNames();
     void retranslatesOnALanguageChange();
     void hasRoomForAllChannelsInEveryLanguage_data();
     void hasRoomForAllChannelsInEveryLanguage();
@@ -140,6 +157,51 @@ void TestEventsDialog::showsTimesByTheArrowKeys()
     QCOMPARE(times.constLast(), QVariantList{2.0});
 }
 
+void TestEventsDialog::goesToTheFirstAndTheLastRow()
+{
+    click(2);
+    QSignalSpy times(dialog.get(), &EventsDialog::timeChosen);
+    for (const auto modifier : {Qt::NoModifier, Qt::KeypadModifier}) {
+        times.clear();
+        QTest::keyClick(view, Qt::Key_End, modifier);
+        QCOMPARE(chosen(times), QVector<double>{4});
+        QTest::keyClick(view, Qt::Key_Home, modifier);
+        QCOMPARE(chosen(times), (QVector<double>{4, 1}));
+    }
+    QTest::keyClick(view, Qt::Key_Down); // on from there
+    QCOMPARE(chosen(times), (QVector<double>{4, 1, 2}));
+    dialog->setRecording(nullptr); // no row at all
+    QTest::keyClick(view, Qt::Key_Home);
+    QTest::keyClick(view, Qt::Key_End);
+    QCOMPARE(times.count(), 3);
+}
+
+// 10,000 rows stand at first; the last one is the trigger.
+void TestEventsDialog::reachesRowsThatAreNotMadeYet()
+{
+    QVector<int> states(30'001);
+    recording->sampleTimes.resize(states.size());
+    for (int i = 0; i < states.size(); ++i) {
+        states[i] = i % 2;
+        recording->sampleTimes[i] = i;
+    }
+    recording->triggerOffsetMs = 90'000;
+    trip = DigitalChannel();
+    trip.appendValues(states.constData(), states.size());
+    recording->digitalChannels = {&trip};
+    dialog->setRecording(recording.get());
+    click(0);
+    QSignalSpy times(dialog.get(), &EventsDialog::timeChosen);
+    QTest::keyClick(view, Qt::Key_End);
+    QCOMPARE(chosen(times), QVector<double>{90'000});
+
+    dialog->setRecording(recording.get());
+    view->setFocus();
+    QTest::keyClick(view, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(view, Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QGuiApplication::clipboard()->text().count(QLatin1Char('\n')), 30'002);
+}
+
 void TestEventsDialog::setsACursorByADoubleClick()
 {
     QSignalSpy cursors(dialog.get(), &EventsDialog::cursorWanted);
@@ -200,6 +262,18 @@ void TestEventsDialog::beginsAnewWithARecording()
     QCOMPARE(view->model()->rowCount(), 5);
 }
 
+// Its button is there for as long as there is a text.
+void TestEventsDialog::offersToClearATextAlone()
+{
+    auto *filter = dialog->findChild<QLineEdit *>(QStringLiteral("lineEdit_filter"));
+    const auto *button = filter->findChild<QToolButton *>();
+    QTest::keyClicks(filter, QStringLiteral("trip"));
+    QTRY_COMPARE(button->property("opacity").toReal(), 1.0);
+    dialog->setRecording(recording.get());
+    QTRY_COMPARE(button->property("opacity").toReal(), 0.0);
+    QCOMPARE(names(), QStringLiteral("Start L1|Trigger|Trip|Trip|Start L1"));
+}
+
 void TestEventsDialog::copiesAllRows()
 {
     click(0);
@@ -219,6 +293,19 @@ void TestEventsDialog::copiesSelectedRowsInOrder()
     QCOMPARE(lines.size(), 4);
     QCOMPARE(lines.at(1), QStringLiteral("1.000\t10:00:00.001000\t-1.000\t\tStart L1\t1"));
     QVERIFY(lines.at(2).startsWith(QLatin1String("4.000\t")));
+}
+
+// Where there is no room for one, its ends are shown, and the tool tip has all of it.
+void TestEventsDialog::tellsWholeNames()
+{
+    QCOMPARE(view->textElideMode(), Qt::ElideMiddle);
+    trip.id = QStringLiteral(" <b>Trip</b> ");
+    dialog->setRecording(recording.get());
+    const auto tip = [this](int row, int column) {
+        return view->model()->index(row, column).data(Qt::ToolTipRole).toString();
+    };
+    QCOMPARE(tip(2, 4), QStringLiteral("&lt;b&gt;Trip&lt;/b&gt;"));
+    QCOMPARE(tip(2, 0), QString()); // there, that of the table
 }
 
 void TestEventsDialog::retranslatesOnALanguageChange()
