@@ -11,6 +11,7 @@
 #include "filewarning.h"
 #include "overwritequestion.h"
 #include "plotcapture.h"
+#include "plotmenu.h"
 #include "plotstyle.h"
 #include "plotterdg.h"
 #include "recordingwriter.h"
@@ -155,18 +156,13 @@ void MainWindow::addOutputs(QMenu &menu, Plotter &plot)
         [this] { QGuiApplication::clipboard()->setPixmap(report()); });
     connect(menu.addAction(tr("Save Picture with Heading...")), &QAction::triggered, this,
         [this] { saveByDialog(report()); });
-    const QList<double> times = plot.cursors();
-    const auto [first, last] = std::minmax_element(times.cbegin(), times.cend());
-    QAction *part = menu.addAction(tr("Save P%1 to P%2...")
-                                       .arg(times.size() < 2 ? 1 : first - times.cbegin() + 1)
-                                       .arg(times.size() < 2 ? 2 : last - times.cbegin() + 1));
-    part->setEnabled(times.size() > 1);
-    if (times.size() > 1) {
-        connect(part, &QAction::triggered, this, [this, from = *first, to = *last] {
-            showSaveDialog();
-            m_saveDialog->chooseSpan(from, to);
-        });
-    }
+    const OuterCursors outer(plot);
+    QAction *part = menu.addAction(tr("Save P%1 to P%2...").arg(outer.first).arg(outer.last));
+    part->setEnabled(outer.exist);
+    connect(part, &QAction::triggered, this, [this, outer] {
+        showSaveDialog();
+        m_saveDialog->chooseSpan(outer.from, outer.to);
+    });
 }
 
 void MainWindow::about()

@@ -54,6 +54,19 @@ void askForTime(Plotter *plot, const QString &title, double proposed, const QStr
 
 } // namespace
 
+OuterCursors::OuterCursors(const Plotter &plot)
+{
+    const QList<double> times = plot.cursors();
+    const auto [earliest, latest] = std::minmax_element(times.cbegin(), times.cend());
+    exist = earliest != latest;
+    if (!exist)
+        return;
+    first = static_cast<int>(earliest - times.cbegin()) + 1;
+    last = static_cast<int>(latest - times.cbegin()) + 1;
+    from = *earliest;
+    to = *latest;
+}
+
 void PlotMenu::add(const QString &text, bool isEnabled, const std::function<void()> &command)
 {
     QAction *action = m_menu.addAction(text);
@@ -77,21 +90,13 @@ void PlotMenu::addViews()
     addZoomToCursors();
 }
 
-// The outermost cursors, by their numbers, the earlier one first.
 void PlotMenu::addZoomToCursors()
 {
     Plotter *plot = &m_plot;
-    const QList<double> times = plot->cursors();
-    const auto [first, last] = std::minmax_element(times.cbegin(), times.cend());
-    if (first == last) {
-        add(tr("Zoom to P%1-P%2").arg(1).arg(2), false, [] {});
-        return;
-    }
-    const double from = *first;
-    const double to = *last;
-    add(tr("Zoom to P%1-P%2").arg(first - times.cbegin() + 1).arg(last - times.cbegin() + 1),
-        from < to,
-        [=] { plot->changeView([=](PlotView &now) { return now.showTimes(from, to); }); });
+    const OuterCursors outer(*plot);
+    add(tr("Zoom to P%1-P%2").arg(outer.first).arg(outer.last), outer.from < outer.to, [=] {
+        plot->changeView([=](PlotView &now) { return now.showTimes(outer.from, outer.to); });
+    });
 }
 
 void PlotMenu::addNewCursors(const QPoint &point)

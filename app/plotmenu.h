@@ -13,6 +13,18 @@ class PlotHost;
 class QMenu;
 class QPoint;
 
+// The outermost cursors of a plot: their numbers (from 1) and times (ms), the earlier one first. Of
+// fewer than two there are none, and the numbers are those that entries about them are named with.
+struct OuterCursors {
+    bool exist = false;
+    int first = 1;
+    int last = 2;
+    double from = 0;
+    double to = 0;
+
+    explicit OuterCursors(const Plotter &plot);
+};
+
 // Fills the context menu of a plot with what concerns the plots alone: their views and cursors. It
 // may go once the menu is filled. The host must hold a recording.
 class PlotMenu {
