@@ -58,6 +58,22 @@ void styleCursorNames(const QList<Plotter *> &plots, const QString &styleSheet)
     }
 }
 
+// Hides the line that follows the pointer, with its time; what was hidden.
+QList<QWidget *> hidePointer(const QList<Plotter *> &plots)
+{
+    QList<QWidget *> hidden;
+    for (const Plotter *plot : plots) {
+        for (const char *name : {"timeline", "timelabel"}) {
+            auto *widget = plot->findChild<QWidget *>(QLatin1String(name));
+            if (widget->isHidden())
+                continue;
+            widget->hide();
+            hidden.append(widget);
+        }
+    }
+    return hidden;
+}
+
 // What stood there goes only where all of the picture can be written. A file that cannot be
 // replaced is written in its place.
 void savePicture(const QPixmap &picture, const QString &path, const QString &format)
@@ -144,7 +160,10 @@ QPixmap MainWindow::report()
     const ReportPicture report(
         *m_cfgProperties, QFileInfo(windowFilePath()).fileName(), m_analogPlotter->cursors());
     styleCursorNames(plots(), cursorNamePaperStyle);
+    const QList<QWidget *> pointer = hidePointer(plots());
     const QPixmap picture = report.around(capture(CaptureTarget::File, QString()), font());
+    for (QWidget *widget : pointer)
+        widget->show();
     styleCursorNames(plots(), cursorNameStyle);
     stylePlots(plots(), screenStyle);
     return picture;

@@ -4,6 +4,7 @@
 #include "plotmenus.h"
 #include "plotswindow.h"
 
+#include <QClipboard>
 #include <QDialogButtonBox>
 #include <QInputDialog>
 #include <QPointer>
@@ -57,6 +58,7 @@ private slots:
     void theMenuKey();
     void labelsKeepTheirOwnMenu();
     void movesOfACursor();
+    void noPointerStandsInAReport();
 
 private:
     // Of all plots; not a number where they are not in step.
@@ -460,6 +462,32 @@ void TestPlotMenu::movesOfACursor()
     QCOMPARE(analog()->cursors(), QList<double>({20, 50}));
     QVERIFY(choose(digital(), QStringLiteral("Remove Cursor"), point()));
     QCOMPARE(window->focusWidget(), digital());
+}
+
+// It is on screen again afterwards.
+void TestPlotMenu::noPointerStandsInAReport()
+{
+    const auto copied = [&] {
+        return choose(digital(), QStringLiteral("Copy Picture with Heading"))
+            ? QGuiApplication::clipboard()->image()
+            : QImage();
+    };
+    const QImage without = copied();
+    QVERIFY(!without.isNull());
+    const QPoint place(300, 150);
+    QMouseEvent move(QEvent::MouseMove, place, analog()->mapToGlobal(place), Qt::NoButton,
+        Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(analog(), &move);
+    for (int twice = 0; twice < 2; ++twice) {
+        for (const char *name : {"timeline", "timelabel"})
+            QVERIFY(analog()->findChild<QWidget *>(QLatin1String(name))->isVisible());
+        QCOMPARE(copied(), without);
+    }
+    for (Plotter *each : plots()) {
+        const auto *line = each->findChild<QWidget *>(QStringLiteral("timeline"));
+        QVERIFY(line->isVisible());
+        QCOMPARE(line->x(), place.x());
+    }
 }
 
 QTEST_MAIN(TestPlotMenu)
