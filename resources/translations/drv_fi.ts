@@ -820,7 +820,7 @@ Valitse toinen tiedosto.</translation>
     </message>
     <message>
         <source>Zoom to P%1-P%2</source>
-        <translation>Zoomaa välille P%1-P%2</translation>
+        <translation>Zoomaa välille P%1–P%2</translation>
     </message>
     <message>
         <source>Cursor Here</source>
