@@ -3,6 +3,7 @@
 
 #include "statusfield.h"
 
+#include "analogchannel.h"
 #include "cfgproperties.h"
 #include "labeltext.h"
 #include "plothost.h"
@@ -17,6 +18,16 @@
 namespace {
 
 constexpr int mostOfFile = 200; // pixels of its name
+
+// Whether a channel recorded on a side, "P" or "S", shows other values there than the file's, as it
+// does once its ratings were set.
+bool isMultiplied(const CFGProperties &recording, const char *side, double AnalogChannel::*factor)
+{
+    const QList<AnalogChannel *> &channels = recording.analogChannels;
+    return std::any_of(channels.cbegin(), channels.cend(), [=](const AnalogChannel *channel) {
+        return channel->*factor != 1 && channel->ps == QLatin1String(side);
+    });
+}
 
 } // namespace
 
@@ -79,11 +90,16 @@ void StatusField::refresh()
 
 QString StatusField::sideText() const
 {
+    const CFGProperties &recording = *m_host.recording();
     switch (m_host.valueMode()) {
     case 0:
-        return tr("Primary");
+        return isMultiplied(recording, "P", &AnalogChannel::toPrimary)
+            ? tr("P = file value x rating")
+            : tr("Primary");
     case 1:
-        return tr("Secondary");
+        return isMultiplied(recording, "S", &AnalogChannel::toSecondary)
+            ? tr("S = file value x rating")
+            : tr("Secondary");
     default:
         return tr("Per Unit");
     }

@@ -1498,8 +1498,16 @@ Do you want to replace it?</translation>
 <context>
     <name>StatusField</name>
     <message>
+        <source>P = file value x rating</source>
+        <translation>P = file value x rating</translation>
+    </message>
+    <message>
         <source>Primary</source>
         <translation>Primary</translation>
+    </message>
+    <message>
+        <source>S = file value x rating</source>
+        <translation>S = file value x rating</translation>
     </message>
     <message>
         <source>Secondary</source>

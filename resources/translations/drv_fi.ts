@@ -1498,8 +1498,16 @@ Korvataanko se?</translation>
 <context>
     <name>StatusField</name>
     <message>
+        <source>P = file value x rating</source>
+        <translation>P = tiedoston arvo x nimellisarvo</translation>
+    </message>
+    <message>
         <source>Primary</source>
         <translation>Ensiö</translation>
+    </message>
+    <message>
+        <source>S = file value x rating</source>
+        <translation>S = tiedoston arvo x nimellisarvo</translation>
     </message>
     <message>
         <source>Secondary</source>

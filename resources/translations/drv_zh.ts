@@ -1498,8 +1498,16 @@ Do you want to replace it?</source>
 <context>
     <name>StatusField</name>
     <message>
+        <source>P = file value x rating</source>
+        <translation>P = 文件值 x 额定值</translation>
+    </message>
+    <message>
         <source>Primary</source>
         <translation>一次值</translation>
+    </message>
+    <message>
+        <source>S = file value x rating</source>
+        <translation>S = 文件值 x 额定值</translation>
     </message>
     <message>
         <source>Secondary</source>

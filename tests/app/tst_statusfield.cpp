@@ -24,6 +24,8 @@ private slots:
     void thePointerOverARow_data();
     void thePointerOverARow();
     void theSideOfTheValues();
+    void aSideThatIsMultiplied_data();
+    void aSideThatIsMultiplied();
     void aViewThatChangesUnderThePointer();
     void anotherRecordingAndNone();
     void aLongNameLeavesRoomForMessages();
@@ -155,6 +157,44 @@ void TestStatusField::theSideOfTheValues()
         QCOMPARE(field()->text(), QStringLiteral("recording.cfg  |  Per Unit"));
         combo("comboBox_primSec")->setCurrentIndex(0);
         QCOMPARE(field()->text(), QStringLiteral("recording.cfg  |  Primary"));
+    }
+}
+
+void TestStatusField::aSideThatIsMultiplied_data()
+{
+    QTest::addColumn<QByteArray>("flag");
+    QTest::addColumn<QStringList>("afterwards");
+    const QString unit = QStringLiteral("Per Unit");
+    QTest::newRow("recorded primary") << QByteArray("P")
+                                      << QStringList{QStringLiteral("P = file value x rating"),
+                                             QStringLiteral("Secondary"), unit};
+    QTest::newRow("recorded secondary")
+        << QByteArray("S")
+        << QStringList{QStringLiteral("Primary"), QStringLiteral("S = file value x rating"), unit};
+    QTest::newRow("recorded on neither side")
+        << QByteArray()
+        << QStringList{QStringLiteral("Primary"), QStringLiteral("Secondary"), unit};
+}
+
+// By "Set" in the dialog of the ratings without a change, until the recording is opened again.
+void TestStatusField::aSideThatIsMultiplied()
+{
+    QFETCH(QByteArray, flag);
+    QFETCH(QStringList, afterwards);
+    const auto expect = [&](const QStringList &sides) {
+        for (int side = 0; side < sides.size(); ++side) {
+            combo("comboBox_primSec")->setCurrentIndex(side);
+            QCOMPARE(field()->text(), QStringLiteral("recording.cfg  |  ") + sides.at(side));
+        }
+        combo("comboBox_primSec")->setCurrentIndex(0);
+    };
+    for (int twice = 0; twice < 2; ++twice) {
+        open({QStringLiteral("Ia")}, {QStringLiteral("Trip")}, flag);
+        expect(
+            {QStringLiteral("Primary"), QStringLiteral("Secondary"), QStringLiteral("Per Unit")});
+        child<QPushButton>("pushButton_Set")->click();
+        QCOMPARE(field()->text(), QStringLiteral("recording.cfg  |  ") + afterwards.at(0));
+        expect(afterwards);
     }
 }
 
