@@ -13,7 +13,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
-#include <QColorDialog>
 #include <QComboBox>
 #include <QDialog>
 #include <QFile>
@@ -173,27 +172,7 @@ private:
     MainWindow m_window;
 };
 
-// Stands in for the color dialog that every plot is made with, and would fill with widgets for most
-// of the time that a small recording takes. No color is ever chosen: the dialog closer rejects it.
-class PlainDialog : public QDialog {
-public:
-    using QDialog::QDialog;
-};
-static_assert(sizeof(PlainDialog) == sizeof(QColorDialog), "made in its place");
-
 } // namespace
-
-// What the linker lets the viewer call instead of the dialog's constructor and setCurrentColor().
-extern "C" void __wrap__ZN12QColorDialogC1ERK6QColorP7QWidget(
-    void *place, const QColor & /*initial*/, QWidget *parent)
-{
-    new (place) PlainDialog(parent);
-}
-
-extern "C" void __wrap__ZN12QColorDialog15setCurrentColorERK6QColor(
-    QColorDialog * /*dialog*/, const QColor & /*color*/)
-{
-}
 
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
