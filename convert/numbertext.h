@@ -49,7 +49,7 @@ private:
 
     CountTexts();
 
-    Text m_texts[most - least + 1];
+    Text m_texts[most - least + 1] = {};
 };
 
 } // namespace convert
