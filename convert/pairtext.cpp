@@ -35,11 +35,13 @@ std::string line(std::initializer_list<std::string_view> fields)
 std::string analogLine(const AnalogDefinition &channel, bool hadMark)
 {
     // The range says then that this value is one.
-    const bool isRaised = hadMark && isBeyondRange(channel, mark);
-    const std::string most = isRaised ? numberText(mark) : channel.most.text;
+    const bool isBelow = hadMark && mark < channel.least.value;
+    const bool isAbove = hadMark && mark > channel.most.value;
+    const std::string least = isBelow ? numberText(mark) : channel.least.text;
+    const std::string most = isAbove ? numberText(mark) : channel.most.text;
     return line({channel.number, channel.name, channel.phase, channel.circuit, channel.unit,
-        channel.a.text, channel.b.text, channel.skew, channel.least.text, most,
-        channel.primary.text, channel.secondary.text, channel.side == Side::Secondary ? "S" : "P"});
+        channel.a.text, channel.b.text, channel.skew, least, most, channel.primary.text,
+        channel.secondary.text, channel.side == Side::Secondary ? "S" : "P"});
 }
 
 } // namespace

@@ -101,6 +101,7 @@ private slots:
     void numbersBeyondCounts();
     void moreDigitsThanAnyCount_data();
     void moreDigitsThanAnyCount();
+    void valueThatLooksLikeAMarkStays_data();
     void valueThatLooksLikeAMarkStays();
     void timesOfSamples_data();
     void timesOfSamples();
@@ -290,15 +291,30 @@ void TestConverterForms::moreDigitsThanAnyCount()
     QCOMPARE(m_folder->read("out.dat"), "1,0," + written + ",1\r\n");
 }
 
+void TestConverterForms::valueThatLooksLikeAMarkStays_data()
+{
+    QTest::addColumn<QByteArray>("range");
+    QTest::addColumn<QByteArray>("written");
+    QTest::newRow("below it") << QByteArray("-32767,32767") << QByteArray("-32767,99999");
+    QTest::newRow("above it") << QByteArray("100000,300000") << QByteArray("99999,300000");
+    QTest::newRow("around it") << QByteArray("-200000,200000") << QByteArray("-200000,200000");
+}
+
 void TestConverterForms::valueThatLooksLikeAMarkStays()
 {
+    QFETCH(QByteArray, range);
+    QFETCH(QByteArray, written);
     PublishedRecording made;
+    made.analog = QByteArrayList{"1,IL1,A,Bay,A,0.5,0.25,0," + range};
     made.rates = QByteArrayList{"1200,2"};
     made.samples = {{0, {99999}, "0"}, {833, {-2147483648.0}, "0"}};
     QCOMPARE(convert(made, {2013, "BINARY32"}).errors, QByteArray());
     QCOMPARE(m_folder->read("out.dat"), QByteArray("1,0,99999,0\r\n2,833,,0\r\n"));
     QVERIFY(
-        m_folder->read("out.cfg").contains("1,IL1,A,Bay,A,0.5,0.25,0,-32767,99999,400,1,S\r\n"));
+        m_folder->read("out.cfg").contains("1,IL1,A,Bay,A,0.5,0.25,0," + written + ",400,1,S\r\n"));
+    QCOMPARE(m_folder->run(QStringLiteral("--csv @out.cfg -o @again")).errors, QByteArray());
+    QCOMPARE(m_folder->read("again.csv"),
+        QByteArray("Time (ms),IL1 (A),Trip\r\n0,49999.75,0\r\n0.833,,0\r\n"));
 }
 
 void TestConverterForms::timesOfSamples_data()
