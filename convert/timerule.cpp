@@ -11,7 +11,7 @@ namespace convert {
 
 namespace {
 
-constexpr double mostNanoseconds = 9.2e18;
+constexpr double mostNanoseconds = 4.6e18; // two of these lie apart by what a time may be
 
 std::optional<std::int64_t> rounded(double time)
 {

@@ -18,7 +18,7 @@ public:
     explicit TimeRule(const Configuration &configuration);
 
     // The time of the next sample in nanoseconds, by its stamp, which is NaN where it is missing.
-    // Nothing where there is neither a stamp nor a rate, or the time is beyond 292 years.
+    // Nothing where there is neither a stamp nor a rate, or the time is beyond 145 years.
     std::optional<std::int64_t> next(double stamp);
 
 private:

@@ -81,6 +81,7 @@ private slots:
     void whatDoesNoHarmIsAWarning();
     void whatIsAllowed_data();
     void whatIsAllowed();
+    void stampsFarApart();
 
 private:
     void configurationLine();
@@ -263,6 +264,10 @@ void TestConverterFaults::dataLine_data()
         "r.dat:2: the time stamp is no number: 1 ms");
     row("stamp beyond all measure", "2,1000,", "2,1e30,",
         "r.dat:2: the sample has no time: there is no stamp and no rate");
+    row("stamp after more than 145 years", "2,1000,", "2,4600000000000001,",
+        "r.dat:2: the sample has no time: there is no stamp and no rate");
+    row("stamp before more than 145 years", "2,1000,", "2,-4600000000000001,",
+        "r.dat:2: the sample has no time: there is no stamp and no rate");
     row("value that is no number", ",5,6,", ",5,six,", "r.dat:3: the value is no number: six");
     row("value that is not finite", ",5,6,", ",5,nan,", "r.dat:3: the value is no number: nan");
     row("state 2", "6,1,1", "6,1,2", "r.dat:3: the state is neither 0 nor 1: 2");
@@ -404,6 +409,17 @@ void TestConverterFaults::whatIsAllowed()
     m_folder->write("r.dat", samples);
     QCOMPARE(m_folder->run(QStringLiteral("@r.cfg -o @out")).errors, QByteArray());
     QCOMPARE(m_folder->read("out.dat"), QByteArray(data).replace("\n", "\r\n"));
+}
+
+// The rate of the copy and the times of a part are differences of times.
+void TestConverterFaults::stampsFarApart()
+{
+    m_folder->write(
+        "r.cfg", QByteArray(configuration).replace("\n2\n1000,2\n2000,3\n", "\n0\n0,2\n"));
+    m_folder->write("r.dat", "1,-4600000000000000,1,2,0,1\n2,4600000000000000,3,4,0,1\n");
+    QCOMPARE(m_folder->run(QStringLiteral("--from -1e13 @r.cfg -o @out")).errors, QByteArray());
+    QCOMPARE(
+        m_folder->read("out.dat"), QByteArray("1,0,1,2,0,1\r\n2,9200000000000000,3,4,0,1\r\n"));
 }
 
 QTEST_GUILESS_MAIN(TestConverterFaults)
