@@ -20,7 +20,6 @@ public:
     // Removes what has not been put in place.
     ~OutputFile() override;
 
-    const QString &path() const { return m_path; }
     // No more is written.
     void complete();
     // While this object lives, takeBack() brings back what was there before.

@@ -6,6 +6,7 @@
 #include "fields.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace convert {
 

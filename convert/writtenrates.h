@@ -18,7 +18,6 @@ public:
     explicit WrittenRates(const Configuration &configuration);
 
     void add(const SampleBlock &block, std::size_t begin, std::size_t end);
-    std::int64_t samples() const { return m_samples; }
 
     // One rate at least, since readers that go by the number of the line expect one. Of a recording
     // without rates it is that of its stamps where these lie evenly, and else 0.
