@@ -52,6 +52,7 @@ private slots:
     void parts_data();
     void parts();
     void partWithoutSamples();
+    void partOfATableKeepsItsTimes();
     void sidesOfTheTransformers_data();
     void sidesOfTheTransformers();
     void sideOfARecordingWithoutRatios_data();
@@ -66,6 +67,9 @@ private slots:
     void otherOutputOfTheSameRunIsNotReplaced();
     void existingFilesNeedForce();
     void batchGoesOnAfterAFault();
+    void highestStatusCounts_data();
+    void highestStatusCounts();
+    void dataFileThatIsNotThere();
     void patternIsResolved();
 };
 
@@ -222,6 +226,14 @@ void TestConverterProgram::partWithoutSamples()
     QCOMPARE(m_folder->names().size(), 2);
 }
 
+void TestConverterProgram::partOfATableKeepsItsTimes()
+{
+    writePair("a");
+    QCOMPARE(m_folder->run(QStringLiteral("--csv --from 1 --to 2 @a.cfg")).errors, QByteArray());
+    QCOMPARE(m_folder->read("a.csv"),
+        QByteArray("Time (ms),IL1 (A),Trip\r\n1,10.25,1\r\n2,15.25,1\r\n"));
+}
+
 void TestConverterProgram::sidesOfTheTransformers_data()
 {
     QTest::addColumn<QByteArray>("ratio");
@@ -367,7 +379,7 @@ void TestConverterProgram::inputIsNeverReplaced_data()
     row("by another path", "@a.cfg -o @sub/../a.cfg", "sub/../a.cfg");
     row("folder of the input", "@a.cfg -o @", "a.cfg");
     row("data alone", "--csv @a.cfg -o @a.dat", "a.dat");
-    row("another input of the run", "@s.cff @a.cfg -o @", "s.dat");
+    row("another input of the run", "@s.cff @a.cfg @s.cfg -o @", "s.cfg");
 }
 
 void TestConverterProgram::inputIsNeverReplaced()
@@ -380,11 +392,8 @@ void TestConverterProgram::inputIsNeverReplaced()
     QDir(m_folder->path(QString())).mkdir(QStringLiteral("sub"));
     const QByteArray configuration = m_folder->read("a.cfg");
     const QByteArray data = m_folder->read("a.dat");
-    const bool isOtherInput = words.startsWith(QLatin1String("@s.cff"));
-    const auto outcome = m_folder->run(
-        QStringLiteral("--force ") + words + QString::fromLatin1(isOtherInput ? " @s.cfg" : ""));
-    QVERIFY2(outcome.errors.contains(
-                 (isOtherInput ? "s.cfg" : place) + ": this would replace an input or another"),
+    const auto outcome = m_folder->run(QStringLiteral("--force ") + words);
+    QVERIFY2(outcome.errors.startsWith(place + ": this would replace an input or another"),
         outcome.errors.constData());
     QCOMPARE(outcome.status, 3);
     QCOMPARE(m_folder->read("a.cfg"), configuration);
@@ -451,6 +460,37 @@ void TestConverterProgram::batchGoesOnAfterAFault()
     QCOMPARE(m_folder->read("out/a.dat"), whole);
     QCOMPARE(m_folder->read("out/c.dat"), whole);
     QCOMPARE(QDir(m_folder->path(QStringLiteral("out"))).count(), 4U + 2U);
+}
+
+void TestConverterProgram::highestStatusCounts_data()
+{
+    QTest::addColumn<QString>("inputs");
+    QTest::newRow("first") << QStringLiteral("@a.cfg @b.cfg @c.cfg");
+    QTest::newRow("last") << QStringLiteral("@c.cfg @b.cfg @a.cfg");
+}
+
+void TestConverterProgram::highestStatusCounts()
+{
+    QFETCH(QString, inputs);
+    writePair("a");
+    m_folder->write("a.csv", "old");
+    m_folder->write("b.cfg", "nonsense");
+    writePair("c");
+    const auto outcome = m_folder->run(QStringLiteral("--csv ") + inputs);
+    QCOMPARE(outcome.errors.count('\n'), 2);
+    QCOMPARE(outcome.status, 3);
+    QCOMPARE(m_folder->read("a.csv"), QByteArray("old"));
+    QVERIFY(m_folder->read("c.csv").startsWith("Time (ms)"));
+}
+
+void TestConverterProgram::dataFileThatIsNotThere()
+{
+    writePair("a");
+    QFile::remove(m_folder->path(QStringLiteral("a.dat")));
+    const auto outcome = m_folder->run(QStringLiteral("@a.cfg -o @out"));
+    QCOMPARE(outcome.errors, QByteArray("a.dat: No such file or directory\n"));
+    QCOMPARE(outcome.status, 1);
+    QCOMPARE(m_folder->names(), QStringList(QStringLiteral("a.cfg")));
 }
 
 void TestConverterProgram::patternIsResolved()
