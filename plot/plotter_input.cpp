@@ -253,7 +253,9 @@ void Plotter::keyPressEvent(QKeyEvent *event)
     }
     noteViews();
     m_keyboard.hold(event->key());
-    const int cursor = m_marks.cursors.cursorOf(qobject_cast<QLabel *>(window()->focusWidget()));
+    const auto *label = qobject_cast<QLabel *>(window()->focusWidget());
+    const auto *owner = label ? qobject_cast<Plotter *>(label->parentWidget()) : nullptr;
+    const int cursor = owner ? owner->m_marks.cursors.cursorOf(label) : -1; // the same in all plots
     if (cursor >= 0 && (event->key() == Qt::Key_Left || event->key() == Qt::Key_Right)) {
         stepCursor(*this, cursor, event->key() == Qt::Key_Right);
         return;

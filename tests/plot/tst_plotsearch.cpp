@@ -264,6 +264,12 @@ void TestPlotSearch::arrowsStepTheLabelThatHasTheKeys()
     QTest::keyClick(label, Qt::Key_Left);
     QTest::keyClick(pair->plot, Qt::Key_Right); // to which the keys go while the mouse is over it
     QCOMPARE(pair->other->cursors(), QList<double>({300, 502}));
+    for (Plotter *plot : {pair->other, static_cast<Plotter *>(pair->digital)}) // or over these
+        QTest::keyClick(plot, Qt::Key_Left);
+    QCOMPARE(pair->plot->cursors(), QList<double>({300, 500}));
+    QTest::keyClick(pair->other, Qt::Key_Right);
+    QTest::keyClick(pair->digital, Qt::Key_Right);
+    QCOMPARE(pair->digital->cursors(), QList<double>({300, 502}));
     QCOMPARE(pair->host.bar->value(), position);
     pair->plot->setFocus();
     pair->host.bar->setRange(0, 9);
