@@ -320,7 +320,9 @@ void MainWindow::addPlot(const QString &name, const QList<int> &numbers)
     plot->setName(name.isEmpty() ? tr("Graph %1").arg(m_graphCount) : name);
     equip(plot);
     m_plotLayout->insertWidget(m_plotLayout->indexOf(m_digitalPlotter), plot);
-    setTabOrder(m_addedPlotters.isEmpty() ? m_analogPlotter : m_addedPlotters.constLast(), plot);
+    const Plotter *above
+        = m_addedPlotters.isEmpty() ? m_analogPlotter : m_addedPlotters.constLast();
+    setTabOrder(above->lastTabStop(), plot);
     m_addedPlotters.append(plot);
     setColumnHeight();
     linkPlots();

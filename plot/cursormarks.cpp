@@ -47,6 +47,11 @@ int CursorMarks::cursorOf(const QLabel *label) const
     return found == m_cursors.cend() ? -1 : static_cast<int>(found - m_cursors.cbegin());
 }
 
+QWidget *CursorMarks::lastTabStop() const
+{
+    return m_cursors.empty() ? m_plot : m_cursors.back().label.get();
+}
+
 void CursorMarks::add(double time)
 {
     if (isFull())
@@ -61,7 +66,7 @@ void CursorMarks::add(double time)
     label->setCursor(Qt::SizeHorCursor);
     label->setPlotter(m_plot);
     label->setFocusPolicy(Qt::TabFocus); // the arrow keys then move its cursor
-    QWidget::setTabOrder(m_cursors.empty() ? m_plot : m_cursors.back().label.get(), label);
+    QWidget::setTabOrder(lastTabStop(), label);
     m_cursors.push_back(std::move(cursor));
     number();
 }

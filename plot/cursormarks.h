@@ -34,6 +34,8 @@ public:
     double pairDifference() const { return count() < 2 ? 0 : difference(m_cursors.size() - 1); }
     // The cursor that a label belongs to; -1 for any other label.
     int cursorOf(const QLabel *label) const;
+    // The label of the latest cursor; without cursors, the plot.
+    QWidget *lastTabStop() const;
 
     void add(double time); // nothing where it is full
     void move(int cursor, double time) { m_cursors.at(static_cast<size_t>(cursor)).time = time; }

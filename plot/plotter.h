@@ -82,6 +82,7 @@ public:
     // The time difference of the last neighbouring pair of cursors, ms; 0 with fewer than two.
     double pairDifference() const { return m_marks.cursors.pairDifference(); }
     void clearCursors();
+    QWidget *lastTabStop() const { return m_marks.cursors.lastTabStop(); } // of the plot
     // The sample times of the recording as of the last setupPlot().
     const TimeAxis &sampleTimes() const { return m_timeAxis; }
 
@@ -94,7 +95,6 @@ public:
     virtual void addCursor(int x, int y);
     virtual void applyRubberBand();
     virtual void drawValueTable(QPainter *painter);
-
     void receiveMouseMove(QMouseEvent *event) override { mouseMoveEvent(event); }
     QSize sizeHint() const override { return {600, 400}; }
     QSize minimumSizeHint() const override { return {300, 200}; }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "contrast.h"
+#include "plotter.h"
 #include "smallrecording.h"
 #include "windowfixture.h"
 
@@ -172,6 +173,27 @@ private slots:
                 "checkBox_showAngles comboBox_mainReference comboBox_primSec groupBox "
                 "checkBox_convertToLocal listWidget listWidget2 scrollWidget "
                 "[Analog Plotter] [Graph 1 Plotter] [Graph 3 Plotter] [Digital Plotter]"));
+    }
+
+    // A cursor has a name in each plot.
+    void tabReachesTheNamesOfCursorsAfterTheirPlot()
+    {
+        window->findChild<Plotter *>()->addCursorAt(10);
+        window->findChild<Plotter *>()->addCursorAt(20);
+        for (int i = 0; i < 2; ++i)
+            window->addPlotter({QStringLiteral("IL1")});
+        window->findChild<Plotter *>()->addCursorAt(30);
+        QVERIFY(reactivated());
+        QStringList names;
+        for (const QWidget *stop : tabStops(*window)) {
+            const bool isLabel = stop->objectName() == QLatin1String("lineLabel");
+            if (isLabel || stop->inherits("Plotter"))
+                names.append(isLabel ? stop->property("text").toString() : nameOf(stop));
+        }
+        QCOMPARE(names.join(QLatin1Char(' ')),
+            QStringLiteral("[Analog Plotter] P1 P2 P3 [Graph 1 Plotter] P1 P2 P3 "
+                           "[Graph 2 Plotter] P1 P2 P3 [Graph 3 Plotter] P1 P2 P3 "
+                           "[Graph 4 Plotter] P1 P2 P3 [Digital Plotter] P1 P2 P3"));
     }
 
     // Where the keys go
