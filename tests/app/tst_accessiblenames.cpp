@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Norvale
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "plotmenus.h"
 #include "smallrecording.h"
 #include "windowfixture.h"
 
@@ -39,7 +40,7 @@ private:
         return labels.isEmpty() ? widget->accessibleName()
                                 : labels.first().first->text(QAccessible::Name);
     }
-    void choose(const QString &language) const
+    void chooseLanguage(const QString &language) const
     {
         for (QAction *each : window->findChildren<QAction *>()) {
             if (each->text() == language)
@@ -61,13 +62,16 @@ void TestAccessibleNames::init()
     window->open(writeSmallRecording(folder->path(), QStringLiteral("rec")));
     window->addPlotter({QStringLiteral("IL1")});
     showActive();
+    for (const char *sideWindow : {"Events...", "Measurements..."})
+        QVERIFY(choose(window->findChild<Plotter *>(), QString::fromLatin1(sideWindow)));
 }
 
 void TestAccessibleNames::whateverTakesTheFocusHasOne_data()
 {
     QTest::addColumn<QString>("dialog"); // none for the window itself
     QTest::newRow("window") << QString();
-    for (const char *dialog : {"AddPlotterDialog", "CTVTDialog", "SaveDialog", "VectorDialog"})
+    for (const char *dialog : {"AddPlotterDialog", "CTVTDialog", "SaveDialog", "VectorDialog",
+             "EventsDialog", "MeasurementsDialog"})
         QTest::newRow(dialog) << QString::fromLatin1(dialog);
 }
 
@@ -149,11 +153,11 @@ void TestAccessibleNames::followTheLanguage()
     auto *add = part<QToolButton>(QStringLiteral("VectorDialog"), "toolButton");
     const auto *primary = child<QDialog>("CTVTDialog")->findChild<QLineEdit *>();
     for (int twice = 0; twice < 2; ++twice) {
-        choose(QStringLiteral("Suomi"));
+        chooseLanguage(QStringLiteral("Suomi"));
         QCOMPARE(nameOf(child<QWidget>("scrollWidget")), QStringLiteral("Kuvaajat"));
         QCOMPARE(nameOf(add), QStringLiteral("Lisää osoitinpiirros"));
         QCOMPARE(primary->accessibleName(), QStringLiteral("IL1, ensiö"));
-        choose(QStringLiteral("English"));
+        chooseLanguage(QStringLiteral("English"));
         QCOMPARE(primary->accessibleName(), QStringLiteral("IL1, primary"));
         QCOMPARE(nameOf(child<QWidget>("scrollWidget")), QStringLiteral("Plots"));
         QCOMPARE(nameOf(add), QStringLiteral("Add a diagram"));
