@@ -35,6 +35,8 @@ std::string referTo(Side side, Configuration &configuration)
         const double wanted = factor(side, channel);
         if (!std::isfinite(wanted) || wanted == 0)
             return "analog channel " + channel.number + " has no ratio";
+        if (!std::isfinite(channel.a.value * wanted) || !std::isfinite(channel.b.value * wanted))
+            return "a or b of analog channel " + channel.number + " is too large for its ratio";
     }
     for (AnalogDefinition &channel : configuration.analogs) {
         if (channel.side == side)

@@ -57,6 +57,8 @@ private slots:
     void sidesOfTheTransformers();
     void sideOfARecordingWithoutRatios_data();
     void sideOfARecordingWithoutRatios();
+    void sideThatIsBeyondAllNumbers_data();
+    void sideThatIsBeyondAllNumbers();
     void encodings_data();
     void encodings();
     void textsOfAnotherEncoding();
@@ -301,6 +303,26 @@ void TestConverterProgram::sideOfARecordingWithoutRatios()
     const auto outcome = m_folder->run(QStringLiteral("--primary @a.cfg -o @out"));
     QCOMPARE(outcome.errors, "a.cfg: " + message + '\n');
     QCOMPARE(outcome.status, 1);
+}
+
+void TestConverterProgram::sideThatIsBeyondAllNumbers_data()
+{
+    QTest::addColumn<QByteArray>("factors");
+    QTest::newRow("a") << QByteArray("1e306,0");
+    QTest::newRow("b") << QByteArray("1,-1e306");
+}
+
+void TestConverterProgram::sideThatIsBeyondAllNumbers()
+{
+    QFETCH(QByteArray, factors);
+    PublishedRecording made = recording();
+    made.analog = QByteArrayList{"1,IL1,A,Bay,A," + factors + ",0,-32767,32767"};
+    writePair("a", made);
+    const auto outcome = m_folder->run(QStringLiteral("--primary @a.cfg -o @out"));
+    QCOMPARE(outcome.errors,
+        QByteArray("a.cfg: a or b of analog channel 1 is too large for its ratio\n"));
+    QCOMPARE(outcome.status, 1);
+    QCOMPARE(m_folder->names().size(), 2);
 }
 
 void TestConverterProgram::encodings_data()
