@@ -26,7 +26,7 @@ void EventTable::setRecording(const CFGProperties *recording)
     if (recording) {
         m_times = recording->sampleTimes;
         m_triggerTime = recording->triggerOffsetMs;
-        m_startTime = recording->startTime;
+        m_start = readStart(recording->startTime);
         const QList<DigitalChannel *> &channels = recording->digitalChannels;
         for (int i = 0; i < channels.size(); ++i) {
             m_names.append(shownName(channels.at(i)->id.trimmed()));
@@ -140,7 +140,7 @@ QString EventTable::textAt(int row, Column column) const
     case Time:
         return millisecondsText(event.time);
     case Clock:
-        return clockText(m_startTime, event.time);
+        return clockText(m_start, event.time);
     case FromTrigger:
         return millisecondsText(event.time - m_triggerTime);
     case FromBefore:

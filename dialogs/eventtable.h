@@ -7,6 +7,7 @@
 
 #include <QAbstractTableModel>
 #include <QStringList>
+#include <QTime>
 #include <QVector>
 
 #include <functional>
@@ -78,7 +79,7 @@ private:
     QVector<DigitalRuns> m_runs; // of these
     QVector<double> m_times;
     double m_triggerTime = 0; // ms
-    QString m_startTime;
+    QTime m_start; // of the clock
     std::priority_queue<Next, std::vector<Next>, std::greater<>> m_queue;
     bool m_hasTrigger = true; // among the rows, or there is none
     QVector<Event> m_events; // rows so far

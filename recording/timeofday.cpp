@@ -15,14 +15,6 @@ namespace {
 constexpr qint64 microsPerMs = 1000;
 constexpr qint64 microsPerDay = 86'400'000 * microsPerMs;
 
-// Text exports have a colon before the milliseconds.
-QTime readStart(const QString &startTime)
-{
-    const QTime start = QTime::fromString(startTime.trimmed(), timeOfDayFormat);
-    return start.isValid() ? start
-                           : QTime::fromString(startTime.trimmed(), QStringLiteral("hh:mm:ss:zzz"));
-}
-
 } // namespace
 
 QDateTime joinedAsUtc(const QString &date, const QString &dateFormat, const QString &time)
@@ -33,10 +25,22 @@ QDateTime joinedAsUtc(const QString &date, const QString &dateFormat, const QStr
     return QDateTime(QDate::fromString(date, dateFormat), timeOfDay, Qt::UTC);
 }
 
+// Text exports have a colon before the milliseconds.
+QTime readStart(const QString &startTime)
+{
+    const QTime start = QTime::fromString(startTime.trimmed(), timeOfDayFormat);
+    return start.isValid() ? start
+                           : QTime::fromString(startTime.trimmed(), QStringLiteral("hh:mm:ss:zzz"));
+}
+
 QString clockText(const QString &startTime, double ms)
 {
+    return clockText(readStart(startTime), ms);
+}
+
+QString clockText(const QTime &start, double ms)
+{
     constexpr double year = 366 * 86'400'000.0; // ms
-    const QTime start = readStart(startTime);
     if (!start.isValid() || !(std::abs(ms) <= year))
         return QString();
     const qint64 micros = start.msecsSinceStartOfDay() * microsPerMs

@@ -19,6 +19,9 @@ QDateTime joinedAsUtc(const QString &date, const QString &dateFormat, const QStr
 // timeOfDayFormat has it): "10:00:00.020500" for 20.5 ms after 10 o'clock. It begins anew at
 // midnight. Empty where the start is no time of day or the time lies more than a year away.
 QString clockText(const QString &startTime, double ms);
+// The same for many times, with the start read once; reading takes longer than all the rest.
+QTime readStart(const QString &startTime);
+QString clockText(const QTime &start, double ms);
 
 // A time or a difference of times in ms with three decimals; with six digits where that would be
 // very long, empty where it is no number.
