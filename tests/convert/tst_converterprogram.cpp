@@ -4,6 +4,7 @@
 #include "converterrun.h"
 #include "publishedforms.h"
 
+#include <QRegularExpression>
 #include <QtTest>
 
 #include <memory>
@@ -510,7 +511,15 @@ void TestConverterProgram::dataFileThatIsNotThere()
     writePair("a");
     QFile::remove(m_folder->path(QStringLiteral("a.dat")));
     const auto outcome = m_folder->run(QStringLiteral("@a.cfg -o @out"));
+#ifdef Q_OS_WIN
+    // The system's own words differ between Windows and Wine.
+    QVERIFY2(QRegularExpression(QStringLiteral("^a\\.dat: [^\r\n]+\r?\n$"))
+                 .match(QString::fromLocal8Bit(outcome.errors))
+                 .hasMatch(),
+        outcome.errors.constData());
+#else
     QCOMPARE(outcome.errors, QByteArray("a.dat: No such file or directory\n"));
+#endif
     QCOMPARE(outcome.status, 1);
     QCOMPARE(m_folder->names(), QStringList(QStringLiteral("a.cfg")));
 }
