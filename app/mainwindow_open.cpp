@@ -64,6 +64,7 @@ QString reasonText(CFGProperties::Failure failure)
         return MainWindow::tr("A file of it cannot be read to its end.");
     case Failure::LittleMemory:
         return MainWindow::tr("There is too little memory for it.");
+    case Failure::GivenUp:
     case Failure::None:
         break;
     }

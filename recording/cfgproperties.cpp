@@ -6,6 +6,8 @@
 #include "configurationreader.h"
 #include "datareader.h"
 #include "filekind.h"
+#include "interruption.h"
+#include "loadprogress.h"
 #include "memoryneed.h"
 #include "phasors.h"
 #include "readerror.h"
@@ -27,18 +29,26 @@ void CFGProperties::init()
     failure = Failure::None;
     try {
         load();
-    } catch (const std::exception &error) { // out of memory, or no end of a file
-        failure
-            = dynamic_cast<const ReadError *>(&error) ? Failure::ReadError : Failure::LittleMemory;
-        // Records are kept for those who hold them; these no one has seen yet.
-        for (AnalogChannel *channel : qAsConst(analogChannels))
-            *channel = AnalogChannel();
-        for (DigitalChannel *channel : qAsConst(digitalChannels))
-            *channel = DigitalChannel();
-        clearConfig();
-        loaded = 0;
+    } catch (const Interruption &) {
+        fail(Failure::GivenUp);
+    } catch (const ReadError &) {
+        fail(Failure::ReadError);
+    } catch (const std::exception &) { // out of memory
+        fail(Failure::LittleMemory);
     }
     emit initFinished();
+}
+
+void CFGProperties::fail(Failure reason)
+{
+    // Records are kept for those who hold them; these no one has seen yet.
+    for (AnalogChannel *channel : qAsConst(analogChannels))
+        *channel = AnalogChannel();
+    for (DigitalChannel *channel : qAsConst(digitalChannels))
+        *channel = DigitalChannel();
+    clearConfig();
+    loaded = 0;
+    failure = reason;
 }
 
 void CFGProperties::load()
@@ -52,6 +62,8 @@ void CFGProperties::load()
         fftTransform();
     }
     requireMemory(0);
+    if (progress.isCancelled())
+        throw Interruption();
 }
 
 void CFGProperties::readConfgFile()
@@ -61,6 +73,7 @@ void CFGProperties::readConfgFile()
         qDebug("CANNOT OPEN CFG FILE");
         return;
     }
+    const LoadStage stage = reading(file);
     readConfiguration(file, *this);
 }
 
@@ -70,6 +83,7 @@ bool CFGProperties::readDatFile()
     QFile file(existingPath(filePath));
     failure = Failure::NoDataFile;
     if (!isPipeOrDevice(file.fileName()) && file.open(QIODevice::ReadOnly)) {
+        const LoadStage stage = reading(file);
         readData(file, *this);
         if (sampleCount > 0) {
             failure = Failure::None;
@@ -85,16 +99,31 @@ bool CFGProperties::readDatFile()
 void CFGProperties::readTxtFile()
 {
     QFile file(filePath);
-    if (!isPipeOrDevice(filePath) && file.open(QIODevice::ReadOnly))
+    if (!isPipeOrDevice(filePath) && file.open(QIODevice::ReadOnly)) {
+        const LoadStage stage = reading(file);
         readTextExport(file, *this);
+    }
+}
+
+LoadStage CFGProperties::reading(const QFile &file)
+{
+    return {progress, LoadProgress::Stage::Reading, file.size(), [&file] { return file.pos(); }};
 }
 
 void CFGProperties::fftTransform()
 {
     constexpr qint64 phasor = sizeof(float) + sizeof(float);
     requireMemory(analogChannels.size() * phasor * sampleTimes.size());
-    for (AnalogChannel *channel : qAsConst(analogChannels))
+    qint64 samples = 0;
+    for (const AnalogChannel *channel : qAsConst(analogChannels))
+        samples += channel->rawValues.size();
+    qint64 before = 0; // of the channels that have their phasors
+    for (AnalogChannel *channel : qAsConst(analogChannels)) {
+        const LoadStage stage(progress, LoadProgress::Stage::Phasors, samples,
+            [=] { return before + channel->fftMagnitudes.size(); });
         computePhasors(*channel, samplesPerCycle);
+        before += channel->rawValues.size();
+    }
 }
 
 void CFGProperties::clearConfig()

@@ -3,9 +3,12 @@
 
 #pragma once
 
+#include "loadprogress.h"
 #include "recordingcontents.h"
 
 #include <QObject>
+
+class QFile;
 
 // One disturbance recording in memory, loaded from a file that another thread may name.
 class CFGProperties : public QObject, public RecordingContents {
@@ -18,9 +21,11 @@ public:
     // These three survive clearConfig().
     QString filePath; // file to load; names the ".dat" file after a COMTRADE load
     int loaded = 0; // result of the last init(): 1 loaded, 0 failed
-    enum class Failure { None, NoDataFile, NotAscii, NoDataLine, ReadError, LittleMemory };
+    enum class Failure { None, NoDataFile, NotAscii, NoDataLine, ReadError, LittleMemory, GivenUp };
     Failure failure = Failure::None; // why it failed; survives clearConfig(), too
     double timeMultiplier = 1.0; // read, not applied
+
+    LoadProgress progress; // of init(); a cancelled load fails and leaves everything cleared
 
     // Reads the ASCII data file beside the configuration (clause 6) and makes the channel records.
     // False, with everything cleared, when there is no data line. This and the two other readers
@@ -51,4 +56,6 @@ public slots:
 
 private:
     void load();
+    void fail(Failure reason);
+    LoadStage reading(const QFile &file); // by its bytes
 };

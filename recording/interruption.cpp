@@ -3,6 +3,8 @@
 
 #include "interruption.h"
 
+#include "loadprogress.h"
+
 #include <QThread>
 
 void countWork(qint64 steps)
@@ -14,4 +16,5 @@ void countWork(qint64 steps)
     sinceLook = 0;
     if (QThread::currentThread()->isInterruptionRequested())
         throw Interruption();
+    LoadStage::look();
 }
