@@ -45,7 +45,7 @@ struct BaseContent {
     bool operator==(const BaseContent &other) const
     {
         return view == other.view && size == other.size && pixelRatio == other.pixelRatio
-            && font == other.font && trigger == other.trigger && readout.rows == other.readout.rows
+            && font == other.font && trigger == other.trigger && readout == other.readout
             && readoutWidth == other.readoutWidth && times == other.times && traces == other.traces;
     }
 };

@@ -51,16 +51,21 @@ Readout readoutAt(const QList<double> &cursors, const TimeAxis &axis, const Show
         samples.append(axis.sampleAt(source.sampleRate(), cursors.at(i)));
     }
     table.rows.append(header);
+    table.briefRows.append(header);
     for (const int number : channels.order()) {
         const ShownChannel &shown = channels.at(number);
         const QVector<float> &values = shown.trace.values();
         Readout::Row row{source.isSpectrum(number) ? shown.id + QStringLiteral(" FFT") : shown.id};
+        Readout::Row briefRow = row;
         for (const int sample : qAsConst(samples)) {
-            row.append(sample < 0 || sample >= values.size()
-                    ? QString()
-                    : generalText(static_cast<double>(values.at(sample)) * source.factor(number)));
+            const bool isRecorded = sample >= 0 && sample < values.size();
+            const double value
+                = isRecorded ? static_cast<double>(values.at(sample)) * source.factor(number) : 0;
+            row.append(isRecorded ? generalText(value) : QString());
+            briefRow.append(isRecorded ? briefText(value) : QString());
         }
         table.rows.append(row);
+        table.briefRows.append(briefRow);
     }
     return table;
 }

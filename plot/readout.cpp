@@ -18,6 +18,7 @@ constexpr int cellPadding = 8;
 constexpr int cellBorder = 2; // of the padding, what stays free where room is short
 constexpr int rowPadding = 4;
 constexpr int margin = 4; // between the plot area, the table and the widget's border
+constexpr int mostLinesOfTip = 25; // besides its ends, so that it fits a screen
 
 int textWidth(const QFontMetrics &metrics, const QString &text)
 {
@@ -56,15 +57,20 @@ QString Readout::headerText(QString text, Header shown)
     return shown == Header::OneLine ? text : text.replace(QLatin1Char(' '), QLatin1Char('\n'));
 }
 
+const QString &Readout::briefText(int row, int column) const
+{
+    return (briefRows.isEmpty() ? rows : briefRows).at(row).at(column);
+}
+
 QVector<int> Readout::columnWidths(
-    const QFont &font, Header shown, bool withValues, int padding) const
+    const QFont &font, Header shown, Values values, int padding) const
 {
     const QFontMetrics metrics(font);
     QVector<int> widths(rows.isEmpty() ? 0 : rows.constFirst().size());
     for (int column = 0; column < widths.size(); ++column) {
-        const int counted = column == 0 || withValues ? rows.size() : 1;
+        const int counted = column == 0 || values != Values::None ? rows.size() : 1;
         for (int row = 0; row < counted; ++row) {
-            QString text = rows.at(row).at(column);
+            QString text = values == Values::Brief ? briefText(row, column) : rows[row][column];
             if (row == 0 && column > 0)
                 text = headerText(text, shown);
             widths[column] = std::max(widths[column], textWidth(metrics, text) + padding);
@@ -75,7 +81,7 @@ QVector<int> Readout::columnWidths(
 
 int Readout::neededWidth(const QFont &font) const
 {
-    const QVector<int> widths = columnWidths(font, Header::OneLine, true, cellPadding);
+    const QVector<int> widths = columnWidths(font, Header::OneLine, Values::Full, cellPadding);
     return widths.size() < 2 ? 0 : sum(widths) + 2 * margin;
 }
 
@@ -87,17 +93,20 @@ Readout::Layout Readout::layout(const PlotGeometry &geometry, const QFont &font)
     if (columns < 2 || room <= 0)
         return layout;
     // Names give way to times, but only where all of these can be shown for it.
-    const QVector<int> times = columnWidths(font, Header::TwoLines, false, cellPadding);
+    const QVector<int> times = columnWidths(font, Header::TwoLines, Values::None, cellPadding);
     const QVector<int> fair = shared(times, room);
     const bool timesFit = std::equal(times.cbegin() + 1, times.cend(), fair.cbegin() + 1);
     const Header least = timesFit ? Header::TwoLines : Header::Name;
     layout.widths.resize(columns);
-    for (QVector<int> lacking : {timesFit ? times : columnWidths(font, least, false, cellBorder),
-             columnWidths(font, least, true, cellPadding),
-             columnWidths(font, Header::TwoLines, true, cellPadding),
-             columnWidths(font, Header::OneLine, true, cellPadding)}) {
+    QVector<QVector<int>> needs{
+        timesFit ? times : columnWidths(font, least, Values::None, cellBorder)};
+    if (!briefRows.isEmpty())
+        needs.append(columnWidths(font, least, Values::Brief, cellBorder));
+    for (const Header header : {least, Header::TwoLines, Header::OneLine})
+        needs.append(columnWidths(font, header, Values::Full, cellPadding));
+    for (QVector<int> &lacking : needs) {
         for (int column = 0; column < columns; ++column)
-            lacking[column] -= layout.widths[column];
+            lacking[column] = std::max(0, lacking[column] - layout.widths[column]);
         lacking = shared(lacking, room - sum(layout.widths));
         for (int column = 0; column < columns; ++column)
             layout.widths[column] += lacking[column];
@@ -134,13 +143,34 @@ QRect Readout::Layout::cell(int row, int column, const PlotGeometry &geometry) c
         row == 0 ? headerLines * rowHeight : rowHeight};
 }
 
+bool Readout::isEllipsis(int row, const Layout &cells) const
+{
+    return row >= 0 && row == cells.fitting - 1 && cells.fitting < rows.size();
+}
+
+QString Readout::leftOut(const Layout &cells) const
+{
+    const auto asLine = [](const Row &row) {
+        return row.constFirst() + QLatin1String(": ")
+            + row.mid(1).toList().join(QLatin1String(", "));
+    };
+    const int first = std::max(cells.fitting - 1, 1);
+    const int listed = std::min(rows.size() - first, mostLinesOfTip);
+    QStringList lines{asLine(rows.constFirst())};
+    for (const Row &row : rows.mid(first, listed))
+        lines.append(asLine(row));
+    if (first + listed < rows.size())
+        lines.append(QStringLiteral("\u2026 +%1").arg(rows.size() - first - listed));
+    return lines.join(QLatin1Char('\n'));
+}
+
 void Readout::draw(QPainter &painter, const PlotGeometry &geometry, const QFont &font) const
 {
     const Layout cells = layout(geometry, font);
     QVector<Row> shown = rows.mid(0, cells.fitting);
     if (!shown.isEmpty())
         shown.first() = cells.header;
-    if (!shown.isEmpty() && shown.size() < rows.size()) { // an ellipsis stands for those left out
+    if (isEllipsis(cells.fitting - 1, cells)) {
         shown.last().fill(QString());
         shown.last().first() = QChar(0x2026);
     }
@@ -152,7 +182,11 @@ void Readout::draw(QPainter &painter, const PlotGeometry &geometry, const QFont 
             const QRect cell = cells.cell(row, column, geometry);
             const auto elide = column == 0 ? Qt::ElideMiddle : Qt::ElideRight;
             const int width = cell.width() - cellBorder;
-            QStringList lines = shown.at(row).at(column).split(QLatin1Char('\n'));
+            QString text = shown.at(row).at(column);
+            if (row > 0 && column > 0 && metrics.horizontalAdvance(text) > width
+                && metrics.horizontalAdvance(briefText(row, column)) <= width)
+                text = briefText(row, column);
+            QStringList lines = text.split(QLatin1Char('\n'));
             for (QString &line : lines) {
                 if (metrics.horizontalAdvance(line) > width)
                     line = metrics.elidedText(line, elide, width);
@@ -169,6 +203,8 @@ QString Readout::textAt(const QPoint &point, const PlotGeometry &geometry, const
         for (int column = 0; column < cells.widths.size(); ++column) {
             if (!cells.cell(row, column, geometry).contains(point))
                 continue;
+            if (isEllipsis(row, cells))
+                return leftOut(cells);
             const QString text = rows.at(row).at(column);
             return row == 0 || column == 0 || text.isEmpty()
                 ? text

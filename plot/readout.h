@@ -17,17 +17,24 @@ class QRect;
 struct Readout {
     using Row = QVector<QString>;
     QVector<Row> rows; // all of one length
+    QVector<Row> briefRows; // the same with numbers of fewer digits; empty where there are none
+
+    bool operator==(const Readout &other) const
+    {
+        return rows == other.rows && briefRows == other.briefRows;
+    }
 
     // What the columns need in a font, with the header on one line; 0 where there is no cursor.
     int neededWidth(const QFont &font) const;
 
     // Paints the table into the room kept free at the right. Where the columns need more than that,
     // names and headers, on two lines, have what they need first, and the values share the rest. A
-    // text that has too little is elided, a cursor's time left out.
+    // value that has too little is brief, if that fits. Other texts are elided, a cursor's time is
+    // left out.
     void draw(QPainter &painter, const PlotGeometry &geometry, const QFont &font) const;
 
-    // What the cell at a point says in full, with its row's and its column's names; empty beside
-    // the cells.
+    // What the cell at a point says in full, with its row's and its column's names; of an ellipsis
+    // the rows that it stands for, each on a line. Empty beside the cells.
     QString textAt(const QPoint &point, const PlotGeometry &geometry, const QFont &font) const;
 
 private:
@@ -40,13 +47,19 @@ private:
         Row header; // as it is shown
         int headerLines = 1;
         int rowHeight = 0; // of each of these lines, too
-        int fitting = 0; // rows
+        int fitting = 0; // rows, with that of the ellipsis
         QRect cell(int row, int column, const PlotGeometry &geometry) const;
     };
 
+    // What of the values decides on the width of a column.
+    enum class Values { None, Brief, Full };
+
     static QString headerText(QString text, Header shown);
-    QVector<int> columnWidths(const QFont &font, Header shown, bool withValues, int padding) const;
+    const QString &briefText(int row, int column) const;
+    QVector<int> columnWidths(const QFont &font, Header shown, Values values, int padding) const;
     Layout layout(const PlotGeometry &geometry, const QFont &font) const;
+    bool isEllipsis(int row, const Layout &cells) const;
+    QString leftOut(const Layout &cells) const;
 };
 
 // The room of a readout in its plot.

@@ -88,6 +88,13 @@ QString generalText(double value)
     return QString::number(value, 'g', 6);
 }
 
+QString briefText(double value)
+{
+    const double size = std::abs(value);
+    const bool isWritten = size >= 1000 && size < 999999.5; // beyond that with an exponent
+    return isWritten ? fixedText(value, 0) : QString::number(value, 'g', 4);
+}
+
 QString fixedText(double value, int decimals)
 {
     const QString text = QString::number(value, 'f', decimals);

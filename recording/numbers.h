@@ -18,6 +18,7 @@ int fieldToInt(const char *begin, const char *end);
 // Texts of numbers. A value that rounds to zero has no sign: read again, "-0" would be written as
 // "0".
 QString generalText(double value); // six digits, with an exponent where that is shorter
+QString briefText(double value); // four digits; all those of a whole part of five or six
 QString fixedText(double value, int decimals);
 QString sixDecimals(double value);
 

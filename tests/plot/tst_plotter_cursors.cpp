@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Norvale
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "baselayer.h"
 #include "plotpair.h"
 #include "plotstyle.h"
+#include "textsearch.h"
 
 #include <QFrame>
 #include <QHelpEvent>
@@ -59,6 +61,8 @@ private slots:
     void noTimeDifferenceIsCutOff();
     void cursorsInAnyOrderHaveTheirTimeDifferences();
     void theReadoutTellsItsCellsInFull();
+    void theReadoutsNumbersAreBriefBeforeTheyAreCut();
+    void theReadoutsEllipsisListsWhatIsLeftOut();
     void aDraggedLabelMovesTheCursorEverywhere();
     void aDragCutShortIsInTheReadout();
     void aDragEndsWhenItsCursorLeavesTheView_data();
@@ -466,6 +470,58 @@ void TestPlotterCursors::theReadoutTellsItsCellsInFull()
     QHelpEvent beside(QEvent::ToolTip, {300, 150}, pair->plot->mapToGlobal({300, 150}));
     QApplication::sendEvent(pair->plot, &beside);
     QTRY_COMPARE(QToolTip::text(), QString());
+}
+
+// One cursor has room for six digits, eight have it for four.
+void TestPlotterCursors::theReadoutsNumbersAreBriefBeforeTheyAreCut()
+{
+    PlotPair::Series series = PlotPair::ordinary();
+    series.values.fill(-1.23456F);
+    pair = std::make_unique<PlotPair>(true, series);
+    const QFont font = crispFont(10);
+    const auto isRead = [&](const char *text) {
+        const QImage image = pair->plot->grab().toImage();
+        return !findText(image, QLatin1String(text), smallFont(font)).isNull();
+    };
+    for (Plotter *plot : {pair->plot, pair->other})
+        plot->setFont(font);
+    for (int twice = 0; twice < 2; ++twice) {
+        QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {150, 150});
+        QVERIFY(isRead("-1.23456") && !isRead("-1.235"));
+        for (int i = 1; i < 8; ++i)
+            QTest::mouseDClick(pair->digital, Qt::LeftButton, {}, {150 + 80 * i, 150});
+        QVERIFY(isRead("-1.235") && !isRead("-1.23456"));
+        for (Plotter *plot : {pair->plot, pair->other, static_cast<Plotter *>(pair->digital)})
+            plot->clearCursors();
+    }
+}
+
+// With the header there are 32 rows of at least 11 pixels in a height of 301 - 60 - 4; the
+// ellipsis stands on the last line.
+void TestPlotterCursors::theReadoutsEllipsisListsWhatIsLeftOut()
+{
+    for (int i = 2; i <= 31; ++i)
+        pair->host.addAnalog(QStringLiteral("I%1").arg(i), QVector<float>(1001, float(i) / 4));
+    for (int i = 2; i <= 31; ++i)
+        pair->plot->addChannel(i);
+    pair->plot->setupPlot();
+    pair->plot->refreshPixmap();
+    doubleClick(450); // the sample of 500 ms is 7
+    const int height = QFontMetrics(smallFont(pair->plot->font())).height();
+    const int lines = (301 - 60 - 4) / height;
+    QVERIFY(lines < 32);
+    QStringList tip{QStringLiteral("Parameter: P1 (500)")};
+    for (int i = lines - 1; i <= 31; ++i) // the first line is the header, the second that of Ia
+        tip.append(QStringLiteral("I%1: %2").arg(i).arg(i / 4.0));
+    const auto tipAt = [&](int y) {
+        QHelpEvent event(QEvent::ToolTip, {793, y}, pair->plot->mapToGlobal({793, y}));
+        QApplication::sendEvent(pair->plot, &event);
+        return QToolTip::text();
+    };
+    for (int twice = 0; twice < 2; ++twice) {
+        QCOMPARE(tipAt(60 + lines * height - 6), tip.join(QLatin1Char('\n')));
+        QCOMPARE(tipAt(60 + height + 6), QStringLiteral("Ia, P1 (500): 7"));
+    }
 }
 
 void TestPlotterCursors::aDraggedLabelMovesTheCursorEverywhere()

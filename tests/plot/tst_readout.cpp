@@ -63,7 +63,12 @@ private slots:
     void rowsThatDoNotFitGiveAnEllipsis_data();
     void rowsThatDoNotFitGiveAnEllipsis();
     void nothingIsDrawnWithoutRoom();
+    void numbersAreBriefBeforeTheyAreCut_data();
+    void numbersAreBriefBeforeTheyAreCut();
+    void briefNumbersGoBeforeLongOnes();
     void cellsAreToldInFull();
+    void anEllipsisListsWhatIsLeftOut_data();
+    void anEllipsisListsWhatIsLeftOut();
 
 private:
     QFont font = crispFont(10);
@@ -307,6 +312,61 @@ void TestReadout::nothingIsDrawnWithoutRoom()
     QVERIFY(inkRect(names, names.rect()).isNull());
 }
 
+void TestReadout::numbersAreBriefBeforeTheyAreCut_data()
+{
+    QTest::addColumn<int>("missing"); // pixels of what the six digits need with 8 of padding
+    QTest::addColumn<QString>("shown");
+    const QString full = QStringLiteral("-1234.56");
+    const QString brief = QStringLiteral("-1235");
+    const int saved = metrics.horizontalAdvance(full) - metrics.horizontalAdvance(brief);
+    QTest::newRow("six digits fit") << 0 << full;
+    QTest::newRow("six digits just fit") << 6 << full;
+    QTest::newRow("a pixel too few for six digits") << 7 << brief;
+    QTest::newRow("four digits just fit") << 6 + saved << brief;
+    QTest::newRow("a pixel too few for four digits")
+        << 7 + saved
+        << metrics.elidedText(
+               full, Qt::ElideRight, metrics.horizontalAdvance(full) + 8 - (7 + saved) - 2);
+}
+
+// The name has what it needs, the value the rest; what it says in full stays.
+void TestReadout::numbersAreBriefBeforeTheyAreCut()
+{
+    QFETCH(int, missing);
+    QFETCH(QString, shown);
+    const QString name = QStringLiteral("A long name");
+    const QString full = QStringLiteral("-1234.56");
+    Readout readout = table({{QStringLiteral("Name"), QStringLiteral("P1")}, {name, full}});
+    readout.briefRows
+        = table({{QStringLiteral("Name"), QStringLiteral("P1")}, {name, QStringLiteral("-1235")}})
+              .rows;
+    const PlotGeometry geometry = geometryOf({800, 301}, readout.neededWidth(font) - missing);
+    const QImage image = draw(readout, geometry, font);
+    for (const QString &text : {full, QStringLiteral("-1235"), shown})
+        QCOMPARE(!findText(image, text, font).isNull(), text == shown);
+    QVERIFY(!findText(image, name, font).isNull());
+    QCOMPARE(readout.textAt({790, 60 + metrics.height() + 8}, geometry, font),
+        QStringLiteral("A long name, P1: -1234.56"));
+}
+
+// The room is just that of the brief numbers, with two pixels free in each cell; equal shares would
+// cut the wider one.
+void TestReadout::briefNumbersGoBeforeLongOnes()
+{
+    const QString small = QStringLiteral("12.5");
+    const QString large = QStringLiteral("-1.235e-05");
+    const QStringList header{QStringLiteral("N"), QStringLiteral("P1"), QStringLiteral("P2")};
+    Readout readout = table(
+        {header, {QStringLiteral("I"), QStringLiteral("12.5432"), QStringLiteral("-1.23456e-05")}});
+    readout.briefRows = table({header, {QStringLiteral("I"), small, large}}).rows;
+    int room = metrics.horizontalAdvance(QStringLiteral("N")) + 8; // has its padding first
+    for (const QString &text : {small, large})
+        room += metrics.horizontalAdvance(text) + 2;
+    const QImage image = draw(readout, geometryOf({800, 301}, room + 8), font);
+    for (const QString &text : {small, large})
+        QVERIFY2(!findText(image, text, font).isNull(), qPrintable(text));
+}
+
 // The columns share the room of 100 pixels from x = 704 on; that of "P1" ends it.
 void TestReadout::cellsAreToldInFull()
 {
@@ -328,6 +388,35 @@ void TestReadout::cellsAreToldInFull()
     QCOMPARE(textAt(798, 3), QString());
     QCOMPARE(textAt(700, 1), QString());
     QCOMPARE(Readout().textAt({798, 70}, geometry, font), QString());
+}
+
+void TestReadout::anEllipsisListsWhatIsLeftOut_data()
+{
+    QTest::addColumn<int>("lines"); // of text that there is room for
+    QTest::addColumn<int>("rows"); // besides the header
+    QTest::addColumn<QString>("tip");
+    QTest::newRow("all rows fit") << 4 << 3 << QStringLiteral("N3, P1: V3");
+    QTest::newRow("two rows") << 4 << 4 << QStringLiteral("Name: P1\nN3: V3\nN4: V4");
+    QTest::newRow("all rows") << 2 << 2 << QStringLiteral("Name: P1\nN1: V1\nN2: V2");
+    QTest::newRow("the header, too") << 1 << 2 << QStringLiteral("Name: P1\nN1: V1\nN2: V2");
+    QString tip = QStringLiteral("Name: P1");
+    for (int i = 3; i <= 27; ++i)
+        tip += QStringLiteral("\nN%1: V%1").arg(i);
+    QTest::newRow("25 rows") << 4 << 27 << tip;
+    QTest::newRow("more rows") << 4 << 30 << tip + QStringLiteral("\n\u2026 +3");
+}
+
+void TestReadout::anEllipsisListsWhatIsLeftOut()
+{
+    QFETCH(int, lines);
+    QFETCH(int, rows);
+    const Readout readout = tableOf(rows);
+    const PlotGeometry geometry
+        = geometryOf({800, 60 + lines * metrics.height() + 4}, readout.neededWidth(font));
+    const int y = 60 + lines * metrics.height() - metrics.height() / 2;
+    QTEST(readout.textAt({790, y}, geometry, font), "tip");
+    if (lines > 1)
+        QCOMPARE(readout.textAt({790, 62}, geometry, font), QStringLiteral("P1"));
 }
 
 QTEST_MAIN(TestReadout)

@@ -37,6 +37,8 @@ private slots:
     void doublesTruncateToWideIntegers();
     void aNumberIsWritten_data();
     void aNumberIsWritten();
+    void briefTexts_data();
+    void briefTexts();
     void wideIntegersAreWritten();
 };
 
@@ -267,6 +269,30 @@ void TestNumbers::aNumberIsWritten()
     std::array<char, mostDigitsOfDouble> text{};
     const char *const end = writeWhole(text.data(), value);
     QTEST(QByteArray(text.data(), static_cast<int>(end - text.data())), "whole");
+}
+
+void TestNumbers::briefTexts_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<QString>("brief");
+    QTest::newRow("four digits") << -1.23456 << QStringLiteral("-1.235");
+    QTest::newRow("rounded once, not from six digits") << 0.1234498 << QStringLiteral("0.1234");
+    QTest::newRow("zeros are dropped") << 12.5 << QStringLiteral("12.5");
+    QTest::newRow("nothing") << 0.0 << QStringLiteral("0");
+    QTest::newRow("rounded up to four digits") << 999.96 << QStringLiteral("1000");
+    QTest::newRow("no point") << -1234.56 << QStringLiteral("-1235");
+    QTest::newRow("five digits") << 12345.6 << QStringLiteral("12346");
+    QTest::newRow("rounded up to five digits") << 9999.7 << QStringLiteral("10000");
+    QTest::newRow("six digits") << 123456.7 << QStringLiteral("123457");
+    QTest::newRow("exponent") << 999999.5 << QStringLiteral("1e+06");
+    QTest::newRow("large") << -1234567.0 << QStringLiteral("-1.235e+06");
+    QTest::newRow("small") << 0.0000123456 << QStringLiteral("1.235e-05");
+}
+
+void TestNumbers::briefTexts()
+{
+    QFETCH(double, value);
+    QTEST(briefText(value), "brief");
 }
 
 void TestNumbers::wideIntegersAreWritten()
