@@ -9,7 +9,7 @@
 #include "brand.h"
 #include "cfgproperties.h"
 #include "ctvtdialog.h"
-#include "openhint.h"
+#include "otherrecordings.h"
 #include "packageunpacker.h"
 #include "plotvalues.h"
 #include "savedialog.h"
@@ -58,7 +58,10 @@ MainWindow::MainWindow(QWidget *parent)
         widget->setFocusPolicy(Qt::WheelFocus);
     }
     m_plotLayout = new QVBoxLayout(ui->scrollWidget);
-    m_openHint = new OpenHint(ui->scrollArea->viewport());
+    m_otherRecordings = new OtherRecordings(ui->scrollArea->viewport(), this);
+    // Later: what it was chosen from goes with the plots.
+    connect(m_otherRecordings, &OtherRecordings::chosen, this,
+        QOverload<const QString &>::of(&MainWindow::open), Qt::QueuedConnection);
 
     createActions();
     createMenus();

@@ -17,7 +17,7 @@
 class AddPlotterDialog;
 class CTVTDialog;
 class ElidingComboBox;
-class OpenHint;
+class OtherRecordings;
 class PackageUnpacker;
 class Plotter;
 class QCheckBox;
@@ -158,7 +158,7 @@ private:
     CTVTDialog *m_ctvtDialog = nullptr;
     SideWindows *m_sideWindows = nullptr;
     StatusField *m_statusField = nullptr;
-    OpenHint *m_openHint = nullptr; // seen while no recording is on screen
+    OtherRecordings *m_otherRecordings = nullptr;
     QTranslator *m_translator = nullptr;
     PackageUnpacker *m_unpacker = nullptr;
     QThread *m_loaderThread = nullptr;

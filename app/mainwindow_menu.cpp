@@ -5,6 +5,7 @@
 
 #include "mainwindow.h"
 
+#include "otherrecordings.h"
 #include "plotmenu.h"
 #include "plotter.h"
 #include "sidewindows.h"
@@ -31,6 +32,8 @@ void MainWindow::fillPlotMenu(QMenu &menu, Plotter &plot, const QPoint &point, i
     m_sideWindows->addTo(menu, plot);
     menu.addSeparator();
     addOutputs(menu, plot);
+    menu.addSeparator();
+    m_otherRecordings->addTo(menu);
 }
 
 // Events are processed after each plot: another recording may come, or the window go.

@@ -11,7 +11,7 @@
 #include "filekind.h"
 #include "filewarning.h"
 #include "loadinganimation.h"
-#include "openhint.h"
+#include "otherrecordings.h"
 #include "packageunpacker.h"
 #include "statusfield.h"
 
@@ -101,6 +101,7 @@ void MainWindow::sayNotOpened(const QString &path)
 
 void MainWindow::load(QString path)
 {
+    const QString asked = path;
     QFile tried(path); // only to see that it can be read; it stays open to the end
     if (isPipeOrDevice(path)) {
         showWarning(
@@ -113,8 +114,11 @@ void MainWindow::load(QString path)
     }
     if (isPackage(path) && !unpack(path))
         return;
-    if (isRecording(path) && !loadRecording(path))
-        return;
+    if (isRecording(path)) {
+        if (!loadRecording(path))
+            return;
+        m_otherRecordings->setShown(asked);
+    }
     setCurrentFile(path);
     statusBar()->showMessage(tr("File loaded"), messageDuration);
 }
@@ -144,7 +148,7 @@ bool MainWindow::loadRecording(const QString &path)
 {
     m_isComtrade = !isTextExport(path);
     const QPointer<QLabel> animation = newLoadingAnimation(this);
-    m_openHint->hide();
+    m_otherRecordings->leaveArea();
     clearView();
     if (!parse(path))
         return false;
@@ -156,7 +160,7 @@ bool MainWindow::loadRecording(const QString &path)
             ApplicationIdentity::applicationName() + QLatin1String(" - ") + asTitle(name));
         m_statusField->showFile(name);
     } else {
-        m_openHint->show();
+        m_otherRecordings->offerInArea();
         showWarning(tr("File not supported."),
             path + QLatin1Char('\n') + reasonText(m_cfgProperties->failure));
     }

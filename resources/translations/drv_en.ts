@@ -799,6 +799,25 @@ Please select another file.</translation>
         <source>Open a recording: File &gt; Open... (Ctrl+O), or drop a .cfg, .zip or .txt file here.</source>
         <translation>Open a recording: File &gt; Open... (Ctrl+O), or drop a .cfg, .zip or .txt file here.</translation>
     </message>
+    <message>
+        <source>Recent recordings:</source>
+        <translation>Recent recordings:</translation>
+    </message>
+</context>
+<context>
+    <name>OtherRecordings</name>
+    <message>
+        <source>Open &amp;Next in Folder</source>
+        <translation>Open &amp;Next in Folder</translation>
+    </message>
+    <message>
+        <source>Open &amp;Previous in Folder</source>
+        <translation>Open &amp;Previous in Folder</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Recordings</source>
+        <translation>&amp;Recent Recordings</translation>
+    </message>
 </context>
 <context>
     <name>PlotMenu</name>

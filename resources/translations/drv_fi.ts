@@ -799,6 +799,25 @@ Valitse toinen tiedosto.</translation>
         <source>Open a recording: File &gt; Open... (Ctrl+O), or drop a .cfg, .zip or .txt file here.</source>
         <translation>Avaa häiriötallenne: Tiedosto &gt; Avaa... (Ctrl+O), tai pudota .cfg-, .zip- tai .txt-tiedosto tähän.</translation>
     </message>
+    <message>
+        <source>Recent recordings:</source>
+        <translation>Viimeksi avatut tallenteet:</translation>
+    </message>
+</context>
+<context>
+    <name>OtherRecordings</name>
+    <message>
+        <source>Open &amp;Next in Folder</source>
+        <translation>Avaa kansion &amp;seuraava</translation>
+    </message>
+    <message>
+        <source>Open &amp;Previous in Folder</source>
+        <translation>Avaa kansion &amp;edellinen</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Recordings</source>
+        <translation>&amp;Viimeksi avatut tallenteet</translation>
+    </message>
 </context>
 <context>
     <name>PlotMenu</name>

@@ -799,6 +799,25 @@ Please select another file.</source>
         <source>Open a recording: File &gt; Open... (Ctrl+O), or drop a .cfg, .zip or .txt file here.</source>
         <translation>打开故障录波：文件(F) &gt; 打开(O)... (Ctrl+O)，或将 .cfg、.zip 或 .txt 文件拖放到此处。</translation>
     </message>
+    <message>
+        <source>Recent recordings:</source>
+        <translation>最近打开的录波：</translation>
+    </message>
+</context>
+<context>
+    <name>OtherRecordings</name>
+    <message>
+        <source>Open &amp;Next in Folder</source>
+        <translation>打开文件夹中的下一个(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Open &amp;Previous in Folder</source>
+        <translation>打开文件夹中的上一个(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Recent Recordings</source>
+        <translation>最近打开的录波(&amp;R)</translation>
+    </message>
 </context>
 <context>
     <name>PlotMenu</name>

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 Norvale
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "memoryfile.h"
+
+#include "filekind.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+namespace {
+
+QJsonObject contents()
+{
+    constexpr qint64 mostBytes = 1'000'000;
+    QFile file(memoryFilePath());
+    if (isPipeOrDevice(file.fileName()) || !file.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray bytes = file.read(mostBytes + 1);
+    return bytes.size() > mostBytes ? QJsonObject() : QJsonDocument::fromJson(bytes).object();
+}
+
+} // namespace
+
+QString memoryFilePath()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation)
+        + QLatin1String("/memory.json");
+}
+
+QJsonValue remembered(const QString &key)
+{
+    return contents().value(key);
+}
+
+void remember(const QString &key, const QJsonValue &value)
+{
+    const QString path = memoryFilePath();
+    if (isPipeOrDevice(path))
+        return;
+    QJsonObject kept = contents();
+    kept.insert(key, value);
+    QDir().mkpath(QFileInfo(path).path());
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return;
+    file.write(QJsonDocument(kept).toJson());
+    file.commit();
+}
