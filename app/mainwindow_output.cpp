@@ -50,12 +50,10 @@ void stylePlots(const QList<Plotter *> &plots, const QString &styleSheet)
         plot->setStyleSheet(styleSheet);
 }
 
-void styleCursorNames(const QList<Plotter *> &plots, const QString &styleSheet)
+void setForPaper(const QList<Plotter *> &plots, bool isForPaper)
 {
-    for (const Plotter *plot : plots) {
-        for (QLabel *name : plot->findChildren<QLabel *>(QStringLiteral("lineLabel")))
-            name->setStyleSheet(styleSheet);
-    }
+    for (Plotter *plot : plots)
+        plot->setForPaper(isForPaper);
 }
 
 // Hides the line that follows the pointer, with its time; what was hidden.
@@ -159,12 +157,12 @@ QPixmap MainWindow::report()
 {
     const ReportPicture report(
         *m_cfgProperties, QFileInfo(windowFilePath()).fileName(), m_analogPlotter->cursors());
-    styleCursorNames(plots(), cursorNamePaperStyle);
+    setForPaper(plots(), true);
     const QList<QWidget *> pointer = hidePointer(plots());
     const QPixmap picture = report.around(capture(CaptureTarget::File, QString()), font());
     for (QWidget *widget : pointer)
         widget->show();
-    styleCursorNames(plots(), cursorNameStyle);
+    setForPaper(plots(), false);
     stylePlots(plots(), screenStyle);
     return picture;
 }

@@ -93,6 +93,13 @@ void CursorMarks::clear()
     m_cursors.clear();
 }
 
+void CursorMarks::setForPaper(bool isForPaper)
+{
+    m_isForPaper = isForPaper;
+    for (const Cursor &cursor : m_cursors)
+        cursor.label->setStyleSheet(isForPaper ? cursorNamePaperStyle : cursorNameStyle);
+}
+
 void CursorMarks::number()
 {
     int i = 0;
@@ -207,8 +214,10 @@ void CursorMarks::paintDifferences(
         painter.fillRect(difference.line & geometry.area(), markColor);
         if (difference.place.isNull())
             continue;
-        painter.setPen(shadowColor);
-        painter.drawText(difference.place.translated(1, 1), Qt::AlignCenter, difference.text);
+        if (!m_isForPaper) {
+            painter.setPen(shadowColor);
+            painter.drawText(difference.place.translated(1, 1), Qt::AlignCenter, difference.text);
+        }
         painter.setPen(markColor);
         painter.drawText(difference.place, Qt::AlignCenter, difference.text);
     }

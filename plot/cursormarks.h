@@ -41,6 +41,8 @@ public:
     void move(int cursor, double time) { m_cursors.at(static_cast<size_t>(cursor)).time = time; }
     void remove(int cursor); // nothing where there is no such cursor
     void clear();
+    // For a picture for paper names have another style and texts no shadow, which would smear them.
+    void setForPaper(bool isForPaper);
 
     // Sets lines and labels to their places in a view. Those out of view are hidden. A label stands
     // right of its line; one that would leave the plot area there stands left of it, and so does
@@ -75,4 +77,5 @@ private:
 
     QWidget *m_plot;
     std::vector<Cursor> m_cursors;
+    bool m_isForPaper = false;
 };

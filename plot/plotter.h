@@ -26,9 +26,8 @@ class QLabel;
 // Shows analog channels of a recording as waveforms or spectra against time. A plot paints into two
 // pixmaps, the base layer (grid, traces, readout) and the overlay (cursors); a repaint only copies
 // them. All plots of a window are linked: zooms, cursors and the time line of one are repeated by
-// the others that are on screen; one that is hidden follows when it is shown. Channel numbers count
-// from 0; numbers from the count of analog channels on stand for the spectrum of channel
-// (number - count).
+// the others on screen; one that is hidden follows when it is shown. Channel numbers count from 0;
+// from the count of analog channels on they stand for the spectrum of channel (number - count).
 class Plotter : public QWidget, public MouseMoveReceiver {
     Q_OBJECT
     Q_INTERFACES(MouseMoveReceiver)
@@ -82,6 +81,7 @@ public:
     // The time difference of the last neighbouring pair of cursors, ms; 0 with fewer than two.
     double pairDifference() const { return m_marks.cursors.pairDifference(); }
     void clearCursors();
+    void setForPaper(bool isForPaper); // the cursors, for a picture or again for the screen
     QWidget *lastTabStop() const { return m_marks.cursors.lastTabStop(); } // of the plot
     // The sample times of the recording as of the last setupPlot().
     const TimeAxis &sampleTimes() const { return m_timeAxis; }

@@ -82,6 +82,12 @@ void Plotter::clearCursors()
     m_marks.cursors.clear();
 }
 
+void Plotter::setForPaper(bool isForPaper)
+{
+    m_marks.cursors.setForPaper(isForPaper);
+    refreshOverlay();
+}
+
 void Plotter::refreshOverlay()
 {
     const PlotGeometry geometry = geometryOfView();

@@ -435,6 +435,35 @@ private slots:
         }
     }
 
+    // On white they would run into the letters. Other pictures have them.
+    void timeDifferencesHaveNoShadowInAReport()
+    {
+        Plotter *plot = plotNamed(QStringLiteral("Analog"));
+        plot->addCursorAt(10);
+        plot->addCursorAt(25);
+        const auto shadows = [](const QImage &picture, int from) {
+            int found = 0;
+            for (int y = from; y < picture.height(); ++y) {
+                for (int x = 0; x < picture.width(); ++x)
+                    found += picture.pixel(x, y) == qRgb(80, 80, 80) ? 1 : 0;
+            }
+            return found;
+        };
+        const int above = 20 + 3 * window->fontMetrics().lineSpacing();
+        const QRect texts(100, 40, plot->width() - 200, 24);
+        const QImage before = plot->grab(texts).toImage();
+        for (int time = 0; time < 2; ++time) {
+            QVERIFY(choose(plot, QStringLiteral("Copy Picture with Heading")));
+            const QImage report = QGuiApplication::clipboard()->image();
+            QCOMPARE(
+                shadows(report.copy(0, 0, report.width(), above + plotColumn()->height()), above),
+                0);
+            QCOMPARE(plot->grab(texts).toImage(), before);
+            trigger("&Copy to clipboard");
+            QVERIFY(shadows(QGuiApplication::clipboard()->image(), 0) > 40);
+        }
+    }
+
     void aReportIsSavedWithItsHeading()
     {
         Plotter *plot = plotNamed(QStringLiteral("Digital"));
