@@ -18,6 +18,17 @@ Harmonics harmonicsOf(const QList<double> &values)
     return harmonics;
 }
 
+bool hasBlue(const QImage &picture, const QRect &place)
+{
+    for (int x = place.left(); x <= place.right(); ++x) {
+        for (int y = place.top(); y <= place.bottom(); ++y) {
+            if (picture.pixelColor(x, y) == blue)
+                return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 class TestHarmonicBars : public QObject {
@@ -109,7 +120,7 @@ void TestHarmonicBars::withoutHarmonicsThereIsAText()
     QVERIFY(bars.grab().toImage() != empty);
     bars.setHarmonics(harmonicsOf({0, 0}), QString()); // a dead channel
     QVERIFY(bars.bar(1).isNull());
-    QVERIFY(!bars.grab().isNull());
+    QVERIFY(!hasBlue(bars.grab().toImage(), bars.rect()));
 }
 
 void TestHarmonicBars::whatIsNotFiniteHasNoBar()
@@ -120,7 +131,9 @@ void TestHarmonicBars::whatIsNotFiniteHasNoBar()
     QVERIFY(bars.bar(1).height() > 0);
     QVERIFY(bars.bar(2).isNull());
     QVERIFY(bars.bar(3).isNull());
-    QVERIFY(!bars.grab().isNull());
+    const QImage picture = bars.grab().toImage();
+    QVERIFY(hasBlue(picture, bars.bar(1)));
+    QVERIFY(!hasBlue(picture, QRect(QPoint(bars.bar(1).right() + 1, 0), QPoint(461, 299))));
 }
 
 QTEST_MAIN(TestHarmonicBars)
