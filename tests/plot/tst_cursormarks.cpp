@@ -55,6 +55,7 @@ private slots:
     void aPairOutOfViewHasNoText();
     void textsKeepClearOfTheTitle_data();
     void textsKeepClearOfTheTitle();
+    void textsHaveAShadow();
     void linesAreSeenAtEveryFactor_data();
     void linesAreSeenAtEveryFactor();
     void labelsAtTheRightEndKeepTheirOrder_data();
@@ -210,6 +211,34 @@ void TestCursorMarks::textsKeepClearOfTheTitle()
         QCOMPARE(place.left(), 170);
     else if (!place.isNull())
         QCOMPARE(place, marks.differences(pixels, metrics, {}).first().place);
+}
+
+// One pixel right of and one below each pixel of the letters, as far as no letter stands there.
+void TestCursorMarks::textsHaveAShadow()
+{
+    add({200, 400});
+    font.setStyleStrategy(QFont::NoAntialias);
+    for (const bool isForPaper : {false, true, false}) {
+        marks.setForPaper(isForPaper);
+        QImage image(pixels.widgetSize(), QImage::Format_RGB32);
+        image.fill(Qt::black);
+        QPainter painter(&image);
+        painter.setFont(font);
+        marks.paintDifferences(painter, pixels, {});
+        painter.end();
+        const QRgb mark = qRgb(255, 250, 80);
+        const QRgb shadow = qRgb(80, 80, 80);
+        int shadows = 0;
+        for (int y = 41; y < 60; ++y) {
+            for (int x = 350; x < 450; ++x) {
+                const bool isBehind
+                    = image.pixel(x - 1, y - 1) == mark && image.pixel(x, y) != mark;
+                QCOMPARE(image.pixel(x, y) == shadow, isBehind && !isForPaper);
+                shadows += isBehind ? 1 : 0;
+            }
+        }
+        QVERIFY(shadows > 20);
+    }
 }
 
 void TestCursorMarks::linesAreSeenAtEveryFactor_data()

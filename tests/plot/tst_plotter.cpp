@@ -83,9 +83,12 @@ private slots:
     void resetShowsTheFullViewAgain();
     void zoomInRefreshesAllPlotsOnce();
     void zoomOutAtLevelZeroDoesNothing();
-    void refreshSlotRefreshesThisPlotOnly();
+    void someSlotsRefreshThisPlotOnly_data();
+    void someSlotsRefreshThisPlotOnly();
 
     void scrollBarIsRangedAfterAZoom();
+    void theScrollBarGoesBeyondTwiceTheDuration_data();
+    void theScrollBarGoesBeyondTwiceTheDuration();
     void scrollingMovesByThePosition();
     void scrollingToTheLastPositionDoesNothing();
 
@@ -382,10 +385,18 @@ void TestPlotter::zoomOutAtLevelZeroDoesNothing()
     QCOMPARE(other->refreshes, 0);
 }
 
-void TestPlotter::refreshSlotRefreshesThisPlotOnly()
+void TestPlotter::someSlotsRefreshThisPlotOnly_data()
 {
+    QTest::addColumn<QByteArray>("slot");
+    for (const char *slot : {"refreshSlot", "zoomIn2"})
+        QTest::newRow(slot) << QByteArray(slot);
+}
+
+void TestPlotter::someSlotsRefreshThisPlotOnly()
+{
+    QFETCH(QByteArray, slot);
     const int before = host->vectorRefreshes;
-    plot->refreshSlot();
+    QVERIFY(QMetaObject::invokeMethod(plot, slot.constData()));
     QCOMPARE(plot->refreshes, 1);
     QCOMPARE(other->refreshes, 0);
     QCOMPARE(host->vectorRefreshes, before + 1);
@@ -411,6 +422,24 @@ void TestPlotter::scrollBarIsRangedAfterAZoom()
     QCOMPARE(host->bar->maximum(), 33);
     QCOMPARE(host->bar->value(), 4);
     QVERIFY(moved.isEmpty());
+}
+
+void TestPlotter::theScrollBarGoesBeyondTwiceTheDuration_data()
+{
+    QTest::addColumn<int>("duration");
+    QTest::addColumn<int>("last"); // of intervals of 100 ms, from 500 ms on
+    QTest::newRow("to the hundred and 100 ms more") << 1000 << 16;
+    QTest::newRow("rounded down to it") << 1049 << 16;
+    QTest::newRow("the next hundred") << 1050 << 17;
+}
+
+void TestPlotter::theScrollBarGoesBeyondTwiceTheDuration()
+{
+    QFETCH(int, duration);
+    host->source->durationMs = duration;
+    host->bar->setRange(0, 0);
+    plot->customZoomIn();
+    QTEST(host->bar->maximum(), "last");
 }
 
 void TestPlotter::scrollingMovesByThePosition()

@@ -42,6 +42,7 @@ private slots:
     void theTimeLabelLeavesTheBorder_data();
     void theTimeLabelLeavesTheBorder();
     void theTimeLineLetsTheMouseThrough();
+    void theTimeLineStandsBelowAllElse();
     void aDoubleClickSetsACursorAtOneTimeInAllPlots();
     void atMostTwentyCursors();
     void noTimeDifferenceForOneCursor();
@@ -227,6 +228,18 @@ void TestPlotterCursors::theTimeLineLetsTheMouseThrough()
     PlotPair::move(pair->plot, {450, 100});
     QVERIFY(!pair->plot->childAt(450, 100));
     QVERIFY(!pair->plot->childAt(470, 50));
+}
+
+void TestPlotterCursors::theTimeLineStandsBelowAllElse()
+{
+    PlotPair::move(pair->plot, {450, 100});
+    QStringList names; // from the lowest
+    for (const QObject *child : pair->plot->children()) {
+        if (child->isWidgetType())
+            names.append(child->objectName());
+    }
+    QCOMPARE(
+        names.mid(0, 2), QStringList({QStringLiteral("timelabel"), QStringLiteral("timeline")}));
 }
 
 void TestPlotterCursors::aDoubleClickSetsACursorAtOneTimeInAllPlots()
@@ -533,6 +546,7 @@ void TestPlotterCursors::aDraggedLabelMovesTheCursorEverywhere()
     const QPoint grip = label->geometry().center();
     const int refreshes = pair->host.vectorRefreshes;
     QTest::mousePress(pair->digital, Qt::LeftButton, {}, grip);
+    QVERIFY(pair->digital->cursor().shape() != Qt::CrossCursor); // no band begins
     PlotPair::move(label, label->mapFromParent(QPoint(450, 80)), Qt::LeftButton);
     QCOMPARE(pair->digital->cursors().first(), 500.0);
     QCOMPARE(pair->plot->cursors().first(), 500.0);
@@ -789,8 +803,9 @@ void TestPlotterCursors::saveMarkers()
 void TestPlotterCursors::saveMarkersAreCutToWholeMilliseconds()
 {
     pair->plot->setStartPoint(12.9);
-    const auto *marker = pair->plot->findChild<QFrame *>(QStringLiteral("startMarker"));
-    QCOMPARE(marker->x(), 100 + 8); // 12 ms; 12.9 ms would be at 109
+    pair->plot->setEndPoint(12.9);
+    for (const QString &name : {QStringLiteral("startMarker"), QStringLiteral("endMarker")})
+        QCOMPARE(pair->plot->findChild<QFrame *>(name)->x(), 100 + 8); // 12.9 ms would be at 109
 }
 
 void TestPlotterCursors::zeroIsATimeOfAMarker()

@@ -5,6 +5,8 @@
 #include "textsearch.h"
 
 #include <QProcess>
+#include <QProxyStyle>
+#include <QStyleOptionFocusRect>
 #include <QtTest>
 
 #include <cmath>
@@ -50,6 +52,19 @@ public:
         Plotter::drawValueTable(painter);
     }
     QStringList passes;
+};
+
+// Keeps what focus frames are asked to stand on.
+class FrameStyle : public QProxyStyle {
+public:
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+        const QWidget *widget) const override
+    {
+        if (const auto *frame = qstyleoption_cast<const QStyleOptionFocusRect *>(option))
+            grounds.append(frame->backgroundColor);
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+    mutable QVector<QColor> grounds;
 };
 
 // The layers of a plot, without its labels and lines.
@@ -110,6 +125,8 @@ private slots:
     void cellsOutsideTheRecordingAreEmpty_data();
     void cellsOutsideTheRecordingAreEmpty();
     void draggingACursorDrawsNoBaseLayer();
+
+    void theFocusHasAFrame();
 
     void hairLine();
     void hairLineAtTwiceTheScale();
@@ -585,6 +602,27 @@ void TestPlotterDrawing::draggingACursorDrawsNoBaseLayer()
     QVERIFY(plot->passes.isEmpty());
     QTest::mouseRelease(plot, Qt::LeftButton, {}, {400, 100});
     QCOMPARE(plot->passes.count(QStringLiteral("grid")), 1);
+}
+
+void TestPlotterDrawing::theFocusHasAFrame()
+{
+    show({});
+    auto *style = new FrameStyle;
+    style->setParent(plot);
+    plot->setStyle(style);
+    QPalette palette = plot->palette();
+    palette.setColor(QPalette::Dark, QColor(1, 2, 3));
+    plot->setPalette(palette);
+    for (int twice = 0; twice < 2; ++twice) {
+        plot->clearFocus();
+        style->grounds.clear();
+        plot->grab();
+        QVERIFY(style->grounds.isEmpty());
+        plot->setFocus();
+        plot->grab();
+        QVERIFY(!style->grounds.isEmpty());
+        QCOMPARE(style->grounds.constLast(), QColor(1, 2, 3));
+    }
 }
 
 // A trace is one pixel of the screen wide, whatever the scale factor; at value 6 it stands at

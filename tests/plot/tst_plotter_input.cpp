@@ -65,6 +65,7 @@ private slots:
     void aFineWheelStepStillRepaints();
     void plainWheelActsOnOnePlot();
     void keysBeforeThePointerCameDoNotCount();
+    void theLastKeyCounts();
 
     void keys_data();
     void keys();
@@ -209,9 +210,17 @@ void TestPlotterInput::theBandIsDrawnWhileItGrows()
     QTest::mousePress(pair->plot, Qt::LeftButton, {}, {300, 100});
     PlotPair::move(pair->plot, {600, 200}, Qt::LeftButton);
     const QRgb light = pair->plot->palette().light().color().rgb();
-    QImage image = pair->plot->grab().toImage();
-    QCOMPARE(image.pixel(300, 150), light);
-    QCOMPARE(image.pixel(450, 100), light);
+    const auto expectFrame = [&](const QRect &frame) {
+        const QImage image = pair->plot->grab().toImage();
+        for (int x = frame.left() - 3; x <= frame.right() + 3; ++x)
+            QCOMPARE(image.pixel(x, 150) == light, x == frame.left() || x == frame.right());
+        for (int y = frame.top() - 3; y <= frame.bottom() + 3; ++y)
+            QCOMPARE(image.pixel(450, y) == light, y == frame.top() || y == frame.bottom());
+    };
+    expectFrame(QRect(QPoint(300, 100), QPoint(600, 200)));
+    PlotPair::move(pair->plot, {302, 199}, Qt::LeftButton);
+    PlotPair::move(pair->plot, {600, 203}, Qt::LeftButton);
+    expectFrame(QRect(QPoint(300, 100), QPoint(600, 203)));
     QTest::mouseRelease(pair->plot, Qt::LeftButton, {}, {301, 101});
 }
 
@@ -443,6 +452,22 @@ void TestPlotterInput::keysBeforeThePointerCameDoNotCount()
     QCOMPARE(ends(pair->plot->view()), Ends({0, 1000, -12, 12}));
 }
 
+// Until any key is released, as another one that is still held is not known.
+void TestPlotterInput::theLastKeyCounts()
+{
+    hold(Qt::Key_Control);
+    hold(Qt::Key_Shift);
+    PlotPair::wheel(pair->plot, {0, 120});
+    QCOMPARE(ends(pair->plot->view()), Ends({0, 1000, -6, 6}));
+    hold(Qt::Key_A);
+    PlotPair::wheel(pair->plot, {0, 120});
+    QCOMPARE(ends(pair->plot->view()), Ends({0, 1000, -5, 7}));
+    hold(Qt::Key_Control);
+    QTest::keyRelease(pair->plot, Qt::Key_A);
+    PlotPair::wheel(pair->plot, {0, -120});
+    QCOMPARE(ends(pair->plot->view()), Ends({0, 1000, -6, 6}));
+}
+
 void TestPlotterInput::keys_data()
 {
     QTest::addColumn<int>("key");
@@ -467,8 +492,10 @@ void TestPlotterInput::keys()
 
 void TestPlotterInput::arrowsTurnTheScrollBar()
 {
+    const int refreshes = pair->host.vectorRefreshes;
     QTest::keyClick(pair->plot, Qt::Key_Right);
     QCOMPARE(pair->host.bar->value(), 1);
+    QCOMPARE(pair->host.vectorRefreshes, refreshes + 1); // of this plot, though it did not move
     QTest::keyClick(pair->plot, Qt::Key_Right);
     QCOMPARE(pair->host.bar->value(), 2);
     QTest::keyClick(pair->plot, Qt::Key_Left);

@@ -380,8 +380,6 @@ void TestPlotterLinked::actAtRandom(Plotter *plot, std::mt19937 &random)
     }
 }
 
-// All that moves the time but for the plain wheel, which is one plot's own.
-
 // What leads back to the very same views at once: other values, another size, out of sight.
 void TestPlotterLinked::goThereAndBack(Plotter *plot, std::mt19937 &random)
 {

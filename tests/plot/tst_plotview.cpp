@@ -43,6 +43,7 @@ private slots:
     void theFirstHomeIsShown();
     void anotherHomeKeepsTheTimeAndShowsAllValues();
     void eachZoomInHalvesTheTimeAgain();
+    void aZoomGoesByTheEndOfTheWhole();
     void zoomsOfTheValues();
     void aZoomOfTheValuesKeepsTheCentreOfAMovedView();
     void zoomsWithoutEndKeepAUsableView_data();
@@ -110,6 +111,20 @@ void TestPlotView::eachZoomInHalvesTheTimeAgain()
         QCOMPARE(view.live().maxX, maxX);
     }
     QCOMPARE(view.timeZoom(), 0.0625);
+}
+
+// Where the whole does not begin at 0 the span is not halved: half of 105 from 70 on is 122.5, in
+// steps of 10. A band's share is of the span of the whole, 35.
+void TestPlotView::aZoomGoesByTheEndOfTheWhole()
+{
+    PlotView view;
+    view.setHome(72.5, 105, tenAmperes);
+    QCOMPARE(ends(view.home()), Ends({70, 105, 7, -12, 12, 8}));
+    QVERIFY(view.zoomTime(0.5));
+    QCOMPARE(ends(view.live()), Ends({70, 130, 6, -12, 12, 8}));
+    view.reset();
+    QVERIFY(view.zoomToBand(QRect(QPoint(190, 100), QPoint(540, 150)), {800, 300}, false));
+    QCOMPARE(rounded(view.timeZoom()), 0.5);
 }
 
 void TestPlotView::zoomsOfTheValues()
