@@ -9,6 +9,7 @@
 #include "brand.h"
 #include "cfgproperties.h"
 #include "ctvtdialog.h"
+#include "elidinglist.h"
 #include "otherrecordings.h"
 #include "packageunpacker.h"
 #include "plotvalues.h"
@@ -39,6 +40,8 @@ MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent), ui(std::make_unique<Ui::MainWindow>())
 {
     ui->setupUi(this);
+    for (QListWidget *list : {ui->listWidget, ui->listWidget2})
+        elideNames(*list);
     setStyleSheet(applicationStyleSheet());
     PlotValues::shared() = PlotValues();
 

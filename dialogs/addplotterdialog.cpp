@@ -4,6 +4,8 @@
 #include "addplotterdialog.h"
 
 #include "channelnames.h"
+#include "elidinglist.h"
+#include "labeltext.h"
 #include "ui_addplotterdialog.h"
 
 #include <QEvent>
@@ -22,6 +24,8 @@ AddPlotterDialog::AddPlotterDialog(QWidget *parent)
     : QDialog(parent), ui(std::make_unique<Ui::AddPlotterDialog>())
 {
     ui->setupUi(this);
+    for (QListWidget *list : {ui->listWidget_unSelected, ui->listWidget_Selected})
+        elideNames(*list);
     connect(ui->listWidget_unSelected, &QListWidget::itemDoubleClicked, ui->pushButton_add,
         &QPushButton::click);
     connect(ui->listWidget_Selected, &QListWidget::itemDoubleClicked, ui->pushButton_remove,
@@ -38,6 +42,7 @@ void AddPlotterDialog::setChannelNames(const QStringList &names)
     for (int i = 0; i < names.size(); ++i) {
         auto *item = new QListWidgetItem(shownName(names.at(i)), ui->listWidget_unSelected);
         item->setData(Qt::UserRole, i);
+        item->setToolTip(plainToolTip(item->text()));
     }
     // The earlier name stays, to be typed over.
     ui->lineEdit_graphName->setFocus();

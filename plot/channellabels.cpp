@@ -44,7 +44,7 @@ void ChannelLabels::show(const QVector<Entry> &entries)
     for (int i = 0; i < entries.size(); ++i) {
         const Entry &entry = entries.at(i);
         QLabel *label = m_labels.at(i);
-        const QString shown = metrics.elidedText(entry.text, Qt::ElideRight, share);
+        const QString shown = metrics.elidedText(entry.text, Qt::ElideMiddle, share);
         QPalette colors = label->palette();
         colors.setColor(label->foregroundRole(), entry.color);
         label->setPalette(colors);

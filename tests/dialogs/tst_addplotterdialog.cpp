@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QtTest>
 
 class TestAddPlotterDialog : public QObject {
@@ -28,6 +29,7 @@ private slots:
     void givesNamesOfEveryKind();
     void tellsEqualNamesApart();
     void givesWholeTheNamesThatItCuts();
+    void showsBothEndsOfLongNames();
     void acceptsAnEmptyChoice();
     void rejectsOnCancel();
     void keepsItsListsUntilNamesAreGivenAgain();
@@ -222,6 +224,34 @@ void TestAddPlotterDialog::givesWholeTheNamesThatItCuts()
     QTest::mouseClick(child<QPushButton>("pushButton_add"), Qt::LeftButton);
     QCOMPARE(dialog->selectedChannels(), QStringList({same + QLatin1Char('2')}));
     QCOMPARE(dialog->selectedNumbers(), QList<int>({1}));
+}
+
+// Each name differs from the next at one end; what of them does not differ looks the same.
+void TestAddPlotterDialog::showsBothEndsOfLongNames()
+{
+    const QString middle(300, QLatin1Char('m'));
+    const QStringList names{QStringLiteral("AA ") + middle + QStringLiteral(" ZZ"),
+        QStringLiteral("AA ") + middle + QStringLiteral(" YY"),
+        QStringLiteral("BB ") + middle + QStringLiteral(" YY")};
+    const auto *list = child<QListWidget>("listWidget_unSelected");
+    for (int twice = 0; twice < 2; ++twice) {
+        dialog->setChannelNames(names);
+        QCoreApplication::processEvents();
+        QVERIFY(!list->horizontalScrollBar()->isVisible());
+        const QImage image = dialog->grab().toImage();
+        const QPoint corner = list->viewport()->mapTo(dialog.get(), QPoint());
+        const auto row = [&](int i) {
+            return image.copy(list->visualItemRect(list->item(i)).translated(corner));
+        };
+        const int width = row(0).width();
+        const auto start = [&](int i) { return row(i).copy(0, 0, 20, 14); };
+        const auto end = [&](int i) { return row(i).copy(width / 2, 0, width / 2, 14); };
+        QCOMPARE(start(0), start(1));
+        QVERIFY(end(0) != end(1));
+        QVERIFY(start(1) != start(2));
+        QCOMPARE(list->item(1)->toolTip(), names.at(1));
+        dialog->resize(dialog->width() + 100, dialog->height());
+    }
 }
 
 void TestAddPlotterDialog::acceptsAnEmptyChoice()

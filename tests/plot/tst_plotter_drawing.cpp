@@ -108,6 +108,7 @@ private slots:
     void eachReferenceShowsItsOwnAngle();
     void changedSeriesAreDrawnAgain();
     void coloursFollowTheTable();
+    void longNamesShowBothEnds();
     void spectrumColours_data();
     void spectrumColours();
 
@@ -334,6 +335,26 @@ void TestPlotterDrawing::coloursFollowTheTable()
         QCOMPARE(image.pixel(500, rows.at(i)), colorTable.at(i % 13));
         QCOMPARE(labels.at(i)->palette().color(labels.at(i)->foregroundRole()).rgb(),
             colorTable.at(i % 13));
+    }
+}
+
+// 803 - 180 pixels are too few for six of these names.
+void TestPlotterDrawing::longNamesShowBothEnds()
+{
+    QList<int> channels;
+    for (int i = 0; i < 6; ++i) {
+        addChannel(QStringLiteral("Current of the northern feeder %1").arg(i), float(i));
+        channels.append(i);
+    }
+    show(channels);
+    const QList<QLabel *> labels = plot->findChildren<QLabel *>(QStringLiteral("channelLabel"));
+    QCOMPARE(labels.size(), 6);
+    for (int i = 0; i < 6; ++i) {
+        const QString text = labels.at(i)->text();
+        QVERIFY2(text.startsWith(QLatin1String("Cur")), qPrintable(text));
+        QVERIFY2(text.endsWith(QStringLiteral("%1(A)").arg(i)), qPrintable(text));
+        QVERIFY(labels.at(i)->toolTip().startsWith(
+            QStringLiteral("Current of the northern feeder %1(A)").arg(i)));
     }
 }
 
