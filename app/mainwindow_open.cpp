@@ -71,6 +71,13 @@ QString reasonText(CFGProperties::Failure failure)
     return QString();
 }
 
+// Binary data, a type word that is not at its place, and single files.
+bool canBeConverted(const QString &path, CFGProperties::Failure failure)
+{
+    return failure == CFGProperties::Failure::NotAscii
+        || path.endsWith(QLatin1String(".cff"), Qt::CaseInsensitive);
+}
+
 } // namespace
 
 void MainWindow::open()
@@ -161,8 +168,11 @@ bool MainWindow::loadRecording(const QString &path)
         m_statusField->showFile(name);
     } else {
         m_otherRecordings->offerInArea();
-        showWarning(tr("File not supported."),
-            path + QLatin1Char('\n') + reasonText(m_cfgProperties->failure));
+        const CFGProperties::Failure failure = m_cfgProperties->failure;
+        QStringList details{path, reasonText(failure)};
+        if (canBeConverted(path, failure))
+            details.append(tr("wavorin-convert turns it into a recording that opens."));
+        showWarning(tr("File not supported."), details.join(QLatin1Char('\n')));
     }
     if (animation)
         animation->close();

@@ -510,6 +510,10 @@ Please select another file.</translation>
         <translation>There is too little memory for it.</translation>
     </message>
     <message>
+        <source>wavorin-convert turns it into a recording that opens.</source>
+        <translation>wavorin-convert turns it into a recording that opens.</translation>
+    </message>
+    <message>
         <source>Copy Picture with Heading</source>
         <translation>Copy Picture with Heading</translation>
     </message>

@@ -510,6 +510,10 @@ Valitse toinen tiedosto.</translation>
         <translation>Muisti ei riitä siihen.</translation>
     </message>
     <message>
+        <source>wavorin-convert turns it into a recording that opens.</source>
+        <translation>wavorin-convert muuntaa sen häiriötallenteeksi, joka avautuu.</translation>
+    </message>
+    <message>
         <source>Copy Picture with Heading</source>
         <translation>Kopioi kuva otsikoineen</translation>
     </message>

@@ -510,6 +510,10 @@ Please select another file.</source>
         <translation>内存不足，无法打开。</translation>
     </message>
     <message>
+        <source>wavorin-convert turns it into a recording that opens.</source>
+        <translation>wavorin-convert 可将其转换为能打开的故障录波。</translation>
+    </message>
+    <message>
         <source>Copy Picture with Heading</source>
         <translation>复制带标题的图片</translation>
     </message>

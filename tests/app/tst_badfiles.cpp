@@ -103,7 +103,8 @@ private slots:
         QTest::addColumn<QString>("reason");
         const QString noFile = QStringLiteral("There is no data file (.dat) beside it.");
         const QString noSample = QStringLiteral("Its data file holds no sample.");
-        const QString notAscii = QStringLiteral("Its data are not ASCII.");
+        const QString notAscii = QStringLiteral(
+            "Its data are not ASCII.\nwavorin-convert turns it into a recording that opens.");
         QTest::newRow("no data file") << smallConfiguration() << QByteArray() << noFile;
         QTest::newRow("empty configuration, empty data")
             << QByteArray("") << QByteArray("") << noSample;
@@ -114,6 +115,8 @@ private slots:
             << QByteArray(5000, '\0') << QByteArray(5000, '\xff') << noSample;
         QTest::newRow("binary data")
             << smallConfiguration().replace("ASCII", "BINARY") << QByteArray(160, '\0') << notAscii;
+        QTest::newRow("real numbers") << smallConfiguration().replace("ASCII", "FLOAT32")
+                                      << QByteArray(160, '\0') << notAscii;
     }
 
     void unsupportedFile()
@@ -147,6 +150,23 @@ private slots:
         QCOMPARE(listed("listWidget").size(), 2);
         QVERIFY(recordingActionsEnabled());
         QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - after.cfg"));
+    }
+
+    // What holds all in one has no data file beside it.
+    void singleFile()
+    {
+        for (const char *name : {"single.cfg.cff", "SINGLE.CFG.CFF"}) {
+            const QString single = path(name);
+            QVERIFY(writeTextFile(single, "--- file type: CFG ---\r\n" + smallConfiguration()));
+            window->open(single);
+            const QList<BoxReader::Box> seen = boxes->take();
+            QCOMPARE(seen.size(), 1);
+            QCOMPARE(seen[0].text, QStringLiteral("File not supported."));
+            QCOMPARE(seen[0].details,
+                single
+                    + QStringLiteral("\nThere is no data file (.dat) beside it."
+                                     "\nwavorin-convert turns it into a recording that opens."));
+        }
     }
 
     // This process's own memory looks like a file, and its first bytes cannot be read.
