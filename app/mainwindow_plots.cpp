@@ -237,6 +237,9 @@ void MainWindow::setColumnHeight()
     const int analogPlots = 1 + m_addedPlotters.size();
     ui->scrollWidget->setMinimumHeight(
         rows > smallestPlotHeight ? rows + analogPlots * scrolledPlotHeight : 0);
+    // The column would lay out the plots in its old size first, and each would be drawn twice.
+    QEvent request(QEvent::LayoutRequest);
+    QCoreApplication::sendEvent(ui->scrollArea, &request);
 }
 
 // A selection changes by clicks, but also by keys and by dragging over the rows; whatever brings
@@ -324,13 +327,13 @@ void MainWindow::addPlot(const QString &name, const QList<int> &numbers)
         = m_addedPlotters.isEmpty() ? m_analogPlotter : m_addedPlotters.constLast();
     setTabOrder(above->lastTabStop(), plot);
     m_addedPlotters.append(plot);
-    setColumnHeight();
     linkPlots();
 
     for (const int number : numbers)
         plot->addChannel(number);
     plot->setupPlot();
     plot->show(); // at the time of any plot on screen, which may not be that of the first
+    setColumnHeight();
     plot->followFromNowOn(*m_analogPlotter);
     plot->refreshPixmap();
 

@@ -7,6 +7,23 @@
 #include <QLabel>
 #include <QScrollBar>
 
+namespace {
+
+// How often each widget has changed its size.
+class ResizeCounter : public QObject {
+public:
+    QMap<const QObject *, int> counts;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        counts[watched] += event->type() == QEvent::Resize ? 1 : 0;
+        return false;
+    }
+};
+
+} // namespace
+
 // Plots that the user composes, and their removal.
 class TestOwnPlots : public PlotsWindow {
     Q_OBJECT
@@ -42,6 +59,8 @@ private slots:
     void anAddedPlotScrollsWithTheOthers();
     void aRemovedPlotTakesItsReadoutAway();
     void anAddedPlotIsScrolledIntoView();
+    void aRemovalMovesTheOthersAtOnce_data();
+    void aRemovalMovesTheOthersAtOnce();
 
 private:
     // With a plot "Currents" beside the first one and the digital one.
@@ -385,6 +404,36 @@ void TestOwnPlots::anAddedPlotIsScrolledIntoView()
         compose({QStringLiteral("Ia")});
     const Plotter *newest = plot(QStringLiteral("Graph 4"));
     QCOMPARE(newest->visibleRegion().boundingRect().size(), newest->size());
+}
+
+void TestOwnPlots::aRemovalMovesTheOthersAtOnce_data()
+{
+    QTest::addColumn<QStringList>("rows"); // of the digital plot
+    QTest::newRow("few rows") << QStringList{QStringLiteral("D1")};
+    QStringList many;
+    for (int i = 1; i <= 30; ++i)
+        many.append(QStringLiteral("D%1a").arg(i));
+    QTest::newRow("many rows") << many;
+}
+
+// Each change of its size has a plot drawn again.
+void TestOwnPlots::aRemovalMovesTheOthersAtOnce()
+{
+    QFETCH(QStringList, rows);
+    open({QStringLiteral("Ia")}, rows);
+    for (int i = 0; i < 4; ++i)
+        compose({QStringLiteral("Ia")}); // the last two of them need a scroll bar
+    for (int left = 4; left > 2; --left) {
+        QCoreApplication::processEvents();
+        ResizeCounter counter;
+        for (Plotter *each : plots())
+            each->installEventFilter(&counter);
+        action("&Remove Plotter")->trigger();
+        QTest::qWait(20);
+        QCOMPARE(plots().size(), left + 1);
+        for (const Plotter *each : plots())
+            QVERIFY2(counter.counts.value(each) <= 1, qPrintable(each->name()));
+    }
 }
 
 QTEST_MAIN(TestOwnPlots)
