@@ -8,6 +8,7 @@
 #include "applicationsettings.h"
 #include "brand.h"
 #include "cfgproperties.h"
+#include "channelnames.h"
 #include "ctvtdialog.h"
 #include "elidinglist.h"
 #include "otherrecordings.h"
@@ -88,6 +89,7 @@ MainWindow::MainWindow(QWidget *parent)
         list->setLayoutMode(QListView::Batched);
         list->setBatchSize(1000);
     }
+    connect(&NameLetters::shared(), &NameLetters::changed, this, &MainWindow::showNames);
     setAcceptDrops(true);
     ui->listWidget->setFocus(); // not the first of the Tab order, which changes what is shown
 }

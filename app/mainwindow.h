@@ -125,6 +125,7 @@ private:
     void showWarning(const QString &text, const QString &details = {});
     void clearView();
     void showRecording();
+    void showNames(); // of the recording on screen, in the letters chosen
     void setCurrentFile(const QString &path);
 
     QPixmap capture(CaptureTarget target, const QString &caption);

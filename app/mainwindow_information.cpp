@@ -11,6 +11,7 @@
 #include "ctvtdialog.h"
 #include "elidingcombobox.h"
 #include "labeltext.h"
+#include "namesmenu.h"
 #include "numbers.h"
 #include "plotvalues.h"
 #include "savedialog.h"
@@ -29,35 +30,37 @@ namespace {
 
 enum class DateOrder { MonthFirst, DayFirst };
 
-QString shownText(const QString &text)
-{
-    return shownName(text.trimmed());
-}
-
 // Names may be longer than the room for them, so each tells itself in a tool tip, too. There may be
 // a hundred thousand: what the list need not hear of each is kept from it.
-template <typename Channel> void showNames(QListWidget &list, const QList<Channel *> &channels)
+template <typename Channel> void listNames(QListWidget &list, const QList<Channel *> &channels)
 {
     QStringList names;
     names.reserve(channels.size());
     for (const Channel *channel : channels)
-        names.append(shownText(channel->id));
-    list.addItems(names);
+        names.append(trimmedName(channel->id));
+    const bool isNew = list.count() == 0;
+    if (isNew)
+        list.addItems(names);
     const QSignalBlocker blocker(list.model());
-    for (int row = 0; row < names.size(); ++row)
+    for (int row = 0; row < names.size(); ++row) {
+        if (!isNew)
+            list.item(row)->setText(names.at(row));
         list.item(row)->setToolTip(plainToolTip(names.at(row)));
+    }
+    if (!isNew)
+        list.doItemsLayout(); // with other widths
 }
 
 void showName(QLabel &label, const QString &name)
 {
-    label.setText(shownText(name));
+    label.setText(trimmedName(name));
     label.setToolTip(plainToolTip(label.text()));
 }
 
 void showStamp(QLabel &date, QLabel &time, const QString &dateText, const QString &timeText)
 {
-    date.setText(shownText(dateText));
-    time.setText(shownText(timeText));
+    date.setText(trimmedName(dateText));
+    time.setText(trimmedName(timeText));
     date.setToolTip(QString());
     time.setToolTip(QString());
 }
@@ -84,7 +87,7 @@ void showStampAsLocal(
         ? MainWindow::tr("%1 %2 cannot be read as month/day/year and time of day")
         : MainWindow::tr("%1 %2 cannot be read as day/month/year and time of day");
     for (QLabel *label : {&date, &time})
-        label->setToolTip(plainToolTip(tip.arg(shownText(dateText), shownText(timeText))));
+        label->setToolTip(plainToolTip(tip.arg(trimmedName(dateText), trimmedName(timeText))));
 }
 
 void showTimesAsLocal(const Ui::MainWindow &ui, const CFGProperties &recording, DateOrder order)
@@ -131,6 +134,7 @@ void MainWindow::clearView()
 
 void MainWindow::showRecording()
 {
+    chooseLettersOf(*m_cfgProperties);
     m_hasRecording = true; // the plots read the recording while they are made
     QStringList ids;
     QStringList primaries;
@@ -140,13 +144,10 @@ void MainWindow::showRecording()
         primaries.append(generalText(channel->primary));
         secondaries.append(generalText(channel->secondary));
     }
-    showNames(*ui->listWidget, m_cfgProperties->analogChannels);
-    showNames(*ui->listWidget2, m_cfgProperties->digitalChannels);
+    showNames();
     ui->listWidget->setSelectionMode(QAbstractItemView::MultiSelection);
     ui->listWidget2->setSelectionMode(QAbstractItemView::MultiSelection);
 
-    showName(*ui->label4, m_cfgProperties->stationName);
-    showName(*ui->label5, m_cfgProperties->recordingDeviceId);
     if (m_localTimes)
         showTimesAsLocal(*ui, *m_cfgProperties, DateOrder::MonthFirst);
     else
@@ -155,6 +156,18 @@ void MainWindow::showRecording()
     enableRecordingActions(true);
     m_ctvtDialog->setChannels(ids, primaries, secondaries);
     m_sideWindows->setRecording(m_cfgProperties, m_analogPlotter);
+}
+
+// At the load and, in other letters, anew.
+void MainWindow::showNames()
+{
+    if (!m_hasRecording)
+        return;
+    listNames(*ui->listWidget, m_cfgProperties->analogChannels);
+    listNames(*ui->listWidget2, m_cfgProperties->digitalChannels);
+    showName(*ui->label4, m_cfgProperties->stationName);
+    showName(*ui->label5, m_cfgProperties->recordingDeviceId);
+    retranslatePlots();
 }
 
 // The load reads the month first, the check box the day first: the two differ on purpose.

@@ -5,6 +5,7 @@
 
 #include "mainwindow.h"
 
+#include "namesmenu.h"
 #include "otherrecordings.h"
 #include "plotmenu.h"
 #include "plotter.h"
@@ -32,6 +33,8 @@ void MainWindow::fillPlotMenu(QMenu &menu, Plotter &plot, const QPoint &point, i
     m_sideWindows->addTo(menu, plot);
     menu.addSeparator();
     addOutputs(menu, plot);
+    menu.addSeparator();
+    addNamesMenu(menu, *m_cfgProperties);
     menu.addSeparator();
     m_otherRecordings->addTo(menu);
 }

@@ -33,6 +33,7 @@ constexpr int largestPlotHeight = 1000;
 // What an analog plot gets where the column is taller than the window, so that it scrolls anyway.
 constexpr int scrolledPlotHeight = 320;
 constexpr char numberOfUnnamed[] = "numberOfUnnamed"; // property of a plot that was given no name
+constexpr char isNamedByUnit[] = "isNamedByUnit"; // of one with the name of its channels' unit
 const QString spectrumSuffix = QStringLiteral("_FFT");
 
 QStringList analogNames(const CFGProperties &recording)
@@ -122,7 +123,7 @@ void MainWindow::createPlots()
     const bool isSecondary = !m_cfgProperties->analogChannels.isEmpty()
         && m_cfgProperties->analogChannels.constFirst()->ps == QLatin1String("S");
     m_mode = isSecondary ? 1 : 0;
-    m_referenceCombo->setTexts(QStringList(QStringLiteral("-")) + names, 0);
+    m_referenceCombo->setNames(QStringList(QStringLiteral("-")) + names, 0);
 
     m_analogPlotter = new Plotter(ui->scrollWidget);
     m_analogPlotter->setMaximumHeight(largestPlotHeight);
@@ -166,6 +167,9 @@ void MainWindow::retranslatePlots()
         const int number = plot->property(numberOfUnnamed).toInt();
         if (number > 0)
             plot->setName(tr("Graph %1").arg(number));
+        else if (plot->property(isNamedByUnit).toBool())
+            plot->setName(
+                trimmedName(m_cfgProperties->analogUnits.value(plot->channels().value(0))));
     }
     m_primSecCombo->setTexts({tr("P"), tr("S"), tr("Per Unit")}, m_mode);
 }
@@ -320,6 +324,9 @@ void MainWindow::addPlot(const QString &name, const QList<int> &numbers)
     auto *plot = new Plotter(ui->scrollWidget);
     if (name.isEmpty())
         plot->setProperty(numberOfUnnamed, ++m_graphCount);
+    else
+        plot->setProperty(isNamedByUnit,
+            name == trimmedName(m_cfgProperties->analogUnits.value(numbers.value(0))));
     plot->setName(name.isEmpty() ? tr("Graph %1").arg(m_graphCount) : name);
     equip(plot);
     m_plotLayout->insertWidget(m_plotLayout->indexOf(m_digitalPlotter), plot);

@@ -82,12 +82,11 @@ void darkenForPaper(QImage &image)
 ReportPicture::ReportPicture(
     const CFGProperties &recording, const QString &fileName, const QList<double> &cursors)
 {
-    const auto shown = [](const QString &text) { return shownName(text.trimmed()); };
     const QString start
-        = tr("Start: %1 %2").arg(shown(recording.startDate), shown(recording.startTime));
+        = tr("Start: %1 %2").arg(trimmedName(recording.startDate), trimmedName(recording.startTime));
     const QString trigger = tr("Trigger at %1 ms").arg(recording.triggerOffsetMs);
     const QString gap(4, QLatin1Char(' '));
-    heading = QStringList{shown(recording.stationName) + gap + shown(recording.recordingDeviceId),
+    heading = QStringList{trimmedName(recording.stationName) + gap + trimmedName(recording.recordingDeviceId),
         fileName, start + gap + trigger};
     if (cursors.isEmpty())
         return;

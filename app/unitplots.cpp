@@ -34,7 +34,7 @@ QVector<UnitPlot> plotsByUnit(const CFGProperties &recording)
 {
     QVector<UnitPlot> plots;
     for (int i = 0; i < recording.analogChannels.size(); ++i) {
-        const QString unit = shownName(recording.analogUnits.value(i).trimmed());
+        const QString unit = trimmedName(recording.analogUnits.value(i));
         auto plot = std::find_if(
             plots.begin(), plots.end(), [&](const UnitPlot &other) { return other.unit == unit; });
         if (plot == plots.end())

@@ -47,6 +47,7 @@ CTVTDialog::CTVTDialog(QWidget *parent)
     const QScrollBar *bar = ui->scrollArea->verticalScrollBar();
     connect(bar, &QScrollBar::valueChanged, this, &CTVTDialog::makeRowsInSight);
     connect(bar, &QScrollBar::rangeChanged, this, &CTVTDialog::makeRowsInSight);
+    connect(&NameLetters::shared(), &NameLetters::changed, this, [this] { showNames(0); });
 }
 
 CTVTDialog::~CTVTDialog() = default;
@@ -65,7 +66,7 @@ void CTVTDialog::makeRows(int count)
     const int first = nameLabels.size();
     const int end = std::min(channelNames.size(), first + count);
     for (int i = first; i < end; ++i) {
-        nameLabels.append(new QLabel(shownName(channelNames.at(i)), this));
+        nameLabels.append(new QLabel(this));
         nameLabels.last()->setTextFormat(Qt::PlainText);
         primaryEdits.append(new QLineEdit(appliedPrimaries.value(i), this));
         secondaryEdits.append(new QLineEdit(appliedSecondaries.value(i), this));
@@ -73,17 +74,18 @@ void CTVTDialog::makeRows(int count)
         ui->gridLayout->addWidget(primaryEdits.last(), i + 1, 1);
         ui->gridLayout->addWidget(secondaryEdits.last(), i + 1, 2);
     }
-    nameEdits(first);
+    showNames(first);
     if (!secondaryEdits.isEmpty()) {
         setTabOrder(secondaryEdits.last(), ui->pushButton_Close);
         setTabOrder(secondaryEdits.last(), ui->pushButton_Set);
     }
 }
 
-void CTVTDialog::nameEdits(int first)
+void CTVTDialog::showNames(int first)
 {
     for (int i = first; i < nameLabels.size(); ++i) {
         const QString name = shownName(channelNames.at(i));
+        nameLabels.at(i)->setText(name);
         primaryEdits.at(i)->setAccessibleName(tr("%1, primary").arg(name));
         secondaryEdits.at(i)->setAccessibleName(tr("%1, secondary").arg(name));
     }
@@ -143,7 +145,7 @@ void CTVTDialog::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
-        nameEdits(0);
+        showNames(0);
     }
     QDialog::changeEvent(event);
 }

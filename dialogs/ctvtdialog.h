@@ -49,7 +49,7 @@ protected:
 private:
     void makeRows(int count);
     void makeRowsInSight();
-    void nameEdits(int first); // for screen readers, from a row on
+    void showNames(int first); // of the channels, to screen readers, too, from a row on
 
     // Of the rows that are made.
     QList<QLineEdit *> primaryEdits;

@@ -18,8 +18,14 @@ QString withoutShortcut(QString name)
 
 } // namespace
 
+ElidingCheckBox::ElidingCheckBox(QWidget *parent) : QCheckBox(parent)
+{
+    connect(&NameLetters::shared(), &NameLetters::changed, this, [this] { setName(m_readName); });
+}
+
 void ElidingCheckBox::setName(const QString &name)
 {
+    m_readName = name;
     m_name = shownName(name);
     setText(withoutShortcut(m_name));
     setToolTip(plainToolTip(m_name));

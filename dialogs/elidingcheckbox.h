@@ -11,14 +11,15 @@ class ElidingCheckBox : public QCheckBox {
     Q_OBJECT
 
 public:
-    using QCheckBox::QCheckBox;
+    explicit ElidingCheckBox(QWidget *parent = nullptr);
 
-    // The name is shown as it stands: an ampersand is no keyboard shortcut.
+    // The name of the file is shown in the letters chosen; an ampersand is no keyboard shortcut.
     void setName(const QString &name);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    QString m_name;
+    QString m_readName; // as the file has it
+    QString m_name; // as it is shown
 };

@@ -21,15 +21,32 @@ namespace {
 // Makes nothing of a text before it is asked for: there may be a hundred thousand.
 class Texts : public QStringListModel {
 public:
-    using QStringListModel::QStringListModel;
+    explicit Texts(QObject *parent) : QStringListModel(parent)
+    {
+        connect(&NameLetters::shared(), &NameLetters::changed, this, [this] {
+            if (m_areNames && rowCount() > 0)
+                emit dataChanged(index(0), index(rowCount() - 1), {Qt::DisplayRole});
+        });
+    }
+
+    void set(const QStringList &texts, bool areNames)
+    {
+        m_areNames = areNames;
+        setStringList(texts);
+    }
 
     QVariant data(const QModelIndex &index, int role) const override
     {
         if (role == Qt::UserRole)
             return QStringListModel::data(index, Qt::DisplayRole);
         const QVariant value = QStringListModel::data(index, role);
-        return role == Qt::DisplayRole ? shownName(value.toString()) : value;
+        if (role != Qt::DisplayRole)
+            return value;
+        return m_areNames ? shownName(value.toString()) : cutText(value.toString());
     }
+
+private:
+    bool m_areNames = false;
 };
 
 } // namespace
@@ -41,8 +58,18 @@ ElidingComboBox::ElidingComboBox(QWidget *parent) : QComboBox(parent)
 
 void ElidingComboBox::setTexts(const QStringList &texts, int current)
 {
+    set(texts, current, false);
+}
+
+void ElidingComboBox::setNames(const QStringList &names, int current)
+{
+    set(names, current, true);
+}
+
+void ElidingComboBox::set(const QStringList &texts, int current, bool areNames)
+{
     const QSignalBlocker blocker(this);
-    qobject_cast<QStringListModel *>(model())->setStringList(texts);
+    static_cast<Texts *>(model())->set(texts, areNames);
     setCurrentIndex(current);
 }
 

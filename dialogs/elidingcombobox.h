@@ -15,6 +15,8 @@ public:
 
     // Replaces the items without a signal. Each has its whole text as data, however it is shown.
     void setTexts(const QStringList &texts, int current);
+    // The same with names as the file has them, which are shown in the letters chosen.
+    void setNames(const QStringList &names, int current);
 
     void showPopup() override;
 
@@ -23,5 +25,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void set(const QStringList &texts, int current, bool areNames);
     QString elidedText() const;
 };

@@ -3,6 +3,7 @@
 
 #include "eventsdialog.h"
 
+#include "channelnames.h"
 #include "eventtable.h"
 #include "ui_eventsdialog.h"
 
@@ -27,6 +28,7 @@ EventsDialog::EventsDialog(QWidget *parent)
     columns->setSectionResizeMode(EventTable::Channel, QHeaderView::Stretch);
     connect(ui->tableView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         &EventsDialog::showSelected);
+    connect(&NameLetters::shared(), &NameLetters::changed, this, &EventsDialog::showNames);
     nameEntries();
 }
 
@@ -38,6 +40,15 @@ void EventsDialog::setRecording(const CFGProperties *recording)
     ui->comboBox_channel->setTexts({}, -1);
     nameEntries();
     ui->lineEdit_filter->clear(); // its button to clear it follows its signals
+}
+
+// A filter is of what is shown.
+void EventsDialog::showNames()
+{
+    m_table->showNames();
+    nameEntries();
+    if (!ui->lineEdit_filter->text().isEmpty())
+        setFilter();
 }
 
 // The first entry stands for all channels, the others for those that change.

@@ -45,6 +45,7 @@ private:
     void showSelected(const QItemSelection &selected);
     void setFilter();
     void nameEntries();
+    void showNames(); // anew, in other letters
     void copy(const QList<int> &rows);
     void chooseOutermost(bool isLast); // the first or the last row
 

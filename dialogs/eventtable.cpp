@@ -19,7 +19,7 @@ constexpr int portion = 10'000; // rows
 
 void EventTable::setRecording(const CFGProperties *recording)
 {
-    m_names.clear();
+    m_readNames.clear();
     m_changing.clear();
     m_runs.clear();
     m_times.clear();
@@ -29,7 +29,7 @@ void EventTable::setRecording(const CFGProperties *recording)
         m_start = readStart(recording->startTime);
         const QList<DigitalChannel *> &channels = recording->digitalChannels;
         for (int i = 0; i < channels.size(); ++i) {
-            m_names.append(shownName(channels.at(i)->id.trimmed()));
+            m_readNames.append(channels.at(i)->id);
             const DigitalRuns runs
                 = channels.at(i)->allZero ? DigitalRuns() : DigitalRuns(channels.at(i)->values);
             if (runs.count() < 2)
@@ -38,7 +38,17 @@ void EventTable::setRecording(const CFGProperties *recording)
             m_runs.append(runs);
         }
     }
+    showNames();
     restart([](int) { return true; });
+}
+
+void EventTable::showNames()
+{
+    m_names.clear();
+    for (const QString &name : qAsConst(m_readNames))
+        m_names.append(trimmedName(name));
+    if (!m_events.isEmpty())
+        emit dataChanged(index(0, Channel), index(m_events.size() - 1, Channel));
 }
 
 void EventTable::setFilter(int channel, const QString &text)

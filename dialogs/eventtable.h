@@ -30,6 +30,7 @@ public:
 
     // Null for none. Shows all of its channels.
     void setRecording(const CFGProperties *recording);
+    void showNames(); // anew, in other letters
     // Those that change, by their position among the digital channels, and all names.
     const QList<int> &changingChannels() const { return m_changing; }
     const QStringList &names() const { return m_names; }
@@ -74,7 +75,8 @@ private:
     bool isAtEnd() const { return m_queue.empty() && m_hasTrigger; }
     QString textAt(int row, Column column) const;
 
-    QStringList m_names; // of all digital channels
+    QStringList m_readNames; // of all digital channels, as the file has them
+    QStringList m_names; // as they are shown
     QList<int> m_changing;
     QVector<DigitalRuns> m_runs; // of these
     QVector<double> m_times;

@@ -23,21 +23,13 @@
 
 #include <algorithm>
 
-namespace {
-
-QString trimmedName(const QString &name)
-{
-    return shownName(name.trimmed());
-}
-
-} // namespace
-
 MeasurementsDialog::MeasurementsDialog(QWidget *parent)
     : QDialog(parent), ui(std::make_unique<Ui::MeasurementsDialog>()), m_timer(new QTimer(this))
 {
     ui->setupUi(this);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     m_timer->setSingleShot(true);
+    connect(&NameLetters::shared(), &NameLetters::changed, this, &MeasurementsDialog::showNames);
     connect(m_timer, &QTimer::timeout, this, &MeasurementsDialog::measure);
     for (QTableView *view : findChildren<QTableView *>())
         prepareTable(view);
@@ -120,6 +112,27 @@ void MeasurementsDialog::bringForward()
     activateWindow();
 }
 
+// Of the analog ones, behind the entry of none.
+QStringList MeasurementsDialog::channelNames() const
+{
+    QStringList names{QStringLiteral("-")};
+    const CFGProperties *recording = m_host && m_plotter ? m_host->recording() : nullptr;
+    if (recording) {
+        for (const AnalogChannel *channel : recording->analogChannels)
+            names.append(trimmedName(channel->id));
+    }
+    return names;
+}
+
+void MeasurementsDialog::showNames()
+{
+    const QStringList names = channelNames();
+    for (ElidingComboBox *box : {ui->comboBox_reference, ui->comboBox_phase1, ui->comboBox_phase2,
+             ui->comboBox_phase3, ui->comboBox_channel})
+        box->setTexts(names, box->currentIndex());
+    refresh();
+}
+
 void MeasurementsDialog::setSource(
     Plotter *source, const std::optional<QList<int>> &channels, int reference)
 {
@@ -127,12 +140,7 @@ void MeasurementsDialog::setSource(
     m_ownChannels = channels;
     m_traces.clear();
 
-    QStringList names{QStringLiteral("-")};
-    const CFGProperties *recording = m_host && source ? m_host->recording() : nullptr;
-    if (recording) {
-        for (const AnalogChannel *channel : recording->analogChannels)
-            names.append(trimmedName(channel->id));
-    }
+    const QStringList names = channelNames();
     QList<int> firsts; // of the analog channels
     if (channels)
         firsts = *channels;

@@ -72,6 +72,8 @@ private:
     void addShortcut(QKeySequence::StandardKey keys, const std::function<void()> &command);
     void prepareTable(QTableView *view);
     void bringForward();
+    QStringList channelNames() const;
+    void showNames(); // anew, in other letters
     void measure();
     void nameCursors(int count);
     void tellTitle();

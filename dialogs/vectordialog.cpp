@@ -46,7 +46,7 @@ void VectorDialog::setPlotter(Plotter *source)
 void VectorDialog::setChannelNames(const QStringList &names)
 {
     channelNames = names;
-    ui->comboBox_reference->setTexts(QStringList(QStringLiteral("-")) + names, 0);
+    ui->comboBox_reference->setNames(QStringList(QStringLiteral("-")) + names, 0);
     for (VectorWidget *panel : panels())
         panel->setChannelNames(names);
     refresh();

@@ -128,6 +128,8 @@ VectorWidget::VectorWidget(QWidget *parent)
     connect(refreshTimer, &QTimer::timeout, this, &VectorWidget::drawAll);
     connect(
         m_checkBoxTimer, &QTimer::timeout, this, [this] { makeCheckBoxes(checkBoxesOfARound); });
+    // The check boxes show their names by themselves.
+    connect(&NameLetters::shared(), &NameLetters::changed, this, &VectorWidget::requestRedraw);
     setFixedWidth(width());
 }
 
@@ -385,7 +387,7 @@ void VectorWidget::drawPhasors(QPainter &diagramPainter, QPainter &magnitudesPai
                 names.value(reference - 1), referencePhasor, end});
             if (position.y() < lowestBaseLine)
                 magnitudesPainter.drawText(position,
-                    fittingName(names.value(channel - 1),
+                    fittingName(shownName(names.value(channel - 1)),
                         QStringLiteral(": ") + generalText(static_cast<double>(phasor.magnitude)),
                         magnitudesPainter.fontMetrics(),
                         magnitudeTextWidth(ui->labelMagnitudes->width())));
@@ -406,8 +408,7 @@ QString VectorWidget::recordedUnit(int channel) const
     if (!record)
         return QString();
     const int side = record->ps == QLatin1String("S") ? 1 : 0;
-    return shownUnit(
-        shownName(recording()->analogUnits.value(channel - 1)).trimmed(), *record, side);
+    return shownUnit(trimmedName(recording()->analogUnits.value(channel - 1)), *record, side);
 }
 
 // Numbers of the checked channels in the recording, 1-based; 0 for a name that it does not have.

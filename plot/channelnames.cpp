@@ -5,20 +5,45 @@
 
 #include <QFontMetrics>
 
+NameLetters &NameLetters::shared()
+{
+    static NameLetters letters;
+    return letters;
+}
+
+void NameLetters::choose(Letters letters)
+{
+    if (m_letters == letters)
+        return;
+    m_letters = letters;
+    emit changed();
+}
+
 QString shownName(const QString &name)
 {
+    const QString cut = cutText(name);
+    return inLetters(cut, NameLetters::shared().letters(), cut.size() < name.size());
+}
+
+QString trimmedName(const QString &name)
+{
+    return shownName(name).trimmed();
+}
+
+QString cutText(const QString &text)
+{
     constexpr int mostCharacters = 1000;
-    return name.left(mostCharacters);
+    return text.left(mostCharacters);
 }
 
 QString fittingName(
-    const QString &name, const QString &suffix, const QFontMetrics &metrics, int width)
+    const QString &shown, const QString &suffix, const QFontMetrics &metrics, int width)
 {
-    const QString shown = shownName(name);
-    if (metrics.horizontalAdvance(shown + suffix) <= width)
-        return shown + suffix;
+    const QString cut = cutText(shown);
+    if (metrics.horizontalAdvance(cut + suffix) <= width)
+        return cut + suffix;
     const int room = width - metrics.horizontalAdvance(suffix);
-    return metrics.elidedText(shown, Qt::ElideMiddle, room) + suffix;
+    return metrics.elidedText(cut, Qt::ElideMiddle, room) + suffix;
 }
 
 int positionOf(const QString &name, const QStringList &names, int expected)

@@ -5,6 +5,7 @@
 
 #include "analogsource.h"
 #include "cfgproperties.h"
+#include "channelnames.h"
 #include "plothost.h"
 #include "plotstyle.h"
 #include "plottitle.h"
@@ -33,6 +34,14 @@ Plotter::Plotter(QWidget *parent)
 
     connect(plotterLabel->editor(), &QLineEdit::editingFinished, this, &Plotter::labelEditFinished);
     connect(plotterLabel->editor(), &QLineEdit::returnPressed, this, &Plotter::labelEditConfirm);
+
+    connect(&NameLetters::shared(), &NameLetters::changed, this, [this] {
+        QMap<int, ShownChannel> &shown = m_channels.byNumber();
+        for (auto it = shown.begin(); it != shown.end(); ++it)
+            it->takeNames(shownChannel(it.key()));
+        plotterLabel->retranslate();
+        refreshPixmap();
+    });
 
     setStyleSheet(screenStyle);
 }

@@ -18,6 +18,13 @@ struct ShownChannel {
     TraceSummary angle; // of a spectrum whose angle is drawn, else empty
     DigitalRuns runs;
 
+    void takeNames(const ShownChannel &other)
+    {
+        id = other.id;
+        unit = other.unit;
+        phase = other.phase;
+        circuit = other.circuit;
+    }
     bool operator==(const ShownChannel &other) const
     {
         return id == other.id && unit == other.unit && phase == other.phase

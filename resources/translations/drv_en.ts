@@ -798,6 +798,21 @@ Please select another file.</translation>
     </message>
 </context>
 <context>
+    <name>NamesMenu</name>
+    <message>
+        <source>Names &amp;As</source>
+        <translation>Names &amp;As</translation>
+    </message>
+    <message>
+        <source>As Read</source>
+        <translation>As Read</translation>
+    </message>
+    <message>
+        <source>The names seem to be in %1</source>
+        <translation>The names seem to be in %1</translation>
+    </message>
+</context>
+<context>
     <name>OpenHint</name>
     <message>
         <source>Open a recording: File &gt; Open... (Ctrl+O), or drop a .cfg, .zip or .txt file here.</source>

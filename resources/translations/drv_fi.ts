@@ -798,6 +798,21 @@ Valitse toinen tiedosto.</translation>
     </message>
 </context>
 <context>
+    <name>NamesMenu</name>
+    <message>
+        <source>Names &amp;As</source>
+        <translation>Nimien &amp;merkistö</translation>
+    </message>
+    <message>
+        <source>As Read</source>
+        <translation>Kuten luettu</translation>
+    </message>
+    <message>
+        <source>The names seem to be in %1</source>
+        <translation>Nimet näyttävät olevan merkistössä %1</translation>
+    </message>
+</context>
+<context>
     <name>OpenHint</name>
     <message>
         <source>Open a recording: File &gt; Open... (Ctrl+O), or drop a .cfg, .zip or .txt file here.</source>

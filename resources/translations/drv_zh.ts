@@ -798,6 +798,21 @@ Please select another file.</source>
     </message>
 </context>
 <context>
+    <name>NamesMenu</name>
+    <message>
+        <source>Names &amp;As</source>
+        <translation>名称编码(&amp;A)</translation>
+    </message>
+    <message>
+        <source>As Read</source>
+        <translation>按读入方式</translation>
+    </message>
+    <message>
+        <source>The names seem to be in %1</source>
+        <translation>名称似乎采用 %1 编码</translation>
+    </message>
+</context>
+<context>
     <name>OpenHint</name>
     <message>
         <source>Open a recording: File &gt; Open... (Ctrl+O), or drop a .cfg, .zip or .txt file here.</source>
