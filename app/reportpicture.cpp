@@ -83,10 +83,12 @@ ReportPicture::ReportPicture(
     const CFGProperties &recording, const QString &fileName, const QList<double> &cursors)
 {
     const QString start
-        = tr("Start: %1 %2").arg(trimmedName(recording.startDate), trimmedName(recording.startTime));
+        = tr("Start: %1 %2")
+              .arg(trimmedName(recording.startDate), trimmedName(recording.startTime));
     const QString trigger = tr("Trigger at %1 ms").arg(recording.triggerOffsetMs);
     const QString gap(4, QLatin1Char(' '));
-    heading = QStringList{trimmedName(recording.stationName) + gap + trimmedName(recording.recordingDeviceId),
+    heading = QStringList{
+        trimmedName(recording.stationName) + gap + trimmedName(recording.recordingDeviceId),
         fileName, start + gap + trigger};
     if (cursors.isEmpty())
         return;

@@ -3,6 +3,7 @@
 
 #include "cfgproperties.h"
 #include "channelnames.h"
+#include "eventsdialog.h"
 #include "memoryfile.h"
 #include "openingfixture.h"
 #include "plotmenus.h"
@@ -12,7 +13,9 @@
 
 #include <QAbstractButton>
 #include <QJsonArray>
+#include <QLineEdit>
 #include <QScrollBar>
+#include <QTableView>
 
 namespace {
 
@@ -45,6 +48,7 @@ private slots:
     void keptForTheDevice();
     void recommended_data() { addLetters(); }
     void recommended();
+    void filtersAreOfWhatIsShown();
     void titlesOfUnits();
     void textsOfTheProgramStay();
     void listsKeepTheirPlace();
@@ -369,6 +373,22 @@ void TestNameLetters::recommended()
     openFile({"Häiriö", "K1", "IL1", "UL1", "A", "Trip"}, "utf8");
     window->open(goodRecording("plain"));
     QVERIFY(tip() != advice);
+}
+
+void TestNameLetters::filtersAreOfWhatIsShown()
+{
+    openFile({"S", "K1", "I", "U", "A", QByteArray::fromHex("cef2eaeb")}); // Откл
+    QVERIFY(choose(analog(), QStringLiteral("Events...")));
+    const auto *dialog = window->findChild<EventsDialog *>();
+    const QAbstractItemModel *rows = dialog->findChild<QTableView *>()->model();
+    QCOMPARE(rows->rowCount(), 2); // with the trigger
+    dialog->findChild<QLineEdit *>(QStringLiteral("lineEdit_filter"))
+        ->setText(QStringLiteral("отк"));
+    QCOMPARE(rows->rowCount(), 1);
+    chooseLetters(QStringLiteral("Windows-1251"));
+    QCOMPARE(rows->rowCount(), 2);
+    chooseLetters(asRead);
+    QCOMPARE(rows->rowCount(), 1);
 }
 
 // They are made of the units and follow them, unless another title was typed.

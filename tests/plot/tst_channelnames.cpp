@@ -15,6 +15,9 @@ private slots:
     void endlessNamesAreCut();
     void namesThatDoNotFitAreElidedInTheMiddle_data();
     void namesThatDoNotFitAreElidedInTheMiddle();
+    void namesInTheLettersChosen_data();
+    void namesInTheLettersChosen();
+    void aChoiceIsToldOnce();
     void namesAreFound_data();
     void namesAreFound();
 };
@@ -67,6 +70,47 @@ void TestChannelNames::namesThatDoNotFitAreElidedInTheMiddle()
     QCOMPARE(ends.size(), 2);
     QVERIFY(!ends.first().isEmpty() && name.startsWith(ends.first()));
     QVERIFY(!ends.last().isEmpty() && name.endsWith(ends.last()));
+}
+
+void TestChannelNames::namesInTheLettersChosen_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<QString>("trimmed");
+    QTest::newRow("ASCII") << QByteArray(" IL1\r\n") << QStringLiteral(" IL1\r\n")
+                           << QStringLiteral("IL1");
+    // The last bytes are a blank and a line end in Latin-1.
+    QTest::newRow("ends like a blank")
+        << QByteArray("\xd0\xa0") << QStringLiteral("Р") << QStringLiteral("Р");
+    QTest::newRow("ends like a line end")
+        << QByteArray(" \xd1\x85 ") << QStringLiteral(" х ") << QStringLiteral("х");
+    QTest::newRow("no UTF-8") << QByteArray(" \xc4\xe4ni") << QStringLiteral(" Ääni")
+                              << QStringLiteral("Ääni");
+    QTest::newRow("cut within a letter")
+        << QByteArray("\xe7\x94\xb5").repeated(400) << QString(333, QChar(0x7535))
+        << QString(333, QChar(0x7535)); // a thousand bytes
+}
+
+void TestChannelNames::namesInTheLettersChosen()
+{
+    QFETCH(QByteArray, bytes);
+    const QString read = QString::fromLatin1(bytes);
+    NameLetters::shared().choose(Letters::Utf8);
+    QTEST(shownName(read), "shown");
+    QTEST(trimmedName(read), "trimmed");
+    QCOMPARE(cutText(read), read.left(1000));
+    const QFontMetrics metrics((QFont()));
+    QCOMPARE(fittingName(read, QString(), metrics, 1'000'000), read.left(1000));
+    NameLetters::shared().choose(Letters::AsRead);
+    QCOMPARE(shownName(read), read.left(1000));
+}
+
+void TestChannelNames::aChoiceIsToldOnce()
+{
+    const QSignalSpy spy(&NameLetters::shared(), &NameLetters::changed);
+    for (const Letters letters : {Letters::Gbk, Letters::Gbk, Letters::AsRead, Letters::AsRead})
+        NameLetters::shared().choose(letters);
+    QCOMPARE(spy.count(), 2);
 }
 
 void TestChannelNames::namesAreFound_data()
