@@ -427,17 +427,21 @@ void TestPlotter::scrollBarIsRangedAfterAZoom()
 void TestPlotter::theScrollBarGoesBeyondTwiceTheDuration_data()
 {
     QTest::addColumn<int>("duration");
+    QTest::addColumn<int>("position"); // of the bar before
     QTest::addColumn<int>("last"); // of intervals of 100 ms, from 500 ms on
-    QTest::newRow("to the hundred and 100 ms more") << 1000 << 16;
-    QTest::newRow("rounded down to it") << 1049 << 16;
-    QTest::newRow("the next hundred") << 1050 << 17;
+    QTest::newRow("to the hundred and 100 ms more") << 1000 << 0 << 16;
+    QTest::newRow("rounded down to it") << 1049 << 0 << 16;
+    QTest::newRow("the next hundred") << 1050 << 0 << 17;
+    QTest::newRow("as much further as the bar stood") << 1000 << 3 << 19;
 }
 
 void TestPlotter::theScrollBarGoesBeyondTwiceTheDuration()
 {
     QFETCH(int, duration);
+    QFETCH(int, position);
     host->source->durationMs = duration;
-    host->bar->setRange(0, 0);
+    host->bar->setRange(0, position);
+    host->bar->setValue(position);
     plot->customZoomIn();
     QTEST(host->bar->maximum(), "last");
 }
@@ -529,8 +533,10 @@ void TestPlotter::changedFactorsKeepTheTraceInPlace()
 void TestPlotter::resetPlotEmptiesThePlot()
 {
     plot->addCursor(300, 100);
+    plot->customZoomIn();
     plot->scrolling(3);
     plot->resetPlot();
+    QCOMPARE(Plotter::shared().timeZoom, 1.0); // plots to come begin at the full view
     QVERIFY(plot->channels().isEmpty());
     QVERIFY(plot->cursors().isEmpty());
     QCOMPARE(ends(plot->view()), Ends({0, 0, 4, 0, 0, 4}));

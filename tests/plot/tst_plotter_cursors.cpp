@@ -80,13 +80,6 @@ private slots:
     void aDragOutlivesItsCursor();
     void theMenuRemovesAllCursors();
 
-    void saveMarkers_data();
-    void saveMarkers();
-    void saveMarkersAreCutToWholeMilliseconds();
-    void zeroIsATimeOfAMarker();
-    void markersFollowTheView();
-    void clearedMarkersStayAway();
-
 private:
     void doubleClick(int x) { QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, {x, 150}); }
     // Yellow pixels of the time differences, in the strip above the plot area.
@@ -769,72 +762,6 @@ void TestPlotterCursors::theMenuRemovesAllCursors()
     QVERIFY(pair->digital->cursors().isEmpty());
     QVERIFY(pair->plot->cursors().isEmpty());
     QVERIFY(PlotPair::lineLabels(pair->plot).isEmpty());
-}
-
-// Markers are placed as the traces are, over 703 pixels.
-void TestPlotterCursors::saveMarkers_data()
-{
-    QTest::addColumn<double>("time");
-    QTest::addColumn<bool>("visible");
-    QTest::addColumn<int>("x");
-    QTest::newRow("at the first time") << 0.0 << true << 100;
-    QTest::newRow("in the middle") << 500.0 << true << 452;
-    QTest::newRow("at the right edge") << 998.0 << true << 802;
-    QTest::newRow("right of the view") << 1001.0 << false << 804;
-    QTest::newRow("left of the view stays") << -100.0 << true << 30;
-}
-
-void TestPlotterCursors::saveMarkers()
-{
-    QFETCH(double, time);
-    QFETCH(int, x);
-    for (const bool isStart : {true, false}) {
-        if (isStart)
-            pair->plot->setStartPoint(time);
-        else
-            pair->plot->setEndPoint(time);
-        const auto *marker = pair->plot->findChild<QFrame *>(
-            isStart ? QStringLiteral("startMarker") : QStringLiteral("endMarker"));
-        QTEST(marker->isVisibleTo(pair->plot), "visible");
-        QCOMPARE(marker->geometry(), QRect(QPoint(x, 60), QPoint(x, 260)));
-    }
-}
-
-void TestPlotterCursors::saveMarkersAreCutToWholeMilliseconds()
-{
-    pair->plot->setStartPoint(12.9);
-    pair->plot->setEndPoint(12.9);
-    for (const QString &name : {QStringLiteral("startMarker"), QStringLiteral("endMarker")})
-        QCOMPARE(pair->plot->findChild<QFrame *>(name)->x(), 100 + 8); // 12.9 ms would be at 109
-}
-
-void TestPlotterCursors::zeroIsATimeOfAMarker()
-{
-    pair->plot->setEndPoint(700);
-    const auto *start = pair->plot->findChild<QFrame *>(QStringLiteral("startMarker"));
-    QVERIFY(!start->isVisibleTo(pair->plot));
-    pair->plot->setStartPoint(0);
-    QVERIFY(start->isVisibleTo(pair->plot));
-}
-
-void TestPlotterCursors::markersFollowTheView()
-{
-    pair->plot->setStartPoint(250);
-    const auto *marker = pair->plot->findChild<QFrame *>(QStringLiteral("startMarker"));
-    pair->plot->customZoomIn();
-    QCOMPARE(marker->x(), 452);
-    pair->plot->customZoomIn(); // 250 ms is one pixel right of the last place for a marker
-    QVERIFY(!marker->isVisibleTo(pair->plot));
-}
-
-void TestPlotterCursors::clearedMarkersStayAway()
-{
-    pair->plot->setStartPoint(100);
-    pair->plot->setEndPoint(200);
-    pair->plot->clearSaveMarkers();
-    pair->plot->refreshPixmap();
-    for (const QString &name : {QStringLiteral("startMarker"), QStringLiteral("endMarker")})
-        QVERIFY(!pair->plot->findChild<QFrame *>(name)->isVisibleTo(pair->plot));
 }
 
 QTEST_MAIN(TestPlotterCursors)

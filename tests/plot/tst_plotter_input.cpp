@@ -735,17 +735,19 @@ void TestPlotterInput::aChannelLabelOffersColours()
     auto *label = pair->plot->findChild<QLabel *>(QStringLiteral("channelLabel"));
     QVERIFY(label);
     QVERIFY(!pair->plot->findChild<QColorDialog *>()); // dear to make, and hardly ever asked for
-    QColor initial;
-    QTimer::singleShot(0, this, [&] {
-        auto *dialog = qobject_cast<QColorDialog *>(QApplication::activeModalWidget());
-        QVERIFY(dialog);
-        initial = dialog->currentColor();
-        dialog->setCurrentColor(QColor(1, 2, 3));
-        accepted ? dialog->accept() : dialog->reject();
-    });
-    QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, label->geometry().center());
-    QCOMPARE(initial, QColor(Qt::white));
-    QTEST(label->palette().color(label->foregroundRole()), "color");
+    for (int twice = 0; twice < 2; ++twice) {
+        QColor initial;
+        QTimer::singleShot(0, this, [&] {
+            auto *dialog = qobject_cast<QColorDialog *>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            initial = dialog->currentColor();
+            dialog->setCurrentColor(QColor(1, 2, 3));
+            accepted ? dialog->accept() : dialog->reject();
+        });
+        QTest::mouseDClick(pair->plot, Qt::LeftButton, {}, label->geometry().center());
+        QCOMPARE(initial, QColor(Qt::white));
+        QTEST(label->palette().color(label->foregroundRole()), "color");
+    }
     QVERIFY(pair->plot->cursors().isEmpty());
 }
 
