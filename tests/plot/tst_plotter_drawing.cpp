@@ -107,6 +107,7 @@ private slots:
     void anglesStandOnTheValueAxis();
     void eachReferenceShowsItsOwnAngle();
     void changedSeriesAreDrawnAgain();
+    void tracesAreDrawnInTheOrderOfTheirNumbers();
     void coloursFollowTheTable();
     void longNamesShowBothEnds();
     void spectrumColours_data();
@@ -314,6 +315,21 @@ void TestPlotterDrawing::changedSeriesAreDrawnAgain()
     plot->showChannels({0, 1});
     plot->refreshPixmap();
     QCOMPARE(rowsOf(red, picture(plot), 500), QVector<int>({165}));
+}
+
+// Whatever the order of their adding; values stand at 60 + (21 - value) x 200 / 21.
+void TestPlotterDrawing::tracesAreDrawnInTheOrderOfTheirNumbers()
+{
+    addChannel(QStringLiteral("I"), 20);
+    addChannel(QStringLiteral("U"), 20);
+    for (const QList<int> &channels : {QList<int>{0, 1}, QList<int>{1, 0}}) {
+        plot->showChannels({});
+        show(channels);
+        QCOMPARE(plot->channels(), channels);
+        const QImage image = picture(plot);
+        QCOMPARE(rowsOf(colorTable.at(1), image, 500), QVector<int>({70}));
+        QCOMPARE(rowsOf(red, image, 500), QVector<int>());
+    }
 }
 
 // Channels with the values 0 to 13 in a view of 0 to 15, and the fourteenth in the colour of the
