@@ -14,6 +14,8 @@
 
 namespace {
 
+using Kind = ReadingNote::Kind;
+
 QString withoutLast(const QString &text, int count = 1)
 {
     return text.chopped(std::min(count, text.size()));
@@ -67,6 +69,44 @@ void readDigitalLine(CFGProperties &recording, const QStringList &fields)
     }
 }
 
+void note(
+    CFGProperties &recording, Kind kind, qint64 count, double amount, const QString &word = {})
+{
+    recording.notes.append({kind, ReadingNote::File::Configuration, recording.cfgLineNumber, count,
+        -1, amount, amount, word});
+}
+
+void noteRevision(CFGProperties &recording)
+{
+    constexpr int known = 1999;
+    const int year = recording.revisionYear.toInt();
+    if (year > known)
+        note(recording, Kind::LaterRevision, 1, year);
+}
+
+void noteChannelCounts(CFGProperties &recording)
+{
+    const qint64 sum = qint64(recording.analogChannelCount) + recording.digitalChannelCount;
+    if (recording.totalChannelCount != sum)
+        note(recording, Kind::ChannelCounts, recording.totalChannelCount, static_cast<double>(sum));
+}
+
+// Where the dates are equal by mistake, midnight shows in the times of day.
+void noteDays(CFGProperties &recording)
+{
+    constexpr int halfADay = 12 * 3600 * 1000; // ms
+    if (recording.startDate.trimmed() != recording.triggerDate.trimmed()
+        || recording.triggerOffsetMs < -halfADay)
+        note(recording, Kind::TriggerOnOtherDay, 1, recording.triggerOffsetMs);
+}
+
+void noteType(CFGProperties &recording)
+{
+    const QString type = recording.fileType.trimmed();
+    if (!type.isEmpty() && type.compare(QLatin1String("ascii"), Qt::CaseInsensitive) != 0)
+        note(recording, Kind::NotAscii, 1, 0, type);
+}
+
 void readLine(CFGProperties &recording, const QString &line)
 {
     const qint64 number = recording.cfgLineNumber;
@@ -84,10 +124,12 @@ void readLine(CFGProperties &recording, const QString &line)
         recording.stationName = fields.value(0);
         recording.recordingDeviceId = fields.value(1);
         recording.revisionYear = withoutLast(fields.value(2));
+        noteRevision(recording);
     } else if (number == 2) {
         recording.totalChannelCount = fields.value(0).toInt();
         recording.analogChannelCount = withoutLast(fields.value(1)).toInt();
         recording.digitalChannelCount = withoutLast(fields.value(2), 2).toInt();
+        noteChannelCounts(recording);
     } else if (number >= 3 && number <= analog + 2) {
         readAnalogLine(recording, fields);
     } else if (number >= analog + 3 && number <= channels + 2) {
@@ -101,6 +143,8 @@ void readLine(CFGProperties &recording, const QString &line)
         recording.lastSampleNumber = withoutLast(fields.value(1)).toInt();
         recording.durationMs
             = truncatedToInt64(recording.lastSampleNumber / recording.sampleRate * 1000);
+        if (rates > 1 && number == total + 4 + rates)
+            note(recording, Kind::SeveralRates, rates, recording.sampleRate);
     } else if (number == total + rates + 5) {
         recording.startDate = fields.value(0);
         recording.startTime = withoutLast(fields.value(1));
@@ -108,8 +152,10 @@ void readLine(CFGProperties &recording, const QString &line)
         recording.triggerDate = fields.value(0);
         recording.triggerTime = withoutLast(fields.value(1));
         readTimeStamps(recording);
+        noteDays(recording);
     } else if (number == total + rates + 7) {
         recording.fileType = withoutLast(line);
+        noteType(recording);
     } else if (number == total + rates + 8) {
         recording.timeMultiplier = line.toDouble();
     }
@@ -128,7 +174,8 @@ void readTimeStamps(CFGProperties &recording)
 
 void readConfiguration(QIODevice &device, CFGProperties &recording)
 {
-    for (QByteArray line; !(line = nextLine(device)).isEmpty();) {
+    bool isTooLong = false;
+    for (QByteArray line; !(line = nextLine(device, isTooLong)).isEmpty();) {
         // A text-mode device would drop other carriage returns too, by the state of its buffer.
         if (line.endsWith("\r\n"))
             line.remove(line.size() - 2, 1);
@@ -137,4 +184,7 @@ void readConfiguration(QIODevice &device, CFGProperties &recording)
         readLine(recording, QString::fromLatin1(line.constData()));
         recording.samplesPerCycle = roundedToInt(recording.sampleRate / recording.lineFrequency);
     }
+    if (isTooLong)
+        recording.notes.append({Kind::LimitReached, ReadingNote::File::Configuration,
+            qint64(recording.cfgLineNumber) + 1});
 }

@@ -6,6 +6,7 @@
 #include "cfgproperties.h"
 #include "interruption.h"
 #include "memoryneed.h"
+#include "notetaking.h"
 #include "numbers.h"
 #include "readerror.h"
 #include "recordregistry.h"
@@ -33,10 +34,25 @@ const char *fieldEnd(const char *begin, const char *end)
     return comma ? static_cast<const char *>(comma) : end;
 }
 
-// Walks over the fields of one line. Beyond the last one every field is empty.
+// Whether nothing is left but line ends, and perhaps the mark that ends files of old.
+bool isBlank(const char *begin, const char *end)
+{
+    constexpr char endOfFile = 0x1a;
+    return std::all_of(begin, end,
+        [](char c) { return c == '\n' || c == '\r' || c == ' ' || c == '\0' || c == endOfFile; });
+}
+
+// Walks over the fields of one line. Beyond the last one every field is empty. A line that may be
+// worth a note, for a field that is empty or missing or marks a missing value, is told as odd.
 class LineFields {
 public:
-    LineFields(const char *begin, const char *end) : m_at(begin), m_end(end) { }
+    // What tells of it stands elsewhere, so that it takes no register of the loops over the fields.
+    LineFields(const char *begin, const char *end, bool &isOdd)
+        : m_at(begin), m_end(end), m_isOdd(isOdd)
+    {
+    }
+
+    bool isAtEnd() const { return m_at == m_end; }
 
     double toDouble()
     {
@@ -68,6 +84,8 @@ private:
         const char *const begin = m_at;
         const char *const end = fieldEnd(begin, m_end);
         m_at = end == m_end ? m_end : end + 1;
+        if (begin == end)
+            m_isOdd = true;
         return {begin, end};
     }
 
@@ -92,6 +110,7 @@ private:
 
     const char *m_at;
     const char *m_end;
+    bool &m_isOdd;
 };
 
 class DataReader {
@@ -110,15 +129,17 @@ public:
         bool goesOn = true;
         int kept = 0; // bytes of a line begun in the block before
         while (goesOn) {
-            if (kept > mostLineBytes)
+            if (kept > mostLineBytes) {
+                endAt(Kind::LimitReached);
                 break;
+            }
             buffer.resize(kept + blockSize);
             const qint64 count = m_device.read(buffer.data() + kept, blockSize);
             if (count < 0)
                 throw ReadError();
             if (count == 0) {
                 if (kept > 0)
-                    readLine(buffer.constData(), buffer.constData() + kept);
+                    readLine(buffer.constData(), buffer.constData() + kept, 0);
                 break;
             }
             const char *const end = buffer.constData() + kept + count;
@@ -130,7 +151,8 @@ public:
                 if (!feed)
                     break;
                 const char *const lineEnd = static_cast<const char *>(feed);
-                goesOn = lineEnd - line < mostLineBytes && readLine(line, lineEnd);
+                goesOn = lineEnd - line < mostLineBytes ? readLine(line, lineEnd, end - lineEnd)
+                                                        : endAt(Kind::LimitReached);
                 line = lineEnd + 1;
                 search = line;
             }
@@ -142,6 +164,8 @@ public:
     }
 
 private:
+    using Kind = ReadingNote::Kind;
+
     struct AnalogColumn {
         AnalogChannel *channel;
         float b;
@@ -152,33 +176,76 @@ private:
         int *block;
     };
 
-    // False where the line ends the data.
-    bool readLine(const char *begin, const char *end)
+    // False where the line ends the data. So many bytes behind its end have been read.
+    bool readLine(const char *begin, const char *end, std::ptrdiff_t bytesBehind)
     {
+        const char *const readEnd = end + bytesBehind;
         const qint64 length = end - begin + 1; // with the line end
         if (end != begin && end[-1] == '\r')
             --end;
         if (const void *nul = std::memchr(begin, '\0', static_cast<size_t>(end - begin)))
             end = static_cast<const char *>(nul);
         const char *const numberEnd = fieldEnd(begin, end);
-        if (numberEnd == end)
-            return false;
+        if (numberEnd == end) {
+            const bool isEndOfFile = isBlank(begin, readEnd) && m_device.atEnd();
+            return !isEndOfFile && endAt(Kind::EndedAtLine);
+        }
         if (m_rows == 0)
             makeRecords(length);
         m_bytes += length;
         countWork(length + 2 * columns());
         if (m_rowsBefore + m_rows == mostRows || !isWithinBudget(m_rows + 1, columns(), m_bytes))
-            return false;
-        LineFields fields(numberEnd + 1, end);
+            return endAt(Kind::LimitReached);
+        m_isOddLine = false;
+        LineFields fields(numberEnd + 1, end, m_isOddLine);
         m_times[m_gathered] = fields.toDouble() / 1000;
         for (AnalogColumn &column : m_analog)
             column.block[m_gathered] = fields.toFloat();
         for (DigitalColumn &column : m_digital)
             column.block[m_gathered] = fields.toInt();
+        if (m_isOddLine || !fields.isAtEnd())
+            noteOddLine(begin, end);
         ++m_rows;
         if (++m_gathered == m_blockRows)
             deliver();
         return true;
+    }
+
+    // Counted from 1.
+    qint64 nextLine() const { return qint64(m_rows) + 1; }
+
+    // Notes why the next line is not read.
+    bool endAt(Kind kind)
+    {
+        m_recording.notes.append({kind, ReadingNote::File::Data, nextLine()});
+        return false;
+    }
+
+    // Of a line whose fields were just taken. A comma at its end makes no field more.
+    void noteOddLine(const char *begin, const char *end)
+    {
+        const qint64 surplus = std::count(begin, end, ',') - 1 - columns();
+        if (surplus < 0 || surplus > (end[-1] == ',' ? 1 : 0))
+            m_oddLines.add(nextLine(), static_cast<double>(surplus));
+        const char *at = fieldEnd(fieldEnd(begin, end) + 1, end); // behind the time stamp
+        for (size_t k = 0; k < m_analog.size() && at != end; ++k) {
+            const char *const field = at + 1;
+            at = fieldEnd(field, end);
+            if (at == field)
+                m_missing[k].add(nextLine());
+        }
+    }
+
+    // Of the values gathered. Without one beyond the smallest mark the scaled ones would not reach
+    // that far, so that those of most channels are not looked through.
+    void noteMarks()
+    {
+        const qint64 firstLine = nextLine() - static_cast<qint64>(m_gathered);
+        for (size_t k = 0; k < m_analog.size(); ++k) {
+            const AnalogColumn &column = m_analog[k];
+            if (MissingValues::mayBeAmong(*column.channel, column.b))
+                m_missing[k].addMarks(column.block, static_cast<int>(m_gathered), firstLine);
+        }
     }
 
     qint64 columns() const
@@ -209,6 +276,7 @@ private:
     {
         m_blockRows = std::clamp<size_t>(
             mostGathered / std::max<size_t>(analog + digital, 1), 1, mostBlockRows);
+        m_missing.resize(analog);
         m_analogBlocks.resize(analog * m_blockRows);
         m_digitalBlocks.resize(digital * m_blockRows);
         for (size_t k = 0; k < analog; ++k) {
@@ -260,6 +328,7 @@ private:
             append(column.channel->rawValues, column.block);
             column.channel->appendValues(column.block, count, column.channel->a, column.b);
         }
+        noteMarks();
         for (const DigitalColumn &column : m_digital)
             column.channel->appendValues(column.block, count);
         m_gathered = 0;
@@ -290,6 +359,16 @@ private:
             column.channel->times += times;
         }
         m_recording.sampleCount = m_rows;
+        takeNotes();
+    }
+
+    void takeNotes()
+    {
+        noteSampleCount(m_recording);
+        m_oddLines.noteIn(m_recording);
+        noteTimes(m_recording, m_rowsBefore, 1);
+        for (size_t k = 0; k < m_missing.size(); ++k)
+            m_missing[k].noteIn(m_recording, static_cast<int>(k));
     }
 
     QIODevice &m_device;
@@ -305,6 +384,9 @@ private:
     std::vector<int> m_digitalBlocks;
     std::vector<AnalogColumn> m_analog;
     std::vector<DigitalColumn> m_digital;
+    bool m_isOddLine = false;
+    Occurrences m_oddLines{Kind::FieldCounts};
+    std::vector<MissingValues> m_missing; // by channel
 };
 
 } // namespace

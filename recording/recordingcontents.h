@@ -5,6 +5,7 @@
 
 #include "analogchannel.h"
 #include "digitalchannel.h"
+#include "readingnote.h"
 
 #include <QList>
 #include <QString>
@@ -59,6 +60,7 @@ struct RecordingContents {
     QString fileType;
     QList<AnalogChannel *> analogChannels; // the records outlive the recording
     QList<DigitalChannel *> digitalChannels;
+    QVector<ReadingNote> notes; // of what the readers noticed: configuration, then data
 
     // Kept for those who look for them; the program reads neither.
     float maxValue = 0; // result of the last updateMaxValue()

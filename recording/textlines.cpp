@@ -9,7 +9,7 @@
 
 #include <QIODevice>
 
-QByteArray nextLine(QIODevice &device)
+QByteArray nextLine(QIODevice &device, bool &isTooLong)
 {
     constexpr int stepsOfALine = 200;
     constexpr int stepsOfALetter = 4; // until it stands in a text
@@ -23,8 +23,10 @@ QByteArray nextLine(QIODevice &device)
         }
         line += part;
         countWork(stepsOfALine + stepsOfALetter * part.size());
-        if (line.size() > mostLineBytes)
+        if (line.size() > mostLineBytes) {
+            isTooLong = true;
             return {};
+        }
     }
     return line;
 }

@@ -10,8 +10,8 @@
 class QIODevice;
 
 // The next line with its line end. Empty at the end of the device and where the line is longer than
-// mostLineBytes. Throws a ReadError where the device fails.
-QByteArray nextLine(QIODevice &device);
+// mostLineBytes, which is told then. Throws a ReadError where the device fails.
+QByteArray nextLine(QIODevice &device, bool &isTooLong);
 
 // Throws a ReadError where a device that gave nothing more is not at its end.
 void requireEnd(QIODevice &device);

@@ -7,6 +7,7 @@
 #include "configurationreader.h"
 #include "interruption.h"
 #include "memoryneed.h"
+#include "notetaking.h"
 #include "numbers.h"
 #include "recordregistry.h"
 #include "samplebudget.h"
@@ -19,6 +20,7 @@
 
 #include <array>
 #include <optional>
+#include <vector>
 
 namespace {
 
@@ -114,10 +116,11 @@ public:
                 requireEnd(m_device);
                 return {};
             }
-            if (line.size() == mostLineBytes)
+            m_isTooLong = line.size() == mostLineBytes;
+            if (m_isTooLong)
                 return {};
         } else {
-            QByteArray bytes = nextLine(m_device);
+            QByteArray bytes = nextLine(m_device, m_isTooLong);
             if (bytes.isEmpty())
                 return {};
             if (bytes.endsWith('\n'))
@@ -129,10 +132,13 @@ public:
         return line;
     }
 
+    bool isTooLong() const { return m_isTooLong; } // the line that there was not
+
 private:
     QIODevice &m_device;
     const QByteArray m_mark;
     QTextStream m_wideText;
+    bool m_isTooLong = false;
 };
 
 class TextReader {
@@ -151,11 +157,14 @@ public:
         constexpr qint64 stepsOfAValue = 20;
         countWork(stepsOfAValue * (m_recording.analogChannelCount + 1));
         if (m_recording.sampleTimes.size() == mostRows
-            || !isWithinBudget(m_rows + 1, m_recording.analogChannelCount, m_letters))
+            || !isWithinBudget(m_rows + 1, m_recording.analogChannelCount, m_letters)) {
+            noteLimit();
             return false;
+        }
         if (m_rows % rowsBetweenLooks == 0)
             requireMemory(0);
         const QVector<QStringRef> fields = firstFields(line, m_recording.analogChannelCount + 1);
+        noteFieldCount(line, fields);
         const QDateTime stamp = parsedStamp(fields.constFirst());
         if (m_recording.startDate.isEmpty())
             m_recording.startDate = stamp.toString(QStringLiteral("dd/MM/yyyy"));
@@ -174,7 +183,10 @@ public:
             if (k == m_recording.analogChannels.size())
                 m_recording.analogChannels.append(newAnalogChannel(m_recording, k));
             AnalogChannel *channel = m_recording.analogChannels.at(k);
-            const float x = k + 1 < fields.size() ? fields.at(k + 1).toFloat() : 0;
+            const bool isThere = k + 1 < fields.size();
+            const float x = isThere ? fields.at(k + 1).toFloat() : 0;
+            if (MissingValues::isMark(x) || (isThere && fields.at(k + 1).isEmpty()))
+                noteMissing(k);
             channel->appendValue(x, 1, 0);
             channel->rawValues.append(x);
         }
@@ -190,10 +202,42 @@ public:
             channel->values.squeeze();
             channel->rawValues.squeeze();
         }
+        m_oddLines.noteIn(m_recording);
+        noteTimes(m_recording, 0, lineOf(0));
+        for (size_t k = 0; k < m_missing.size(); ++k)
+            m_missing[k].noteIn(m_recording, static_cast<int>(k));
+    }
+
+    // At the line that was not read, so many lines after the last one that was.
+    void noteLimit(qint64 linesSkipped = 0)
+    {
+        m_recording.notes.append({ReadingNote::Kind::LimitReached, ReadingNote::File::Data,
+            lineOf(m_rows) + linesSkipped});
     }
 
 private:
+    // Of a row of samples, counted from 0: the header is line 1.
+    static qint64 lineOf(int row) { return qint64(row) + 2; }
+
+    // A comma at the end of the line makes no field more.
+    void noteFieldCount(const QString &line, const QVector<QStringRef> &fields)
+    {
+        const int expected = m_recording.analogChannelCount + 1;
+        const QStringRef &last = fields.constLast();
+        if (fields.size() < expected || last.position() + last.size() + 1 < line.size())
+            m_oddLines.add(lineOf(m_rows), line.count(QLatin1Char(',')) + 1 - expected);
+    }
+
+    void noteMissing(int channel)
+    {
+        if (m_missing.empty())
+            m_missing.resize(static_cast<size_t>(m_recording.analogChannelCount));
+        m_missing[static_cast<size_t>(channel)].add(lineOf(m_rows - 1));
+    }
+
     CFGProperties &m_recording;
+    Occurrences m_oddLines{ReadingNote::Kind::FieldCounts};
+    std::vector<MissingValues> m_missing; // by channel; empty while there are none
     qint64 m_letters; // of the lines read, the header among them
     int m_rows = 0;
     qint64 m_reference = 0; // ms since the epoch
@@ -205,8 +249,11 @@ void readTextExport(QIODevice &device, CFGProperties &recording)
 {
     TextLines lines(device);
     const std::optional<QString> header = lines.next();
-    if (!header)
+    if (!header) {
+        if (lines.isTooLong())
+            recording.notes.append({ReadingNote::Kind::LimitReached, ReadingNote::File::Data, 1});
         return;
+    }
     readHeader(recording, *header);
     readTimeStamps(recording);
     TextReader reader(recording, header->size());
@@ -221,5 +268,7 @@ void readTextExport(QIODevice &device, CFGProperties &recording)
             goesOn = reader.readLine(QString());
         goesOn = goesOn && reader.readLine(*line);
     }
+    if (lines.isTooLong())
+        reader.noteLimit(blankLines);
     reader.finish();
 }
