@@ -3,6 +3,8 @@
 
 #include "harmonicbars.h"
 
+#include "accessiblechart.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -16,7 +18,10 @@ constexpr int margin = 6;
 
 } // namespace
 
-HarmonicBars::HarmonicBars(QWidget *parent) : QWidget(parent) { }
+HarmonicBars::HarmonicBars(QWidget *parent) : QWidget(parent)
+{
+    tellAsChart(*this);
+}
 
 void HarmonicBars::setHarmonics(const Harmonics &harmonics, const QString &otherwise)
 {

@@ -3,6 +3,7 @@
 
 #include "plotter.h"
 
+#include "accessiblechart.h"
 #include "analogsource.h"
 #include "cfgproperties.h"
 #include "channelnames.h"
@@ -28,6 +29,7 @@ Plotter::Plotter(QWidget *parent)
       hostWidget(parent)
 {
     setObjectName(QStringLiteral("Plotter"));
+    tellAsChart(*this);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

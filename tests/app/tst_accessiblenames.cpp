@@ -26,6 +26,8 @@ private slots:
     void tellWhatAPartIs_data();
     void tellWhatAPartIs();
     void ofPlotsAreTheirTitles();
+    void standWithWhatAPartIs_data();
+    void standWithWhatAPartIs();
     void followTheLanguage();
 
 private:
@@ -146,6 +148,36 @@ void TestAccessibleNames::ofPlotsAreTheirTitles()
     for (const auto *bar :
         window->findChildren<QScrollBar *>(QString(), Qt::FindDirectChildrenOnly))
         QVERIFY(!bar->accessibleName().isEmpty());
+}
+
+void TestAccessibleNames::standWithWhatAPartIs_data()
+{
+    QTest::addColumn<QString>("dialog"); // none for the window itself
+    QTest::addColumn<QString>("part");
+    QTest::addColumn<int>("role");
+    const auto row = [](const char *dialog, const char *part, QAccessible::Role role) {
+        QTest::newRow(part) << QString::fromLatin1(dialog) << QString::fromLatin1(part)
+                            << int(role);
+    };
+    row("", "listWidget", QAccessible::List);
+    row("", "Plotter", QAccessible::Chart);
+    row("", "comboBox_primSec", QAccessible::ComboBox);
+    row("VectorDialog", "toolButton", QAccessible::Button);
+    row("VectorWidget", "labelVector", QAccessible::Graphic);
+    row("MeasurementsDialog", "bars", QAccessible::Chart);
+}
+
+void TestAccessibleNames::standWithWhatAPartIs()
+{
+    QFETCH(QString, dialog);
+    QFETCH(QString, part);
+    auto *widget = this->part<QWidget>(dialog, part.toLatin1());
+    QVERIFY(widget);
+    if (part == QLatin1String("labelVector")) { // it is a picture once it is drawn
+        child<QDialog>("VectorDialog")->show();
+        QTRY_COMPARE(QAccessible::queryAccessibleInterface(widget)->role(), QAccessible::Graphic);
+    }
+    QTEST(int(QAccessible::queryAccessibleInterface(widget)->role()), "role");
 }
 
 void TestAccessibleNames::followTheLanguage()
