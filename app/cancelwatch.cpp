@@ -27,6 +27,8 @@ bool CancelWatch::eventFilter(QObject *watched, QEvent *event)
             && event->type() == QEvent::KeyPress
             && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape;
         m_isCancelled = m_isCancelled || isClick || isEscape;
+        if (isEscape)
+            emit escaped();
     }
     return QObject::eventFilter(watched, event);
 }

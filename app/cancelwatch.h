@@ -17,6 +17,9 @@ public:
 
     bool isCancelled() const;
 
+signals:
+    void escaped(); // by Escape alone
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 

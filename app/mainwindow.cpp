@@ -11,6 +11,7 @@
 #include "channelnames.h"
 #include "ctvtdialog.h"
 #include "elidinglist.h"
+#include "loadingprogress.h"
 #include "otherrecordings.h"
 #include "packageunpacker.h"
 #include "plotvalues.h"
@@ -73,6 +74,8 @@ MainWindow::MainWindow(QWidget *parent)
     statusBar()->showMessage(tr("Ready"));
     m_statusField = new StatusField(*this, statusBar());
     statusBar()->addPermanentWidget(m_statusField);
+    m_loadingProgress = new LoadingProgress(statusBar());
+    statusBar()->addPermanentWidget(m_loadingProgress);
     readSettings();
     setCurrentFile(QString());
     setUnifiedTitleAndToolBarOnMac(true);
@@ -182,6 +185,7 @@ void MainWindow::stopLoader()
     if (!m_cfgProperties)
         return;
     m_queuedPath.reset();
+    m_loadingProgress->stop();
     m_loaderThread->requestInterruption();
     m_loaderThread->quit();
     m_loaderThread->wait();

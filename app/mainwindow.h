@@ -17,6 +17,7 @@
 class AddPlotterDialog;
 class CTVTDialog;
 class ElidingComboBox;
+class LoadingProgress;
 class OtherRecordings;
 class PackageUnpacker;
 class Plotter;
@@ -48,8 +49,8 @@ public:
     ~MainWindow() override;
 
     // Loads a recording or a package and returns when it is on screen, events being processed
-    // meanwhile. While another one loads, it returns at once and the last path asked for is opened
-    // afterwards. Unpacking is given up for that, and for Escape. Failures are shown to the user.
+    // meanwhile. While another one loads, it returns at once: that one is given up, as it is for
+    // Escape, and the last path asked for is opened next. Failures are shown to the user.
     void open(const QString &path);
     void sayNotOpened(const QString &path); // in the status bar, until a recording is opened
 
@@ -100,7 +101,6 @@ protected:
 
 private:
     static constexpr int messageDuration = 2000; // in the status bar, ms
-
     struct ActionEntry; // all that creation and retranslation need
     static const QList<ActionEntry> &actionEntries();
 
@@ -160,6 +160,7 @@ private:
     SideWindows *m_sideWindows = nullptr;
     StatusField *m_statusField = nullptr;
     OtherRecordings *m_otherRecordings = nullptr;
+    LoadingProgress *m_loadingProgress = nullptr;
     QTranslator *m_translator = nullptr;
     PackageUnpacker *m_unpacker = nullptr;
     QThread *m_loaderThread = nullptr;
@@ -171,7 +172,6 @@ private:
     QString m_drFilesPath; // recordings folder
     QString m_languageFileName;
     QList<QAction *> languageActions; // English, Suomi, 中文
-
     WindowActions m_actions;
     QMenu *m_fileMenu = nullptr;
     QMenu *m_editMenu = nullptr;

@@ -11,6 +11,7 @@
 #include "filekind.h"
 #include "filewarning.h"
 #include "loadinganimation.h"
+#include "loadingprogress.h"
 #include "otherrecordings.h"
 #include "packageunpacker.h"
 #include "statusfield.h"
@@ -50,6 +51,13 @@ QString droppedFile(const QDropEvent &event)
     return recordingToOpen(files);
 }
 
+// Whether it is worth giving up another load for it.
+bool canBeLoaded(const QString &path)
+{
+    return (isRecording(path) || isPackage(path)) && !isPipeOrDevice(path)
+        && QFile(path).open(QIODevice::ReadOnly);
+}
+
 QString reasonText(CFGProperties::Failure failure)
 {
     using Failure = CFGProperties::Failure;
@@ -78,6 +86,15 @@ bool canBeConverted(const QString &path, CFGProperties::Failure failure)
         || path.endsWith(QLatin1String(".cff"), Qt::CaseInsensitive);
 }
 
+// What is said of a recording that is not supported.
+QString failureText(const QString &path, CFGProperties::Failure failure)
+{
+    QStringList lines{path, reasonText(failure)};
+    if (canBeConverted(path, failure))
+        lines.append(MainWindow::tr("wavorin-convert turns it into a recording that opens."));
+    return lines.join(QLatin1Char('\n'));
+}
+
 } // namespace
 
 void MainWindow::open()
@@ -91,8 +108,11 @@ void MainWindow::open()
 void MainWindow::open(const QString &path)
 {
     m_queuedPath = path;
-    if (m_opening)
+    if (m_opening) {
+        if (canBeLoaded(path))
+            m_loadingProgress->giveUp();
         return;
+    }
     m_opening = true;
     const QPointer<MainWindow> self(this);
     while (self && m_cfgProperties && m_queuedPath)
@@ -159,7 +179,8 @@ bool MainWindow::loadRecording(const QString &path)
     clearView();
     if (!parse(path))
         return false;
-    const bool isLoaded = m_cfgProperties->loaded != 0;
+    const bool isGivenUp = m_loadingProgress->isGivenUp(); // perhaps when it had just ended
+    const bool isLoaded = m_cfgProperties->loaded != 0 && !isGivenUp;
     if (isLoaded) {
         showRecording();
         const QString name = QFileInfo(path).fileName();
@@ -168,11 +189,8 @@ bool MainWindow::loadRecording(const QString &path)
         m_statusField->showFile(name);
     } else {
         m_otherRecordings->offerInArea();
-        const CFGProperties::Failure failure = m_cfgProperties->failure;
-        QStringList details{path, reasonText(failure)};
-        if (canBeConverted(path, failure))
-            details.append(tr("wavorin-convert turns it into a recording that opens."));
-        showWarning(tr("File not supported."), details.join(QLatin1Char('\n')));
+        if (!isGivenUp)
+            showWarning(tr("File not supported."), failureText(path, m_cfgProperties->failure));
     }
     if (animation)
         animation->close();
@@ -191,8 +209,14 @@ bool MainWindow::parse(const QString &path)
     });
     // A window that closes stops the thread, perhaps before the load has begun.
     connect(m_loaderThread, &QThread::finished, &loop, &QEventLoop::quit);
+    const CancelWatch watch(*this);
+    connect(&watch, &CancelWatch::escaped, m_loadingProgress, &LoadingProgress::giveUp);
+    m_loadingProgress->start(m_cfgProperties->progress,
+        isTextExport(path) ? LoadProgress::Stage::Reading : LoadProgress::Stage::Phasors);
     emit initProperties();
     loop.exec();
+    if (self)
+        m_loadingProgress->stop();
     // The end of the application ends the loop, too: the loader may still be at work.
     return finished && self && m_cfgProperties;
 }

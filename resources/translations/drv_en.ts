@@ -146,6 +146,41 @@
     </message>
 </context>
 <context>
+    <name>LoadingProgress</name>
+    <message>
+        <source>Reading: %p%</source>
+        <translation>Reading: %p%</translation>
+    </message>
+    <message>
+        <source>Phasors: %p%</source>
+        <translation>Phasors: %p%</translation>
+    </message>
+    <message>
+        <source>about %1 s left</source>
+        <translation>about %1 s left</translation>
+    </message>
+    <message>
+        <source>about %1 min left</source>
+        <translation>about %1 min left</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>Loading</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Stop loading</source>
+        <translation>Stop loading</translation>
+    </message>
+    <message>
+        <source>Stop loading (Esc)</source>
+        <translation>Stop loading (Esc)</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Device Information</source>

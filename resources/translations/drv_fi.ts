@@ -146,6 +146,41 @@
     </message>
 </context>
 <context>
+    <name>LoadingProgress</name>
+    <message>
+        <source>Reading: %p%</source>
+        <translation>Luetaan: %p %</translation>
+    </message>
+    <message>
+        <source>Phasors: %p%</source>
+        <translation>Osoittimet: %p %</translation>
+    </message>
+    <message>
+        <source>about %1 s left</source>
+        <translation>jäljellä noin %1 s</translation>
+    </message>
+    <message>
+        <source>about %1 min left</source>
+        <translation>jäljellä noin %1 min</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>Lataus</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Keskeytä</translation>
+    </message>
+    <message>
+        <source>Stop loading</source>
+        <translation>Keskeytä lataus</translation>
+    </message>
+    <message>
+        <source>Stop loading (Esc)</source>
+        <translation>Keskeytä lataus (Esc)</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Device Information</source>

@@ -146,6 +146,41 @@
     </message>
 </context>
 <context>
+    <name>LoadingProgress</name>
+    <message>
+        <source>Reading: %p%</source>
+        <translation>正在读取：%p%</translation>
+    </message>
+    <message>
+        <source>Phasors: %p%</source>
+        <translation>相量：%p%</translation>
+    </message>
+    <message>
+        <source>about %1 s left</source>
+        <translation>剩余约 %1 秒</translation>
+    </message>
+    <message>
+        <source>about %1 min left</source>
+        <translation>剩余约 %1 分钟</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>加载进度</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Stop loading</source>
+        <translation>停止加载</translation>
+    </message>
+    <message>
+        <source>Stop loading (Esc)</source>
+        <translation>停止加载 (Esc)</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Device Information</source>
