@@ -13,7 +13,7 @@
 class LoadProgress {
 public:
     enum class Stage { Reading, Phasors };
-    struct Place {
+    struct alignas(8) Place { // in one piece for all compilers
         Stage stage;
         float done; // part of this stage alone, 0 to 1
     };
