@@ -4,10 +4,23 @@
 # For scripts that run programs for Windows on Linux; to be sourced.
 # shellcheck shell=bash
 
+# Ends every Windows and whatever the script runs in the background. A script that has more to do at its end sets
+# a trap of its own that calls this.
+wine_folders=()
+end_windows() {
+    local folder
+    # Those first that would start programs anew.
+    # shellcheck disable=SC2046 # one word for each process
+    kill $(jobs -p) 2>/dev/null || true
+    for folder in "${wine_folders[@]}"; do WINEPREFIX=$folder wineserver -k || true; done
+}
+trap end_windows EXIT
+
 # start_wine FOLDER: a Windows of its own there, made where it is missing, for every program that follows.
 start_wine() {
     # Without a locale in UTF-8, files whose names go beyond ASCII are not found.
     export WINEPREFIX=$1 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml=" LC_ALL=C.UTF-8
+    wine_folders+=("$1")
     [ ! -e "$1/ready" ] || return 0
     mkdir -p "$1"
     env -u DISPLAY wineboot -i >"$1/log" 2>&1 || { cat "$1/log" && return 1; }
@@ -22,8 +35,6 @@ own_display() {
     local number
     number=$(mktemp)
     Xvfb -displayfd 3 -screen 0 "${1}x24" 3>"$number" 2>/dev/null &
-    display_process=$!
-    trap 'wineserver -k || true; kill $display_process' EXIT
     until [ -s "$number" ]; do sleep 0.1; done
     DISPLAY=:$(cat "$number")
     export DISPLAY
