@@ -22,4 +22,4 @@ set(Qt5LinguistTools_DIR "${linguist}" CACHE PATH "Package of the tools for tran
 
 # One file that needs nothing but Windows, without symbols: they take thirty times its room with the tests.
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static -s")
-set(CMAKE_CROSSCOMPILING_EMULATOR wine)
+set(CMAKE_CROSSCOMPILING_EMULATOR "${CMAKE_CURRENT_LIST_DIR}/../tests/windows/run")
