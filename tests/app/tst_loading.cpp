@@ -8,13 +8,16 @@
 
 #include <QDropEvent>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QProgressBar>
+#include <QRegularExpression>
 #include <QToolButton>
 
 #include <functional>
+#include <utility>
 
 // The load that a person sees go on, ends, or replaces by another one.
 class TestLoading : public OpeningFixture {
