@@ -76,6 +76,7 @@ MainWindow::MainWindow(QWidget *parent)
     statusBar()->addPermanentWidget(m_statusField);
     m_loadingProgress = new LoadingProgress(statusBar());
     statusBar()->addPermanentWidget(m_loadingProgress);
+    statusBar()->addPermanentWidget(m_sideWindows->noteSign());
     readSettings();
     setCurrentFile(QString());
     setUnifiedTitleAndToolBarOnMac(true);

@@ -3,12 +3,37 @@
 
 #include "sidewindows.h"
 
+#include "cfgproperties.h"
 #include "eventsdialog.h"
 #include "measurementsdialog.h"
+#include "notesdialog.h"
+#include "notesign.h"
 #include "plotter.h"
 
 #include <QAction>
 #include <QMenu>
+
+namespace {
+
+void bringUp(QWidget &window)
+{
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+} // namespace
+
+SideWindows::SideWindows(QWidget *window)
+    : QObject(window), m_window(window), m_noteSign(new NoteSign(window))
+{
+    connect(m_noteSign, &NoteSign::clicked, this, &SideWindows::showNotes);
+}
+
+QWidget *SideWindows::noteSign() const
+{
+    return m_noteSign;
+}
 
 void SideWindows::setRecording(const CFGProperties *recording, Plotter *plot)
 {
@@ -18,6 +43,9 @@ void SideWindows::setRecording(const CFGProperties *recording, Plotter *plot)
         m_events->setRecording(m_events->isVisible() ? recording : nullptr);
     if (m_measurements)
         m_measurements->setPlotter(m_measurements->isVisible() ? plot : nullptr);
+    if (m_notes)
+        m_notes->setRecording(m_notes->isVisible() ? recording : nullptr);
+    m_noteSign->showCount(recording ? recording->notes.size() : 0);
 }
 
 void SideWindows::addTo(QMenu &menu, Plotter &plot)
@@ -25,6 +53,9 @@ void SideWindows::addTo(QMenu &menu, Plotter &plot)
     connect(menu.addAction(tr("Events...")), &QAction::triggered, this, &SideWindows::showEvents);
     connect(menu.addAction(tr("Measurements...")), &QAction::triggered, &plot,
         [this, &plot] { showMeasurements(&plot); });
+    QAction *notes = menu.addAction(tr("Notes..."));
+    notes->setEnabled(m_recording && !m_recording->notes.isEmpty());
+    connect(notes, &QAction::triggered, this, &SideWindows::showNotes);
 }
 
 void SideWindows::refresh()
@@ -51,9 +82,16 @@ void SideWindows::showEvents()
     }
     if (!m_events->isVisible())
         m_events->setRecording(m_recording);
-    m_events->show();
-    m_events->raise();
-    m_events->activateWindow();
+    bringUp(*m_events);
+}
+
+void SideWindows::showNotes()
+{
+    if (!m_notes)
+        m_notes = new NotesDialog(m_window);
+    if (!m_notes->isVisible())
+        m_notes->setRecording(m_recording);
+    bringUp(*m_notes);
 }
 
 MeasurementsDialog *SideWindows::measurements()

@@ -9,6 +9,8 @@
 class CFGProperties;
 class EventsDialog;
 class MeasurementsDialog;
+class NoteSign;
+class NotesDialog;
 class Plotter;
 class QMenu;
 
@@ -18,7 +20,10 @@ class SideWindows : public QObject {
     Q_OBJECT
 
 public:
-    explicit SideWindows(QWidget *window) : QObject(window), m_window(window) { }
+    explicit SideWindows(QWidget *window);
+
+    // Tells that there are notes on the recording, and opens them; for the status bar.
+    QWidget *noteSign() const;
 
     // The recording on screen and a plot that stays as long; null before they go.
     void setRecording(const CFGProperties *recording, Plotter *plot);
@@ -37,6 +42,7 @@ signals:
 
 private:
     void showEvents();
+    void showNotes();
     MeasurementsDialog *measurements();
     void showMeasurements(Plotter *plot);
 
@@ -45,4 +51,6 @@ private:
     QPointer<Plotter> m_plot; // through which all plots are moved
     EventsDialog *m_events = nullptr;
     MeasurementsDialog *m_measurements = nullptr;
+    NotesDialog *m_notes = nullptr;
+    NoteSign *m_noteSign;
 };

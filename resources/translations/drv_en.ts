@@ -848,6 +848,127 @@ Please select another file.</translation>
     </message>
 </context>
 <context>
+    <name>NoteSign</name>
+    <message>
+        <source>Notes: %1</source>
+        <translation>Notes: %1</translation>
+    </message>
+    <message>
+        <source>What was noticed while the recording was read. Notes: %1</source>
+        <translation>What was noticed while the recording was read. Notes: %1</translation>
+    </message>
+</context>
+<context>
+    <name>NoteTable</name>
+    <message>
+        <source>Note</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>How Many</source>
+        <translation>How Many</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Configuration</source>
+        <translation>Configuration</translation>
+    </message>
+    <message>
+        <source>Written by the revision of %1, read by the rules of 1999</source>
+        <translation>Written by the revision of %1, read by the rules of 1999</translation>
+    </message>
+    <message>
+        <source>The total of %1 channels is not the sum of analog and digital ones, %2</source>
+        <translation>The total of %1 channels is not the sum of analog and digital ones, %2</translation>
+    </message>
+    <message>
+        <source>Several lines of sampling rates; the last one, %1 Hz, is taken for all</source>
+        <translation>Several lines of sampling rates; the last one, %1 Hz, is taken for all</translation>
+    </message>
+    <message>
+        <source>Start and trigger lie on two days; the trigger is placed by time of day alone</source>
+        <translation>Start and trigger lie on two days; the trigger is placed by time of day alone</translation>
+    </message>
+    <message>
+        <source>Data of type %1, read as ASCII</source>
+        <translation>Data of type %1, read as ASCII</translation>
+    </message>
+    <message>
+        <source>Fewer samples than the last rate line promises: %1 of %2</source>
+        <translation>Fewer samples than the last rate line promises: %1 of %2</translation>
+    </message>
+    <message>
+        <source>More samples than the last rate line promises: %1 instead of %2</source>
+        <translation>More samples than the last rate line promises: %1 instead of %2</translation>
+    </message>
+    <message>
+        <source>A blank or short line ended the reading before the end of the file</source>
+        <translation>A blank or short line ended the reading before the end of the file</translation>
+    </message>
+    <message>
+        <source>Too long a line, or too many samples for the file: not read from here on</source>
+        <translation>Too long a line, or too many samples for the file: not read from here on</translation>
+    </message>
+    <message>
+        <source>Too few or too many fields; in the first such line %1 too few</source>
+        <translation>Too few or too many fields; in the first such line %1 too few</translation>
+    </message>
+    <message>
+        <source>Too few or too many fields; in the first such line %1 too many</source>
+        <translation>Too few or too many fields; in the first such line %1 too many</translation>
+    </message>
+    <message>
+        <source>All time stamps are the same: %1 ms</source>
+        <translation>All time stamps are the same: %1 ms</translation>
+    </message>
+    <message>
+        <source>Time jumps ahead by %1 ms, at most by %2 ms</source>
+        <translation>Time jumps ahead by %1 ms, at most by %2 ms</translation>
+    </message>
+    <message>
+        <source>Time steps back by %1 ms, at most by %2 ms</source>
+        <translation>Time steps back by %1 ms, at most by %2 ms</translation>
+    </message>
+    <message>
+        <source>%1: marks of missing values, read as numbers</source>
+        <translation>%1: marks of missing values, read as numbers</translation>
+    </message>
+</context>
+<context>
+    <name>NotesDialog</name>
+    <message>
+        <source>Notes on the Recording</source>
+        <translation>Notes on the Recording</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Notes</translation>
+    </message>
+    <message>
+        <source>Copy all rows, with tabs between the columns</source>
+        <translation>Copy all rows, with tabs between the columns</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Table</source>
+        <translation>&amp;Copy Table</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
     <name>OpenHint</name>
     <message>
         <source>Open a recording: File &gt; Open... (Ctrl+O), or drop a .cfg, .zip or .txt file here.</source>
@@ -1566,6 +1687,10 @@ Do you want to replace it?</translation>
     <message>
         <source>Measurements...</source>
         <translation>Measurements...</translation>
+    </message>
+    <message>
+        <source>Notes...</source>
+        <translation>Notes...</translation>
     </message>
 </context>
 <context>

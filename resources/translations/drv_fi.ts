@@ -848,6 +848,127 @@ Valitse toinen tiedosto.</translation>
     </message>
 </context>
 <context>
+    <name>NoteSign</name>
+    <message>
+        <source>Notes: %1</source>
+        <translation>Huomautuksia: %1</translation>
+    </message>
+    <message>
+        <source>What was noticed while the recording was read. Notes: %1</source>
+        <translation>Tallenteen lukemisessa huomattua. Huomautuksia: %1</translation>
+    </message>
+</context>
+<context>
+    <name>NoteTable</name>
+    <message>
+        <source>Note</source>
+        <translation>Huomautus</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Tiedosto</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Rivi</translation>
+    </message>
+    <message>
+        <source>How Many</source>
+        <translation>Lukumäärä</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Datatiedosto</translation>
+    </message>
+    <message>
+        <source>Configuration</source>
+        <translation>Määrittelytiedosto</translation>
+    </message>
+    <message>
+        <source>Written by the revision of %1, read by the rules of 1999</source>
+        <translation>Kirjoitettu vuoden %1 version mukaan, luettu vuoden 1999 sääntöjen mukaan</translation>
+    </message>
+    <message>
+        <source>The total of %1 channels is not the sum of analog and digital ones, %2</source>
+        <translation>Kanavien kokonaismäärä %1 ei ole analogisten ja digitaalisten summa %2</translation>
+    </message>
+    <message>
+        <source>Several lines of sampling rates; the last one, %1 Hz, is taken for all</source>
+        <translation>Useita näytteenottotaajuuden rivejä; viimeistä, %1 Hz, käytetään kaikille</translation>
+    </message>
+    <message>
+        <source>Start and trigger lie on two days; the trigger is placed by time of day alone</source>
+        <translation>Alku ja liipaisu ovat eri päivinä; liipaisu sijoitetaan pelkän kellonajan mukaan</translation>
+    </message>
+    <message>
+        <source>Data of type %1, read as ASCII</source>
+        <translation>Datan tyyppi on %1, luettu ASCII-muotoisena</translation>
+    </message>
+    <message>
+        <source>Fewer samples than the last rate line promises: %1 of %2</source>
+        <translation>Näytteitä vähemmän kuin viimeinen taajuusrivi lupaa: %1 / %2</translation>
+    </message>
+    <message>
+        <source>More samples than the last rate line promises: %1 instead of %2</source>
+        <translation>Näytteitä enemmän kuin viimeinen taajuusrivi lupaa: %1, luvattu %2</translation>
+    </message>
+    <message>
+        <source>A blank or short line ended the reading before the end of the file</source>
+        <translation>Tyhjä tai lyhyt rivi päätti lukemisen ennen tiedoston loppua</translation>
+    </message>
+    <message>
+        <source>Too long a line, or too many samples for the file: not read from here on</source>
+        <translation>Liian pitkä rivi tai tiedostoon nähden liikaa näytteitä: tästä eteenpäin ei luettu</translation>
+    </message>
+    <message>
+        <source>Too few or too many fields; in the first such line %1 too few</source>
+        <translation>Liian vähän tai liikaa kenttiä; ensimmäisellä tällaisella rivillä %1 liian vähän</translation>
+    </message>
+    <message>
+        <source>Too few or too many fields; in the first such line %1 too many</source>
+        <translation>Liian vähän tai liikaa kenttiä; ensimmäisellä tällaisella rivillä %1 liikaa</translation>
+    </message>
+    <message>
+        <source>All time stamps are the same: %1 ms</source>
+        <translation>Kaikki aikaleimat ovat samoja: %1 ms</translation>
+    </message>
+    <message>
+        <source>Time jumps ahead by %1 ms, at most by %2 ms</source>
+        <translation>Aika hyppää eteenpäin %1 ms, enintään %2 ms</translation>
+    </message>
+    <message>
+        <source>Time steps back by %1 ms, at most by %2 ms</source>
+        <translation>Aika palaa taaksepäin %1 ms, enintään %2 ms</translation>
+    </message>
+    <message>
+        <source>%1: marks of missing values, read as numbers</source>
+        <translation>%1: puuttuvien arvojen merkkejä, luettu lukuina</translation>
+    </message>
+</context>
+<context>
+    <name>NotesDialog</name>
+    <message>
+        <source>Notes on the Recording</source>
+        <translation>Huomautukset tallenteesta</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>Huomautukset</translation>
+    </message>
+    <message>
+        <source>Copy all rows, with tabs between the columns</source>
+        <translation>Kopioi kaikki rivit sarkaimin eroteltuina</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Table</source>
+        <translation>K&amp;opioi taulukko</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sulje</translation>
+    </message>
+</context>
+<context>
     <name>OpenHint</name>
     <message>
         <source>Open a recording: File &gt; Open... (Ctrl+O), or drop a .cfg, .zip or .txt file here.</source>
@@ -1566,6 +1687,10 @@ Korvataanko se?</translation>
     <message>
         <source>Measurements...</source>
         <translation>Mittaukset...</translation>
+    </message>
+    <message>
+        <source>Notes...</source>
+        <translation>Huomautukset...</translation>
     </message>
 </context>
 <context>

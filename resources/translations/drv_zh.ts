@@ -848,6 +848,127 @@ Please select another file.</source>
     </message>
 </context>
 <context>
+    <name>NoteSign</name>
+    <message>
+        <source>Notes: %1</source>
+        <translation>备注：%1</translation>
+    </message>
+    <message>
+        <source>What was noticed while the recording was read. Notes: %1</source>
+        <translation>读取录波时发现的情况。备注：%1</translation>
+    </message>
+</context>
+<context>
+    <name>NoteTable</name>
+    <message>
+        <source>Note</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>How Many</source>
+        <translation>数量</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>数据</translation>
+    </message>
+    <message>
+        <source>Configuration</source>
+        <translation>配置</translation>
+    </message>
+    <message>
+        <source>Written by the revision of %1, read by the rules of 1999</source>
+        <translation>按 %1 年版写成，按 1999 年版的规则读取</translation>
+    </message>
+    <message>
+        <source>The total of %1 channels is not the sum of analog and digital ones, %2</source>
+        <translation>通道总数 %1 不等于模拟与数字通道之和 %2</translation>
+    </message>
+    <message>
+        <source>Several lines of sampling rates; the last one, %1 Hz, is taken for all</source>
+        <translation>有多行采样率；全部按最后一行 %1 Hz 处理</translation>
+    </message>
+    <message>
+        <source>Start and trigger lie on two days; the trigger is placed by time of day alone</source>
+        <translation>开始与触发不在同一天；触发位置仅按时刻确定</translation>
+    </message>
+    <message>
+        <source>Data of type %1, read as ASCII</source>
+        <translation>数据类型为 %1，按 ASCII 读取</translation>
+    </message>
+    <message>
+        <source>Fewer samples than the last rate line promises: %1 of %2</source>
+        <translation>采样点少于最后一个采样率行所述：%1 / %2</translation>
+    </message>
+    <message>
+        <source>More samples than the last rate line promises: %1 instead of %2</source>
+        <translation>采样点多于最后一个采样率行所述：%1，应为 %2</translation>
+    </message>
+    <message>
+        <source>A blank or short line ended the reading before the end of the file</source>
+        <translation>空行或短行使读取在文件结束前终止</translation>
+    </message>
+    <message>
+        <source>Too long a line, or too many samples for the file: not read from here on</source>
+        <translation>行过长，或采样点对该文件而言过多：从此处起未读取</translation>
+    </message>
+    <message>
+        <source>Too few or too many fields; in the first such line %1 too few</source>
+        <translation>字段过少或过多；第一个这样的行少 %1 个</translation>
+    </message>
+    <message>
+        <source>Too few or too many fields; in the first such line %1 too many</source>
+        <translation>字段过少或过多；第一个这样的行多 %1 个</translation>
+    </message>
+    <message>
+        <source>All time stamps are the same: %1 ms</source>
+        <translation>所有时标相同：%1 ms</translation>
+    </message>
+    <message>
+        <source>Time jumps ahead by %1 ms, at most by %2 ms</source>
+        <translation>时间向前跳 %1 ms，最多 %2 ms</translation>
+    </message>
+    <message>
+        <source>Time steps back by %1 ms, at most by %2 ms</source>
+        <translation>时间倒退 %1 ms，最多 %2 ms</translation>
+    </message>
+    <message>
+        <source>%1: marks of missing values, read as numbers</source>
+        <translation>%1：缺失值标记，按数值读取</translation>
+    </message>
+</context>
+<context>
+    <name>NotesDialog</name>
+    <message>
+        <source>Notes on the Recording</source>
+        <translation>录波备注</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation>备注</translation>
+    </message>
+    <message>
+        <source>Copy all rows, with tabs between the columns</source>
+        <translation>复制所有行，列间以制表符分隔</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Table</source>
+        <translation>复制表格(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
     <name>OpenHint</name>
     <message>
         <source>Open a recording: File &gt; Open... (Ctrl+O), or drop a .cfg, .zip or .txt file here.</source>
@@ -1566,6 +1687,10 @@ Do you want to replace it?</source>
     <message>
         <source>Measurements...</source>
         <translation>测量...</translation>
+    </message>
+    <message>
+        <source>Notes...</source>
+        <translation>备注...</translation>
     </message>
 </context>
 <context>
