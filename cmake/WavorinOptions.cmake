@@ -12,7 +12,9 @@ target_compile_definitions(wavorin_options INTERFACE
     QT_NO_URL_CAST_FROM_STRING)
 target_compile_options(wavorin_options INTERFACE
     $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:
-        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual>)
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual>
+    # The toolkit's own macros take no further arguments, as the next standard allows.
+    $<$<CXX_COMPILER_ID:Clang,AppleClang>:-Wno-gnu-zero-variadic-macro-arguments>)
 if(WAVORIN_WERROR)
     target_compile_options(wavorin_options INTERFACE
         $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-Werror>)

@@ -16,7 +16,8 @@ void repaintAround(QWidget &plot, const QRect &place)
 PlotLine::PlotLine(QWidget *plot, const QString &name, const QString &color) : QFrame(plot)
 {
     setObjectName(name);
-    setFrameStyle(QFrame::VLine | QFrame::Plain);
+    setFrameShape(QFrame::VLine);
+    setFrameShadow(QFrame::Plain);
     setLineWidth(1);
     setStyleSheet(QStringLiteral("QFrame{color: %1; border-color: %1;}").arg(color));
     setAttribute(Qt::WA_TransparentForMouseEvents);
