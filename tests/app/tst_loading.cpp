@@ -1,17 +1,16 @@
 // SPDX-FileCopyrightText: 2026 Norvale
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "drops.h"
 #include "openhint.h"
 #include "openingfixture.h"
 #include "playedarchiver.h"
 #include "plotter.h"
 
-#include <QDropEvent>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QProgressBar>
 #include <QRegularExpression>
 #include <QToolButton>
@@ -93,17 +92,6 @@ class TestLoading : public OpeningFixture {
             if (candidate->text() == name)
                 candidate->trigger();
         }
-    }
-
-    void drop(const QString &file) const
-    {
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(file)});
-        QDragEnterEvent enter(
-            QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(window.get(), &enter);
-        QDropEvent dropped(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(window.get(), &dropped);
     }
 
     // The window is as after a failed load, but for the message that there was none.
@@ -281,7 +269,7 @@ private slots:
         whenAt(stage, [&] {
             sinceChosen.start();
             if (way == QLatin1String("drop")) {
-                drop(chosen);
+                dropFile(*window, chosen);
             } else if (way == QLatin1String("dialog")) {
                 QTimer::singleShot(100, this, [&] {
                     auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());

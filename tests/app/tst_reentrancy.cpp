@@ -3,17 +3,16 @@
 
 #include "addplotterdialog.h"
 #include "cfgproperties.h"
+#include "drops.h"
 #include "playedarchiver.h"
 #include "plotswindow.h"
 #include "smallrecording.h"
 
-#include <QDropEvent>
 #include <QFileDialog>
 #include <QLoggingCategory>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QPointer>
 #include <QScrollBar>
 #include <QWheelEvent>
@@ -70,7 +69,7 @@ class TestReentrancy : public PlotsWindow {
             window->open(anyOf(files));
             break;
         case 2:
-            drop(anyOf(files));
+            dropFile(*window, anyOf(files));
             break;
         case 3:
         case 4:
@@ -110,14 +109,6 @@ class TestReentrancy : public PlotsWindow {
                 languages.append(candidate);
         }
         anyOf(languages)->trigger();
-    }
-
-    void drop(const QString &path)
-    {
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(path)});
-        QDropEvent event(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(window.get(), &event);
     }
 
     // What the window's own controls offer, which may be empty.
