@@ -42,8 +42,8 @@ bool isBlank(const char *begin, const char *end)
         [](char c) { return c == '\n' || c == '\r' || c == ' ' || c == '\0' || c == endOfFile; });
 }
 
-// Walks over the fields of one line. Beyond the last one every field is empty. A line that may be
-// worth a note, for a field that is empty or missing or marks a missing value, is told as odd.
+// Walks over the fields of one line. Beyond the last one every field is empty. A line with a field
+// that is empty or missing is told as odd.
 class LineFields {
 public:
     // What tells of it stands elsewhere, so that it takes no register of the loops over the fields.
@@ -236,8 +236,8 @@ private:
         }
     }
 
-    // Of the values gathered. Without one beyond the smallest mark the scaled ones would not reach
-    // that far, so that those of most channels are not looked through.
+    // Of the values gathered. Those of most channels never come near a mark and need not be looked
+    // through.
     void noteMarks()
     {
         const qint64 firstLine = nextLine() - static_cast<qint64>(m_gathered);
