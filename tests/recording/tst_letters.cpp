@@ -53,7 +53,11 @@ void TestLetters::textsInLetters_data()
     row("no UTF-8", "48e4697269f6", Letters::Utf8, "Häiriö");
     row("half a letter of UTF-8", "48c3", Letters::Utf8, "HÃ");
     row("half a letter of GBK", "cfe0b5", Letters::Gbk, "Ïàµ");
+#ifdef Q_OS_WIN // where the toolkit has no other library's table, in which every byte has a letter
+    row("no letter of Windows-1251", "d2ee98", Letters::Windows1251, "Òî\u0098");
+#else
     row("no letter of Windows-1251", "d2ee98", Letters::Windows1251, "То\u0098");
+#endif
     row("no letter of Windows-1252", "8141", Letters::Windows1252,
         "\u0081"
         "A");
