@@ -12,6 +12,8 @@
 #include <QJsonArray>
 #include <QMenu>
 
+#include <algorithm>
+
 namespace {
 
 const QString key = QStringLiteral("letters"); // pairs of a device and letters, the latest first
@@ -57,30 +59,12 @@ void rememberLetters(const QString &device, Letters letters)
     remember(key, pairs);
 }
 
-Letters likelyLettersOf(const CFGProperties &recording)
+// The name of the letters that a note tells of; empty where there is none.
+QString likelyLettersOf(const CFGProperties &recording)
 {
-    QStringList texts{recording.stationName, recording.recordingDeviceId};
-    texts += recording.analogIds + recording.analogPhases + recording.analogCircuits;
-    texts += recording.analogUnits + recording.digitalIds;
-    return likelyLetters(texts);
-}
-
-QString nameOf(Letters letters)
-{
-    switch (letters) {
-    case Letters::AsRead:
-        return NamesMenu::tr("As Read");
-    case Letters::Windows1251:
-        return QStringLiteral("Windows-1251");
-    case Letters::Ibm866:
-        return QStringLiteral("IBM 866");
-    case Letters::Windows1252:
-        return QStringLiteral("Windows-1252");
-    case Letters::Utf8:
-    case Letters::Gbk:
-        break;
-    }
-    return codecName(letters);
+    const auto note = std::find_if(recording.notes.cbegin(), recording.notes.cend(),
+        [](const ReadingNote &each) { return each.kind == ReadingNote::Kind::OtherLetters; });
+    return note == recording.notes.cend() ? QString() : note->word;
 }
 
 } // namespace
@@ -90,12 +74,17 @@ void addNamesMenu(QMenu &menu, const CFGProperties &recording)
     QMenu *choices = menu.addMenu(NamesMenu::tr("Names &As"));
     auto *group = new QActionGroup(choices);
     const Letters chosen = NameLetters::shared().letters();
-    const Letters likely = likelyLettersOf(recording);
+    const QString likely = likelyLettersOf(recording);
+    const QString advice = NamesMenu::tr("The names seem to be in %1").arg(likely);
+    const bool isAdvised = !likely.isEmpty() && likely != lettersName(chosen);
     for (int kind = 0; kind < letterKinds; ++kind) {
         const auto letters = static_cast<Letters>(kind);
-        QAction *choice = group->addAction(nameOf(letters));
+        const QString name = lettersName(letters);
+        QAction *choice = group->addAction(name.isEmpty() ? NamesMenu::tr("As Read") : name);
         choice->setCheckable(true);
         choice->setChecked(letters == chosen);
+        if (isAdvised && name == likely)
+            choice->setToolTip(advice);
         choices->addAction(choice);
         QObject::connect(choice, &QAction::triggered, &NameLetters::shared(),
             [letters, device = deviceOf(recording)] {
@@ -103,12 +92,9 @@ void addNamesMenu(QMenu &menu, const CFGProperties &recording)
                 NameLetters::shared().choose(letters);
             });
     }
-    if (likely == Letters::AsRead || likely == chosen)
-        return;
-    const QString advice = NamesMenu::tr("The names seem to be in %1").arg(nameOf(likely));
-    choices->menuAction()->setToolTip(advice);
-    group->actions().at(static_cast<int>(likely))->setToolTip(advice);
-    choices->setToolTipsVisible(true);
+    if (isAdvised)
+        choices->menuAction()->setToolTip(advice);
+    choices->setToolTipsVisible(isAdvised);
 }
 
 void chooseLettersOf(const CFGProperties &recording)

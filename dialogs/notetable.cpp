@@ -26,6 +26,7 @@ bool isCounted(Kind kind)
 {
     switch (kind) {
     case Kind::SeveralRates:
+    case Kind::OtherLetters:
     case Kind::FieldCounts:
     case Kind::EqualTimes:
     case Kind::TimeJumps:
@@ -140,6 +141,9 @@ QString NoteTable::whatOfConfiguration(const ReadingNote &note) const
         return tr("Start and trigger lie on two days; the trigger is placed by time of day alone");
     case Kind::NotAscii:
         return tr("Data of type %1, read as ASCII").arg(shownName(note.word));
+    case Kind::OtherLetters:
+        return tr("The names seem to be in %1; Names As in the menu of the plots shows them so")
+            .arg(note.word);
     case Kind::FewerSamples:
         return tr("Fewer samples than the last rate line promises: %1 of %2")
             .arg(note.count)

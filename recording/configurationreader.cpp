@@ -4,6 +4,7 @@
 #include "configurationreader.h"
 
 #include "cfgproperties.h"
+#include "notetaking.h"
 #include "numbers.h"
 #include "textlines.h"
 #include "timeofday.h"
@@ -175,15 +176,22 @@ void readTimeStamps(CFGProperties &recording)
 void readConfiguration(QIODevice &device, CFGProperties &recording)
 {
     bool isTooLong = false;
+    NameLines names;
     for (QByteArray line; !(line = nextLine(device, isTooLong)).isEmpty();) {
         // A text-mode device would drop other carriage returns too, by the state of its buffer.
         if (line.endsWith("\r\n"))
             line.remove(line.size() - 2, 1);
         ++recording.cfgLineNumber;
         // The text of a line ends at its first NUL.
-        readLine(recording, QString::fromLatin1(line.constData()));
+        const QString text = QString::fromLatin1(line.constData());
+        readLine(recording, text);
+        const qint64 channels
+            = qint64(recording.analogChannelCount) + recording.digitalChannelCount;
+        if (recording.cfgLineNumber <= channels + 2)
+            names.add(recording.cfgLineNumber, text);
         recording.samplesPerCycle = roundedToInt(recording.sampleRate / recording.lineFrequency);
     }
+    names.noteIn(recording, ReadingNote::File::Configuration);
     if (isTooLong)
         recording.notes.append({Kind::LimitReached, ReadingNote::File::Configuration,
             qint64(recording.cfgLineNumber) + 1});

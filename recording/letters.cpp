@@ -14,6 +14,8 @@ namespace {
 
 const std::array<const char *, letterKinds> codecNames{
     "", "UTF-8", "windows-1251", "IBM866", "GBK", "windows-1252"};
+const std::array<const char *, letterKinds> shownNames{
+    "", "UTF-8", "Windows-1251", "IBM 866", "GBK", "Windows-1252"};
 
 // Empty where a letter has no byte in Latin-1.
 std::optional<QByteArray> latin1Bytes(const QString &text)
@@ -22,13 +24,6 @@ std::optional<QByteArray> latin1Bytes(const QString &text)
     const bool fits = std::all_of(
         text.cbegin(), text.cend(), [](QChar letter) { return letter.unicode() <= last; });
     return fits ? std::optional<QByteArray>(text.toLatin1()) : std::nullopt;
-}
-
-bool isPlain(const QString &text)
-{
-    constexpr ushort end = 0x80;
-    return std::all_of(
-        text.cbegin(), text.cend(), [](QChar letter) { return letter.unicode() < end; });
 }
 
 bool isBetween(uchar byte, int first, int last)
@@ -150,6 +145,18 @@ private:
 QString codecName(Letters letters)
 {
     return QString::fromLatin1(codecNames.at(static_cast<size_t>(letters)));
+}
+
+QString lettersName(Letters letters)
+{
+    return QString::fromLatin1(shownNames.at(static_cast<size_t>(letters)));
+}
+
+bool isPlain(const QString &text)
+{
+    constexpr ushort end = 0x80;
+    return std::all_of(
+        text.cbegin(), text.cend(), [](QChar letter) { return letter.unicode() < end; });
 }
 
 QString inLetters(const QString &read, Letters letters, bool isBeginning)

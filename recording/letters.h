@@ -16,6 +16,12 @@ constexpr int letterKinds = 6;
 // The name of a character set, that of the toolkit's codec; empty for AsRead.
 QString codecName(Letters letters);
 
+// The name of letters as it is shown, the same in all languages; empty for AsRead.
+QString lettersName(Letters letters);
+
+// Whether a text is of ASCII alone, which reads the same in all letters.
+bool isPlain(const QString &text);
+
 // A text in other letters than it was read in. Where its bytes do not read in them, and where it
 // was not read as Latin-1, it stays as it is. Of a text that is only the beginning of one, the last
 // letter may be incomplete: it is left out.

@@ -4,6 +4,7 @@
 #include "notetaking.h"
 
 #include "analogchannel.h"
+#include "letters.h"
 #include "recordingcontents.h"
 
 #include <algorithm>
@@ -61,6 +62,25 @@ void MissingValues::noteIn(RecordingContents &recording, int channel) const
     if (m_count > 0)
         recording.notes.append(
             {ReadingNote::Kind::MissingValues, ReadingNote::File::Data, m_line, m_count, channel});
+}
+
+void NameLines::add(qint64 line, const QString &text)
+{
+    constexpr int mostTexts = 1000;
+    if (isPlain(text))
+        return;
+    if (m_count++ == 0)
+        m_line = line;
+    if (m_texts.size() < mostTexts)
+        m_texts.append(text);
+}
+
+void NameLines::noteIn(RecordingContents &recording, ReadingNote::File file) const
+{
+    const QString letters = lettersName(likelyLetters(m_texts));
+    if (!letters.isEmpty())
+        recording.notes.append(
+            {ReadingNote::Kind::OtherLetters, file, m_line, m_count, -1, 0, 0, letters});
 }
 
 void noteTimes(RecordingContents &recording, int firstSample, qint64 firstLine)

@@ -5,6 +5,8 @@
 
 #include "readingnote.h"
 
+#include <QStringList>
+
 class AnalogChannel;
 struct RecordingContents;
 
@@ -34,6 +36,19 @@ public:
     void noteIn(RecordingContents &recording, int channel) const; // nothing where none is missing
 
 private:
+    qint64 m_count = 0;
+    qint64 m_line = 0; // of the first one
+};
+
+// Of the lines that name station, device and channels, those that are not of ASCII alone.
+class NameLines {
+public:
+    void add(qint64 line, const QString &text);
+    // Nothing where the names are most likely what they read as.
+    void noteIn(RecordingContents &recording, ReadingNote::File file) const;
+
+private:
+    QStringList m_texts; // as many as tell
     qint64 m_count = 0;
     qint64 m_line = 0; // of the first one
 };

@@ -14,6 +14,8 @@ struct ReadingNote {
         SeveralRates, // count: rate lines; amount: samples per second of the last one, which rules
         TriggerOnOtherDay, // amount: ms from the start to the trigger by the time of day alone
         NotAscii, // word: the type
+        OtherLetters, // names seem to be in others than those of Latin-1; count: lines of names
+                      // beyond ASCII; word: the letters, by lettersName()
         FewerSamples, // than the last rate line promises; count: samples read; amount: promised
         MoreSamples, // likewise
         EndedAtLine, // one that is blank or has no comma, while the file goes on

@@ -255,6 +255,9 @@ void readTextExport(QIODevice &device, CFGProperties &recording)
         return;
     }
     readHeader(recording, *header);
+    NameLines names;
+    names.add(1, *header);
+    names.noteIn(recording, ReadingNote::File::Data);
     readTimeStamps(recording);
     TextReader reader(recording, header->size());
     qint64 blankLines = 0; // at the very end of the file they are no samples

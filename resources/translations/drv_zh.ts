@@ -905,6 +905,10 @@ Please select another file.</source>
         <translation>数据类型为 %1，按 ASCII 读取</translation>
     </message>
     <message>
+        <source>The names seem to be in %1; Names As in the menu of the plots shows them so</source>
+        <translation>名称似乎采用 %1 编码；可用图形菜单中的“名称编码”以此显示</translation>
+    </message>
+    <message>
         <source>Fewer samples than the last rate line promises: %1 of %2</source>
         <translation>采样点少于最后一个采样率行所述：%1 / %2</translation>
     </message>

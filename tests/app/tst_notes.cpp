@@ -32,6 +32,7 @@ private slots:
     void aWindowThatWasClosedKeepsNothing();
     void inTheLanguageOfTheWindow();
     void theTableIsCopied();
+    void lettersAreOffered();
     void textsOfNotes_data();
     void textsOfNotes();
 
@@ -232,6 +233,32 @@ void TestNotes::theTableIsCopied()
                        "\t1\t\n"
                        "Ia: marks of missing values, read as numbers\t"
                        "Data\t2\t1\n"));
+}
+
+void TestNotes::lettersAreOffered()
+{
+    ConfigurationText text;
+    text.station = QByteArray::fromHex("cfd3d1ca") + ",J07,1999"; // ПУСК
+    text.addAnalog("Ia,A,line,A,1,0,0,-99,99,400,5,P");
+    text.rates = QByteArrayList{"1000,1"};
+    openText(text, "1,0,5\n");
+    click();
+    QCOMPARE(rows(), 1);
+    const QString english = QStringLiteral(
+        "The names seem to be in Windows-1251; Names As in the menu of the plots shows them so");
+    QCOMPARE(cell(0, 0), english);
+    QCOMPARE(cell(0, 1), QStringLiteral("Configuration"));
+    QCOMPARE(cell(0, 2), QStringLiteral("1"));
+    QCOMPARE(cell(0, 3), QStringLiteral("1"));
+    chooseLanguage("Suomi");
+    QCOMPARE(cell(0, 0),
+        QStringLiteral("Nimet näyttävät olevan merkistössä Windows-1251; kuvaajien valikon Nimien "
+                       "merkistö näyttää ne siinä"));
+    chooseLanguage("中文");
+    QCOMPARE(cell(0, 0),
+        QStringLiteral("名称似乎采用 Windows-1251 编码；可用图形菜单中的“名称编码”以此显示"));
+    chooseLanguage("English");
+    QCOMPARE(cell(0, 0), english);
 }
 
 void TestNotes::textsOfNotes_data()

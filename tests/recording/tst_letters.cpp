@@ -109,6 +109,8 @@ void TestLetters::everyByteOrNone()
     }
     QCOMPARE(codecName(Letters::AsRead), QString());
     QCOMPARE(codecName(Letters::Windows1252), QStringLiteral("windows-1252"));
+    QCOMPARE(lettersName(Letters::AsRead), QString());
+    QCOMPARE(lettersName(Letters::Ibm866), QStringLiteral("IBM 866"));
 }
 
 void TestLetters::likely_data()

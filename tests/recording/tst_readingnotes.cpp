@@ -58,6 +58,8 @@ class TestReadingNotes : public QObject {
 private slots:
     void ofConfigurations_data();
     void ofConfigurations();
+    void ofNames_data();
+    void ofNames();
     void ofData_data();
     void ofData();
     void ofTimes_data();
@@ -156,6 +158,46 @@ void TestReadingNotes::ofConfigurations()
     QCOMPARE(noteTexts(recording), notes);
     // A second pass goes on with the numbers of the lines.
     buffer.seek(0);
+    readConfiguration(buffer, recording);
+    QCOMPARE(noteTexts(recording), notes);
+}
+
+// Bytes beyond ASCII are written in hexadecimal digits.
+void TestReadingNotes::ofNames_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QStringList>("notes");
+    const auto row = [](const char *name, const char *notes,
+                         const std::function<void(ConfigurationText &)> &change) {
+        ConfigurationText configuration = plainConfiguration();
+        change(configuration);
+        QTest::newRow(name) << configuration.text() << listed(notes);
+    };
+    using Text = ConfigurationText;
+    const QByteArray russian = QByteArray::fromHex("cfd3d1ca"); // ПУСК
+    row("ASCII", "", [](Text &) {});
+    row("UTF-8", "letters cfg:1 x1 UTF-8", [](Text &text) { text.station = "H\xc3\xa4me,J07"; });
+    row("Latin-1", "", [](Text &text) { text.station = "H\xe4me,J07"; });
+    row("Windows-1251 of a digital channel", "letters cfg:5 x1 Windows-1251",
+        [=](Text &text) { text.digital = {"1," + russian + ",,,0"}; });
+    row("GBK of two channels", "letters cfg:4 x2 GBK", [](Text &text) {
+        text.analog[1].replace("2,", "2," + QByteArray::fromHex("b5e7c1f7")); // 电流
+        text.digital = {"1," + QByteArray::fromHex("ccf8d5a2") + ",,,0"}; // 跳闸
+    });
+    row("IBM 866 of the device", "letters cfg:1 x1 IBM 866",
+        [](Text &text) { text.station = "S," + QByteArray::fromHex("8f93918a"); });
+    row("Windows-1252 of a station", "letters cfg:1 x1 Windows-1252",
+        [](Text &text) { text.station = "10 \x80,J07"; });
+    row("a type is no name", "type cfg:11 x1 ÏÓÑÊ", [=](Text &text) { text.fileType = russian; });
+}
+
+void TestReadingNotes::ofNames()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QStringList, notes);
+    CFGProperties recording;
+    QBuffer buffer(&text);
+    buffer.open(QIODevice::ReadOnly);
     readConfiguration(buffer, recording);
     QCOMPARE(noteTexts(recording), notes);
 }
@@ -294,6 +336,9 @@ void TestReadingNotes::ofTextExports_data()
     const auto row = [](const char *name, const QByteArray &lines, const char *notes) {
         QTest::newRow(name) << header + lines << listed(notes);
     };
+    QTest::newRow("GBK") << QByteArray::fromHex("b5e7c1f7") + "[A]\n"
+                         << listed("letters dat:1 x1 GBK");
+    QTest::newRow("UTF-8, as it is read") << QByteArray("电流[A]\n") << QStringList();
     const QByteArray first = stamp + "000,1,2\n";
     row("nothing", first + stamp + "020,3,4\n" + stamp + "040,5,6\n", "");
     row("no sample", "", "");
@@ -449,21 +494,23 @@ void TestReadingNotes::ofRealRecordings_data()
     QTest::addColumn<QStringList>("notes");
     const auto row
         = [](const char *name, const char *notes) { QTest::newRow(name) << listed(notes); };
-    row("bay-cp1251-crlf", "");
-    row("dfr-1991-gbk", "rates cfg:73 x8 1200..1200|jumps dat:290 x5 3281.666..6120");
-    row("line-110-digitals", "");
+    row("bay-cp1251-crlf", "letters cfg:1 x91 Windows-1251");
+    row("dfr-1991-gbk",
+        "rates cfg:73 x8 1200..1200|letters cfg:12 x49 GBK|jumps dat:290 x5 3281.666..6120");
+    row("line-110-digitals", "letters cfg:1 x120 Windows-1251");
     row("line-relay-gbk",
-        "rates cfg:36 x10 1000..1000|jumps dat:201 x1 16893..16893|back dat:401 x3 199..199|"
+        "rates cfg:36 x10 1000..1000|letters cfg:1 x8 GBK|jumps dat:201 x1 16893..16893|back "
+        "dat:401 x3 199..199|"
         "missing dat:2 x949 ch8|missing dat:2 x949 ch9|missing dat:2 x949 ch10|"
         "missing dat:2 x949 ch11|missing dat:2 x949 ch12|missing dat:2 x949 ch13|"
         "missing dat:2 x949 ch14");
     row("pq-monitor-1999", "");
-    row("recorder-1991-cp866", "");
+    row("recorder-1991-cp866", "letters cfg:1 x5 IBM 866");
     row("simulator-40000", "");
     row("small-2013-missing",
         "revision cfg:1 x1 2013..2013|missing dat:2 x1 ch0|missing dat:3 x1 ch1|"
         "missing dat:4 x1 ch2|missing dat:5 x1 ch3");
-    row("small-2013-utf8", "revision cfg:1 x1 2013..2013");
+    row("small-2013-utf8", "revision cfg:1 x1 2013..2013|letters cfg:1 x1 UTF-8");
 }
 
 void TestReadingNotes::ofRealRecordings()

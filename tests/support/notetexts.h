@@ -18,6 +18,7 @@ inline QStringList noteTexts(const RecordingContents &recording)
         {static_cast<int>(Kind::SeveralRates), QStringLiteral("rates")},
         {static_cast<int>(Kind::TriggerOnOtherDay), QStringLiteral("day")},
         {static_cast<int>(Kind::NotAscii), QStringLiteral("type")},
+        {static_cast<int>(Kind::OtherLetters), QStringLiteral("letters")},
         {static_cast<int>(Kind::FewerSamples), QStringLiteral("fewer")},
         {static_cast<int>(Kind::MoreSamples), QStringLiteral("more")},
         {static_cast<int>(Kind::EndedAtLine), QStringLiteral("ended")},
