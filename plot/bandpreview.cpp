@@ -125,10 +125,10 @@ void BandPreview::paintEvent(QPaintEvent * /*event*/)
     painter.translate(-pos());
     painter.setClipRegion(QRegion(geometry()) - m_bandFrame);
     for (const QRect &line : outline(m_frame) & geometry()) {
-        painter.fillRect(line, ground);
+        fillLine(painter, line, ground);
         for (int x = line.left(); x <= line.right(); x += dash + dashGap) {
             for (int y = line.top(); y <= line.bottom(); y += dash + dashGap)
-                painter.fillRect(QRect(x, y, dash, dash) & line, lineColor);
+                fillLine(painter, QRect(x, y, dash, dash) & line, lineColor);
         }
     }
     painter.fillRect(m_textPlace, ground);

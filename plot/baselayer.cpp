@@ -154,12 +154,21 @@ private:
 
 } // namespace
 
+void fillLine(QPainter &painter, const QRect &line, const QColor &color)
+{
+    const QTransform toScreen = painter.deviceTransform();
+    const int more = std::max(0, static_cast<int>(toScreen.m11()) - 1);
+    const QPoint first = toScreen.map(QPointF(line.topLeft())).toPoint();
+    const QPoint last = toScreen.map(QPointF(line.bottomRight())).toPoint() + QPoint(more, more);
+    painter.fillRect(toScreen.inverted().mapRect(QRectF(QRect(first, last))), color);
+}
+
 void fillFrame(QPainter &painter, const QRect &frame, const QColor &color)
 {
-    painter.fillRect(frame.left(), frame.top(), frame.width(), 1, color);
-    painter.fillRect(frame.left(), frame.bottom(), frame.width(), 1, color);
-    painter.fillRect(frame.left(), frame.top(), 1, frame.height(), color);
-    painter.fillRect(frame.right(), frame.top(), 1, frame.height(), color);
+    fillLine(painter, {frame.topLeft(), frame.topRight()}, color);
+    fillLine(painter, {frame.bottomLeft(), frame.bottomRight()}, color);
+    fillLine(painter, {frame.topLeft(), frame.bottomLeft()}, color);
+    fillLine(painter, {frame.topRight(), frame.bottomRight()}, color);
 }
 
 QRect layerPart(const QSize &plot, const QRect &seen)
@@ -196,7 +205,7 @@ void drawTimeGrid(QPainter &painter, const PlotGeometry &geometry)
     const QRect area = geometry.area();
     for (int i = 0; i <= geometry.view().numXTicks; ++i) {
         const int x = markX(geometry, gridTime(geometry.view(), i));
-        painter.fillRect(x, area.top(), 1, area.height(), gridColor);
+        fillLine(painter, {x, area.top(), 1, area.height()}, gridColor);
     }
 }
 
@@ -233,7 +242,7 @@ void drawValueGrid(QPainter &painter, const PlotGeometry &geometry, const QFont 
     for (int i = 0; i <= view.numYTicks; ++i) {
         const double value = view.minY + i * view.spanY() / view.numYTicks;
         const int y = PlotGeometry::pixel(geometry.traceY(value));
-        painter.fillRect(area.left(), y, area.width(), 1, gridColor);
+        fillLine(painter, {area.left(), y, area.width(), 1}, gridColor);
 
         QRect box(marginStart, 0, marginWidth, metrics.height());
         box.moveTop(y - box.height() / 2);
@@ -277,7 +286,7 @@ void drawTriggerMark(QPainter &painter, const PlotGeometry &geometry, const QFon
     const QRect area = geometry.area();
     const int x = markX(geometry, time);
     for (int y = area.top(); y <= area.bottom(); y += dash + dashGap)
-        painter.fillRect(x, y, 1, std::min(dash, area.bottom() + 1 - y), Qt::white);
+        fillLine(painter, {x, y, 1, std::min(dash, area.bottom() + 1 - y)}, Qt::white);
 
     const auto drawText = [&](const QColor &color) {
         painter.setPen(color);
@@ -299,10 +308,10 @@ void drawDigitalRow(QPainter &painter, const PlotGeometry &geometry, const TimeA
     const DigitalRow row(geometry, axis, runs, y);
     for (const Stretch &stretch : row.stretches()) {
         if (stretch.isOn) {
-            painter.fillRect(stretch.band(), bandColor);
+            painter.fillRect(stretch.band().adjusted(0, 0, -1, -1), bandColor);
             fillFrame(painter, stretch.band(), rowColor);
         } else {
-            painter.fillRect(stretch.line, rowColor);
+            fillLine(painter, stretch.line, rowColor);
         }
     }
 }

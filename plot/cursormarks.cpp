@@ -211,7 +211,7 @@ void CursorMarks::paintDifferences(
 {
     const QFontMetrics metrics(painter.font());
     for (const Difference &difference : differences(geometry, metrics, title)) {
-        painter.fillRect(difference.line & geometry.area(), markColor);
+        fillLine(painter, difference.line & geometry.area(), markColor);
         if (difference.place.isNull())
             continue;
         if (!m_isForPaper) {

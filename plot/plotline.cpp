@@ -3,6 +3,7 @@
 
 #include "plotline.h"
 
+#include "baselayer.h"
 #include "plotgeometry.h"
 
 #include <QMoveEvent>
@@ -33,7 +34,8 @@ void PlotLine::place(int x, const PlotGeometry &geometry)
 // is no whole number.
 void PlotLine::paintEvent(QPaintEvent * /*event*/)
 {
-    QPainter(this).fillRect(rect(), palette().color(foregroundRole()));
+    QPainter painter(this);
+    fillLine(painter, rect(), palette().color(foregroundRole()));
 }
 
 void PlotLine::moveEvent(QMoveEvent *event)

@@ -55,14 +55,15 @@ QVector<QRgb> deviceColumn(const QImage &image, int x)
     return deviceRow(image.transformed(QTransform(0, 1, 1, 0, 0, 0)), x);
 }
 
-// Black but for the stretches of a colour, each of which reaches from one widget pixel to another
-// and is cut to whole device pixels.
+// Black but for the stretches of a colour, each of which reaches from one widget pixel to another.
+// Of the last one it covers as many device pixels as of every other: those that fit into each.
 QVector<QRgb> stretches(
     const QVector<QPair<int, int>> &fromTo, QRgb color, double ratio, int deviceLength)
 {
     QVector<QRgb> pixels(deviceLength, black);
     for (const auto &stretch : fromTo) {
-        for (int i = qRound(stretch.first * ratio); i < qRound((stretch.second + 1) * ratio); ++i)
+        for (int i = qRound(stretch.first * ratio); i < qRound(stretch.second * ratio) + int(ratio);
+             ++i)
             pixels[i] = color;
     }
     return pixels;
@@ -106,17 +107,17 @@ private slots:
     void theTriggerIsALineWithItsTime();
     void aTriggerOutOfViewIsNotDrawn_data();
     void aTriggerOutOfViewIsNotDrawn();
-    void gridLinesFillTheirPixels_data() { addRatios(); }
-    void gridLinesFillTheirPixels();
-    void theFrameFillsItsPixels_data() { addRatios(); }
-    void theFrameFillsItsPixels();
-    void theTriggersDashesFillTheirPixels_data() { addRatios(); }
-    void theTriggersDashesFillTheirPixels();
+    void gridLinesAreEquallyThick_data() { addRatios(); }
+    void gridLinesAreEquallyThick();
+    void theFrameIsEquallyThick_data() { addRatios(); }
+    void theFrameIsEquallyThick();
+    void theTriggersDashesAreEquallyThick_data() { addRatios(); }
+    void theTriggersDashesAreEquallyThick();
     void theTriggersTextIsBlackOnWhatIsBright_data() { addRatios(); }
     void theTriggersTextIsBlackOnWhatIsBright();
     void bandsWithinARectangle();
-    void digitalRowsFillTheirPixels_data() { addRatios(); }
-    void digitalRowsFillTheirPixels();
+    void digitalRowsAreEquallyThick_data() { addRatios(); }
+    void digitalRowsAreEquallyThick();
     void aBandOfTwoPixelsHasAllCorners();
     void digitalRowsWhereTimesStepBack_data();
     void digitalRowsWhereTimesStepBack();
@@ -400,7 +401,7 @@ void TestBaseLayer::aTriggerOutOfViewIsNotDrawn()
 }
 
 // A line at every whole number of 31 ms, 700 / 31 pixels apart, and at every seventh of the height.
-void TestBaseLayer::gridLinesFillTheirPixels()
+void TestBaseLayer::gridLinesAreEquallyThick()
 {
     QFETCH(double, ratio);
     const PlotGeometry geometry = geometryOf({0, 31, 31, 0, 7, 7});
@@ -420,7 +421,7 @@ void TestBaseLayer::gridLinesFillTheirPixels()
             grid, ratio, values.height()));
 }
 
-void TestBaseLayer::theFrameFillsItsPixels()
+void TestBaseLayer::theFrameIsEquallyThick()
 {
     QFETCH(double, ratio);
     const QImage image = paint(
@@ -435,7 +436,7 @@ void TestBaseLayer::theFrameFillsItsPixels()
 }
 
 // Four pixels of every six, from the top of the plot area on.
-void TestBaseLayer::theTriggersDashesFillTheirPixels()
+void TestBaseLayer::theTriggersDashesAreEquallyThick()
 {
     QFETCH(double, ratio);
     QVector<QPair<int, int>> dashes{{258, 260}};
@@ -491,7 +492,7 @@ void TestBaseLayer::bandsWithinARectangle()
 }
 
 // Off from 0 to 200 ms, on to 301, off to 600, and on for less than a pixel there.
-void TestBaseLayer::digitalRowsFillTheirPixels()
+void TestBaseLayer::digitalRowsAreEquallyThick()
 {
     QFETCH(double, ratio);
     const QRgb line = qRgb(20, 150, 20);
@@ -508,12 +509,12 @@ void TestBaseLayer::digitalRowsFillTheirPixels()
             stretches({{y, y}}, line, ratio, image.height()));
         QVector<QRgb> across = stretches({{y - 5, y + 5}}, line, ratio, image.height());
         QCOMPARE(deviceColumn(image, qRound(700 * ratio)), across);
-        for (int i = qRound((y - 4) * ratio); i < qRound((y + 5) * ratio); ++i)
+        for (int i = qRound((y - 5) * ratio) + int(ratio); i < qRound((y + 5) * ratio); ++i)
             across[i] = band;
         QCOMPARE(deviceColumn(image, int(350 * ratio)), across);
         QVector<QRgb> along
             = stretches({{300, 300}, {401, 401}, {700, 700}}, line, ratio, image.width());
-        for (int i = qRound(301 * ratio); i < qRound(401 * ratio); ++i)
+        for (int i = qRound(300 * ratio) + int(ratio); i < qRound(401 * ratio); ++i)
             along[i] = band;
         QCOMPARE(deviceRow(image, qRound((y - 4) * ratio)), along);
     }
