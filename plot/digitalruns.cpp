@@ -8,9 +8,23 @@
 DigitalRuns::DigitalRuns(const QVector<int> &states)
     : m_lastSample(states.size() - 1), m_startsOn(!states.isEmpty() && states.constFirst() != 0)
 {
-    for (int i = 0; i < states.size(); ++i) {
-        if (i == 0 || (states.at(i) != 0) != (states.at(i - 1) != 0))
-            m_starts.append(i);
+    constexpr int blockSize = 256; // samples
+    const int *const values = states.constData();
+    if (!states.isEmpty())
+        m_starts.append(0);
+    bool isOn = m_startsOn;
+    for (int begin = 0, end = 0; begin < states.size(); begin = end) {
+        end = std::min(begin + blockSize, states.size());
+        // Most blocks hold no change, which can be seen of many samples at a time.
+        int others = 0;
+        for (int i = begin; i < end; ++i)
+            others += (values[i] != 0) != isOn ? 1 : 0;
+        for (int i = begin; i < end && others > 0; ++i) {
+            if ((values[i] != 0) != isOn) {
+                m_starts.append(i);
+                isOn = !isOn;
+            }
+        }
     }
     m_starts.squeeze();
 }

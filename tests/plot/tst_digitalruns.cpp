@@ -5,6 +5,8 @@
 
 #include <QtTest>
 
+#include <algorithm>
+
 class TestDigitalRuns : public QObject {
     Q_OBJECT
 
@@ -29,6 +31,18 @@ void TestDigitalRuns::stretches_data()
     QTest::newRow("starts on") << Numbers{1, 0} << Numbers{0, 1} << Numbers{1, 1} << Numbers{1, 0};
     QTest::newRow("any state but 0 is on")
         << Numbers{0, 2, -1, 1} << Numbers{0, 1} << Numbers{1, 3} << Numbers{0, 1};
+    // Of 600 samples, with a state of their own from 255, 256, 512 and 599 on.
+    Numbers many(600);
+    std::fill(many.begin() + 255, many.begin() + 256, 1);
+    std::fill(many.begin() + 512, many.end() - 1, 1);
+    QTest::newRow("many") << many << Numbers{0, 255, 256, 512, 599}
+                          << Numbers{255, 256, 512, 599, 599} << Numbers{0, 1, 0, 1, 0};
+    Numbers late(600, 1);
+    late[511] = 0;
+    QTest::newRow("many that start on")
+        << late << Numbers{0, 511, 512} << Numbers{511, 512, 599} << Numbers{1, 0, 1};
+    QTest::newRow("many that never change")
+        << Numbers(512, -1) << Numbers{0} << Numbers{511} << Numbers{1};
 }
 
 void TestDigitalRuns::stretches()
