@@ -25,6 +25,8 @@ private slots:
     void noFolder();
     void pipesAndFolders();
     void manyFiles();
+    void manyTexts_data();
+    void manyTexts();
 
 private:
     static void write(const QTemporaryDir &folder, const QString &name, const QByteArray &text)
@@ -182,6 +184,30 @@ void TestRecordingFolder::manyFiles()
     timer.start();
     QCOMPARE(names(folder, QStringLiteral("r3000.cfg")), QStringLiteral("r7.cfg|r4990.cfg"));
     QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+}
+
+// Each would have to be read to see that it is none.
+void TestRecordingFolder::manyTexts_data()
+{
+    QTest::addColumn<int>("logs"); // before an export, and after one
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("few") << 99 << "c.txt|x.txt";
+    QTest::newRow("more than are looked at") << 100 << "a.zip|z.zip";
+}
+
+void TestRecordingFolder::manyTexts()
+{
+    QFETCH(int, logs);
+    const QTemporaryDir folder;
+    for (const char *name : {"a.zip", "z.zip"})
+        write(folder, QString::fromLatin1(name), {});
+    for (const char *name : {"c.txt", "x.txt"})
+        write(folder, QString::fromLatin1(name), someExport);
+    for (int i = 0; i < logs; ++i) {
+        write(folder, QStringLiteral("d%1.txt").arg(i), "Ia\n10:00 nothing\n");
+        write(folder, QStringLiteral("m%1.txt").arg(i), "Ia\n10:00 nothing\n");
+    }
+    QTEST(names(folder, QStringLiteral("h.txt")), "expected");
 }
 
 QTEST_GUILESS_MAIN(TestRecordingFolder)
