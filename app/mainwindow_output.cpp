@@ -17,6 +17,7 @@
 #include "recordingwriter.h"
 #include "reportpicture.h"
 #include "savedialog.h"
+#include "statusfield.h"
 #include "ui_mainwindow.h"
 
 #include <QClipboard>
@@ -155,8 +156,8 @@ void MainWindow::copyToClipboard()
 
 QPixmap MainWindow::report()
 {
-    const ReportPicture report(
-        *m_cfgProperties, QFileInfo(windowFilePath()).fileName(), m_analogPlotter->cursors());
+    // Not the window's file path: that may be of a file that was passed over.
+    const ReportPicture report(*m_cfgProperties, m_statusField->file(), m_analogPlotter->cursors());
     setForPaper(plots(), true);
     const QList<QWidget *> pointer = hidePointer(plots());
     const QPixmap picture = report.around(capture(CaptureTarget::File, QString()), font());

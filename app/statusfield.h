@@ -23,6 +23,7 @@ public:
 
     // Of the recording just shown; empty before another one is loaded.
     void showFile(const QString &name);
+    const QString &file() const { return m_file; }
     // A path that was not opened at the start; said until a recording is shown.
     void showNotOpened(const QString &path);
     // The pointer stands at a point of a plot, or, with null, over none.

@@ -406,6 +406,21 @@ private slots:
         }
     }
 
+    void aReportNamesTheFileThatIsShown()
+    {
+        const auto report = [this] {
+            choose(
+                plotNamed(QStringLiteral("Analog")), QStringLiteral("Copy Picture with Heading"));
+            return QGuiApplication::clipboard()->image();
+        };
+        const QImage before = report();
+        QVERIFY(!before.isNull());
+        QVERIFY(writeTextFile(path("another.cff"), "x"));
+        window->open(path("another.cff")); // passed over
+        QCOMPARE(window->windowFilePath(), path("another.cff"));
+        QCOMPARE(report(), before);
+    }
+
     void namesOfCursorsAreLegibleInAReport_data()
     {
         QTest::addColumn<QString>("plot");
