@@ -142,7 +142,7 @@ QString NoteTable::whatOfConfiguration(const ReadingNote &note) const
     case Kind::NotAscii:
         return tr("Data of type %1, read as ASCII").arg(shownName(note.word));
     case Kind::OtherLetters:
-        return tr("The names seem to be in %1; Names As in the menu of the plots shows them so")
+        return tr("The names seem to be in %1; see Names As in the menu of the plots")
             .arg(note.word);
     case Kind::FewerSamples:
         return tr("Fewer samples than the last rate line promises: %1 of %2")

@@ -905,8 +905,8 @@ Please select another file.</translation>
         <translation>Data of type %1, read as ASCII</translation>
     </message>
     <message>
-        <source>The names seem to be in %1; Names As in the menu of the plots shows them so</source>
-        <translation>The names seem to be in %1; Names As in the menu of the plots shows them so</translation>
+        <source>The names seem to be in %1; see Names As in the menu of the plots</source>
+        <translation>The names seem to be in %1; see Names As in the menu of the plots</translation>
     </message>
     <message>
         <source>Fewer samples than the last rate line promises: %1 of %2</source>

@@ -905,8 +905,8 @@ Valitse toinen tiedosto.</translation>
         <translation>Datan tyyppi on %1, luettu ASCII-muotoisena</translation>
     </message>
     <message>
-        <source>The names seem to be in %1; Names As in the menu of the plots shows them so</source>
-        <translation>Nimet näyttävät olevan merkistössä %1; kuvaajien valikon Nimien merkistö näyttää ne siinä</translation>
+        <source>The names seem to be in %1; see Names As in the menu of the plots</source>
+        <translation>Nimien merkistö näyttää olevan %1; valitse se kuvaajien valikosta</translation>
     </message>
     <message>
         <source>Fewer samples than the last rate line promises: %1 of %2</source>

@@ -905,8 +905,8 @@ Please select another file.</source>
         <translation>数据类型为 %1，按 ASCII 读取</translation>
     </message>
     <message>
-        <source>The names seem to be in %1; Names As in the menu of the plots shows them so</source>
-        <translation>名称似乎采用 %1 编码；可用图形菜单中的“名称编码”以此显示</translation>
+        <source>The names seem to be in %1; see Names As in the menu of the plots</source>
+        <translation>名称似乎采用 %1 编码；请用曲线图菜单中的“名称编码”</translation>
     </message>
     <message>
         <source>Fewer samples than the last rate line promises: %1 of %2</source>

@@ -245,18 +245,18 @@ void TestNotes::lettersAreOffered()
     click();
     QCOMPARE(rows(), 1);
     const QString english = QStringLiteral(
-        "The names seem to be in Windows-1251; Names As in the menu of the plots shows them so");
+        "The names seem to be in Windows-1251; see Names As in the menu of the plots");
     QCOMPARE(cell(0, 0), english);
     QCOMPARE(cell(0, 1), QStringLiteral("Configuration"));
     QCOMPARE(cell(0, 2), QStringLiteral("1"));
     QCOMPARE(cell(0, 3), QStringLiteral("1"));
     chooseLanguage("Suomi");
     QCOMPARE(cell(0, 0),
-        QStringLiteral("Nimet näyttävät olevan merkistössä Windows-1251; kuvaajien valikon Nimien "
-                       "merkistö näyttää ne siinä"));
+        QStringLiteral(
+            "Nimien merkistö näyttää olevan Windows-1251; valitse se kuvaajien valikosta"));
     chooseLanguage("中文");
-    QCOMPARE(cell(0, 0),
-        QStringLiteral("名称似乎采用 Windows-1251 编码；可用图形菜单中的“名称编码”以此显示"));
+    QCOMPARE(
+        cell(0, 0), QStringLiteral("名称似乎采用 Windows-1251 编码；请用曲线图菜单中的“名称编码”"));
     chooseLanguage("English");
     QCOMPARE(cell(0, 0), english);
 }
