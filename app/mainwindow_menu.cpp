@@ -39,13 +39,13 @@ void MainWindow::fillPlotMenu(QMenu &menu, Plotter &plot, const QPoint &point, i
     m_otherRecordings->addTo(menu);
 }
 
-// Events are processed after each plot: another recording may come, or the window go.
+// Events are processed after each plot: another recording may come, or the window close or go.
 void MainWindow::addUnitPlots()
 {
     const QPointer<Plotter> first(m_analogPlotter);
     const QVector<UnitPlot> plots = first ? plotsByUnit(*m_cfgProperties) : QVector<UnitPlot>();
     for (const UnitPlot &plot : plots) {
-        if (!first)
+        if (!first || !m_hasRecording)
             return;
         QString name = plot.unit;
         if (plot.kind == UnitPlot::Kind::Currents)

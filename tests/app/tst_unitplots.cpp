@@ -18,6 +18,7 @@ private slots:
     void groups();
     void withoutPhasorsThereAreSamplesAlone();
     void theMenuAddsThem();
+    void aWindowThatClosesGetsNoMore();
 
 private:
     void openUnits()
@@ -98,6 +99,18 @@ void TestUnitPlots::theMenuAddsThem()
         trigger("&Remove Plotter");
     QVERIFY(!action("&Remove Plotter")->isEnabled());
     QCOMPARE(plots().size(), 2); // the digital one is hidden
+}
+
+// It closes while the first one settles.
+void TestUnitPlots::aWindowThatClosesGetsNoMore()
+{
+    openUnits();
+    QTimer::singleShot(0, window.get(), &QWidget::close);
+    QVERIFY(choose(analog(), QStringLiteral("Plots by Unit")));
+    QVERIFY(!window->isVisible());
+    QVERIFY(!window->recording());
+    QVERIFY(plot(QStringLiteral("A")));
+    QVERIFY(!plot(QStringLiteral("kV")));
 }
 
 QTEST_MAIN(TestUnitPlots)
