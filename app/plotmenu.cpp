@@ -123,10 +123,11 @@ void PlotMenu::addCursorAt(const QString &text, const std::optional<double> &tim
         [=] { plot->addCursorAt(*time); });
 }
 
+// A tabulator would part the text.
 QString PlotMenu::inBrackets(const QString &name) const
 {
     constexpr int mostPixels = 200;
-    QString shown = m_menu.fontMetrics().elidedText(name, Qt::ElideMiddle, mostPixels);
+    QString shown = m_menu.fontMetrics().elidedText(name.simplified(), Qt::ElideMiddle, mostPixels);
     return QStringLiteral(" (%1)").arg(shown.replace(QLatin1Char('&'), QLatin1String("&&")));
 }
 

@@ -55,6 +55,7 @@ private slots:
     void cursorsAtChanges();
     void cursorsAtChangesOfTheRow();
     void cursorsAtExtremes();
+    void namesDoNotPartTheirEntries();
     void theMenuKey();
     void labelsKeepTheirOwnMenu();
     void movesOfACursor();
@@ -415,6 +416,16 @@ void TestPlotMenu::cursorsAtExtremes()
     QVERIFY(choose(analog(), QStringLiteral("Cursor at Minimum in View (Ia)"), at(8)));
     QVERIFY(choose(analog(), QStringLiteral("Cursor at Maximum in View (Ib)"), at(16)));
     QCOMPARE(digital()->cursors(), QList<double>({39, 40, 39}));
+}
+
+void TestPlotMenu::namesDoNotPartTheirEntries()
+{
+    open({QStringLiteral("I\ta & b")}, {QStringLiteral("Trip\t1")});
+    const PlotGeometry geometry = analog()->geometryOfView();
+    const QPoint onTrace(int(geometry.traceX(38)), int(geometry.traceY(8)));
+    QVERIFY(offers(analog(), QStringLiteral("Cursor at Maximum in View (I a && b)"), onTrace));
+    const QPoint onRow(200, digital()->geometryOfView().rowY(0, 1));
+    QVERIFY(offers(digital(), QStringLiteral("Cursor at Next Change (Trip 1)"), onRow));
 }
 
 void TestPlotMenu::theMenuKey()
