@@ -12,6 +12,7 @@
 #include "ctvtdialog.h"
 #include "elidinglist.h"
 #include "loadingprogress.h"
+#include "menukey.h"
 #include "otherrecordings.h"
 #include "packageunpacker.h"
 #include "plotvalues.h"
@@ -95,6 +96,7 @@ MainWindow::MainWindow(QWidget *parent)
     }
     connect(&NameLetters::shared(), &NameLetters::changed, this, &MainWindow::showNames);
     setAcceptDrops(true);
+    new MenuKey(this);
     ui->listWidget->setFocus(); // not the first of the Tab order, which changes what is shown
 }
 

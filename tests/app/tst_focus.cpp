@@ -15,6 +15,7 @@
 #include <QToolButton>
 #include <QWindow>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -294,6 +295,49 @@ private slots:
         QVERIFY(list->hasFocus());
         window->removePlotter();
         QVERIFY(list->hasFocus());
+    }
+
+    void shiftF10OpensTheContextMenu_data()
+    {
+        QTest::addColumn<QString>("dialog"); // none for the main window
+        QTest::addColumn<QString>("stop"); // has the focus
+        QTest::addColumn<QString>("entry"); // the first of the menu
+        QTest::newRow("plot") << QString() << "[Graph 1 Plotter]"
+                              << "Earlier";
+        QTest::newRow("name of a cursor") << QString() << "lineLabel"
+                                          << "Remove Cursor";
+        QTest::newRow("phasors") << "VectorDialog"
+                                 << "[IL1]"
+                                 << "Measurements...";
+        QTest::newRow("field") << "SaveDialog"
+                               << "lineEdit_FilePath"
+                               << "&Undo\tCtrl+Z";
+    }
+
+    void shiftF10OpensTheContextMenu()
+    {
+        QFETCH(QString, dialog);
+        QFETCH(QString, stop);
+        window->findChild<Plotter *>()->addCursorAt(10);
+        QWidget *shown = activated(dialog);
+        QVERIFY(shown);
+        const QList<QWidget *> stops = tabStops(*shown);
+        const auto found = std::find_if(stops.cbegin(), stops.cend(),
+            [&](const QWidget *widget) { return nameOf(widget) == stop; });
+        QVERIFY(found != stops.cend());
+        QWidget *widget = *found;
+        widget->setFocus();
+        for (int i = 0; i < 2; ++i) {
+            QTest::keyClick(widget, Qt::Key_F10); // the key of menu bars
+            QVERIFY(!QApplication::activePopupWidget());
+            QTest::keyClick(widget, Qt::Key_F10, Qt::ShiftModifier);
+            QWidget *menu = QApplication::activePopupWidget();
+            QVERIFY(menu);
+            QTEST(menu->actions().constFirst()->text(), "entry");
+            QTest::keyPress(menu, Qt::Key_Escape); // it is gone before a release
+            QVERIFY(!QApplication::activePopupWidget());
+            QCOMPARE(shown->focusWidget(), widget);
+        }
     }
 
     void focusIsSeen_data() { tabFollowsTheReadingOrder_data(); }
