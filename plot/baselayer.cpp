@@ -152,15 +152,24 @@ private:
     QVector<Stretch> m_stretches;
 };
 
+// What lines from the first to the last pixels of a rectangle cover.
+QRectF coveredByLines(const QPainter &painter, const QRect &pixels)
+{
+    const QTransform toScreen = painter.deviceTransform();
+    const int more = std::max(0, static_cast<int>(toScreen.m11()) - 1);
+    const QPoint first = toScreen.map(QPointF(pixels.topLeft())).toPoint();
+    const QPoint last = toScreen.map(QPointF(pixels.bottomRight())).toPoint() + QPoint(more, more);
+    constexpr double less
+        = 1e-3; // a hair, or a clip takes what is left of rounding for a pixel more
+    return toScreen.inverted().mapRect(
+        QRectF(QRect(first, last)).adjusted(less, less, -less, -less));
+}
+
 } // namespace
 
 void fillLine(QPainter &painter, const QRect &line, const QColor &color)
 {
-    const QTransform toScreen = painter.deviceTransform();
-    const int more = std::max(0, static_cast<int>(toScreen.m11()) - 1);
-    const QPoint first = toScreen.map(QPointF(line.topLeft())).toPoint();
-    const QPoint last = toScreen.map(QPointF(line.bottomRight())).toPoint() + QPoint(more, more);
-    painter.fillRect(toScreen.inverted().mapRect(QRectF(QRect(first, last))), color);
+    painter.fillRect(coveredByLines(painter, line), color);
 }
 
 void fillFrame(QPainter &painter, const QRect &frame, const QColor &color)
@@ -257,6 +266,11 @@ void drawValueGrid(QPainter &painter, const PlotGeometry &geometry, const QFont 
 void drawFrame(QPainter &painter, const PlotGeometry &geometry)
 {
     fillFrame(painter, geometry.area(), Qt::white);
+}
+
+void clipToFrame(QPainter &painter, const PlotGeometry &geometry)
+{
+    painter.setClipRect(coveredByLines(painter, geometry.area()));
 }
 
 QString triggerText(int time)

@@ -44,6 +44,9 @@ void fillFrame(QPainter &painter, const QRect &frame, const QColor &color);
 
 void drawFrame(QPainter &painter, const PlotGeometry &geometry);
 
+// Leaves what lies within the frame, and the frame itself, to be painted on.
+void clipToFrame(QPainter &painter, const PlotGeometry &geometry);
+
 // What stands at the trigger mark of a time (ms).
 QString triggerText(int time);
 

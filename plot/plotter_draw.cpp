@@ -160,7 +160,7 @@ void Plotter::drawCurves(QPainter *painter)
     const PlotGeometry geometry = geometryOfView();
     if (!geometry.isDrawable())
         return;
-    painter->setClipRect(geometry.area());
+    clipToFrame(*painter, geometry);
     TracePainter traces(*painter, geometry, m_timeAxis);
     const AnalogSource source(mainWindow);
     const QMap<int, ShownChannel> &shown = qAsConst(m_channels).byNumber();

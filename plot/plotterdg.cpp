@@ -83,7 +83,7 @@ void plotterDg::drawCurves(QPainter *painter)
     const PlotGeometry geometry = geometryOfView();
     if (!geometry.isDrawable())
         return;
-    painter->setClipRect(geometry.area());
+    clipToFrame(*painter, geometry);
     const QRect trigger
         = triggerTextBox(geometry, font(), recording() ? recording()->triggerOffsetMs : 0);
     int row = 0;

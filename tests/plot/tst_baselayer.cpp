@@ -111,6 +111,8 @@ private slots:
     void gridLinesAreEquallyThick();
     void theFrameIsEquallyThick_data() { addRatios(); }
     void theFrameIsEquallyThick();
+    void nothingIsSeenBesideTheFrame_data() { addRatios(); }
+    void nothingIsSeenBesideTheFrame();
     void theTriggersDashesAreEquallyThick_data() { addRatios(); }
     void theTriggersDashesAreEquallyThick();
     void theTriggersTextIsBlackOnWhatIsBright_data() { addRatios(); }
@@ -433,6 +435,25 @@ void TestBaseLayer::theFrameIsEquallyThick()
         stretches({{100, 100}, {797, 797}}, white, ratio, image.width()));
     QCOMPARE(deviceColumn(image, int(450 * ratio)),
         stretches({{60, 60}, {260, 260}}, white, ratio, image.height()));
+}
+
+// What is clipped to it ends where its right and its bottom line do.
+void TestBaseLayer::nothingIsSeenBesideTheFrame()
+{
+    QFETCH(double, ratio);
+    for (const int width : {797, 798, 799, 800}) {
+        const PlotGeometry geometry({width, 301 + width % 4}, 0, {0, 700, 7, 0, 1, 4});
+        const QImage image = paint(
+            [&](QPainter &painter) {
+                clipToFrame(painter, geometry);
+                painter.fillRect(QRect({}, widget), Qt::white);
+            },
+            ratio);
+        QCOMPARE(deviceRow(image, int(160 * ratio)),
+            stretches({{100, width - 3}}, white, ratio, image.width()));
+        QCOMPARE(deviceColumn(image, int(450 * ratio)),
+            stretches({{60, 260 + width % 4}}, white, ratio, image.height()));
+    }
 }
 
 // Four pixels of every six, from the top of the plot area on.
