@@ -128,6 +128,8 @@ void CursorMarks::place(const PlotGeometry &geometry)
         if (!isInView)
             giveFocusBack(cursor);
         cursor.label->setVisible(isInView);
+        cursor.label->setAccessibleDescription( // for those who cannot see the table
+            QStringLiteral("%1 ms").arg(cursor.time, 0, 'f', 3));
         if (isInView)
             marks.push_back({x, cursor.label.get(),
                 QRect(QPoint(x + gap, area.top() + 2), cursor.label->size())});

@@ -26,6 +26,7 @@ private slots:
     void tellWhatAPartIs_data();
     void tellWhatAPartIs();
     void ofPlotsAreTheirTitles();
+    void ofCursorsComeWithTheirTimes();
     void standWithWhatAPartIs_data();
     void standWithWhatAPartIs();
     void followTheLanguage();
@@ -148,6 +149,29 @@ void TestAccessibleNames::ofPlotsAreTheirTitles()
     for (const auto *bar :
         window->findChildren<QScrollBar *>(QString(), Qt::FindDirectChildrenOnly))
         QVERIFY(!bar->accessibleName().isEmpty());
+}
+
+void TestAccessibleNames::ofCursorsComeWithTheirTimes()
+{
+    auto *plot = window->findChild<Plotter *>();
+    plot->addCursorAt(5);
+    plot->addCursorAt(10.25);
+    const auto told = [this] {
+        QStringList texts;
+        for (Plotter *each : window->findChildren<Plotter *>()) {
+            for (QLabel *label : each->findChildren<QLabel *>(QStringLiteral("lineLabel"))) {
+                const QAccessibleInterface *part = QAccessible::queryAccessibleInterface(label);
+                texts += part->text(QAccessible::Name) + QStringLiteral(": ")
+                    + part->text(QAccessible::Description);
+            }
+        }
+        texts.removeDuplicates(); // all plots tell the same
+        return texts.join(QStringLiteral(", "));
+    };
+    QCOMPARE(told(), QStringLiteral("P1: 5.000 ms, P2: 10.250 ms"));
+    plot->moveCursor(0, 12);
+    plot->zoomIn();
+    QCOMPARE(told(), QStringLiteral("P1: 12.000 ms, P2: 10.250 ms"));
 }
 
 void TestAccessibleNames::standWithWhatAPartIs_data()
