@@ -98,9 +98,10 @@ QVector<int> litInColumns(const QImage &image)
     QVector<int> lit(image.width());
     // Half a milliard of pixels in all: with calls that are not inlined, they would take long.
     int *const column = lit.data();
+    const int width = image.width();
     for (int y = 0; y < image.height(); ++y) {
         const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
-        for (int x = 0; x < image.width(); ++x)
+        for (int x = 0; x < width; ++x)
             column[x] += (line[x] >> 24) != 0; // its alpha
     }
     return lit;

@@ -225,7 +225,8 @@ private slots:
             recording.progress.cancel();
         }
         QVERIFY(isReached);
-        QVERIFY(!sinceCancelled.isValid() || sinceCancelled.elapsed() < 200);
+        // It ends within 200 ms, but later on a busy machine and under sanitizers.
+        QVERIFY(!sinceCancelled.isValid() || sinceCancelled.elapsed() < 2000);
         QCOMPARE(finished.count(), 1);
         QCOMPARE(recording.loaded, 0);
         QCOMPARE(recording.failure, CFGProperties::Failure::GivenUp);

@@ -391,19 +391,19 @@ void TestReadingNotes::ofLongLines()
     QFETCH(QByteArray, before);
     QFETCH(QByteArray, behind);
     QFETCH(QStringList, notes);
+    const RecordingFolder folder;
+    QVERIFY(
+        folder.write(QStringLiteral("rec"), before + QByteArray(mostLineBytes + 1, '1') + behind));
+    QFile file(folder.path("rec")); // of which lines are read sooner than of a buffer
+    QVERIFY(file.open(QIODevice::ReadOnly));
     CFGProperties recording;
-    configure(recording, 1, 0);
-    QByteArray text = before + QByteArray(mostLineBytes + 1, '1') + behind;
     if (reader == "txt") {
-        recording.clearConfig();
-        readText(recording, text);
+        readTextExport(file, recording);
     } else if (reader == "dat") {
-        read(recording, text);
+        configure(recording, 1, 0);
+        readData(file, recording);
     } else {
-        QBuffer buffer(&text);
-        buffer.open(QIODevice::ReadOnly);
-        recording.clearConfig();
-        readConfiguration(buffer, recording);
+        readConfiguration(file, recording);
     }
     QCOMPARE(noteTexts(recording), notes);
 }
