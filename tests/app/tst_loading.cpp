@@ -25,6 +25,7 @@ class TestLoading : public OpeningFixture {
     std::unique_ptr<QTemporaryDir> longFiles;
     QByteArray searchPath;
     QString before; // on screen at first
+    CFGProperties *loader = nullptr; // of the window; lives in its thread
     QStringList titles; // of the window, since then
     bool isDone = false; // what was to be done during the load
 
@@ -55,11 +56,11 @@ class TestLoading : public OpeningFixture {
         return longFile(stage == QLatin1String("Reading") ? "reading.cfg" : "phasors.cfg");
     }
 
-    // Opens a long file when the progress of that can be seen already.
+    // Opens a long file, which the loader begins when the progress of that can be seen already.
     void openLong(const QString &path)
     {
         QMetaObject::invokeMethod(
-            window->recording(), [] { QThread::msleep(1000); }, Qt::QueuedConnection);
+            loader, [] { QThread::msleep(1000); }, Qt::QueuedConnection);
         window->open(path);
     }
 
@@ -136,6 +137,7 @@ private slots:
         before = goodRecording("before");
         showActive();
         window->open(before);
+        loader = window->recording();
         window->statusBar()->clearMessage();
         titles.clear();
         isDone = false;
