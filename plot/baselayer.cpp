@@ -155,7 +155,7 @@ private:
 // What lines from the first to the last pixels of a rectangle cover.
 QRectF coveredByLines(const QPainter &painter, const QRect &pixels)
 {
-    const QTransform toScreen = painter.deviceTransform();
+    const QTransform &toScreen = painter.deviceTransform();
     const int more = std::max(0, static_cast<int>(toScreen.m11()) - 1);
     const QPoint first = toScreen.map(QPointF(pixels.topLeft())).toPoint();
     const QPoint last = toScreen.map(QPointF(pixels.bottomRight())).toPoint() + QPoint(more, more);
