@@ -29,6 +29,13 @@ void readText(CFGProperties &recording, QByteArray text)
     readTextExport(buffer, recording);
 }
 
+void readConfigurationText(CFGProperties &recording, QByteArray text)
+{
+    QBuffer buffer(&text);
+    buffer.open(QIODevice::ReadOnly);
+    readConfiguration(buffer, recording);
+}
+
 // The texts of the notes, as rows give them: without any, none.
 QStringList listed(const char *notes)
 {
@@ -114,26 +121,23 @@ void TestReadingNotes::ofConfigurations_data()
     row("three equal rates", "rates cfg:10 x3 1000..1000", [](Text &text) {
         text.rates = {"1000,1", "1000,2", "1000,3"};
     });
-    row("the day after", "day cfg:10 x1 -86399700..-86399700", [](Text &text) {
-        text.start = "15/03/2024,23:59:59.900000";
-        text.trigger = "16/03/2024,00:00:00.200000";
-    });
-    row("the day after, an hour later", "day cfg:10 x1 3600000..3600000", [](Text &text) {
-        text.start = "15/03/2024,10:00:00.000000";
-        text.trigger = "16/03/2024,11:00:00.000000";
-    });
-    row("midnight under one date", "day cfg:10 x1 -86399700..-86399700", [](Text &text) {
-        text.start = "15/03/2024,23:59:59.900000";
-        text.trigger = "15/03/2024,00:00:00.200000";
-    });
-    row("a trigger before the start", "", [](Text &text) {
-        text.start = "15/03/2024,10:00:00.000000";
-        text.trigger = "15/03/2024,09:59:59.000000";
-    });
-    row("dates set apart by spaces", "", [](Text &text) {
-        text.start = " 15/03/2024,10:00:00.000000";
-        text.trigger = "15/03/2024 ,10:00:00.000000";
-    });
+    const auto days
+        = [=](const char *name, const char *notes, const char *start, const char *trigger) {
+              row(name, notes, [=](Text &text) {
+                  text.start = start;
+                  text.trigger = trigger;
+              });
+          };
+    days("the day after", "day cfg:10 x1 -86399700..-86399700", "15/03/2024,23:59:59.900000",
+        "16/03/2024,00:00:00.200000");
+    days("the day after, an hour later", "day cfg:10 x1 3600000..3600000",
+        "15/03/2024,10:00:00.000000", "16/03/2024,11:00:00.000000");
+    days("midnight under one date", "day cfg:10 x1 -86399700..-86399700",
+        "15/03/2024,23:59:59.900000", "15/03/2024,00:00:00.200000");
+    days("a trigger before the start", "", "15/03/2024,10:00:00.000000",
+        "15/03/2024,09:59:59.000000");
+    days("dates set apart by spaces", "", " 15/03/2024,10:00:00.000000",
+        "15/03/2024 ,10:00:00.000000");
     row("type of other letters", "", [](Text &text) { text.fileType = "ascii "; });
     row("no type", "", [](Text &text) { text.fileType = ""; });
     row("type BINARY", "type cfg:11 x1 BINARY", [](Text &text) { text.fileType = "BINARY"; });
@@ -152,13 +156,10 @@ void TestReadingNotes::ofConfigurations()
     QFETCH(QByteArray, text);
     QFETCH(QStringList, notes);
     CFGProperties recording;
-    QBuffer buffer(&text);
-    buffer.open(QIODevice::ReadOnly);
-    readConfiguration(buffer, recording);
+    readConfigurationText(recording, text);
     QCOMPARE(noteTexts(recording), notes);
     // A second pass goes on with the numbers of the lines.
-    buffer.seek(0);
-    readConfiguration(buffer, recording);
+    readConfigurationText(recording, text);
     QCOMPARE(noteTexts(recording), notes);
 }
 
@@ -196,9 +197,7 @@ void TestReadingNotes::ofNames()
     QFETCH(QByteArray, text);
     QFETCH(QStringList, notes);
     CFGProperties recording;
-    QBuffer buffer(&text);
-    buffer.open(QIODevice::ReadOnly);
-    readConfiguration(buffer, recording);
+    readConfigurationText(recording, text);
     QCOMPARE(noteTexts(recording), notes);
 }
 
