@@ -101,9 +101,10 @@ void noteDays(CFGProperties &recording)
         note(recording, Kind::TriggerOnOtherDay, 1, recording.triggerOffsetMs);
 }
 
-void noteType(CFGProperties &recording)
+// By its line: where that has no end to be cut, a letter of the type is missing in the recording.
+void noteType(CFGProperties &recording, const QString &line)
 {
-    const QString type = recording.fileType.trimmed();
+    const QString type = line.trimmed();
     if (!type.isEmpty() && type.compare(QLatin1String("ascii"), Qt::CaseInsensitive) != 0)
         note(recording, Kind::NotAscii, 1, 0, type);
 }
@@ -156,7 +157,7 @@ void readLine(CFGProperties &recording, const QString &line)
         noteDays(recording);
     } else if (number == total + rates + 7) {
         recording.fileType = withoutLast(line);
-        noteType(recording);
+        noteType(recording, line);
     } else if (number == total + rates + 8) {
         recording.timeMultiplier = line.toDouble();
     }

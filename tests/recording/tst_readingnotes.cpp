@@ -149,6 +149,12 @@ void TestReadingNotes::ofConfigurations_data()
             text.rates = {"1000,2", "500,3"};
             text.fileType = "Float32";
         });
+    // Behind the type, the text ends with a line end, the time multiplier and a line end.
+    ConfigurationText last = plainConfiguration();
+    QTest::newRow("type at the end of the file") << last.text().chopped(3) << QStringList();
+    last.fileType = "BINARY";
+    QTest::newRow("type BINARY at the end of the file")
+        << last.text().chopped(3) << listed("type cfg:11 x1 BINARY");
 }
 
 void TestReadingNotes::ofConfigurations()
