@@ -186,10 +186,8 @@ private:
         if (const void *nul = std::memchr(begin, '\0', static_cast<size_t>(end - begin)))
             end = static_cast<const char *>(nul);
         const char *const numberEnd = fieldEnd(begin, end);
-        if (numberEnd == end) {
-            const bool isEndOfFile = isBlank(begin, readEnd) && m_device.atEnd();
-            return !isEndOfFile && endAt(Kind::EndedAtLine);
-        }
+        if (numberEnd == end)
+            return !isBlankToTheEnd(begin, readEnd) && endAt(Kind::EndedAtLine);
         if (m_rows == 0)
             makeRecords(length);
         m_bytes += length;
@@ -209,6 +207,15 @@ private:
         if (++m_gathered == m_blockRows)
             deliver();
         return true;
+    }
+
+    // Of a place in the block that was read. A little that is blank may follow in the next one.
+    bool isBlankToTheEnd(const char *begin, const char *readEnd)
+    {
+        if (!isBlank(begin, readEnd))
+            return false;
+        const QByteArray behind = m_device.peek(mostBlockBytes);
+        return behind.size() < mostBlockBytes && isBlank(behind.cbegin(), behind.cend());
     }
 
     // Counted from 1.

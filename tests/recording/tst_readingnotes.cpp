@@ -78,6 +78,8 @@ private slots:
     void ofLongLines_data();
     void ofLongLines();
     void ofTheBudget();
+    void blankBeyondABlock_data();
+    void blankBeyondABlock();
     void marksBeyondABlock();
     void valuesAreNotTouched();
     void everyLoadBeginsAnew();
@@ -233,6 +235,7 @@ void TestReadingNotes::ofData_data()
     row("a comma at the end", "1,0,5,6,0,\n2,1000,7,8,1\n3,2000,9,10,0,\n", "");
     row("two commas at the end", "1,0,5,6,0\n2,1000,7,8,1,,\n3,2000,9,10,0\n",
         "fields dat:2 x1 2..2");
+    row("a stamp that is not finite", "1,0,5,6,0\n2,inf,7,8,1\n3,2000,9,10,0\n", "");
     row("an empty state", "1,0,5,6,\n2,1000,7,8,1\n3,2000,9,10,0\n", "");
 }
 
@@ -424,6 +427,36 @@ void TestReadingNotes::ofTheBudget()
     QCOMPARE(noteTexts(recording),
         QStringList({QStringLiteral("limit dat:11 x1"), QStringLiteral("fields dat:1 x10 -2000..0"),
             QStringLiteral("equal dat:1 x10")}));
+}
+
+void TestReadingNotes::blankBeyondABlock_data()
+{
+    QTest::addColumn<QByteArray>("behind");
+    QTest::addColumn<QStringList>("notes");
+    const auto row = [](const char *name, const QByteArray &behind, const char *notes) {
+        QTest::newRow(name) << behind << listed(notes);
+    };
+    row("a blank line", "\n", "");
+    row("the mark of the end of a file", "\r\n\x1a", "");
+    row("filled up with NULs", QByteArray(65536, '\0'), "");
+    row("another sample", "1,1012483,5\n", "ended dat:12484 x1");
+    row("a word behind a blank line", "\nend", "ended dat:12484 x1");
+}
+
+// Of 262,144 bytes, which are read at once, the last one is a blank line.
+void TestReadingNotes::blankBeyondABlock()
+{
+    QFETCH(QByteArray, behind);
+    QFETCH(QStringList, notes);
+    QByteArray data;
+    for (int i = 0; i < 12483; ++i) // of 21 bytes
+        data += "1," + QByteArray::number(1000000 + i) + ",0000000005\n";
+    QCOMPARE(data.size(), 262143);
+    CFGProperties recording;
+    configure(recording, 1, 0);
+    read(recording, data + '\n' + behind);
+    QCOMPARE(recording.sampleCount, 12483);
+    QCOMPARE(noteTexts(recording), notes);
 }
 
 // The channel holds marks on each 100th of 1,000 lines, and has an empty field on line 999.
