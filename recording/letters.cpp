@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <string_view>
 
 namespace {
 
@@ -39,8 +40,8 @@ bool isAsciiLetter(uchar byte)
 // Of Latin-1.
 bool isSign(uchar byte)
 {
-    const QByteArray signs("\xa0\xa7\xaa\xb0\xb1\xb2\xb3\xb5\xb7\xb9\xba\xbc\xbd\xbe");
-    return signs.contains(static_cast<char>(byte));
+    constexpr std::string_view signs("\xa0\xa7\xaa\xb0\xb1\xb2\xb3\xb5\xb7\xb9\xba\xbc\xbd\xbe");
+    return signs.find(static_cast<char>(byte)) != std::string_view::npos;
 }
 
 bool isWestern(uchar byte)
@@ -51,8 +52,9 @@ bool isWestern(uchar byte)
 // Of those that Windows-1252 has besides.
 bool isAddedSign(uchar byte)
 {
+    constexpr std::string_view none("\x81\x8d\x8f\x90\x9d");
     return isBetween(byte, 0x80, 0x9f)
-        && !QByteArray("\x81\x8d\x8f\x90\x9d").contains(static_cast<char>(byte));
+        && none.find(static_cast<char>(byte)) == std::string_view::npos;
 }
 
 bool isRussian1251(uchar byte)
