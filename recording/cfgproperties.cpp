@@ -89,8 +89,10 @@ bool CFGProperties::readDatFile()
             failure = Failure::None;
             return true;
         }
+        const bool isNoted = std::any_of(notes.cbegin(), notes.cend(),
+            [](const ReadingNote &note) { return note.kind == ReadingNote::Kind::NotAscii; });
         const bool isAscii = fileType.contains(QLatin1String("ascii"), Qt::CaseInsensitive);
-        failure = isAscii || fileType.isEmpty() ? Failure::NoDataLine : Failure::NotAscii;
+        failure = isNoted && !isAscii ? Failure::NotAscii : Failure::NoDataLine;
     }
     clearConfig();
     return false;

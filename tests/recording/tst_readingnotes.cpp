@@ -15,6 +15,8 @@
 
 #include <functional>
 
+Q_DECLARE_METATYPE(CFGProperties::Failure)
+
 namespace {
 
 QString realPath(const QString &name)
@@ -505,23 +507,37 @@ void TestReadingNotes::everyLoadBeginsAnew()
 
 void TestReadingNotes::failedLoads_data()
 {
-    QTest::addColumn<QByteArray>("fileType");
+    QTest::addColumn<QByteArray>("configuration");
     QTest::addColumn<QByteArray>("data");
-    QTest::newRow("no sample") << QByteArray("ASCII") << QByteArray("\n1\n");
-    QTest::newRow("other data") << QByteArray("BINARY") << QByteArray("\x01\0\0\0\x02\0", 6);
+    QTest::addColumn<CFGProperties::Failure>("failure");
+    using Failure = CFGProperties::Failure;
+    const QByteArray noSample = "\n1\n";
+    const QByteArray binary("\x01\0\0\0\x02\0", 6);
+    ConfigurationText text = plainConfiguration();
+    text.station = ",,2013";
+    QTest::newRow("no sample") << text.text() << noSample << Failure::NoDataLine;
+    QTest::newRow("no sample, type at the end of the file")
+        << text.text().chopped(3) << noSample << Failure::NoDataLine;
+    text.fileType = "ascii data";
+    QTest::newRow("no sample, type with a word more")
+        << text.text() << noSample << Failure::NoDataLine;
+    text.fileType = "";
+    QTest::newRow("no type") << text.text() << binary << Failure::NoDataLine;
+    text.fileType = "BINARY";
+    QTest::newRow("other data") << text.text() << binary << Failure::NotAscii;
+    QTest::newRow("other data, type at the end of the file")
+        << text.text().chopped(3) << binary << Failure::NotAscii;
 }
 
 // What is cleared has no notes; why it failed, failure tells.
 void TestReadingNotes::failedLoads()
 {
-    QFETCH(QByteArray, fileType);
+    QFETCH(QByteArray, configuration);
     QFETCH(QByteArray, data);
-    ConfigurationText configuration = plainConfiguration();
-    configuration.station = ",,2013";
-    configuration.fileType = fileType;
     CFGProperties recording;
-    recording.filePath = writePair(m_folder.path("failed"), configuration.text(), data);
+    recording.filePath = writePair(m_folder.path("failed"), configuration, data);
     recording.init();
+    QTEST(recording.failure, "failure");
     QCOMPARE(recording.loaded, 0);
     QVERIFY(recording.notes.isEmpty());
 }
