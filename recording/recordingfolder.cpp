@@ -29,7 +29,7 @@ bool isStamp(const char *line)
 // A readme is no export. The letters of UTF-16 have a NUL beside them.
 bool hasStamp(const QString &path)
 {
-    constexpr qint64 mostBytes = 1 << 20;
+    constexpr qint64 mostBytes = 1 << 18;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return false;
