@@ -38,15 +38,20 @@ void EventTable::setRecording(const CFGProperties *recording)
             m_runs.append(runs);
         }
     }
-    showNames();
+    makeNames();
     restart([](int) { return true; });
 }
 
-void EventTable::showNames()
+void EventTable::makeNames()
 {
     m_names.clear();
     for (const QString &name : qAsConst(m_readNames))
         m_names.append(trimmedName(name));
+}
+
+void EventTable::showNames()
+{
+    makeNames();
     if (!m_events.isEmpty())
         emit dataChanged(index(0, Channel), index(m_events.size() - 1, Channel));
 }

@@ -69,6 +69,7 @@ private:
         }
     };
 
+    void makeNames(); // in the letters chosen
     void restart(const std::function<bool(int)> &isShown);
     void append(QVector<Event> &events, int most);
     void fetch(int most); // one row at least is left

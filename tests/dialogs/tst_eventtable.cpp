@@ -31,6 +31,7 @@ private slots:
     void copiesRows_data();
     void copiesRows();
     void forgetsARecordingThatIsGone();
+    void asksNobodyToReadRowsThatGo();
 
 private:
     void add(const char *name, const QVector<int> &states);
@@ -261,6 +262,20 @@ void TestEventTable::forgetsARecordingThatIsGone()
     channels.clear();
     table->setFilter(0, QString());
     QCOMPARE(texts(EventTable::Channel), QStringLiteral("Trip|Trigger|Trip"));
+}
+
+// The names of their channels are gone before them.
+void TestEventTable::asksNobodyToReadRowsThatGo()
+{
+    add("Trip", {0, 1, 1, 0, 0});
+    const QSignalSpy changes(table.get(), &EventTable::dataChanged);
+    for (const CFGProperties *each : {recording.get(), recording.get(),
+             static_cast<CFGProperties *>(nullptr), recording.get()}) {
+        table->setRecording(each);
+        QCOMPARE(changes.count(), 0);
+    }
+    table->showNames();
+    QCOMPARE(changes.count(), 1);
 }
 
 QTEST_GUILESS_MAIN(TestEventTable)
