@@ -216,6 +216,7 @@ class TestReentrancy : public PlotsWindow {
         actionsLeft = actionsOfARound;
         QTimer::singleShot(0, this, [this] { go(); });
         QTRY_VERIFY_WITH_TIMEOUT(actionsLeft <= 0, 60000);
+        QCoreApplication::processEvents(); // what was dropped last opens only afterwards
     }
 
     // Two plots, of the file that was asked for last, and nothing of those before it.
