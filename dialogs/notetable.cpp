@@ -134,6 +134,9 @@ QString NoteTable::whatOfConfiguration(const ReadingNote &note) const
         return tr("The total of %1 channels is not the sum of analog and digital ones, %2")
             .arg(note.count)
             .arg(whole(note.amount));
+    case Kind::NoRates:
+        return tr(
+            "No sampling rates announced; where a rate line follows, it is read as the start");
     case Kind::SeveralRates:
         return tr("Several lines of sampling rates; the last one, %1 Hz, is taken for all")
             .arg(generalText(note.amount));

@@ -92,20 +92,40 @@ void noteChannelCounts(CFGProperties &recording)
         note(recording, Kind::ChannelCounts, recording.totalChannelCount, static_cast<double>(sum));
 }
 
+// Its three numbers; none where the text is no date.
+QVector<int> numbersOfDate(const QString &date)
+{
+    constexpr int count = 3;
+    const QStringList fields = date.split(QLatin1Char('/'));
+    QVector<int> numbers;
+    for (int i = 0; i < count; ++i) {
+        bool isNumber = false;
+        numbers.append(fields.value(i).toInt(&isNumber));
+        if (!isNumber)
+            return {};
+    }
+    return numbers;
+}
+
 // Where the dates are equal by mistake, midnight shows in the times of day.
 void noteDays(CFGProperties &recording)
 {
     constexpr int halfADay = 12 * 3600 * 1000; // ms
-    if (recording.startDate.trimmed() != recording.triggerDate.trimmed()
+    const QVector<int> start = numbersOfDate(recording.startDate);
+    const QVector<int> trigger = numbersOfDate(recording.triggerDate);
+    if ((!start.isEmpty() && !trigger.isEmpty() && start != trigger)
         || recording.triggerOffsetMs < -halfADay)
         note(recording, Kind::TriggerOnOtherDay, 1, recording.triggerOffsetMs);
 }
 
 // By its line: where that has no end to be cut, a letter of the type is missing in the recording.
+// Numbers and stamps, which are read as one where lines are missing, are none.
 void noteType(CFGProperties &recording, const QString &line)
 {
     const QString type = line.trimmed();
-    if (!type.isEmpty() && type.compare(QLatin1String("ascii"), Qt::CaseInsensitive) != 0)
+    const bool isWord
+        = !type.isEmpty() && type.at(0).isLetter() && !type.contains(QLatin1Char(','));
+    if (isWord && type.compare(QLatin1String("ascii"), Qt::CaseInsensitive) != 0)
         note(recording, Kind::NotAscii, 1, 0, type);
 }
 
@@ -140,6 +160,8 @@ void readLine(CFGProperties &recording, const QString &line)
         recording.lineFrequency = withoutLast(line).toDouble();
     } else if (number == channels + 4) {
         recording.rateCount = withoutLast(line).toInt();
+        if (recording.rateCount <= 0)
+            note(recording, Kind::NoRates, 1, 0);
     } else if (number >= total + 5 && number <= total + 4 + rates) {
         recording.sampleRate = fields.value(0).toDouble();
         recording.lastSampleNumber = withoutLast(fields.value(1)).toInt();

@@ -11,6 +11,7 @@ struct ReadingNote {
     enum class Kind { // with what count and amount tell beside what is said of them below
         LaterRevision, // amount: the year
         ChannelCounts, // the total of line 2 is not the sum; count: the total, amount: the sum
+        NoRates, // announced, so that a line of one would be read as that of the start
         SeveralRates, // count: rate lines; amount: samples per second of the last one, which rules
         TriggerOnOtherDay, // amount: ms from the start to the trigger by the time of day alone
         NotAscii, // word: the type

@@ -893,6 +893,10 @@ Please select another file.</translation>
         <translation>The total of %1 channels is not the sum of analog and digital ones, %2</translation>
     </message>
     <message>
+        <source>No sampling rates announced; where a rate line follows, it is read as the start</source>
+        <translation>No sampling rates announced; where a rate line follows, it is read as the start</translation>
+    </message>
+    <message>
         <source>Several lines of sampling rates; the last one, %1 Hz, is taken for all</source>
         <translation>Several lines of sampling rates; the last one, %1 Hz, is taken for all</translation>
     </message>

@@ -893,6 +893,10 @@ Valitse toinen tiedosto.</translation>
         <translation>Kanavien kokonaismäärä %1 ei ole analogisten ja digitaalisten summa %2</translation>
     </message>
     <message>
+        <source>No sampling rates announced; where a rate line follows, it is read as the start</source>
+        <translation>Näytteenottotaajuuksia ei ilmoitettu; jos taajuusrivi seuraa, se luetaan alkuna</translation>
+    </message>
+    <message>
         <source>Several lines of sampling rates; the last one, %1 Hz, is taken for all</source>
         <translation>Useita näytteenottotaajuuden rivejä; viimeistä, %1 Hz, käytetään kaikille</translation>
     </message>

@@ -893,6 +893,10 @@ Please select another file.</source>
         <translation>通道总数 %1 不等于模拟与数字通道之和 %2</translation>
     </message>
     <message>
+        <source>No sampling rates announced; where a rate line follows, it is read as the start</source>
+        <translation>未声明采样率；若其后仍有采样率行，则被读作开始时间</translation>
+    </message>
+    <message>
         <source>Several lines of sampling rates; the last one, %1 Hz, is taken for all</source>
         <translation>有多行采样率；全部按最后一行 %1 Hz 处理</translation>
     </message>

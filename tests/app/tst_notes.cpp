@@ -283,6 +283,10 @@ void TestNotes::textsOfNotes_data()
              "Configuration; 7; "
              "2"),
         {"1000,2", "500.5,3"});
+    row("no rates", whole,
+        text("No sampling rates announced; where a rate line follows, it is read as the start; "
+             "Configuration; 5; "),
+        {});
     row("days", whole,
         text("Start and trigger lie on two days; the trigger is placed by time of day alone; "
              "Configuration; 8; "),

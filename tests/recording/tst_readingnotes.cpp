@@ -113,11 +113,18 @@ void TestReadingNotes::ofConfigurations_data()
         [](Text &text) { text.station = "Harju,Feeder J07,2013"; });
     row("a year that is none", "", [](Text &text) { text.station = "Harju,Feeder J07,2013a"; });
     // From the rate lines on, a line later or earlier is taken for what it is not.
-    row("total too large", "counts cfg:2 x4 3..3|day cfg:11 x1|type cfg:12 x1 1",
-        [](Text &text) { text.counts = "4,2A,1D"; });
-    row("total too small",
-        "counts cfg:2 x2 3..3|day cfg:9 x1|type cfg:10 x1 15/03/2024,10:00:00.020000",
-        [](Text &text) { text.counts = "2,2A,1D"; });
+    row("total too large", "counts cfg:2 x4 3..3", [](Text &text) { text.counts = "4,2A,1D"; });
+    row("total too small", "counts cfg:2 x2 3..3", [](Text &text) { text.counts = "2,2A,1D"; });
+    row("no rate", "norates cfg:7 x1", [](Text &text) { text.rates.clear(); });
+    row("no rate, of another type", "norates cfg:7 x1|type cfg:10 x1 BINARY", [](Text &text) {
+        text.rates.clear();
+        text.fileType = "BINARY";
+    });
+    // As the standard has it, a line of the number of samples follows.
+    row("no rate, and its line", "norates cfg:7 x1", [](Text &text) {
+        text.rates.clear();
+        text.start.prepend("0,3\n");
+    });
     // Channels stand on the lines 3 to 5, the number of rates on line 7.
     row("two rates", "rates cfg:9 x2 2000..2000", [](Text &text) {
         text.rates = {"1000,2", "2000,3"};
@@ -142,6 +149,8 @@ void TestReadingNotes::ofConfigurations_data()
         "15/03/2024,09:59:59.000000");
     days("dates set apart by spaces", "", " 15/03/2024,10:00:00.000000",
         "15/03/2024 ,10:00:00.000000");
+    days("dates written in two ways", "", "05/03/2024,10:00:00.000000", "5/3/2024,10:00:00.020000");
+    days("a date that is none", "", "0,3", "15/03/2024,10:00:00.020000");
     row("type of other letters", "", [](Text &text) { text.fileType = "ascii "; });
     row("no type", "", [](Text &text) { text.fileType = ""; });
     row("type BINARY", "type cfg:11 x1 BINARY", [](Text &text) { text.fileType = "BINARY"; });

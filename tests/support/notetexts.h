@@ -15,6 +15,7 @@ inline QStringList noteTexts(const RecordingContents &recording)
     static const QHash<int, QString> names{
         {static_cast<int>(Kind::LaterRevision), QStringLiteral("revision")},
         {static_cast<int>(Kind::ChannelCounts), QStringLiteral("counts")},
+        {static_cast<int>(Kind::NoRates), QStringLiteral("norates")},
         {static_cast<int>(Kind::SeveralRates), QStringLiteral("rates")},
         {static_cast<int>(Kind::TriggerOnOtherDay), QStringLiteral("day")},
         {static_cast<int>(Kind::NotAscii), QStringLiteral("type")},
