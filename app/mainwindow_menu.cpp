@@ -26,6 +26,8 @@ void MainWindow::fillPlotMenu(QMenu &menu, Plotter &plot, const QPoint &point, i
         return;
     }
     entries.addViews();
+    // The keyboard reaches no buttons of tool bars.
+    menu.addActions({m_actions.zoomReset, m_actions.vZoomIn, m_actions.vZoomOut});
     menu.addSeparator();
     entries.addNewCursors(point);
     menu.addSeparator();

@@ -38,6 +38,7 @@ private slots:
     void nothingIsOfferedOfTheWholeView();
     void viewsEarlierAndLater();
     void zoomToTheOutermostCursors();
+    void zoomsOfTheToolBar();
     void oneStepBackForEachGesture_data();
     void oneStepBackForEachGesture();
     void manyStepsBackAndNoMore_data();
@@ -177,6 +178,27 @@ void TestPlotMenu::zoomToTheOutermostCursors()
     for (int i = 0; i < 2; ++i)
         analog()->addCursorAt(40);
     QVERIFY(!offers(analog(), QStringLiteral("Zoom to P1-P2")));
+}
+
+// Without a mouse there is no other way to them. They act as the buttons do, from any plot.
+void TestPlotMenu::zoomsOfTheToolBar()
+{
+    const QVector<PlotSettings> all = views();
+    const double span = all.first().spanY();
+    for (Plotter *each : plots()) {
+        QVERIFY(choose(each, QStringLiteral("Vertical Zoom In")));
+        const double zoomed = analog()->view().spanY();
+        QVERIFY2(zoomed < span, qPrintable(QString::number(zoomed)));
+        QVERIFY(choose(each, QStringLiteral("Vertical Zoom In")));
+        QVERIFY(analog()->view().spanY() < zoomed);
+        QVERIFY(choose(each, QStringLiteral("Vertical Zoom Out")));
+        QCOMPARE(analog()->view().spanY(), zoomed);
+        trigger("Zoom In");
+        QCOMPARE(times(), qMakePair(0.0, 50.0));
+        QVERIFY(choose(each, QStringLiteral("Zoom Reset")));
+        QCOMPARE(times(), qMakePair(0.0, 100.0));
+        QCOMPARE(analog()->view().spanY(), span);
+    }
 }
 
 void TestPlotMenu::oneStepBackForEachGesture_data()
