@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Norvale
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "plotmenus.h"
+#include "plotter.h"
 #include "smallrecording.h"
 #include "translationfile.h"
 #include "untranslatedtexts.h"
@@ -24,6 +26,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include <array>
 #include <functional>
 
 namespace {
@@ -33,6 +36,10 @@ struct Language {
     const char *entry; // of the menu
     const char *code; // of the .ts file
 };
+
+// Those that stay beside the window.
+constexpr std::array<const char *, 6> dialogs{"SaveDialog", "VectorDialog", "CTVTDialog",
+    "EventsDialog", "MeasurementsDialog", "NotesDialog"};
 
 constexpr Language finnish{"Finnish", "Suomi", "fi"};
 constexpr Language chinese{"Chinese", "中文", "zh"};
@@ -184,6 +191,13 @@ class TestLanguages : public WindowFixture {
         QCoreApplication::processEvents();
     }
 
+    // In English, which is spoken from the start.
+    void showSideWindows()
+    {
+        for (const char *entry : {"Events...", "Measurements...", "Notes..."})
+            QVERIFY(::choose(window->findChild<Plotter *>(), QLatin1String(entry)));
+    }
+
     Shown shownTexts() const
     {
         Shown shown;
@@ -305,7 +319,8 @@ private slots:
         makeWindow();
         for (QAction *each : window->findChildren<QAction *>())
             each->setProperty("sourceText", each->text());
-        window->open(writeSmallRecording(folder->path(), QStringLiteral("rec")));
+        window->open(writeSmallRecording(folder->path(), QStringLiteral("rec"),
+            smallConfiguration().replace("1999\n", "2013\n"))); // of which there is a note
         window->addPlotter({QStringLiteral("IL1")});
         window->show();
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
@@ -472,6 +487,7 @@ private slots:
     {
         QFETCH(QString, entry);
         QFETCH(QString, code);
+        showSideWindows();
         choose(entry.toUtf8().constData());
         QCOMPARE(clashesOf(textsOf(window->menuBar()->actions())), QString());
         QStringList clashes;
@@ -488,7 +504,7 @@ private slots:
             const QString found = clashesOf(menu ? textsOf(menu->actions()) : textsIn(opened));
             QVERIFY2(found.isEmpty(), qPrintable(opened.windowTitle() + found));
         });
-        for (const char *name : {"SaveDialog", "VectorDialog", "CTVTDialog"})
+        for (const char *name : dialogs)
             QCOMPARE(clashesOf(textsIn(*child<QDialog>(name))), QString());
     }
 
@@ -500,6 +516,7 @@ private slots:
     {
         QFETCH(QString, entry);
         window->resize(1000, 700);
+        showSideWindows();
         choose(entry.toUtf8().constData());
         showDialogs();
         QTest::qWait(50);
@@ -509,7 +526,7 @@ private slots:
             QVERIFY2(!bar->findChild<QToolButton *>(QStringLiteral("qt_toolbar_ext_button"))
                           ->isVisible(),
                 qPrintable(bar->windowTitle()));
-        for (const char *name : {"SaveDialog", "VectorDialog", "CTVTDialog"})
+        for (const char *name : dialogs)
             QCOMPARE(clippedTexts(*child<QDialog>(name)).join(QLatin1Char('|')), QString());
         visitEverything([](QWidget &opened) {
             if (!qobject_cast<QFileDialog *>(&opened))
