@@ -89,8 +89,11 @@ bool CFGProperties::readDatFile()
             failure = Failure::None;
             return true;
         }
-        const bool isNoted = std::any_of(notes.cbegin(), notes.cend(),
-            [](const ReadingNote &note) { return note.kind == ReadingNote::Kind::NotAscii; });
+        // Without a rate, the type most likely stands a line later.
+        const bool isNoted = std::any_of(notes.cbegin(), notes.cend(), [](const ReadingNote &note) {
+            return note.kind == ReadingNote::Kind::NotAscii
+                || note.kind == ReadingNote::Kind::NoRates;
+        });
         const bool isAscii = fileType.contains(QLatin1String("ascii"), Qt::CaseInsensitive);
         failure = isNoted && !isAscii ? Failure::NotAscii : Failure::NoDataLine;
     }

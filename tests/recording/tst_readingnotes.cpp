@@ -536,6 +536,12 @@ void TestReadingNotes::failedLoads_data()
     QTest::newRow("other data") << text.text() << binary << Failure::NotAscii;
     QTest::newRow("other data, type at the end of the file")
         << text.text().chopped(3) << binary << Failure::NotAscii;
+    text.rates.clear();
+    text.start.prepend("0,3\n");
+    QTest::newRow("other data, no rate") << text.text() << binary << Failure::NotAscii;
+    text.fileType = "ASCII";
+    text.start = plainConfiguration().start;
+    QTest::newRow("no sample, no rate") << text.text() << noSample << Failure::NoDataLine;
 }
 
 // What is cleared has no notes; why it failed, failure tells.
