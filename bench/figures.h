@@ -22,6 +22,8 @@ Ratio phasorsAgainstTransforms(int samplesPerCycle);
 Ratio panelsAgainstFrame();
 // The move of a cursor over a plot and in the window of measurements against such a frame.
 Ratio measuringAgainstFrame();
+// The window of events of 592 digital channels and 1,000,000 samples, until it is shown.
+Ratio openingEventsAgainstGoal();
 Ratio writingPlainlyAgainstWriting();
 // The binary data that the converter reads in a second of the processor, against 200 MB.
 Ratio convertingAgainstGoal();

@@ -43,6 +43,8 @@ const Figure figures[] = {
         Goal::AtMost, 1.1},
     {"drawing four phasor panels / a frame", panelsAgainstFrame, Goal::AtMost, 1},
     {"measuring at a dragged cursor / a frame", measuringAgainstFrame, Goal::AtMost, 1},
+    {"events of 592 channels, 1,000,000 samples / a second", openingEventsAgainstGoal, Goal::AtMost,
+        1},
     {"writing, plain writer / writer", writingPlainlyAgainstWriting, Goal::AtLeast, 10},
     {"converting binary data / 200 MB/s", convertingAgainstGoal, Goal::AtLeast, 1},
     {"recolouring a picture / a plain pass", recolouringAgainstAPass, Goal::AtMost, 5},
