@@ -23,11 +23,9 @@ private slots:
     void cleanup() { closeWindow(); }
     void whateverTakesTheFocusHasOne_data();
     void whateverTakesTheFocusHasOne();
-    void tellWhatAPartIs_data();
     void tellWhatAPartIs();
     void ofPlotsAreTheirTitles();
     void ofCursorsComeWithTheirTimes();
-    void standWithWhatAPartIs_data();
     void standWithWhatAPartIs();
     void followTheLanguage();
 
@@ -104,14 +102,13 @@ void TestAccessibleNames::whateverTakesTheFocusHasOne()
     QVERIFY2(nameless.isEmpty(), qPrintable(nameless.join(QStringLiteral(", "))));
 }
 
-void TestAccessibleNames::tellWhatAPartIs_data()
+void TestAccessibleNames::tellWhatAPartIs()
 {
-    QTest::addColumn<QString>("dialog"); // none for the window itself
-    QTest::addColumn<QString>("part");
-    QTest::addColumn<QString>("name");
-    const auto row = [](const char *dialog, const char *part, const char *name) {
-        QTest::newRow(part) << QString::fromLatin1(dialog) << QString::fromLatin1(part)
-                            << QString::fromLatin1(name);
+    // Without the name of a dialog, the part is one of the window itself.
+    const auto row = [this](const char *dialog, const char *part, const char *name) {
+        auto *widget = this->part<QWidget>(QLatin1String(dialog), part);
+        QVERIFY2(widget, part);
+        QCOMPARE(nameOf(widget).trimmed(), QLatin1String(name));
     };
     row("", "listWidget", "Analog Channels:");
     row("", "listWidget2", "Digital Channels:");
@@ -131,16 +128,6 @@ void TestAccessibleNames::tellWhatAPartIs_data()
     row("AddPlotterDialog", "listWidget_Selected", "Channels of the plot");
     row("AddPlotterDialog", "pushButton_add", "Add to the plot");
     row("AddPlotterDialog", "pushButton_remove", "Remove from the plot");
-}
-
-void TestAccessibleNames::tellWhatAPartIs()
-{
-    QFETCH(QString, dialog);
-    QFETCH(QString, part);
-    QFETCH(QString, name);
-    auto *widget = this->part<QWidget>(dialog, part.toLatin1());
-    QVERIFY(widget);
-    QCOMPARE(nameOf(widget).trimmed(), name);
 }
 
 void TestAccessibleNames::ofPlotsAreTheirTitles()
@@ -175,34 +162,22 @@ void TestAccessibleNames::ofCursorsComeWithTheirTimes()
     QCOMPARE(told(), QStringLiteral("P1: 12.000 ms, P2: 10.250 ms"));
 }
 
-void TestAccessibleNames::standWithWhatAPartIs_data()
+void TestAccessibleNames::standWithWhatAPartIs()
 {
-    QTest::addColumn<QString>("dialog"); // none for the window itself
-    QTest::addColumn<QString>("part");
-    QTest::addColumn<int>("role");
-    const auto row = [](const char *dialog, const char *part, QAccessible::Role role) {
-        QTest::newRow(part) << QString::fromLatin1(dialog) << QString::fromLatin1(part)
-                            << int(role);
+    const auto row = [this](const char *dialog, const char *part, QAccessible::Role role) {
+        auto *widget = this->part<QWidget>(QLatin1String(dialog), part);
+        QVERIFY2(widget, part);
+        QCOMPARE(QAccessible::queryAccessibleInterface(widget)->role(), role);
     };
     row("", "listWidget", QAccessible::List);
     row("", "Plotter", QAccessible::Chart);
     row("", "comboBox_primSec", QAccessible::ComboBox);
     row("VectorDialog", "toolButton", QAccessible::Button);
-    row("VectorWidget", "labelVector", QAccessible::Graphic);
+    child<QDialog>("VectorDialog")->show(); // the diagram is a picture once it is drawn
+    auto *diagram = part<QWidget>(QStringLiteral("VectorWidget"), "labelVector");
+    QVERIFY(diagram);
+    QTRY_COMPARE(QAccessible::queryAccessibleInterface(diagram)->role(), QAccessible::Graphic);
     row("MeasurementsDialog", "bars", QAccessible::Chart);
-}
-
-void TestAccessibleNames::standWithWhatAPartIs()
-{
-    QFETCH(QString, dialog);
-    QFETCH(QString, part);
-    auto *widget = this->part<QWidget>(dialog, part.toLatin1());
-    QVERIFY(widget);
-    if (part == QLatin1String("labelVector")) { // it is a picture once it is drawn
-        child<QDialog>("VectorDialog")->show();
-        QTRY_COMPARE(QAccessible::queryAccessibleInterface(widget)->role(), QAccessible::Graphic);
-    }
-    QTEST(int(QAccessible::queryAccessibleInterface(widget)->role()), "role");
 }
 
 void TestAccessibleNames::followTheLanguage()
