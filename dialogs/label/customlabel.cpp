@@ -10,6 +10,8 @@
 CustomLabel::CustomLabel(QWidget *parent) : QLabel(parent)
 {
     setMouseTracking(true);
+    // A label that takes the focus would else keep the release of a button whose press it let go.
+    setTextInteractionFlags(Qt::NoTextInteraction);
 }
 
 void CustomLabel::setPlotter(QObject *object)

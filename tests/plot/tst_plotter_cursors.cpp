@@ -65,6 +65,8 @@ private slots:
     void theReadoutsNumbersAreBriefBeforeTheyAreCut();
     void theReadoutsEllipsisListsWhatIsLeftOut();
     void aDraggedLabelMovesTheCursorEverywhere();
+    void theReleaseOfALabelLetsItGo_data();
+    void theReleaseOfALabelLetsItGo();
     void aDragCutShortIsInTheReadout();
     void aDragEndsWhenItsCursorLeavesTheView_data();
     void aDragEndsWhenItsCursorLeavesTheView();
@@ -548,6 +550,37 @@ void TestPlotterCursors::aDraggedLabelMovesTheCursorEverywhere()
     PlotPair::move(pair->digital, {300, 80});
     QCOMPARE(pair->digital->cursors(), QList<double>({500, 5000.0 / 7}));
     QCOMPARE(pair->other->cursors(), pair->digital->cursors());
+}
+
+void TestPlotterCursors::theReleaseOfALabelLetsItGo_data()
+{
+    QTest::addColumn<Qt::MouseButton>("button");
+    QTest::addColumn<int>("way"); // pixels
+    QTest::newRow("a click") << Qt::LeftButton << 0;
+    QTest::newRow("a drag") << Qt::LeftButton << 70;
+    QTest::newRow("the middle button") << Qt::MiddleButton << 70;
+}
+
+// As the window gets them: press and release go to the label, which hands them to its plot.
+void TestPlotterCursors::theReleaseOfALabelLetsItGo()
+{
+    QFETCH(Qt::MouseButton, button);
+    QFETCH(int, way);
+    QWindow *window = pair->area.windowHandle();
+    doubleClick(440);
+    QList<double> before = pair->plot->cursors();
+    for (Plotter *plot : QList<Plotter *>{pair->plot, pair->digital, pair->plot}) {
+        plot->raise();
+        const QPoint grip = PlotPair::lineLabels(plot).first()->geometry().center();
+        QTest::mousePress(window, button, {}, grip);
+        QTest::mouseMove(window, grip + QPoint(way, 5));
+        QTest::mouseRelease(window, button, {}, grip + QPoint(way, 5));
+        const QList<double> released = plot->cursors();
+        QCOMPARE(released != before, way != 0);
+        QTest::mouseMove(window, grip + QPoint(way + 90, 60));
+        QCOMPARE(plot->cursors(), released);
+        before = released;
+    }
 }
 
 void TestPlotterCursors::aDragCutShortIsInTheReadout()
