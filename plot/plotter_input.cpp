@@ -327,6 +327,12 @@ void Plotter::contextMenuEvent(QContextMenuEvent *event)
         return;
     }
     letGo();
+    // Where the pointer leaves the plot while the menu is open, the plot is not told.
+    const auto leave = [this] {
+        if (!visibleRegion().contains(mapFromGlobal(QCursor::pos())))
+            leaveEvent(nullptr);
+    };
+    connect(menu.get(), &QMenu::aboutToHide, this, leave, Qt::QueuedConnection);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu.release()->popup(event->globalPos());
 }

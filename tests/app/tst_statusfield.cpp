@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Norvale
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "plotmenus.h"
 #include "plotswindow.h"
 
 #include <QLabel>
@@ -21,6 +22,7 @@ private slots:
     void whatWasNotOpenedIsSaidUntilARecordingIs();
     void whatWasNotOpenedIsSaidInTheLanguageOfTheWindow();
     void thePointerInAnAnalogPlot();
+    void thePointerLeavesUnderAMenu();
     void thePointerOverARow_data();
     void thePointerOverARow();
     void theSideOfTheValues();
@@ -121,6 +123,31 @@ void TestStatusField::thePointerInAnAnalogPlot()
                        "from trigger: 50.000 ms"));
     leave(analog());
     QCOMPARE(field()->text(), QStringLiteral("recording.cfg  |  Primary"));
+}
+
+// A plot is not told that the pointer leaves it while its menu is open.
+void TestStatusField::thePointerLeavesUnderAMenu()
+{
+    openUsual();
+    const QString away = QStringLiteral("recording.cfg  |  Primary");
+    QWidget *button = child<QComboBox>("comboBox_primSec");
+    for (Plotter *plot : {analog(), digital()}) {
+        for (QWidget *other : QList<QWidget *>{plot, button}) {
+            QTest::mouseMove(plot, {300, 150});
+            point(plot, {300, 150});
+            const QString pointed = field()->text();
+            QVERIFY(pointed.contains(plot->name() + QLatin1Char(':')));
+            QMenu *menu = contextMenuAt(plot, {300, 150});
+            QVERIFY(menu);
+            QCursor::setPos(other->mapToGlobal(other == plot ? QPoint(300, 150) : QPoint(5, 5)));
+            QCoreApplication::processEvents(); // the menu gets the move
+            menu->close();
+            QCoreApplication::processEvents();
+            QCOMPARE(field()->text(), other == plot ? pointed : away);
+            for (const Plotter *each : plots())
+                QCOMPARE(mark(each)->isVisible(), other == plot && each != plot);
+        }
+    }
 }
 
 void TestStatusField::thePointerOverARow_data()
