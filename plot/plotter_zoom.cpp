@@ -120,19 +120,25 @@ void Plotter::dragView(const QPoint &way)
     lead([&](PlotView &now) { return now.moveBy(time, digitalFlag ? 0 : value); });
 }
 
+// One that is hidden has a view of an earlier moment.
 ViewHistory::Views Plotter::views() const
 {
     ViewHistory::Views views{{this, m_view}};
-    for (const Plotter *plotter : linkedPlotters)
-        views.insert(plotter, plotter->m_view);
+    for (const Plotter *plotter : linkedPlotters) {
+        if (plotter->isOnScreen())
+            views.insert(plotter, plotter->m_view);
+    }
     return views;
 }
 
-// A plot that was hidden or not yet there at that time follows when it is shown, or now.
+// A plot that was hidden or not yet there at that time follows now, one that is hidden now when it
+// is shown.
 void Plotter::showPreviousView()
 {
     const ViewHistory::Views previous = s_shared.history.goBack(views());
     for (Plotter *plotter : QList<Plotter *>{this} + linkedPlotters) {
+        if (!previous.contains(plotter))
+            continue;
         plotter->m_view = previous.value(plotter);
         s_shared.takeLive(plotter->m_view, plotter->plotType, SharedView::Rule::IfAnalog);
     }

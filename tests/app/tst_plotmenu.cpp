@@ -44,6 +44,7 @@ private slots:
     void manyStepsBackAndNoMore_data();
     void manyStepsBackAndNoMore();
     void aHiddenPlotIsInStepWhenItIsShown();
+    void whatAHiddenPlotShowedDoesNotComeBack();
     void nothingIsKeptOfAnotherRecording();
     void cursorsAtExactTimes();
     void noRoomForMoreCursors();
@@ -290,6 +291,25 @@ void TestPlotMenu::aHiddenPlotIsInStepWhenItIsShown()
     QCOMPARE(times(), zoomed);
     QVERIFY(choose(digital(), previous));
     QCOMPARE(times(), Times(0, 100));
+}
+
+// Each step leads on, and all plots go to the same times.
+void TestPlotMenu::whatAHiddenPlotShowedDoesNotComeBack()
+{
+    for (int twice = 0; twice < 2; ++twice) {
+        click(list("listWidget2"), 0);
+        QVERIFY(digital()->isHidden());
+        trigger("Zoom In");
+        trigger("Zoom In");
+        QCOMPARE(analog()->view().maxX, 25.0);
+        click(list("listWidget2"), 0);
+        QCOMPARE(times(), qMakePair(0.0, 25.0));
+        QVERIFY(choose(analog(), previous));
+        QCOMPARE(times(), qMakePair(0.0, 50.0));
+        QVERIFY(choose(digital(), previous));
+        QCOMPARE(times(), qMakePair(0.0, 100.0));
+        QVERIFY(!offers(analog(), previous));
+    }
 }
 
 void TestPlotMenu::nothingIsKeptOfAnotherRecording()

@@ -331,7 +331,7 @@ void TestPlotterLinked::actAtRandom(Plotter *plot, std::mt19937 &random)
 {
     const auto upTo = [&](int count) { return static_cast<int>(random() % unsigned(count)); };
     QScrollBar *bar = pair->host.bar.get();
-    switch (upTo(11)) {
+    switch (upTo(12)) {
     case 0:
         upTo(2) ? plot->customZoomIn() : plot->customZoomOut();
         break;
@@ -375,6 +375,12 @@ void TestPlotterLinked::actAtRandom(Plotter *plot, std::mt19937 &random)
         QTest::keyRelease(plot, key);
         break;
     }
+    case 10:
+        if (upTo(2))
+            plot->showPreviousView();
+        else
+            plot->changeView([&](PlotView &view) { return view.moveTimes(upTo(200) - 100); });
+        break;
     default:
         QTest::keyClick(plot, Qt::Key(Qt::Key_Left + upTo(4))); // the arrows
     }
