@@ -119,7 +119,7 @@ private:
     // Steps of open(); after false the window may be closed or gone, and nothing of it is touched.
     void load(QString path);
     bool unpack(QString &path); // path becomes that of the configuration file found
-    bool loadRecording(const QString &path); // false, too, where it cannot be loaded
+    bool loadRecording(const QString &path, const QString &asked); // false where it cannot be
     bool parse(const QString &path); // on the loader thread
     void showInvalidPackage();
     void showWarning(const QString &text, const QString &details = {});

@@ -86,10 +86,12 @@ bool canBeConverted(const QString &path, CFGProperties::Failure failure)
         || path.endsWith(QLatin1String(".cff"), Qt::CaseInsensitive);
 }
 
-// What is said of a recording that is not supported.
-QString failureText(const QString &path, CFGProperties::Failure failure)
+// What is said of a recording that is not supported, which may lie in the package that was asked
+// for.
+QString failureText(const QString &asked, const QString &path, CFGProperties::Failure failure)
 {
-    QStringList lines{path, reasonText(failure)};
+    const QString inPackage = QStringLiteral("%1 (%2)").arg(asked, QFileInfo(path).fileName());
+    QStringList lines{asked == path ? path : inPackage, reasonText(failure)};
     if (canBeConverted(path, failure))
         lines.append(MainWindow::tr("wavorin-convert turns it into a recording that opens."));
     return lines.join(QLatin1Char('\n'));
@@ -142,9 +144,9 @@ void MainWindow::load(QString path)
     if (isPackage(path) && !unpack(path))
         return;
     if (isRecording(path)) {
-        if (!loadRecording(path))
+        if (!loadRecording(path, asked))
             return;
-        m_otherRecordings->setShown(asked);
+        m_otherRecordings->remember();
     }
     setCurrentFile(path);
     statusBar()->showMessage(tr("File loaded"), messageDuration);
@@ -171,11 +173,11 @@ bool MainWindow::unpack(QString &path)
     return true;
 }
 
-bool MainWindow::loadRecording(const QString &path)
+bool MainWindow::loadRecording(const QString &path, const QString &asked)
 {
     m_isComtrade = !isTextExport(path);
     const QPointer<QLabel> animation = newLoadingAnimation(this);
-    m_otherRecordings->leaveArea();
+    m_otherRecordings->leaveArea(asked);
     clearView();
     if (!parse(path))
         return false;
@@ -190,7 +192,8 @@ bool MainWindow::loadRecording(const QString &path)
     } else {
         m_otherRecordings->offerInArea();
         if (!isGivenUp)
-            showWarning(tr("File not supported."), failureText(path, m_cfgProperties->failure));
+            showWarning(
+                tr("File not supported."), failureText(asked, path, m_cfgProperties->failure));
     }
     if (animation)
         animation->close();

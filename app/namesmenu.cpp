@@ -27,7 +27,7 @@ struct NamesMenu {
 QString deviceOf(const CFGProperties &recording)
 {
     constexpr int mostLetters = 256;
-    return recording.recordingDeviceId.left(mostLetters);
+    return recording.recordingDeviceId.left(mostLetters).trimmed();
 }
 
 Letters rememberedLetters(const QString &device)

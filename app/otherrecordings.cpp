@@ -8,6 +8,7 @@
 #include "recentrecordings.h"
 #include "recordingfolder.h"
 
+#include <QContextMenuEvent>
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
@@ -44,6 +45,13 @@ OtherRecordings::OtherRecordings(QWidget *area, QObject *parent)
 {
     connect(m_hint, &OpenHint::chosen, this, &OtherRecordings::chosen);
     m_hint->setRecordings(recentRecordings());
+    area->installEventFilter(this);
+}
+
+void OtherRecordings::leaveArea(const QString &path)
+{
+    m_path = QFileInfo(path).absoluteFilePath();
+    m_hint->hide();
 }
 
 void OtherRecordings::offerInArea()
@@ -52,20 +60,26 @@ void OtherRecordings::offerInArea()
     m_hint->show();
 }
 
-void OtherRecordings::leaveArea()
+void OtherRecordings::remember()
 {
-    m_hint->hide();
+    rememberRecording(m_path);
 }
 
-void OtherRecordings::setShown(const QString &path)
+// After a file that cannot be loaded there may be others in its folder.
+bool OtherRecordings::eventFilter(QObject *watched, QEvent *event)
 {
-    m_shown = QFileInfo(path).absoluteFilePath();
-    rememberRecording(m_shown);
+    if (event->type() != QEvent::ContextMenu || m_hint->isHidden() || m_path.isEmpty())
+        return QObject::eventFilter(watched, event);
+    auto *menu = new QMenu(qobject_cast<QWidget *>(watched));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    addTo(*menu);
+    menu->popup(static_cast<QContextMenuEvent *>(event)->globalPos());
+    return true;
 }
 
 void OtherRecordings::addTo(QMenu &menu)
 {
-    const Neighbours beside = neighboursOf(m_shown);
+    const Neighbours beside = neighboursOf(m_path);
     addEntry(menu, tr("Open &Next in Folder"), beside.next);
     addEntry(menu, tr("Open &Previous in Folder"), beside.previous);
     QMenu *latest = menu.addMenu(tr("&Recent Recordings"));

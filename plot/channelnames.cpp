@@ -22,7 +22,10 @@ void NameLetters::choose(Letters letters)
 QString shownName(const QString &name)
 {
     const QString cut = cutText(name);
-    return inLetters(cut, NameLetters::shared().letters(), cut.size() < name.size());
+    QString shown = inLetters(cut, NameLetters::shared().letters(), cut.size() < name.size());
+    while (shown.endsWith(QLatin1Char('\n')) || shown.endsWith(QLatin1Char('\r')))
+        shown.chop(1);
+    return shown;
 }
 
 QString trimmedName(const QString &name)

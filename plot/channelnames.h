@@ -28,8 +28,9 @@ private:
 };
 
 // A text of a file, such as the name of a channel, as it is shown: in the letters chosen, and not
-// endless. The standard allows 64 characters; millions would keep the window from its work. It must
-// be called once for a text, for what it gives would read differently in the same letters.
+// endless, without the line end that the last field of a short line has. The standard allows 64
+// characters; millions would keep the window from its work. It must be called once for a text, for
+// what it gives would read differently in the same letters.
 QString shownName(const QString &name);
 // The same without blanks at its ends, which may look like parts of letters as it was read.
 QString trimmedName(const QString &name);

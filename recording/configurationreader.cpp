@@ -198,8 +198,10 @@ void readTimeStamps(CFGProperties &recording)
 
 void readConfiguration(QIODevice &device, CFGProperties &recording)
 {
+    constexpr int fewestFields = 10; // of an analog channel; 1991 has no more
     bool isTooLong = false;
     NameLines names;
+    Occurrences shortLines(Kind::FieldCounts, ReadingNote::File::Configuration);
     for (QByteArray line; !(line = nextLine(device, isTooLong)).isEmpty();) {
         // A text-mode device would drop other carriage returns too, by the state of its buffer.
         if (line.endsWith("\r\n"))
@@ -208,12 +210,16 @@ void readConfiguration(QIODevice &device, CFGProperties &recording)
         // The text of a line ends at its first NUL.
         const QString text = QString::fromLatin1(line.constData());
         readLine(recording, text);
-        const qint64 channels
-            = qint64(recording.analogChannelCount) + recording.digitalChannelCount;
-        if (recording.cfgLineNumber <= channels + 2)
-            names.add(recording.cfgLineNumber, text);
+        const qint64 number = recording.cfgLineNumber;
+        const qint64 analog = recording.analogChannelCount;
+        if (number <= analog + recording.digitalChannelCount + 2)
+            names.add(number, text);
+        const int missing = fewestFields - 1 - text.count(QLatin1Char(','));
+        if (number >= 3 && number <= analog + 2 && missing > 0)
+            shortLines.add(number, -missing);
         recording.samplesPerCycle = roundedToInt(recording.sampleRate / recording.lineFrequency);
     }
+    shortLines.noteIn(recording);
     names.noteIn(recording, ReadingNote::File::Configuration);
     if (isTooLong)
         recording.notes.append({Kind::LimitReached, ReadingNote::File::Configuration,

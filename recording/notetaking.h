@@ -10,10 +10,14 @@
 class AnalogChannel;
 struct RecordingContents;
 
-// Of something that occurs in many lines of a data file, how often, where first and how much.
+// Of something that occurs in many lines of a file, how often, where first and how much.
 class Occurrences {
 public:
-    explicit Occurrences(ReadingNote::Kind kind) : m_note{kind} { m_note.count = 0; }
+    explicit Occurrences(ReadingNote::Kind kind, ReadingNote::File file = ReadingNote::File::Data)
+        : m_note{kind, file}
+    {
+        m_note.count = 0;
+    }
 
     // Lines come in their order. An amount that is not finite is none.
     void add(qint64 line, double amount = 0);

@@ -311,6 +311,7 @@ void TestNameLetters::keptForTheDevice()
     QCOMPARE(openOf("K1"), read);
     chooseLetters(QStringLiteral("Windows-1251"));
     QCOMPARE(openOf("K1"), QStringLiteral("Ток"));
+    QCOMPARE(openOf("K1 "), QStringLiteral("Ток")); // as before the line end of 1991
     QCOMPARE(openOf("K2"), read); // another device
     QCOMPARE(chosenInMenu(), asRead);
     chooseLetters(QStringLiteral("IBM 866"));

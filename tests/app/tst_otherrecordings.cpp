@@ -32,6 +32,7 @@ private slots:
     void cleanup() { close(); }
 
     void throughAFolderAndBack();
+    void pastAFileThatCannotBeLoaded();
     void fromEveryPlot();
     void aPackageStandsInItsOwnFolder();
     void theLatestInTheMenu();
@@ -128,6 +129,30 @@ void TestOtherRecordings::throughAFolderAndBack()
     QVERIFY(choose(analog(), next));
     QVERIFY(comesToShow("r10.cfg"));
     QCOMPARE(boxes->count(), 0);
+}
+
+// From the empty area, by the mouse and from what has the focus there.
+void TestOtherRecordings::pastAFileThatCannotBeLoaded()
+{
+    goodRecording("r1");
+    goodRecording("r3");
+    const QString bad = writePair(folder->path() + QStringLiteral("/r2"),
+        smallConfiguration().replace("ASCII", "BINARY"), QByteArray(6, '\0'));
+    window->open(path("r1.cfg"));
+    auto *area = child<QWidget>("scrollWidget");
+    QVERIFY(!contextMenuAt(area, {5, 5})); // between the plots
+    const auto isRefused = [this] { return boxes->take().size() == 1 && !analog(); };
+    for (int twice = 0; twice < 2; ++twice) {
+        QVERIFY(choose(analog(), next));
+        QVERIFY(QTest::qWaitFor(isRefused));
+        QVERIFY(choose(area, next));
+        QVERIFY(comesToShow("r3.cfg"));
+        QVERIFY(choose(analog(), previous));
+        QVERIFY(QTest::qWaitFor(isRefused));
+        QVERIFY(choose(links().first(), previous, {2, 2}));
+        QVERIFY(comesToShow("r1.cfg"));
+    }
+    QVERIFY(!recentRecordings().contains(bad));
 }
 
 void TestOtherRecordings::fromEveryPlot()

@@ -11,8 +11,8 @@ class TestChannelNames : public QObject {
     Q_OBJECT
 
 private slots:
-    void endlessNamesAreCut_data();
-    void endlessNamesAreCut();
+    void namesAreCut_data();
+    void namesAreCut();
     void namesThatDoNotFitAreElidedInTheMiddle_data();
     void namesThatDoNotFitAreElidedInTheMiddle();
     void namesInTheLettersChosen_data();
@@ -22,20 +22,23 @@ private slots:
     void namesAreFound();
 };
 
-void TestChannelNames::endlessNamesAreCut_data()
+void TestChannelNames::namesAreCut_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("shown");
     const auto letters = [](int count) { return QString(count, QLatin1Char('W')); };
     QTest::newRow("empty") << QString() << QString();
     QTest::newRow("usual") << QStringLiteral(" IL1 ") << QStringLiteral(" IL1 ");
+    QTest::newRow("a line end") << QStringLiteral("IL1 \n") << QStringLiteral("IL1 ");
+    QTest::newRow("nothing but a line end") << QStringLiteral("\r\n") << QString();
+    QTest::newRow("a line end within") << QStringLiteral("I\nL") << QStringLiteral("I\nL");
     QTest::newRow("64 characters") << letters(64) << letters(64);
     QTest::newRow("1000 characters") << letters(1000) << letters(1000);
     QTest::newRow("1001 characters") << letters(1001) << letters(1000);
     QTest::newRow("a million") << letters(1000000) << letters(1000);
 }
 
-void TestChannelNames::endlessNamesAreCut()
+void TestChannelNames::namesAreCut()
 {
     QFETCH(QString, name);
     QTEST(shownName(name), "shown");
@@ -77,7 +80,7 @@ void TestChannelNames::namesInTheLettersChosen_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("shown");
     QTest::addColumn<QString>("trimmed");
-    QTest::newRow("ASCII") << QByteArray(" IL1\r\n") << QStringLiteral(" IL1\r\n")
+    QTest::newRow("ASCII") << QByteArray(" IL1 ") << QStringLiteral(" IL1 ")
                            << QStringLiteral("IL1");
     // The last bytes are a blank and a line end in Latin-1.
     QTest::newRow("ends like a blank")

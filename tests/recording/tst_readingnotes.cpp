@@ -125,6 +125,12 @@ void TestReadingNotes::ofConfigurations_data()
         text.rates.clear();
         text.start.prepend("0,3\n");
     });
+    row("analog lines of few fields", "fields cfg:3 x2 -8..0", [](Text &text) {
+        text.analog = {"1,IL1", "2,IL2,A,Bay,A,1,0,0,-99"};
+    });
+    row("analog lines of 1991", "", [](Text &text) {
+        text.analog = {"1,IL1,A,Bay,A,1,0,0,-99,99", "2,IL2,A,Bay,A,1,0,0,-99,99"};
+    });
     // Channels stand on the lines 3 to 5, the number of rates on line 7.
     row("two rates", "rates cfg:9 x2 2000..2000", [](Text &text) {
         text.rates = {"1000,2", "2000,3"};
