@@ -6,6 +6,7 @@
 #include "customlabel.h"
 #include "labeltext.h"
 
+#include <QEvent>
 #include <QVariant>
 
 #include <algorithm>
@@ -19,12 +20,37 @@ constexpr int labelHeight = 20;
 
 } // namespace
 
+// Has a colour that outlives the style sheets of its plot: each puts back the palette of the first.
+class ChannelLabel : public CustomLabel {
+public:
+    using CustomLabel::CustomLabel;
+
+    void setColor(const QColor &color)
+    {
+        m_color = color;
+        QPalette colors = palette();
+        colors.setColor(foregroundRole(), color);
+        setPalette(colors);
+    }
+
+protected:
+    void changeEvent(QEvent *event) override
+    {
+        CustomLabel::changeEvent(event);
+        if (event->type() == QEvent::StyleChange)
+            setColor(m_color);
+    }
+
+private:
+    QColor m_color;
+};
+
 void ChannelLabels::show(const QVector<Entry> &entries)
 {
     while (m_labels.size() > entries.size())
         delete m_labels.takeLast();
     while (m_labels.size() < entries.size()) {
-        auto *label = new CustomLabel(m_plot);
+        auto *label = new ChannelLabel(m_plot);
         label->setObjectName(QStringLiteral("channelLabel"));
         label->setPlotter(m_plot);
         label->setTextFormat(Qt::PlainText);
@@ -43,11 +69,9 @@ void ChannelLabels::show(const QVector<Entry> &entries)
     int x = firstX;
     for (int i = 0; i < entries.size(); ++i) {
         const Entry &entry = entries.at(i);
-        QLabel *label = m_labels.at(i);
+        ChannelLabel *label = m_labels.at(i);
         const QString shown = metrics.elidedText(entry.text, Qt::ElideMiddle, share);
-        QPalette colors = label->palette();
-        colors.setColor(label->foregroundRole(), entry.color);
-        label->setPalette(colors);
+        label->setColor(entry.color);
         label->setFont(bold);
         label->setText(shown);
         label->setProperty("channel", entry.channel);

@@ -8,7 +8,7 @@
 #include <QString>
 #include <QVector>
 
-class QLabel;
+class ChannelLabel;
 class QWidget;
 
 // The labels of the channels in a row beside the title of a plot, children of the plot.
@@ -29,5 +29,5 @@ public:
 
 private:
     QWidget *m_plot;
-    QList<QLabel *> m_labels;
+    QList<ChannelLabel *> m_labels;
 };

@@ -9,6 +9,7 @@
 
 #include <QClipboard>
 #include <QLabel>
+#include <QListWidget>
 #include <QPainter>
 
 #include <algorithm>
@@ -309,6 +310,36 @@ private slots:
         QVERIFY(!watch.seen.contains(QFont::PreferDefault));
         for (const QLabel *label : labels)
             QCOMPARE(label->font().styleStrategy(), QFont::PreferDefault);
+    }
+
+    void picturesLeaveTheScreenAsItWas_data()
+    {
+        QTest::addColumn<QString>("entry");
+        for (const char *entry : {"&Copy to clipboard", "&Save screenshot",
+                 "Copy Picture with Heading", "Save Picture with Heading..."})
+            QTest::newRow(entry) << QString::fromLatin1(entry);
+    }
+
+    // The first channel is left out, so each name stands where another one was.
+    void picturesLeaveTheScreenAsItWas()
+    {
+        QFETCH(QString, entry);
+        auto *names = child<QListWidget>("listWidget");
+        Plotter *plot = plotNamed(QStringLiteral("Analog"));
+        const QRect first = names->visualItemRect(names->item(0));
+        QTest::mouseClick(names->viewport(), Qt::LeftButton, {}, first.center());
+        plot->addCursorAt(12);
+        for (int twice = 0; twice < 2; ++twice) {
+            const QImage before = plot->grab().toImage();
+            if (entry.contains(QLatin1String("Save")))
+                answerFileDialog(path("picture.png"));
+            if (action(entry.toLatin1()))
+                trigger(entry.toLatin1());
+            else
+                QVERIFY(choose(plot, entry));
+            QCOMPARE(plot->grab().toImage(), before);
+            QVERIFY(QFile::remove(path("picture.png")) || !entry.contains(QLatin1String("Save")));
+        }
     }
 
     void captionGivesTheStartTwice_data()
