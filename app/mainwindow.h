@@ -33,6 +33,7 @@ class StatusField;
 class VectorDialog;
 class plotterDg;
 enum class CaptureTarget;
+struct UnitPlot;
 
 namespace Ui {
 class MainWindow;
@@ -142,9 +143,10 @@ private:
     void disposePlots();
     bool hasPhasors() const; // of the recording on screen; spectra are offered then
     void equip(Plotter *plot); // a new one, with what it needs of the window
-    // A plot of the channels named; of several of one name, their 0-based numbers tell which.
+    // A plot of the channels named; of several of one name, their 0-based numbers tell which. It is
+    // named by number where it has no name, and as one of those by unit where it is one.
     void addPlot(const QStringList &names, const QList<int> &channels);
-    void addPlot(const QString &name, const QList<int> &numbers); // without a name, one by number
+    void addPlot(const QString &name, const QList<int> &numbers, const UnitPlot *unit = nullptr);
     void addUnitPlots();
     void linkPlots();
     void setRequiredDigitalChannels(); // as setRequiredAnChannels()
@@ -182,7 +184,6 @@ private:
     ElidingComboBox *m_referenceCombo = nullptr;
     QLabel *m_primSecLabel = nullptr;
     ElidingComboBox *m_primSecCombo = nullptr;
-
     QScrollBar *m_horizontalScroll = nullptr;
     Plotter *m_analogPlotter = nullptr;
     plotterDg *m_digitalPlotter = nullptr;
@@ -192,7 +193,6 @@ private:
     int m_mode = 0; // value mode: 0 primary, 1 secondary, 2 per unit
     int m_graphCount = 0; // plots named by number so far
     bool m_anglesShown = false;
-
     // Agreed, though nothing reads them.
     bool m_isComtrade = false; // whether the latest recording was no text export
     QString m_currentFile;

@@ -5,6 +5,7 @@
 
 #include "mainwindow.h"
 
+#include "cfgproperties.h"
 #include "namesmenu.h"
 #include "otherrecordings.h"
 #include "plotmenu.h"
@@ -49,11 +50,7 @@ void MainWindow::addUnitPlots()
     for (const UnitPlot &plot : plots) {
         if (!first || !m_hasRecording)
             return;
-        QString name = plot.unit;
-        if (plot.kind == UnitPlot::Kind::Currents)
-            name = tr("Currents FFT");
-        else if (plot.kind == UnitPlot::Kind::Voltages)
-            name = tr("Voltages FFT");
-        addPlot(name, plot.channels);
+        const QString unit = m_cfgProperties->analogUnits.value(plot.channels.constFirst());
+        addPlot(unitPlotName(plot.kind, unit), plot.channels, &plot);
     }
 }

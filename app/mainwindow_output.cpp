@@ -157,7 +157,8 @@ void MainWindow::copyToClipboard()
 QPixmap MainWindow::report()
 {
     // Not the window's file path: that may be of a file that was passed over.
-    const ReportPicture report(*m_cfgProperties, m_statusField->file(), m_analogPlotter->cursors());
+    const ReportPicture report(*m_cfgProperties, m_statusField->file(), m_statusField->sideText(),
+        m_analogPlotter->cursors());
     setForPaper(plots(), true);
     const QList<QWidget *> pointer = hidePointer(plots());
     const QPixmap picture = report.around(capture(CaptureTarget::File, QString()), font());

@@ -14,6 +14,7 @@
 #include "savedialog.h"
 #include "sidewindows.h"
 #include "ui_mainwindow.h"
+#include "unitplots.h"
 #include "vectordialog.h"
 
 #include <QCheckBox>
@@ -33,7 +34,7 @@ constexpr int largestPlotHeight = 1000;
 // What an analog plot gets where the column is taller than the window, so that it scrolls anyway.
 constexpr int scrolledPlotHeight = 320;
 constexpr char numberOfUnnamed[] = "numberOfUnnamed"; // property of a plot that was given no name
-constexpr char isNamedByUnit[] = "isNamedByUnit"; // of one with the name of its channels' unit
+constexpr char kindOfUnit[] = "kindOfUnit"; // property of one that shows what has the same unit
 const QString spectrumSuffix = QStringLiteral("_FFT");
 
 QStringList analogNames(const CFGProperties &recording)
@@ -167,9 +168,10 @@ void MainWindow::retranslatePlots()
         const int number = plot->property(numberOfUnnamed).toInt();
         if (number > 0)
             plot->setName(tr("Graph %1").arg(number));
-        else if (plot->property(isNamedByUnit).toBool())
+        else if (plot->property(kindOfUnit).isValid())
             plot->setName(
-                trimmedName(m_cfgProperties->analogUnits.value(plot->channels().value(0))));
+                unitPlotName(static_cast<UnitPlot::Kind>(plot->property(kindOfUnit).toInt()),
+                    m_cfgProperties->analogUnits.value(plot->channels().value(0))));
     }
     m_primSecCombo->setTexts({tr("P"), tr("S"), tr("Per Unit")}, m_mode);
 }
@@ -318,15 +320,14 @@ void MainWindow::addPlot(const QStringList &names, const QList<int> &channels)
         addPlot(m_addPlotterDialog->graphName().trimmed(), numbers);
 }
 
-void MainWindow::addPlot(const QString &name, const QList<int> &numbers)
+void MainWindow::addPlot(const QString &name, const QList<int> &numbers, const UnitPlot *unit)
 {
     m_actions.removePlotter->setEnabled(true);
     auto *plot = new Plotter(ui->scrollWidget);
     if (name.isEmpty())
         plot->setProperty(numberOfUnnamed, ++m_graphCount);
-    else
-        plot->setProperty(isNamedByUnit,
-            name == trimmedName(m_cfgProperties->analogUnits.value(numbers.value(0))));
+    else if (unit)
+        plot->setProperty(kindOfUnit, static_cast<int>(unit->kind));
     plot->setName(name.isEmpty() ? tr("Graph %1").arg(m_graphCount) : name);
     equip(plot);
     m_plotLayout->insertWidget(m_plotLayout->indexOf(m_digitalPlotter), plot);

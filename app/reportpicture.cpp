@@ -79,8 +79,8 @@ void darkenForPaper(QImage &image)
     }
 }
 
-ReportPicture::ReportPicture(
-    const CFGProperties &recording, const QString &fileName, const QList<double> &cursors)
+ReportPicture::ReportPicture(const CFGProperties &recording, const QString &fileName,
+    const QString &side, const QList<double> &cursors)
 {
     const QString start
         = tr("Start: %1 %2")
@@ -89,7 +89,7 @@ ReportPicture::ReportPicture(
     const QString gap(4, QLatin1Char(' '));
     heading = QStringList{
         trimmedName(recording.stationName) + gap + trimmedName(recording.recordingDeviceId),
-        fileName, start + gap + trigger};
+        fileName, QStringList({start, trigger, side}).join(gap)};
     if (cursors.isEmpty())
         return;
     table.append({tr("Cursor"), tr("Time (ms)"), tr("Clock Time"), tr("From Trigger (ms)"),

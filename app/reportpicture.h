@@ -22,9 +22,10 @@ public:
     QStringList heading;
     QVector<QStringList> table;
 
-    // The table has a row for each cursor, whose times are ms, and is empty without one.
-    ReportPicture(
-        const CFGProperties &recording, const QString &fileName, const QList<double> &cursors);
+    // The side tells which values the plots show. The table has a row for each cursor, whose times
+    // are ms, and is empty without one.
+    ReportPicture(const CFGProperties &recording, const QString &fileName, const QString &side,
+        const QList<double> &cursors);
 
     // The picture around one of the plots in light colours, as wide and as sharp as that one.
     QPixmap around(const QPixmap &plots, const QFont &font) const;

@@ -24,6 +24,7 @@ public:
     // Of the recording just shown; empty before another one is loaded.
     void showFile(const QString &name);
     const QString &file() const { return m_file; }
+    QString sideText() const; // of the values shown; there is a recording
     // A path that was not opened at the start; said until a recording is shown.
     void showNotOpened(const QString &path);
     // The pointer stands at a point of a plot, or, with null, over none.
@@ -39,7 +40,6 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    QString sideText() const;
     QString pointedText() const;
 
     const PlotHost &m_host;

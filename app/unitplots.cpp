@@ -7,6 +7,7 @@
 #include "cfgproperties.h"
 #include "channelnames.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -29,6 +30,19 @@ UnitPlot fundamentals(const CFGProperties &recording, UnitPlot::Kind kind, const
 }
 
 } // namespace
+
+QString unitPlotName(UnitPlot::Kind kind, const QString &unit)
+{
+    switch (kind) {
+    case UnitPlot::Kind::Currents:
+        return QCoreApplication::translate("MainWindow", "Currents FFT");
+    case UnitPlot::Kind::Voltages:
+        return QCoreApplication::translate("MainWindow", "Voltages FFT");
+    case UnitPlot::Kind::Samples:
+        break;
+    }
+    return trimmedName(unit);
+}
 
 QVector<UnitPlot> plotsByUnit(const CFGProperties &recording)
 {

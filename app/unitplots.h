@@ -23,3 +23,6 @@ struct UnitPlot {
 // all currents and one of all voltages, in whatever multiple of A and V. Measurements, which other
 // lists offer no fundamentals of, have none here either.
 QVector<UnitPlot> plotsByUnit(const CFGProperties &recording);
+
+// How such a plot is named, in the present language and letters; the unit as the file has it.
+QString unitPlotName(UnitPlot::Kind kind, const QString &unit);

@@ -288,7 +288,8 @@ private slots:
         });
         openLong(file);
         QVERIFY(isDone);
-        QVERIFY2(sinceChosen.elapsed() < 5000, qPrintable(QString::number(sinceChosen.elapsed())));
+        // At once, but later on a busy machine; the long one never comes.
+        QVERIFY2(sinceChosen.elapsed() < 20000, qPrintable(QString::number(sinceChosen.elapsed())));
         QVERIFY(boxes->take().isEmpty());
         QCOMPARE(titles, QStringList(QStringLiteral("Wavorin - chosen.cfg")));
         QVERIFY(window->recording());

@@ -228,7 +228,8 @@ void TestNameLetters::everywhereAtOnce()
     }
     for (const QString &name : qAsConst(names))
         QVERIFY2(after.join(QLatin1Char('\n')).contains(name), qPrintable(name));
-    const QStringList heading = ReportPicture(*window->recording(), QString(), {}).heading;
+    const QStringList heading
+        = ReportPicture(*window->recording(), QString(), QString(), {}).heading;
     QCOMPARE(heading.constFirst(), names.at(0) + QStringLiteral("    ") + names.at(1));
     QCOMPARE(shown("label4"), names.at(0));
     QCOMPARE(shown("label5"), names.at(1));

@@ -89,15 +89,16 @@ void TestReportPicture::darkensNothingElse()
 
 void TestReportPicture::tellsWhatWasRecorded()
 {
-    const ReportPicture report(recording, QStringLiteral("fault.cfg"), {});
+    const ReportPicture report(
+        recording, QStringLiteral("fault.cfg"), QStringLiteral("Secondary"), {});
     QCOMPARE(report.heading,
         QStringList({QStringLiteral("Harju    Feeder J07"), QStringLiteral("fault.cfg"),
-            QStringLiteral("Start: 15/03/2024 10:00:00.250    Trigger at 45 ms")}));
+            QStringLiteral("Start: 15/03/2024 10:00:00.250    Trigger at 45 ms    Secondary")}));
 }
 
 void TestReportPicture::listsTheCursors()
 {
-    const ReportPicture report(recording, QString(), {20.5, 100, 45});
+    const ReportPicture report(recording, QString(), QString(), {20.5, 100, 45});
     QStringList rows;
     for (const QStringList &row : report.table)
         rows.append(row.join(QLatin1Char('|')));
@@ -111,7 +112,7 @@ void TestReportPicture::listsTheCursors()
 
 void TestReportPicture::hasNoTableWithoutCursors()
 {
-    QVERIFY(ReportPicture(recording, QString(), {}).table.isEmpty());
+    QVERIFY(ReportPicture(recording, QString(), QString(), {}).table.isEmpty());
 }
 
 void TestReportPicture::standsAroundThePlots_data()
@@ -135,7 +136,7 @@ void TestReportPicture::standsAroundThePlots()
     QFont font;
     font.setPixelSize(12);
     const int line = QFontMetrics(font).lineSpacing();
-    const ReportPicture report(recording, QStringLiteral("fault.cfg"), cursors);
+    const ReportPicture report(recording, QStringLiteral("fault.cfg"), QString(), cursors);
     const QImage picture = report.around(plots, font).toImage();
     const int above = 20 + 3 * line;
     const int below = cursors.isEmpty() ? 0 : 20 + 3 * line;
@@ -166,8 +167,9 @@ void TestReportPicture::cutsLongNames()
     recording.stationName = QString(5000, QLatin1Char('x'));
     QPixmap plots(300, 100);
     plots.fill(Qt::white);
-    const QImage picture
-        = ReportPicture(recording, QStringLiteral("a.cfg"), {}).around(plots, QFont()).toImage();
+    const QImage picture = ReportPicture(recording, QStringLiteral("a.cfg"), QString(), {})
+                               .around(plots, QFont())
+                               .toImage();
     QCOMPARE(picture.width(), 300);
     for (int y = 0; y < picture.height(); ++y)
         QCOMPARE(picture.pixel(295, y), white); // the margin

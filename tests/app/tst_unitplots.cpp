@@ -18,6 +18,7 @@ private slots:
     void groups();
     void withoutPhasorsThereAreSamplesAlone();
     void theMenuAddsThem();
+    void theirNamesFollowTheLanguage();
     void aWindowThatClosesGetsNoMore();
 
 private:
@@ -99,6 +100,32 @@ void TestUnitPlots::theMenuAddsThem()
         trigger("&Remove Plotter");
     QVERIFY(!action("&Remove Plotter")->isEnabled());
     QCOMPARE(plots().size(), 2); // the digital one is hidden
+}
+
+// A title that was typed stays, though it is the name of a unit.
+void TestUnitPlots::theirNamesFollowTheLanguage()
+{
+    openUnits();
+    compose({QStringLiteral("UL1")}, QStringLiteral("kV"));
+    const auto names = [this] {
+        QStringList shown;
+        for (const Plotter *each : plots()) {
+            if (!each->isHidden()) // as the digital one is
+                shown.append(each->name());
+        }
+        return shown.mid(1).join(QLatin1Char('|'));
+    };
+    const QString english = QStringLiteral("kV|A|kV|VA|Graph 1|kA|Currents FFT|Voltages FFT");
+    const QString finnish = QStringLiteral("kV|A|kV|VA|Kuvaaja 1|kA|Virrat FFT|Jännitteet FFT");
+    QVERIFY(choose(analog(), QStringLiteral("Plots by Unit")));
+    for (int twice = 0; twice < 2; ++twice) {
+        QCOMPARE(names(), english);
+        trigger("Suomi");
+        QCoreApplication::processEvents();
+        QCOMPARE(names(), finnish);
+        trigger("English");
+        QCoreApplication::processEvents();
+    }
 }
 
 // It closes while the first one settles.
