@@ -275,7 +275,7 @@ void MeasurementsDialog::measure()
         const MeasuredChannel channel = chosenChannel(source, *ui->comboBox_channel);
         const MeasuredCursor cursor = now.cursors.value(ui->comboBox_cursor->currentIndex());
         const Harmonics harmonics = measuredHarmonics(now, channel, cursor);
-        fill(view, harmonicTable(harmonics, channel));
+        fill(view, harmonicTable(harmonics, channel, cursor));
         ui->bars->setHarmonics(harmonics,
             now.cursors.isEmpty() ? tr("There is no cursor.")
                                   : tr("No whole cycle of this channel lies around the cursor."));
@@ -317,8 +317,8 @@ TextTableModel *MeasurementsDialog::modelOf(QTableView *view) const
     return static_cast<TextTableModel *>(view->model());
 }
 
-// Columns have room for their headings and for the longest numbers. Their widths change with the
-// table's size alone, not while a cursor is dragged.
+// Columns have room for their headings, with times of three digits more, and for the longest
+// numbers. Their widths change with the table's size alone, not while a cursor is dragged.
 void MeasurementsDialog::fill(QTableView *view, const TextTable &table)
 {
     TextTableModel *model = modelOf(view);
@@ -330,11 +330,12 @@ void MeasurementsDialog::fill(QTableView *view, const TextTable &table)
         return;
     const QFontMetrics metrics(view->horizontalHeader()->font());
     const int padding = 2 * metrics.horizontalAdvance(QLatin1Char('0'));
+    const int digits = metrics.horizontalAdvance(QStringLiteral("000"));
     const int number = metrics.horizontalAdvance(QStringLiteral("-1.23457e+07"));
     for (int column = 0; column < model->columnCount(); ++column) {
         const QString heading = table.headings.at(table.names + column);
         view->setColumnWidth(
-            column, std::max(number, metrics.horizontalAdvance(heading)) + padding);
+            column, std::max(number, metrics.horizontalAdvance(heading) + digits) + padding);
     }
     view->verticalHeader()->setDefaultSectionSize(metrics.height() + 6);
 }

@@ -51,6 +51,13 @@ QString headingOf(const MeasuredCursor &cursor)
     return QStringLiteral("%1 (%2 ms)").arg(cursor.name, millisecondsText(cursor.time));
 }
 
+// The heading of the first column, which is seen in a copy alone, and what the table is of.
+QString headingWith(const QString &heading, const QStringList &names)
+{
+    const QString all = names.join(QLatin1String(", "));
+    return all.isEmpty() ? heading : heading + QLatin1String(": ") + all;
+}
+
 std::optional<double> difference(
     Quantity quantity, const std::optional<double> &from, const std::optional<double> &to)
 {
@@ -243,7 +250,9 @@ TextTable differenceTable(const Measured &measured, const QVector<MeasuredChanne
 TextTable sequenceTable(const Measured &measured, const std::array<MeasuredChannel, 3> &phases)
 {
     TextTable table;
-    table.headings = QStringList{MeasurementsDialog::tr("Component"),
+    QStringList channels{phases[0].name, phases[1].name, phases[2].name};
+    channels.removeAll(QString());
+    table.headings = QStringList{headingWith(MeasurementsDialog::tr("Component"), channels),
         MeasurementsDialog::tr("Quantity"), MeasurementsDialog::tr("Unit")};
     table.names = table.headings.size();
     const bool isOneUnit = phases[0].unit == phases[1].unit && phases[0].unit == phases[2].unit;
@@ -288,13 +297,17 @@ Harmonics measuredHarmonics(
     return harmonics;
 }
 
-TextTable harmonicTable(const Harmonics &harmonics, const MeasuredChannel &channel)
+TextTable harmonicTable(
+    const Harmonics &harmonics, const MeasuredChannel &channel, const MeasuredCursor &cursor)
 {
     TextTable table;
-    table.headings = QStringList{MeasurementsDialog::tr("Harmonic"),
-        channel.unit.isEmpty() ? MeasurementsDialog::tr("RMS")
-                               : MeasurementsDialog::tr("RMS, %1").arg(channel.unit),
-        MeasurementsDialog::tr("% of fundamental")};
+    const bool isOfOne = !channel.name.isEmpty() && !cursor.name.isEmpty();
+    table.headings
+        = QStringList{headingWith(MeasurementsDialog::tr("Harmonic"),
+                          isOfOne ? QStringList{channel.name, headingOf(cursor)} : QStringList()),
+            channel.unit.isEmpty() ? MeasurementsDialog::tr("RMS")
+                                   : MeasurementsDialog::tr("RMS, %1").arg(channel.unit),
+            MeasurementsDialog::tr("% of fundamental")};
     const double fundamental = harmonics[0].value_or(0);
     for (int order = 1; order <= harmonicCount; ++order) {
         const std::optional<double> &harmonic = harmonics.at(static_cast<size_t>(order - 1));

@@ -77,4 +77,5 @@ TextTable sequenceTable(const Measured &measured, const std::array<MeasuredChann
 // The harmonics of the cycle around a cursor under the channel's factor, and these as a table.
 Harmonics measuredHarmonics(
     const Measured &measured, const MeasuredChannel &channel, const MeasuredCursor &cursor);
-TextTable harmonicTable(const Harmonics &harmonics, const MeasuredChannel &channel);
+TextTable harmonicTable(
+    const Harmonics &harmonics, const MeasuredChannel &channel, const MeasuredCursor &cursor);

@@ -497,7 +497,8 @@ void TestMeasurementsDialog::copiesTheTableShown()
     turnTo(3);
     QTest::mouseClick(child<QPushButton>("pushButton_copy"), Qt::LeftButton);
     QVERIFY(QGuiApplication::clipboard()->text().startsWith(
-        QLatin1String("Harmonic\tRMS, A (primary)\t% of fundamental\n1\t800\t100.00\n")));
+        QLatin1String("Harmonic: IL1, P1 (20.000 ms)\tRMS, A (primary)\t% of fundamental\n"
+                      "1\t800\t100.00\n")));
 }
 
 // Answers the file dialog that the button opens.

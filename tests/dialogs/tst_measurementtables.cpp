@@ -315,10 +315,10 @@ void TestMeasurementTables::sequencesAreTold()
     const std::array<MeasuredChannel, 3> fault{
         channel("IL1", -60, 9), channel("IL2", 0, 0), channel("IL3", 0, 0)};
     QCOMPARE(lines(sequenceTable(m_measured, fault)),
-        texts({"Component|Quantity|Unit|P1 (20.000 ms)", "Positive sequence|RMS|A (primary)|3",
-            "Positive sequence|Angle|°|-60.00", "Negative sequence|RMS|A (primary)|3",
-            "Negative sequence|Angle|°|-60.00", "Zero sequence|RMS|A (primary)|3",
-            "Zero sequence|Angle|°|-60.00"}));
+        texts({"Component: IL1, IL2, IL3|Quantity|Unit|P1 (20.000 ms)",
+            "Positive sequence|RMS|A (primary)|3", "Positive sequence|Angle|°|-60.00",
+            "Negative sequence|RMS|A (primary)|3", "Negative sequence|Angle|°|-60.00",
+            "Zero sequence|RMS|A (primary)|3", "Zero sequence|Angle|°|-60.00"}));
     // The second phase alone, against a reference at 30 degrees, twice as large as recorded.
     m_measured.reference = channel("UL1", 30).analog;
     std::array<MeasuredChannel, 3> other{
@@ -359,9 +359,10 @@ void TestMeasurementTables::harmonicsAreTold()
     MeasuredChannel measured = channel("IL1", 0, 7.0710678F, values);
     measured.factor = -80;
     const Harmonics harmonics = measuredHarmonics(m_measured, measured, m_measured.cursors.at(1));
-    const QStringList shown = lines(harmonicTable(harmonics, measured));
+    const QStringList shown = lines(harmonicTable(harmonics, measured, m_measured.cursors.at(1)));
     QCOMPARE(shown.size(), 16);
-    QCOMPARE(shown.at(0), QStringLiteral("Harmonic|RMS, A (primary)|% of fundamental"));
+    QCOMPARE(shown.at(0),
+        QStringLiteral("Harmonic: IL1, P2 (50.000 ms)|RMS, A (primary)|% of fundamental"));
     QCOMPARE(shown.at(1), QStringLiteral("1|565.685|100.00"));
     QVERIFY(shown.at(2).endsWith(QLatin1String("|0.00")));
     QCOMPARE(shown.at(3), QStringLiteral("3|282.843|50.00"));
@@ -379,7 +380,7 @@ void TestMeasurementTables::harmonicsNeedACycle()
         known.append(measuredHarmonics(m_measured, measured, cursor).at(0).has_value());
     QCOMPARE(known, QList<bool>({false, true, true, false, false}));
     QVERIFY(!measuredHarmonics(m_measured, {}, m_measured.cursors.at(1)).at(0));
-    const QStringList none = lines(harmonicTable({}, {}));
+    const QStringList none = lines(harmonicTable({}, {}, {}));
     QCOMPARE(none.at(0), QStringLiteral("Harmonic|RMS|% of fundamental"));
     QCOMPARE(none.at(1), QStringLiteral("1||"));
 }
