@@ -176,6 +176,34 @@ private slots:
                 "[Analog Plotter] [Graph 1 Plotter] [Graph 3 Plotter] [Digital Plotter]"));
     }
 
+    // A plot that is reached comes into view; the column itself and the lists move nothing.
+    void tabScrollsTheColumnToPlotsAlone()
+    {
+        window->open(path("rec.cfg"));
+        for (int i = 0; i < 4; ++i)
+            window->addPlotter({QStringLiteral("IL1")});
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
+        QCoreApplication::processEvents();
+        QScrollBar *bar = child<QScrollArea>("scrollArea")->verticalScrollBar();
+        QVERIFY(bar->maximum() > 500);
+        auto *lowest = plotNamed(QStringLiteral("Digital"));
+        for (int twice = 0; twice < 2; ++twice) {
+            plotNamed(QStringLiteral("Analog"))->setFocus();
+            bar->setValue(0);
+            for (const char *reached : {"scrollWidget", "listWidget2", "listWidget"}) {
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+                QCOMPARE(QApplication::focusWidget()->objectName(), QLatin1String(reached));
+                QCOMPARE(bar->value(), 0);
+            }
+            for (int i = 0; i < 4; ++i)
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            QCOMPARE(bar->value(), 0);
+            for (int i = 0; i < 4 && !lowest->hasFocus(); ++i)
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            QVERIFY(bar->value() > 500);
+        }
+    }
+
     // A cursor has a name in each plot.
     void tabReachesTheNamesOfCursorsAfterTheirPlot()
     {
