@@ -5,6 +5,7 @@
 
 #include "cfgproperties.h"
 #include "channelnames.h"
+#include "plotstyle.h"
 #include "timeofday.h"
 
 #include <QFontMetrics>
@@ -72,7 +73,7 @@ void darkenForPaper(QImage &image)
         for (const QRgb *const end = pixel + image.width(); pixel != end; ++pixel) {
             if (*pixel != before) {
                 before = *pixel;
-                after = before == white ? white : darkened(before);
+                after = before == white || before == paperWhite ? white : darkened(before);
             }
             *pixel = after;
         }

@@ -31,5 +31,6 @@ public:
     QPixmap around(const QPixmap &plots, const QFont &font) const;
 };
 
-// Darkens every colour until its contrast to white is that of readable text, 4.5; white stays.
+// Darkens every colour until its contrast to white is that of readable text, 4.5; white stays, and
+// so does what stands for it.
 void darkenForPaper(QImage &image);

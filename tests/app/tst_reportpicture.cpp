@@ -76,6 +76,11 @@ void TestReportPicture::darkensColours()
 
 void TestReportPicture::darkensNothingElse()
 {
+    QImage paper(2, 1, QImage::Format_RGB32);
+    paper.fill(0xfffffff0);
+    darkenForPaper(paper);
+    QCOMPARE(paper.pixel(1, 0), white);
+
     QImage image(2, 2, QImage::Format_RGB32);
     image.setDevicePixelRatio(1.5);
     image.fill(white);
