@@ -81,6 +81,8 @@ public:
     // The time difference of the last neighbouring pair of cursors, ms; 0 with fewer than two.
     double pairDifference() const { return m_marks.cursors.pairDifference(); }
     void clearCursors();
+    void editTitle();
+    void chooseColor(int channel); // by a dialog
     void setForPaper(bool isForPaper); // the cursors, for a picture or again for the screen
     QWidget *lastTabStop() const { return m_marks.cursors.lastTabStop(); } // of the plot
     // The sample times of the recording as of the last setupPlot().
@@ -91,8 +93,7 @@ public:
     virtual void drawGrid(QPainter *painter);
     virtual void drawCurves(QPainter *painter);
     virtual void drawTrigger(QPainter *painter);
-    // Adds a cursor at a pixel of this plot.
-    virtual void addCursor(int x, int y);
+    virtual void addCursor(int x, int y); // at a pixel of this plot
     virtual void applyRubberBand();
     virtual void drawValueTable(QPainter *painter);
     void receiveMouseMove(QMouseEvent *event) override { mouseMoveEvent(event); }
@@ -178,7 +179,6 @@ private:
     void takeKeyboard();
     void letGo();
     void endDrag();
-    void chooseColor(const QLabel *label);
 
     PlotView m_view;
     ReadoutRoom m_readoutRoom;

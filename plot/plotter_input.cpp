@@ -183,12 +183,11 @@ void Plotter::mouseDoubleClickEvent(QMouseEvent *event)
 {
     auto *label = qobject_cast<QLabel *>(childAt(event->pos()));
     if (label == plotterLabel) {
-        m_keyboard.release();
-        plotterLabel->openEditor();
+        editTitle();
         return;
     }
     if (label && label->objectName() == QLatin1String("channelLabel")) {
-        chooseColor(label);
+        chooseColor(label->property("channel").toInt());
         return;
     }
     if (qobject_cast<CustomLabel *>(label))
@@ -201,6 +200,12 @@ void Plotter::mouseDoubleClickEvent(QMouseEvent *event)
         mainWindow->refreshVectors();
 }
 
+void Plotter::editTitle()
+{
+    m_keyboard.release();
+    plotterLabel->openEditor();
+}
+
 void Plotter::labelEditFinished()
 {
     plotterLabel->closeEditor();
@@ -211,9 +216,8 @@ void Plotter::labelEditConfirm()
     plotterLabel->takeEdited();
 }
 
-void Plotter::chooseColor(const QLabel *label)
+void Plotter::chooseColor(int channel)
 {
-    const int channel = label->property("channel").toInt();
     m_keyboard.release();
     if (!colorDialog)
         colorDialog = new QColorDialog(this);
@@ -309,10 +313,20 @@ void Plotter::leaveEvent(QEvent * /*event*/)
         mainWindow->pointAt(nullptr, {});
 }
 
+// The key asks at the middle of the widget that has the focus or, where the pointer is over a plot,
+// of that plot. There the table of the readout may stand, or the name of any cursor; what the menu
+// acts on is the cursor whose name has the focus, or else the middle of the plot area.
 void Plotter::contextMenuEvent(QContextMenuEvent *event)
 {
-    auto *label = qobject_cast<CustomLabel *>(childAt(event->pos()));
+    const bool isByKey = event->reason() == QContextMenuEvent::Keyboard;
+    const QPoint middle = inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+    const bool isMiddle = isByKey && event->pos() == middle;
+    const QWidget *asked = isMiddle ? window()->focusWidget() : childAt(event->pos());
+    const auto *label = qobject_cast<const CustomLabel *>(asked);
     const int cursor = m_marks.cursors.cursorOf(label);
+    QPoint point = event->pos();
+    if (isByKey)
+        point = cursor < 0 ? geometryOfView().area().center() : label->geometry().center();
     auto menu = std::make_unique<QMenu>(this);
     if (cursor >= 0) {
         connect(menu->addAction(tr("Remove Cursor")), &QAction::triggered, this,
@@ -321,7 +335,7 @@ void Plotter::contextMenuEvent(QContextMenuEvent *event)
             [this] { removeCursors(0, m_marks.cursors.count()); });
     }
     if (mainWindow)
-        mainWindow->fillPlotMenu(*menu, *this, event->pos(), cursor);
+        mainWindow->fillPlotMenu(*menu, *this, point, cursor);
     if (menu->isEmpty()) {
         event->ignore();
         return;
@@ -334,5 +348,5 @@ void Plotter::contextMenuEvent(QContextMenuEvent *event)
     };
     connect(menu.get(), &QMenu::aboutToHide, this, leave, Qt::QueuedConnection);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu.release()->popup(event->globalPos());
+    menu.release()->popup(isByKey ? mapToGlobal(point) : event->globalPos());
 }
