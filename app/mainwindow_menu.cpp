@@ -32,7 +32,9 @@ void MainWindow::fillPlotMenu(QMenu &menu, Plotter &plot, const QPoint &point, i
     menu.addSeparator();
     entries.addNewCursors(point);
     menu.addSeparator();
-    menu.addAction(tr("Plots by Unit"), this, &MainWindow::addUnitPlots);
+    entries.addLook();
+    menu.addSeparator();
+    menu.addAction(tr("Plots &by Unit"), this, &MainWindow::addUnitPlots);
     m_sideWindows->addTo(menu, plot);
     menu.addSeparator();
     addOutputs(menu, plot);

@@ -171,9 +171,9 @@ QPixmap MainWindow::report()
 
 void MainWindow::addOutputs(QMenu &menu, Plotter &plot)
 {
-    connect(menu.addAction(tr("Copy Picture with Heading")), &QAction::triggered, this,
+    connect(menu.addAction(tr("Cop&y Picture with Heading")), &QAction::triggered, this,
         [this] { QGuiApplication::clipboard()->setPixmap(report()); });
-    connect(menu.addAction(tr("Save Picture with Heading...")), &QAction::triggered, this,
+    connect(menu.addAction(tr("&Save Picture with Heading...")), &QAction::triggered, this,
         [this] { saveByDialog(report()); });
     const OuterCursors outer(plot);
     QAction *part = menu.addAction(tr("Save P%1 to P%2...").arg(outer.first).arg(outer.last));

@@ -82,9 +82,9 @@ void PlotMenu::addViews()
     const auto turnBy = [=](double views) {
         plot->changeView([=](PlotView &now) { return now.moveTimes(views * now.live().spanX()); });
     };
-    add(tr("Earlier"), view.minX > home.minX, [=] { turnBy(-0.5); });
-    add(tr("Later"), view.maxX < home.maxX, [=] { turnBy(0.5); });
-    add(tr("Previous View"), plot->hasPreviousView(), [=] { plot->showPreviousView(); });
+    add(tr("&Earlier"), view.minX > home.minX, [=] { turnBy(-0.5); });
+    add(tr("&Later"), view.maxX < home.maxX, [=] { turnBy(0.5); });
+    add(tr("Previous Vie&w"), plot->hasPreviousView(), [=] { plot->showPreviousView(); });
     add(tr("Whole Recording"), view.minX != home.minX || view.maxX != home.maxX,
         [=] { plot->changeView([](PlotView &now) { return now.showAllTimes(); }); });
     addZoomToCursors();
@@ -94,7 +94,7 @@ void PlotMenu::addZoomToCursors()
 {
     Plotter *plot = &m_plot;
     const OuterCursors outer(*plot);
-    add(tr("Zoom to P%1-P%2").arg(outer.first).arg(outer.last), outer.from < outer.to, [=] {
+    add(tr("&Zoom to P%1-P%2").arg(outer.first).arg(outer.last), outer.from < outer.to, [=] {
         plot->changeView([=](PlotView &now) { return now.showTimes(outer.from, outer.to); });
     });
 }
@@ -103,11 +103,13 @@ void PlotMenu::addNewCursors(const QPoint &point)
 {
     Plotter *plot = &m_plot;
     const bool hasRoom = plot->cursors().size() < CursorMarks::most;
-    add(tr("Cursor Here"), hasRoom, [=] { plot->addCursor(point.x(), point.y()); });
-    addCursorAt(tr("Cursor at Trigger"), m_host.recording()->triggerOffsetMs);
+    const QRect area = plot->geometryOfView().area();
+    const bool isInView = point.x() >= area.left() && point.x() <= area.right();
+    add(tr("Cursor Here"), hasRoom && isInView, [=] { plot->addCursor(point.x(), point.y()); });
+    addCursorAt(tr("Cursor at Tri&gger"), m_host.recording()->triggerOffsetMs);
     const double here = plot->geometryOfView().lineTime(point.x());
     const QString startTime = m_host.recording()->startTime;
-    add(tr("Cursor at Time..."), hasRoom, [=] {
+    add(tr("Cursor at &Time..."), hasRoom, [=] {
         askForTime(
             plot, tr("New Cursor"), here, startTime, [=](double time) { plot->addCursorAt(time); });
     });
@@ -123,12 +125,39 @@ void PlotMenu::addCursorAt(const QString &text, const std::optional<double> &tim
         [=] { plot->addCursorAt(*time); });
 }
 
+void PlotMenu::addLook()
+{
+    Plotter *plot = &m_plot;
+    add(tr("E&dit Title"), true, [=] { plot->editTitle(); });
+    if (qobject_cast<plotterDg *>(plot))
+        return;
+    QMenu *colors = m_menu.addMenu(tr("Channel C&olor"));
+    for (const int channel : plot->channels()) {
+        const QAction *entry = colors->addAction(inEntry(nameOf(channel)));
+        const auto choose = [=] { plot->chooseColor(channel); };
+        // Once the menu has ended: it goes with the plot, which may do so while the dialog is open.
+        QObject::connect(entry, &QAction::triggered, plot, choose, Qt::QueuedConnection);
+    }
+    colors->setEnabled(!colors->isEmpty());
+}
+
+QString PlotMenu::nameOf(int channel) const
+{
+    const QString name = m_plot.shownChannels().at(channel).id;
+    return AnalogSource(&m_host).isSpectrum(channel) ? name + QStringLiteral(" FFT") : name;
+}
+
 // A tabulator would part the text.
-QString PlotMenu::inBrackets(const QString &name) const
+QString PlotMenu::inEntry(const QString &name) const
 {
     constexpr int mostPixels = 200;
     QString shown = m_menu.fontMetrics().elidedText(name.simplified(), Qt::ElideMiddle, mostPixels);
-    return QStringLiteral(" (%1)").arg(shown.replace(QLatin1Char('&'), QLatin1String("&&")));
+    return shown.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+QString PlotMenu::inBrackets(const QString &name) const
+{
+    return QStringLiteral(" (%1)").arg(inEntry(name));
 }
 
 // Of the channel on a row of a digital plot; elsewhere of all that have a row.
@@ -150,26 +179,20 @@ void PlotMenu::addChanges(const QPoint &point)
     }
     const double time = m_plot.geometryOfView().lineTime(point.x());
     const TimeAxis &axis = m_plot.sampleTimes();
-    addCursorAt(tr("Cursor at Previous Change") + name, changeBefore(time, channels, axis));
-    addCursorAt(tr("Cursor at Next Change") + name, changeAfter(time, channels, axis));
+    addCursorAt(tr("Cursor at Previous &Change") + name, changeBefore(time, channels, axis));
+    addCursorAt(tr("Cursor at Ne&xt Change") + name, changeAfter(time, channels, axis));
 }
 
 void PlotMenu::addExtremes(const QPoint &point)
 {
     const AnalogSource source(&m_host);
     const int channel = traceAt(m_plot, source, point);
-    QString name;
-    if (channel >= 0) {
-        name = m_plot.shownChannels().at(channel).id;
-        if (source.isSpectrum(channel))
-            name += QStringLiteral(" FFT");
-        name = inBrackets(name);
-    }
+    const QString name = channel < 0 ? QString() : inBrackets(nameOf(channel));
     const auto timeOf = [&](bool isLargest) {
         return channel < 0 ? std::nullopt : timeOfExtreme(m_plot, source, channel, isLargest);
     };
-    addCursorAt(tr("Cursor at Maximum in View") + name, timeOf(true));
-    addCursorAt(tr("Cursor at Minimum in View") + name, timeOf(false));
+    addCursorAt(tr("Cursor at &Maximum in View") + name, timeOf(true));
+    addCursorAt(tr("Cursor at M&inimum in View") + name, timeOf(false));
 }
 
 void PlotMenu::addMoves(int cursor)
@@ -185,7 +208,7 @@ void PlotMenu::addMoves(int cursor)
         label->setFocus();
         stepCursor(*plot, cursor, isForward);
     };
-    add(tr("Move to Time..."), true, [=] {
+    add(tr("&Move to Time..."), true, [=] {
         askForTime(plot, tr("Move Cursor"), now, startTime, [=](double time) {
             if (!label)
                 return;
@@ -193,6 +216,6 @@ void PlotMenu::addMoves(int cursor)
             plot->zoomIn(); // which refreshes all plots
         });
     });
-    add(tr("Step to Previous Sample"), true, [=] { step(false); });
-    add(tr("Step to Next Sample"), true, [=] { step(true); });
+    add(tr("Step to &Previous Sample"), true, [=] { step(false); });
+    add(tr("Step to &Next Sample"), true, [=] { step(true); });
 }

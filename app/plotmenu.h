@@ -25,8 +25,8 @@ struct OuterCursors {
     explicit OuterCursors(const Plotter &plot);
 };
 
-// Fills the context menu of a plot with what concerns the plots alone: their views and cursors. It
-// may go once the menu is filled. The host must hold a recording.
+// Fills the context menu of a plot with what concerns the plots alone: their views, cursors and
+// look. It may go once the menu is filled. The host must hold a recording.
 class PlotMenu {
     Q_DECLARE_TR_FUNCTIONS(PlotMenu)
 
@@ -39,6 +39,8 @@ public:
     void addViews();
     // Cursors at a point of the plot and at times of the recording.
     void addNewCursors(const QPoint &point);
+    // The title and, of an analog plot, the colours of its channels.
+    void addLook();
     // Moves of a cursor, whose label then has the keys.
     void addMoves(int cursor);
 
@@ -49,6 +51,8 @@ private:
     void addExtremes(const QPoint &point);
     // An entry that sets a cursor at a time, if there is one and room for a cursor.
     void addCursorAt(const QString &text, const std::optional<double> &time);
+    QString nameOf(int channel) const; // of an analog plot
+    QString inEntry(const QString &name) const; // as it stands there
     QString inBrackets(const QString &name) const;
 
     QMenu &m_menu;

@@ -50,8 +50,8 @@ void SideWindows::setRecording(const CFGProperties *recording, Plotter *plot)
 
 void SideWindows::addTo(QMenu &menu, Plotter &plot)
 {
-    connect(menu.addAction(tr("Events...")), &QAction::triggered, this, &SideWindows::showEvents);
-    connect(menu.addAction(tr("Measurements...")), &QAction::triggered, &plot,
+    connect(menu.addAction(tr("E&vents...")), &QAction::triggered, this, &SideWindows::showEvents);
+    connect(menu.addAction(tr("Meas&urements...")), &QAction::triggered, &plot,
         [this, &plot] { showMeasurements(&plot); });
     QAction *notes = menu.addAction(tr("Notes..."));
     notes->setEnabled(m_recording && !m_recording->notes.isEmpty());

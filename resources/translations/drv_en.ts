@@ -549,20 +549,20 @@ Please select another file.</translation>
         <translation>wavorin-convert turns it into a recording that opens.</translation>
     </message>
     <message>
-        <source>Copy Picture with Heading</source>
-        <translation>Copy Picture with Heading</translation>
+        <source>Cop&amp;y Picture with Heading</source>
+        <translation>Cop&amp;y Picture with Heading</translation>
     </message>
     <message>
-        <source>Save Picture with Heading...</source>
-        <translation>Save Picture with Heading...</translation>
+        <source>&amp;Save Picture with Heading...</source>
+        <translation>&amp;Save Picture with Heading...</translation>
     </message>
     <message>
         <source>Save P%1 to P%2...</source>
         <translation>Save P%1 to P%2...</translation>
     </message>
     <message>
-        <source>Plots by Unit</source>
-        <translation>Plots by Unit</translation>
+        <source>Plots &amp;by Unit</source>
+        <translation>Plots &amp;by Unit</translation>
     </message>
     <message>
         <source>Currents FFT</source>
@@ -1005,36 +1005,36 @@ Please select another file.</translation>
 <context>
     <name>PlotMenu</name>
     <message>
-        <source>Earlier</source>
-        <translation>Earlier</translation>
+        <source>&amp;Earlier</source>
+        <translation>&amp;Earlier</translation>
     </message>
     <message>
-        <source>Later</source>
-        <translation>Later</translation>
+        <source>&amp;Later</source>
+        <translation>&amp;Later</translation>
     </message>
     <message>
-        <source>Previous View</source>
-        <translation>Previous View</translation>
+        <source>Previous Vie&amp;w</source>
+        <translation>Previous Vie&amp;w</translation>
     </message>
     <message>
         <source>Whole Recording</source>
         <translation>Whole Recording</translation>
     </message>
     <message>
-        <source>Zoom to P%1-P%2</source>
-        <translation>Zoom to P%1-P%2</translation>
+        <source>&amp;Zoom to P%1-P%2</source>
+        <translation>&amp;Zoom to P%1-P%2</translation>
     </message>
     <message>
         <source>Cursor Here</source>
         <translation>Cursor Here</translation>
     </message>
     <message>
-        <source>Cursor at Trigger</source>
-        <translation>Cursor at Trigger</translation>
+        <source>Cursor at Tri&amp;gger</source>
+        <translation>Cursor at Tri&amp;gger</translation>
     </message>
     <message>
-        <source>Cursor at Time...</source>
-        <translation>Cursor at Time...</translation>
+        <source>Cursor at &amp;Time...</source>
+        <translation>Cursor at &amp;Time...</translation>
     </message>
     <message>
         <source>New Cursor</source>
@@ -1045,36 +1045,44 @@ Please select another file.</translation>
         <translation>Time in ms, or time of day (hh:mm:ss.zzz):</translation>
     </message>
     <message>
-        <source>Cursor at Previous Change</source>
-        <translation>Cursor at Previous Change</translation>
+        <source>Cursor at Previous &amp;Change</source>
+        <translation>Cursor at Previous &amp;Change</translation>
     </message>
     <message>
-        <source>Cursor at Next Change</source>
-        <translation>Cursor at Next Change</translation>
+        <source>Cursor at Ne&amp;xt Change</source>
+        <translation>Cursor at Ne&amp;xt Change</translation>
     </message>
     <message>
-        <source>Cursor at Maximum in View</source>
-        <translation>Cursor at Maximum in View</translation>
+        <source>Cursor at &amp;Maximum in View</source>
+        <translation>Cursor at &amp;Maximum in View</translation>
     </message>
     <message>
-        <source>Cursor at Minimum in View</source>
-        <translation>Cursor at Minimum in View</translation>
+        <source>Cursor at M&amp;inimum in View</source>
+        <translation>Cursor at M&amp;inimum in View</translation>
     </message>
     <message>
-        <source>Move to Time...</source>
-        <translation>Move to Time...</translation>
+        <source>E&amp;dit Title</source>
+        <translation>E&amp;dit Title</translation>
+    </message>
+    <message>
+        <source>Channel C&amp;olor</source>
+        <translation>Channel C&amp;olor</translation>
+    </message>
+    <message>
+        <source>&amp;Move to Time...</source>
+        <translation>&amp;Move to Time...</translation>
     </message>
     <message>
         <source>Move Cursor</source>
         <translation>Move Cursor</translation>
     </message>
     <message>
-        <source>Step to Previous Sample</source>
-        <translation>Step to Previous Sample</translation>
+        <source>Step to &amp;Previous Sample</source>
+        <translation>Step to &amp;Previous Sample</translation>
     </message>
     <message>
-        <source>Step to Next Sample</source>
-        <translation>Step to Next Sample</translation>
+        <source>Step to &amp;Next Sample</source>
+        <translation>Step to &amp;Next Sample</translation>
     </message>
 </context>
 <context>
@@ -1689,12 +1697,12 @@ Do you want to replace it?</translation>
 <context>
     <name>SideWindows</name>
     <message>
-        <source>Events...</source>
-        <translation>Events...</translation>
+        <source>E&amp;vents...</source>
+        <translation>E&amp;vents...</translation>
     </message>
     <message>
-        <source>Measurements...</source>
-        <translation>Measurements...</translation>
+        <source>Meas&amp;urements...</source>
+        <translation>Meas&amp;urements...</translation>
     </message>
     <message>
         <source>Notes...</source>

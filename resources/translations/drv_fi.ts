@@ -549,20 +549,20 @@ Valitse toinen tiedosto.</translation>
         <translation>wavorin-convert muuntaa sen häiriötallenteeksi, joka avautuu.</translation>
     </message>
     <message>
-        <source>Copy Picture with Heading</source>
-        <translation>Kopioi kuva otsikoineen</translation>
+        <source>Cop&amp;y Picture with Heading</source>
+        <translation>Ko&amp;pioi kuva otsikoineen</translation>
     </message>
     <message>
-        <source>Save Picture with Heading...</source>
-        <translation>Tallenna kuva otsikoineen...</translation>
+        <source>&amp;Save Picture with Heading...</source>
+        <translation>Talle&amp;nna kuva otsikoineen...</translation>
     </message>
     <message>
         <source>Save P%1 to P%2...</source>
         <translation>Tallenna väli P%1–P%2...</translation>
     </message>
     <message>
-        <source>Plots by Unit</source>
-        <translation>Kuvaajat yksiköittäin</translation>
+        <source>Plots &amp;by Unit</source>
+        <translation>Kuvaa&amp;jat yksiköittäin</translation>
     </message>
     <message>
         <source>Currents FFT</source>
@@ -1005,36 +1005,36 @@ Valitse toinen tiedosto.</translation>
 <context>
     <name>PlotMenu</name>
     <message>
-        <source>Earlier</source>
-        <translation>Aiemmin</translation>
+        <source>&amp;Earlier</source>
+        <translation>&amp;Aiemmin</translation>
     </message>
     <message>
-        <source>Later</source>
-        <translation>Myöhemmin</translation>
+        <source>&amp;Later</source>
+        <translation>My&amp;öhemmin</translation>
     </message>
     <message>
-        <source>Previous View</source>
-        <translation>Edellinen näkymä</translation>
+        <source>Previous Vie&amp;w</source>
+        <translation>E&amp;dellinen näkymä</translation>
     </message>
     <message>
         <source>Whole Recording</source>
         <translation>Koko tallenne</translation>
     </message>
     <message>
-        <source>Zoom to P%1-P%2</source>
-        <translation>Zoomaa välille P%1–P%2</translation>
+        <source>&amp;Zoom to P%1-P%2</source>
+        <translation>&amp;Zoomaa välille P%1–P%2</translation>
     </message>
     <message>
         <source>Cursor Here</source>
         <translation>Kursori tähän</translation>
     </message>
     <message>
-        <source>Cursor at Trigger</source>
-        <translation>Kursori liipaisuhetkeen</translation>
+        <source>Cursor at Tri&amp;gger</source>
+        <translation>Kursori &amp;liipaisuhetkeen</translation>
     </message>
     <message>
-        <source>Cursor at Time...</source>
-        <translation>Kursori aikaan...</translation>
+        <source>Cursor at &amp;Time...</source>
+        <translation>Kursori a&amp;ikaan...</translation>
     </message>
     <message>
         <source>New Cursor</source>
@@ -1045,36 +1045,44 @@ Valitse toinen tiedosto.</translation>
         <translation>Aika (ms) tai kellonaika (hh:mm:ss.zzz):</translation>
     </message>
     <message>
-        <source>Cursor at Previous Change</source>
-        <translation>Kursori edelliseen tilanvaihtoon</translation>
+        <source>Cursor at Previous &amp;Change</source>
+        <translation>Kursori edelliseen tilanvai&amp;htoon</translation>
     </message>
     <message>
-        <source>Cursor at Next Change</source>
-        <translation>Kursori seuraavaan tilanvaihtoon</translation>
+        <source>Cursor at Ne&amp;xt Change</source>
+        <translation>Kursori seu&amp;raavaan tilanvaihtoon</translation>
     </message>
     <message>
-        <source>Cursor at Maximum in View</source>
-        <translation>Kursori näkymän maksimiin</translation>
+        <source>Cursor at &amp;Maximum in View</source>
+        <translation>Kursori näkymän ma&amp;ksimiin</translation>
     </message>
     <message>
-        <source>Cursor at Minimum in View</source>
-        <translation>Kursori näkymän minimiin</translation>
+        <source>Cursor at M&amp;inimum in View</source>
+        <translation>Kursori näk&amp;ymän minimiin</translation>
     </message>
     <message>
-        <source>Move to Time...</source>
-        <translation>Siirrä aikaan...</translation>
+        <source>E&amp;dit Title</source>
+        <translation>Muokkaa &amp;otsikkoa</translation>
+    </message>
+    <message>
+        <source>Channel C&amp;olor</source>
+        <translation>Kanavan v&amp;äri</translation>
+    </message>
+    <message>
+        <source>&amp;Move to Time...</source>
+        <translation>Siirrä &amp;aikaan...</translation>
     </message>
     <message>
         <source>Move Cursor</source>
         <translation>Siirrä kursori</translation>
     </message>
     <message>
-        <source>Step to Previous Sample</source>
-        <translation>Siirrä edelliseen näytteeseen</translation>
+        <source>Step to &amp;Previous Sample</source>
+        <translation>Siirrä &amp;edelliseen näytteeseen</translation>
     </message>
     <message>
-        <source>Step to Next Sample</source>
-        <translation>Siirrä seuraavaan näytteeseen</translation>
+        <source>Step to &amp;Next Sample</source>
+        <translation>Siirrä &amp;seuraavaan näytteeseen</translation>
     </message>
 </context>
 <context>
@@ -1689,12 +1697,12 @@ Korvataanko se?</translation>
 <context>
     <name>SideWindows</name>
     <message>
-        <source>Events...</source>
-        <translation>Tapahtumat...</translation>
+        <source>E&amp;vents...</source>
+        <translation>&amp;Tapahtumat...</translation>
     </message>
     <message>
-        <source>Measurements...</source>
-        <translation>Mittaukset...</translation>
+        <source>Meas&amp;urements...</source>
+        <translation>Mitta&amp;ukset...</translation>
     </message>
     <message>
         <source>Notes...</source>

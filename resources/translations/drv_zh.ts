@@ -549,20 +549,20 @@ Please select another file.</source>
         <translation>wavorin-convert 可将其转换为能打开的故障录波。</translation>
     </message>
     <message>
-        <source>Copy Picture with Heading</source>
-        <translation>复制带标题的图片</translation>
+        <source>Cop&amp;y Picture with Heading</source>
+        <translation>复制带标题的图片(&amp;Y)</translation>
     </message>
     <message>
-        <source>Save Picture with Heading...</source>
-        <translation>保存带标题的图片...</translation>
+        <source>&amp;Save Picture with Heading...</source>
+        <translation>保存带标题的图片(&amp;S)...</translation>
     </message>
     <message>
         <source>Save P%1 to P%2...</source>
         <translation>保存 P%1 至 P%2...</translation>
     </message>
     <message>
-        <source>Plots by Unit</source>
-        <translation>按单位添加曲线图</translation>
+        <source>Plots &amp;by Unit</source>
+        <translation>按单位添加曲线图(&amp;B)</translation>
     </message>
     <message>
         <source>Currents FFT</source>
@@ -1005,36 +1005,36 @@ Please select another file.</source>
 <context>
     <name>PlotMenu</name>
     <message>
-        <source>Earlier</source>
-        <translation>更早</translation>
+        <source>&amp;Earlier</source>
+        <translation>更早(&amp;E)</translation>
     </message>
     <message>
-        <source>Later</source>
-        <translation>更晚</translation>
+        <source>&amp;Later</source>
+        <translation>更晚(&amp;L)</translation>
     </message>
     <message>
-        <source>Previous View</source>
-        <translation>上一视图</translation>
+        <source>Previous Vie&amp;w</source>
+        <translation>上一视图(&amp;W)</translation>
     </message>
     <message>
         <source>Whole Recording</source>
         <translation>整个录波</translation>
     </message>
     <message>
-        <source>Zoom to P%1-P%2</source>
-        <translation>缩放到 P%1-P%2</translation>
+        <source>&amp;Zoom to P%1-P%2</source>
+        <translation>缩放到 P%1-P%2(&amp;Z)</translation>
     </message>
     <message>
         <source>Cursor Here</source>
         <translation>在此处添加游标</translation>
     </message>
     <message>
-        <source>Cursor at Trigger</source>
-        <translation>在触发时刻添加游标</translation>
+        <source>Cursor at Tri&amp;gger</source>
+        <translation>在触发时刻添加游标(&amp;G)</translation>
     </message>
     <message>
-        <source>Cursor at Time...</source>
-        <translation>在指定时间添加游标...</translation>
+        <source>Cursor at &amp;Time...</source>
+        <translation>在指定时间添加游标(&amp;T)...</translation>
     </message>
     <message>
         <source>New Cursor</source>
@@ -1045,36 +1045,44 @@ Please select another file.</source>
         <translation>时间 (ms) 或时刻 (hh:mm:ss.zzz)：</translation>
     </message>
     <message>
-        <source>Cursor at Previous Change</source>
-        <translation>在上一次变位处添加游标</translation>
+        <source>Cursor at Previous &amp;Change</source>
+        <translation>在上一次变位处添加游标(&amp;C)</translation>
     </message>
     <message>
-        <source>Cursor at Next Change</source>
-        <translation>在下一次变位处添加游标</translation>
+        <source>Cursor at Ne&amp;xt Change</source>
+        <translation>在下一次变位处添加游标(&amp;X)</translation>
     </message>
     <message>
-        <source>Cursor at Maximum in View</source>
-        <translation>在视图最大值处添加游标</translation>
+        <source>Cursor at &amp;Maximum in View</source>
+        <translation>在视图最大值处添加游标(&amp;M)</translation>
     </message>
     <message>
-        <source>Cursor at Minimum in View</source>
-        <translation>在视图最小值处添加游标</translation>
+        <source>Cursor at M&amp;inimum in View</source>
+        <translation>在视图最小值处添加游标(&amp;I)</translation>
     </message>
     <message>
-        <source>Move to Time...</source>
-        <translation>移动到指定时间...</translation>
+        <source>E&amp;dit Title</source>
+        <translation>编辑标题(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Channel C&amp;olor</source>
+        <translation>通道颜色(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Move to Time...</source>
+        <translation>移动到指定时间(&amp;M)...</translation>
     </message>
     <message>
         <source>Move Cursor</source>
         <translation>移动游标</translation>
     </message>
     <message>
-        <source>Step to Previous Sample</source>
-        <translation>移至上一个采样点</translation>
+        <source>Step to &amp;Previous Sample</source>
+        <translation>移至上一个采样点(&amp;P)</translation>
     </message>
     <message>
-        <source>Step to Next Sample</source>
-        <translation>移至下一个采样点</translation>
+        <source>Step to &amp;Next Sample</source>
+        <translation>移至下一个采样点(&amp;N)</translation>
     </message>
 </context>
 <context>
@@ -1689,12 +1697,12 @@ Do you want to replace it?</source>
 <context>
     <name>SideWindows</name>
     <message>
-        <source>Events...</source>
-        <translation>事件...</translation>
+        <source>E&amp;vents...</source>
+        <translation>事件(&amp;V)...</translation>
     </message>
     <message>
-        <source>Measurements...</source>
-        <translation>测量...</translation>
+        <source>Meas&amp;urements...</source>
+        <translation>测量(&amp;U)...</translation>
     </message>
     <message>
         <source>Notes...</source>

@@ -331,7 +331,7 @@ private slots:
         QTest::addColumn<QString>("stop"); // has the focus
         QTest::addColumn<QString>("entry"); // the first of the menu
         QTest::newRow("plot") << QString() << "[Graph 1 Plotter]"
-                              << "Earlier";
+                              << "&Earlier";
         QTest::newRow("name of a cursor") << QString() << "lineLabel"
                                           << "Remove Cursor";
         QTest::newRow("phasors") << "VectorDialog"

@@ -70,7 +70,7 @@ QString faultOf(const QString &source, const QString &translation)
         return QStringLiteral("file patterns");
     if (allMatches(source, "</?[a-z]+>") != allMatches(translation, "</?[a-z]+>"))
         return QStringLiteral("tags");
-    if (allMatches(source, "&\\w").size() != allMatches(translation, "&\\w").size()
+    if (allMatches(source, "&\\w").size() != allMatches(translation, "&[\\wäöÄÖ]").size()
         || translation.count(QLatin1Char('&')) != source.count(QLatin1Char('&')))
         return QStringLiteral("mnemonic");
     return QString();
@@ -139,6 +139,7 @@ void TestTranslations::faultsAreNoticed_data()
     row("arrows are no tags", ">>", ">>", "");
     row("the mnemonic is missing", "&File", "Tiedosto", "mnemonic");
     row("a mnemonic without a letter", "&File", "Tiedosto& ohje", "mnemonic");
+    row("a Finnish mnemonic", "&Later", "My&öhemmin", "");
     row("a mnemonic in brackets", "&File", "文件(&F)", "");
     row("a mnemonic too many", "Language", "&Kieli", "mnemonic");
 }

@@ -18,11 +18,24 @@ inline QMenu *contextMenuAt(QWidget *plot, const QPoint &point)
     return qobject_cast<QMenu *>(QApplication::activePopupWidget());
 }
 
+// Without the marks of letters; "&&" is shown as "&".
+inline QString shownText(const QString &text)
+{
+    QString shown;
+    for (int i = 0; i < text.size(); ++i) {
+        if (text.at(i) == QLatin1Char('&'))
+            ++i;
+        shown += text.mid(i, 1);
+    }
+    return shown;
+}
+
+// By a text with or without such marks.
 inline QAction *entryOf(const QMenu *menu, const QString &text)
 {
     const QList<QAction *> actions = menu ? menu->actions() : QList<QAction *>();
     for (QAction *action : actions) {
-        if (action->text() == text)
+        if (shownText(action->text()) == shownText(text))
             return action;
     }
     return nullptr;
