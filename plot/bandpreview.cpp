@@ -5,6 +5,7 @@
 
 #include "baselayer.h"
 #include "plotgeometry.h"
+#include "screenlines.h"
 
 #include <QEvent>
 #include <QFontMetrics>

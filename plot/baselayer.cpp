@@ -7,6 +7,7 @@
 #include "digitalruns.h"
 #include "labeltext.h"
 #include "numbers.h"
+#include "screenlines.h"
 #include "timeaxis.h"
 
 #include <QCoreApplication>
@@ -28,8 +29,6 @@ const QColor bandColor(240, 255, 240);
 
 constexpr int labelGap = 6; // between the plot area and a label beside it
 constexpr int bandReach = 5; // of a band above and below its base line
-constexpr int dash = 4; // of the trigger's line, and the gap after it
-constexpr int dashGap = 2;
 
 // The room of texts in the left margin, inside the widget's border.
 constexpr int marginStart = 4;
@@ -152,33 +151,7 @@ private:
     QVector<Stretch> m_stretches;
 };
 
-// What lines from the first to the last pixels of a rectangle cover.
-QRectF coveredByLines(const QPainter &painter, const QRect &pixels)
-{
-    const QTransform &toScreen = painter.deviceTransform();
-    const int more = std::max(0, static_cast<int>(toScreen.m11()) - 1);
-    const QPoint first = toScreen.map(QPointF(pixels.topLeft())).toPoint();
-    const QPoint last = toScreen.map(QPointF(pixels.bottomRight())).toPoint() + QPoint(more, more);
-    constexpr double less
-        = 1e-3; // a hair, or a clip takes what is left of rounding for a pixel more
-    return toScreen.inverted().mapRect(
-        QRectF(QRect(first, last)).adjusted(less, less, -less, -less));
-}
-
 } // namespace
-
-void fillLine(QPainter &painter, const QRect &line, const QColor &color)
-{
-    painter.fillRect(coveredByLines(painter, line), color);
-}
-
-void fillFrame(QPainter &painter, const QRect &frame, const QColor &color)
-{
-    fillLine(painter, {frame.topLeft(), frame.topRight()}, color);
-    fillLine(painter, {frame.bottomLeft(), frame.bottomRight()}, color);
-    fillLine(painter, {frame.topLeft(), frame.bottomLeft()}, color);
-    fillLine(painter, {frame.topRight(), frame.bottomRight()}, color);
-}
 
 QRect layerPart(const QSize &plot, const QRect &seen)
 {
@@ -299,8 +272,7 @@ void drawTriggerMark(QPainter &painter, const PlotGeometry &geometry, const QFon
         return;
     const QRect area = geometry.area();
     const int x = markX(geometry, time);
-    for (int y = area.top(); y <= area.bottom(); y += dash + dashGap)
-        fillLine(painter, {x, y, 1, std::min(dash, area.bottom() + 1 - y)}, Qt::white);
+    fillDashedLine(painter, {x, area.top(), 1, area.height()}, Qt::white);
 
     const auto drawText = [&](const QColor &color) {
         painter.setPen(color);

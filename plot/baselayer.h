@@ -35,13 +35,6 @@ void drawTimeLabels(QPainter &painter, const PlotGeometry &geometry, const QFont
 // The lines of the value grid with the values left of them, of which likewise none overlap.
 void drawValueGrid(QPainter &painter, const PlotGeometry &geometry, const QFont &font);
 
-// All lines are filled rectangles, one pixel wide or high, so that they stand where their pixel
-// does and are seen at every scale factor of the screen. Where that is no whole number, some pixels
-// of a plot cover one more of the screen's than others: lines are as thick as the thinnest
-// everywhere.
-void fillLine(QPainter &painter, const QRect &line, const QColor &color);
-void fillFrame(QPainter &painter, const QRect &frame, const QColor &color);
-
 void drawFrame(QPainter &painter, const PlotGeometry &geometry);
 
 // Leaves what lies within the frame, and the frame itself, to be painted on.

@@ -7,6 +7,7 @@
 #include "numbers.h"
 #include "plotgeometry.h"
 #include "plotstyle.h"
+#include "screenlines.h"
 #include "textrow.h"
 
 #include <QFontMetrics>

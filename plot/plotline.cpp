@@ -3,8 +3,8 @@
 
 #include "plotline.h"
 
-#include "baselayer.h"
 #include "plotgeometry.h"
+#include "screenlines.h"
 
 #include <QMoveEvent>
 #include <QPainter>

@@ -4,9 +4,9 @@
 #include "rubberband.h"
 
 #include "bandpreview.h"
-#include "baselayer.h"
 #include "plotgeometry.h"
 #include "plotview.h"
+#include "screenlines.h"
 
 #include <QPainter>
 #include <QWidget>
