@@ -39,20 +39,25 @@ MeasurementsDialog::MeasurementsDialog(QWidget *parent)
         connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &MeasurementsDialog::measure);
     connect(ui->tabWidget, &QTabWidget::currentChanged, this, &MeasurementsDialog::measure);
-    addShortcut(QKeySequence::Copy, [this] { on_pushButton_copy_clicked(); });
+    addShortcut(
+        QKeySequence::keyBindings(QKeySequence::Copy), [this] { on_pushButton_copy_clicked(); });
     // Wherever the focus is, not in the pages alone.
     const auto turnPage = [this](int pages) {
         const int count = ui->tabWidget->count();
         ui->tabWidget->setCurrentIndex((ui->tabWidget->currentIndex() + pages + count) % count);
     };
-    addShortcut(QKeySequence::NextChild, [=] { turnPage(1); });
-    addShortcut(QKeySequence::PreviousChild, [=] { turnPage(-1); });
+    addShortcut(QKeySequence::keyBindings(QKeySequence::NextChild), [=] { turnPage(1); });
+    // The toolkit's own keys name the letter that Shift makes of Tab, which windowing systems leave
+    // out where they are told of Shift.
+    addShortcut(QKeySequence::keyBindings(QKeySequence::PreviousChild)
+            << QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab),
+        [=] { turnPage(-1); });
 }
 
 MeasurementsDialog::~MeasurementsDialog() = default;
 
 void MeasurementsDialog::addShortcut(
-    QKeySequence::StandardKey keys, const std::function<void()> &command)
+    const QList<QKeySequence> &keys, const std::function<void()> &command)
 {
     auto *action = new QAction(this);
     action->setShortcuts(keys);

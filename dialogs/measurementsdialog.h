@@ -69,7 +69,7 @@ protected:
 
 private:
     void setSource(Plotter *source, const std::optional<QList<int>> &channels, int reference);
-    void addShortcut(QKeySequence::StandardKey keys, const std::function<void()> &command);
+    void addShortcut(const QList<QKeySequence> &keys, const std::function<void()> &command);
     void prepareTable(QTableView *view);
     void bringForward();
     QStringList channelNames() const;

@@ -115,6 +115,8 @@ private slots:
     void paintsNoMoreThanWhatDiffers();
     void refreshesNothingWhileHidden();
     void turnsItsPagesByKeys();
+    void turnsItsPagesFromEverywhere_data();
+    void turnsItsPagesFromEverywhere();
     void copiesTheTableShown();
     void savesTheTableShown();
     void tellsWhySavingFailed_data();
@@ -476,6 +478,48 @@ void TestMeasurementsDialog::turnsItsPagesByKeys()
     }
     QTest::keyClick(dialog.get(), Qt::Key_Escape);
     QVERIFY(!dialog->isVisible());
+}
+
+void TestMeasurementsDialog::turnsItsPagesFromEverywhere_data()
+{
+    QTest::addColumn<QString>("focus"); // none as the window opens
+    QTest::addColumn<Qt::Key>("back"); // with Ctrl+Shift
+    const QVector<QPair<const char *, const char *>> places{{"as the window opens", ""},
+        {"tick box", "checkBox_angle"}, {"reference", "comboBox_reference"},
+        {"table", "tableView_cursors"}, {"tabs", "qt_tabwidget_tabbar"},
+        {"button", "pushButton_copy"}};
+    for (const auto &place : places) {
+        QTest::addRow("%s, Shift made another letter", place.first)
+            << QString::fromLatin1(place.second) << Qt::Key_Backtab;
+        // As the toolkit asks for it where the windowing system tells of Shift.
+        QTest::addRow("%s, Tab with Shift", place.first)
+            << QString::fromLatin1(place.second) << Qt::Key_Tab;
+    }
+}
+
+void TestMeasurementsDialog::turnsItsPagesFromEverywhere()
+{
+    QFETCH(QString, focus);
+    QFETCH(Qt::Key, back);
+    const auto *pages = child<QTabWidget>("tabWidget");
+    dialog->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
+    if (!focus.isEmpty()) {
+        auto *widget = dialog->findChild<QWidget *>(focus);
+        widget->setFocus();
+        QVERIFY(widget->hasFocus());
+    }
+    QWindow *window = dialog->windowHandle();
+    for (int time = 0; time < 2; ++time) {
+        for (const int page : {3, 2, 1, 0, 3, 2}) {
+            QTest::keyClick(window, back, Qt::ControlModifier | Qt::ShiftModifier);
+            QCOMPARE(pages->currentIndex(), page);
+        }
+        for (const int page : {3, 0, 1, 2, 3, 0}) {
+            QTest::keyClick(window, Qt::Key_Tab, Qt::ControlModifier);
+            QCOMPARE(pages->currentIndex(), page);
+        }
+    }
 }
 
 void TestMeasurementsDialog::copiesTheTableShown()
