@@ -10,6 +10,8 @@
 
 #include <QEvent>
 
+#include <algorithm>
+
 VectorDialog::VectorDialog(QWidget *parent)
     : QDialog(parent), ui(std::make_unique<Ui::VectorDialog>())
 {
@@ -83,8 +85,16 @@ void VectorDialog::on_toolButton_clicked()
 
 void VectorDialog::deleteWidgetSlot(VectorWidget *widget)
 {
-    if (addedPanels.removeAll(widget) > 0)
-        delete widget;
+    const int place = addedPanels.indexOf(widget);
+    if (place < 0)
+        return;
+    const bool hadFocus = widget->isAncestorOf(focusWidget());
+    addedPanels.removeAll(widget);
+    delete widget;
+    if (hadFocus && addedPanels.isEmpty())
+        ui->toolButton->setFocus();
+    else if (hadFocus)
+        addedPanels.at(std::min(place, addedPanels.size() - 1))->focusRemoval();
 }
 
 void VectorDialog::on_comboBox_reference_currentIndexChanged(int)

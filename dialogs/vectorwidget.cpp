@@ -12,6 +12,7 @@
 #include "numbers.h"
 #include "phasordiagram.h"
 #include "plotter.h"
+#include "screenlines.h"
 #include "ui_vectorwidget.h"
 #include "vectordialog.h"
 
@@ -73,10 +74,11 @@ QString colorSheet(const QColor &color)
 
 void drawGrid(QPainter &painter, const PhasorDiagram &diagram)
 {
+    const QColor color(200, 200, 200, 50);
     for (int k = 0; k < PhasorDiagram::lineCount; ++k) {
         const int position = diagram.gridLine(k);
-        painter.drawLine(0, position, diagram.width(), position);
-        painter.drawLine(position, 0, position, diagram.height());
+        fillDashedLine(painter, {0, position, diagram.width() + 1, 1}, color);
+        fillDashedLine(painter, {position, 0, 1, diagram.height() + 1}, color);
     }
 }
 
@@ -232,6 +234,11 @@ bool VectorWidget::waitForPaintEvent()
     return true;
 }
 
+void VectorWidget::focusRemoval()
+{
+    ui->toolButton->setFocus();
+}
+
 void VectorWidget::on_toolButton_clicked()
 {
     m_removalClicked = true;
@@ -240,11 +247,15 @@ void VectorWidget::on_toolButton_clicked()
 
 void VectorWidget::mousePressEvent(QMouseEvent *event)
 {
-    const QPointer<QCheckBox> checkBox = qobject_cast<QCheckBox *>(childAt(event->pos()));
-    if (event->button() != Qt::RightButton || !checkBox) {
+    auto *checkBox = qobject_cast<QCheckBox *>(childAt(event->pos()));
+    if (event->button() == Qt::RightButton && checkBox)
+        chooseColor(checkBox);
+    else
         event->ignore();
-        return;
-    }
+}
+
+void VectorWidget::chooseColor(const QPointer<QCheckBox> &checkBox)
+{
     const int entry = checkBoxes.indexOf(checkBox) % channelColors.size();
     const QPointer<VectorWidget> self(this);
     const QColor color = QColorDialog::getColor(Qt::white, this);
@@ -301,11 +312,13 @@ QString VectorWidget::tipAt(const QPoint &point) const
     return found < 0 ? QString() : tipOf(m_drawn.at(found));
 }
 
-// Over a check box, the right button chooses a colour.
+// Over a check box, the right button chooses a colour; by the keys, that is in the menu.
 void VectorWidget::contextMenuEvent(QContextMenuEvent *event)
 {
-    if (event->reason() == QContextMenuEvent::Mouse
-        && qobject_cast<QCheckBox *>(childAt(event->pos()))) {
+    const bool isByKey = event->reason() == QContextMenuEvent::Keyboard;
+    const QPointer<QCheckBox> checkBox
+        = qobject_cast<QCheckBox *>(isByKey ? focusWidget() : childAt(event->pos()));
+    if (event->reason() == QContextMenuEvent::Mouse && checkBox) {
         event->ignore();
         return;
     }
@@ -319,6 +332,15 @@ void VectorWidget::contextMenuEvent(QContextMenuEvent *event)
     QAction *measure = menu->addAction(tr("Measurements..."));
     measure->setEnabled(plotter && !channels.isEmpty());
     connect(measure, &QAction::triggered, this, [=] { emit measurementsWanted(channels); });
+    if (checkBox) {
+        const auto choose = [=] {
+            if (checkBox)
+                chooseColor(checkBox);
+        };
+        // Once the menu is done, which would be deleted while the dialog is open.
+        connect(menu->addAction(tr("Color...")), &QAction::triggered, this, choose,
+            Qt::QueuedConnection);
+    }
     menu->popup(event->globalPos());
 }
 
@@ -335,11 +357,12 @@ void VectorWidget::renderPixmaps()
     const PhasorDiagram diagram(extremeOf(channels), ui->labelVector->size());
     QPainter diagramPainter(&diagramPixmap);
     QPainter magnitudesPainter(&magnitudesPixmap);
-    // Within a clip, the toolkit draws dashed lines several times as fast.
-    diagramPainter.setClipRect(ui->labelVector->rect());
-    diagramPainter.setPen(QPen(QColor(200, 200, 200, 50), 1, Qt::DashLine));
     diagramPainter.translate(30, 20);
     drawGrid(diagramPainter, diagram);
+    diagramPainter.resetTransform();
+    // Within a clip, the toolkit draws dashed lines several times as fast.
+    diagramPainter.setClipRect(ui->labelVector->rect());
+    diagramPainter.setPen(Qt::DashLine);
     drawPhasors(diagramPainter, magnitudesPainter, diagram, channels);
 }
 

@@ -45,6 +45,7 @@ public:
     // are made when the panel is first shown, and very many little by little from then on.
     void setChannelNames(const QStringList &names);
     void disableRemoval();
+    void focusRemoval(); // gives its button the focus
 
     // Draws again in 10 ms; further requests until then change nothing.
     void requestRedraw();
@@ -71,6 +72,7 @@ protected:
 
 private:
     void makeCheckBoxes(int count);
+    void chooseColor(const QPointer<QCheckBox> &checkBox);
     bool waitForPaintEvent();
     void renderPixmaps();
     void drawPhasors(QPainter &diagramPainter, QPainter &magnitudesPainter,

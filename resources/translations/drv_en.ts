@@ -1766,6 +1766,10 @@ Do you want to replace it?</translation>
         <translation>Measurements...</translation>
     </message>
     <message>
+        <source>Color...</source>
+        <translation>Color...</translation>
+    </message>
+    <message>
         <source>%1 at P%2</source>
         <translation>%1 at P%2</translation>
     </message>

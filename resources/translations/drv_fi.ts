@@ -1766,6 +1766,10 @@ Korvataanko se?</translation>
         <translation>Mittaukset...</translation>
     </message>
     <message>
+        <source>Color...</source>
+        <translation>Väri...</translation>
+    </message>
+    <message>
         <source>%1 at P%2</source>
         <translation>%1 kohdassa P%2</translation>
     </message>

@@ -1766,6 +1766,10 @@ Do you want to replace it?</source>
         <translation>测量...</translation>
     </message>
     <message>
+        <source>Color...</source>
+        <translation>颜色...</translation>
+    </message>
+    <message>
         <source>%1 at P%2</source>
         <translation>P%2 处的 %1</translation>
     </message>

@@ -32,6 +32,9 @@ private slots:
     void addsPanelsLeftToRight();
     void givesAnAddedPanelEverything();
     void removesAPanel();
+    void handsTheFocusOnWithARemovedPanel_data();
+    void handsTheFocusOnWithARemovedPanel();
+    void keepsTheFocusElsewhere();
     void keepsTheFirstPanel();
     void handsThePlotterToEveryPanel();
     void redrawsEveryPanelWhenTheReferenceChanges();
@@ -234,6 +237,66 @@ void TestVectorDialog::removesAPanel()
     QCOMPARE(dialog->referenceName(), QStringLiteral("IL1"));
     references()->setCurrentIndex(2); // reaches the remaining panels only
     QVERIFY(isWaiting(last));
+}
+
+void TestVectorDialog::handsTheFocusOnWithARemovedPanel_data()
+{
+    QTest::addColumn<int>("count"); // of all panels
+    QTest::addColumn<QVector<int>>("removed"); // one after the other
+    QTest::addColumn<QVector<int>>("focus"); // then, on the button of which; 0 for the one to add
+    QTest::newRow("the only one that can be") << 2 << QVector<int>{1} << QVector<int>{0};
+    QTest::newRow("the next one moves up") << 3 << QVector<int>{1, 1} << QVector<int>{1, 0};
+    QTest::newRow("the last ones") << 4 << QVector<int>{3, 2, 1} << QVector<int>{2, 1, 0};
+    QTest::newRow("one between") << 4 << QVector<int>{2, 2, 1} << QVector<int>{2, 1, 0};
+}
+
+// All by the keys.
+void TestVectorDialog::handsTheFocusOnWithARemovedPanel()
+{
+    QFETCH(int, count);
+    QFETCH(QVector<int>, removed);
+    QFETCH(QVector<int>, focus);
+    show();
+    dialog->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(dialog));
+    auto *add = dialog->findChild<QToolButton *>(
+        QStringLiteral("toolButton"), Qt::FindDirectChildrenOnly);
+    QWindow *window = dialog->windowHandle();
+    add->setFocus();
+    for (int time = 0; time < 2; ++time) { // the last one leaves the focus where it began
+        while (panels().size() < count)
+            QTest::keyClick(window, Qt::Key_Space);
+        for (int i = 0; i < removed.size(); ++i) {
+            const QToolButton *minus = removeButton(panels().at(removed.at(i)));
+            for (int tab = 0; tab < 30 && !minus->hasFocus(); ++tab)
+                QTest::keyClick(window, Qt::Key_Tab);
+            QVERIFY(minus->hasFocus());
+            QTest::keyClick(window, Qt::Key_Space);
+            QCOMPARE(panels().size(), count - 1 - i);
+            const QToolButton *expected
+                = focus.at(i) == 0 ? add : removeButton(panels().at(focus.at(i)));
+            QVERIFY(expected->hasFocus());
+            QTest::qWait(20); // the removed button goes now
+            QVERIFY(expected->hasFocus());
+        }
+    }
+}
+
+void TestVectorDialog::keepsTheFocusElsewhere()
+{
+    show();
+    dialog->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(dialog));
+    addPanel();
+    addPanel();
+    references()->setFocus();
+    QTest::mouseClick(removeButton(panels().at(2)), Qt::LeftButton);
+    QVERIFY(references()->hasFocus());
+    panels().at(1)->findChildren<QCheckBox *>().at(1)->setFocus(); // goes with its panel
+    QTest::mouseClick(removeButton(panels().at(1)), Qt::LeftButton);
+    QCOMPARE(panels().size(), 1);
+    QCOMPARE(dialog->focusWidget(),
+        dialog->findChild<QWidget *>(QStringLiteral("toolButton"), Qt::FindDirectChildrenOnly));
 }
 
 void TestVectorDialog::keepsTheFirstPanel()

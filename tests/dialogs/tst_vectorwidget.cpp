@@ -5,7 +5,9 @@
 #include "vectorpanel.h"
 
 #include <QColorDialog>
+#include <QContextMenuEvent>
 #include <QGridLayout>
+#include <QMenu>
 #include <QScreen>
 #include <QToolButton>
 
@@ -28,6 +30,15 @@ void answerColorDialog(const QColor &color, QColor *initial = nullptr)
         else
             dialog->reject();
     });
+}
+
+// The context menu that the Menu key opens on a widget.
+QMenu *menuByKey(QWidget *widget)
+{
+    widget->setFocus();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, widget->rect().center());
+    QApplication::sendEvent(widget, &event);
+    return qobject_cast<QMenu *>(QApplication::activePopupWidget());
 }
 
 } // namespace
@@ -64,6 +75,8 @@ private slots:
     void changesAColor();
     void keepsTheColorOnCancel();
     void keepsTheSheetOfABoxThatSharesTheColor();
+    void offersTheColorByKeysOverACheckBoxAlone();
+    void offersNoColorOfARemovedCheckBox();
     void asksForAColorOnlyOverACheckBox();
     void drawsOnceForManyRequests();
     void drawsWhileRequestsKeepComing();
@@ -429,6 +442,55 @@ void TestVectorWidget::keepsTheSheetOfABoxThatSharesTheColor()
     check(0);
     QVERIFY(!boundsOf(diagram(), QColor(1, 2, 3)).isNull());
     QVERIFY(boundsOf(diagram(), orange).isNull());
+}
+
+void TestVectorWidget::offersTheColorByKeysOverACheckBoxAlone()
+{
+    recording.add(QStringLiteral("A"), 0, 50, extremeOf100);
+    recording.add(QStringLiteral("B"), 1, 50, extremeOf100);
+    dialog->on_toolButton_clicked(); // the second panel has a button that takes the focus
+    show();
+    panel = dialog->findChildren<VectorWidget *>().at(1);
+    check(1);
+    const auto entries = [](QMenu *menu) {
+        QStringList texts;
+        for (const QAction *entry : menu->actions())
+            texts.append(entry->text());
+        return texts.join(QLatin1Char('|'));
+    };
+    for (int time = 0; time < 2; ++time) {
+        auto *button = panel->findChild<QToolButton *>(QStringLiteral("toolButton"));
+        QCOMPARE(entries(menuByKey(button)), QStringLiteral("Measurements..."));
+        QApplication::activePopupWidget()->close();
+        QMenu *menu = menuByKey(checkBoxes().at(1));
+        QCOMPARE(entries(menu), QStringLiteral("Measurements...|Color..."));
+        const QColor chosen(1, 2, time);
+        QColor initial;
+        answerColorDialog(chosen, &initial);
+        QTest::keyClick(menu, Qt::Key_Up); // the last entry
+        QTest::keyPress(menu, Qt::Key_Return); // it is gone before a release
+        QTRY_COMPARE(checkBoxes().at(1)->styleSheet(),
+            QStringLiteral("QCheckBox{color: rgb(1,2,%1);}").arg(time));
+        QCOMPARE(initial, QColor(Qt::white));
+        QVERIFY(!boundsOf(diagram(), chosen).isNull());
+        QCOMPARE(
+            checkBoxes().at(0)->styleSheet(), QStringLiteral("QCheckBox{color: rgb(250,140,20);}"));
+    }
+}
+
+// As by a recording that is opened meanwhile.
+void TestVectorWidget::offersNoColorOfARemovedCheckBox()
+{
+    recording.add(QStringLiteral("A"), 0, 50, extremeOf100);
+    show();
+    QMenu *menu = menuByKey(checkBoxes().at(0));
+    dialog->setChannelNames({QStringLiteral("B")});
+    QTest::keyClick(menu, Qt::Key_Up);
+    QTest::keyPress(menu, Qt::Key_Return); // it is gone before a release
+    QTest::qWait(50);
+    QVERIFY(!QApplication::activeModalWidget());
+    QCOMPARE(
+        checkBoxes().at(0)->styleSheet(), QStringLiteral("QCheckBox{color: rgb(250,140,20);}"));
 }
 
 void TestVectorWidget::asksForAColorOnlyOverACheckBox()

@@ -23,6 +23,9 @@ class TestVectorWidgetLines : public QObject, private VectorPanelFixture {
 private slots:
     void init() { setUp(); }
     void cleanup() { tearDown(); }
+    void ofTheGridAreAsTheToolkitDrawsThem_data();
+    void ofTheGridAreAsTheToolkitDrawsThem();
+    void ofTheGridHaveOneThickness();
     void endAtThePhasorsOfEachCursor_data();
     void endAtThePhasorsOfEachCursor();
     void areDrawnOverEarlierOnes();
@@ -31,6 +34,67 @@ private slots:
     void followTheSampleNearestToTheCursor_data();
     void followTheSampleNearestToTheCursor();
 };
+
+void TestVectorWidgetLines::ofTheGridAreAsTheToolkitDrawsThem_data()
+{
+    QTest::addColumn<bool>("isChecked");
+    QTest::addColumn<QVector<int>>("lines");
+    QTest::newRow("no channel") << false
+                                << QVector<int>{0, 30, 61, 91, 122, 152, 183, 213, 244, 274, 305};
+    QTest::newRow("an axis up to 100")
+        << true << QVector<int>{0, 30, 60, 91, 121, 152, 182, 213, 243, 274, 304};
+}
+
+// On a screen without a scale.
+void TestVectorWidgetLines::ofTheGridAreAsTheToolkitDrawsThem()
+{
+    QFETCH(bool, isChecked);
+    QFETCH(QVector<int>, lines);
+    recording.add(QStringLiteral("I"), 0, 52, extremeOf100);
+    setPlotter({});
+    show();
+    if (isChecked)
+        check(0);
+    QPixmap pixmap(365, 365);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setPen(QPen(QColor(200, 200, 200, 50), 1, Qt::DashLine));
+    painter.translate(30, 20);
+    for (const int line : lines) {
+        painter.drawLine(0, line, 305, line);
+        painter.drawLine(line, 0, line, 305);
+    }
+    QCOMPARE(diagram(), pixmap.toImage());
+}
+
+// Also once more at each of these scale factors of the screen.
+void TestVectorWidgetLines::ofTheGridHaveOneThickness()
+{
+    const QMap<double, int> pixels{{1, 1}, {1.25, 1}, {1.5, 1}, {1.75, 1}, {2, 2}};
+    const double scale = qApp->devicePixelRatio();
+    QVERIFY(pixels.contains(scale));
+    setPlotter({});
+    show();
+    const QImage image = diagram();
+    // All lines begin with a dash, which lies from 30 or 20 on; the third pixel of each.
+    const int column = static_cast<int>(32 * scale);
+    const int row = static_cast<int>(22 * scale);
+    QVector<int> across;
+    QVector<int> along;
+    for (int i = 1; i < image.width(); ++i) {
+        const auto count = [&](QVector<int> &thicknesses, const QPoint &before, const QPoint &at) {
+            if (image.pixelColor(at).alpha() == 0)
+                return;
+            if (image.pixelColor(before).alpha() == 0)
+                thicknesses.append(0);
+            ++thicknesses.last();
+        };
+        count(across, {column, i - 1}, {column, i});
+        count(along, {i - 1, row}, {i, row});
+    }
+    QCOMPARE(across, QVector<int>(11, pixels.value(scale)));
+    QCOMPARE(along, QVector<int>(11, pixels.value(scale)));
+}
 
 void TestVectorWidgetLines::endAtThePhasorsOfEachCursor_data()
 {
