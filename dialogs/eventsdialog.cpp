@@ -9,7 +9,6 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QHeaderView>
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -20,12 +19,7 @@ EventsDialog::EventsDialog(QWidget *parent)
     ui->setupUi(this);
     ui->tableView->setModel(m_table);
     ui->tableView->installEventFilter(this);
-    ui->tableView->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    ui->tableView->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-    QHeaderView *columns = ui->tableView->horizontalHeader();
-    columns->setResizeContentsPrecision(100); // rows
-    columns->setSectionResizeMode(QHeaderView::ResizeToContents);
-    columns->setSectionResizeMode(EventTable::Channel, QHeaderView::Stretch);
+    ui->tableView->setFillingColumn(EventTable::Channel);
     connect(ui->tableView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
         &EventsDialog::showSelected);
     connect(&NameLetters::shared(), &NameLetters::changed, this, &EventsDialog::showNames);

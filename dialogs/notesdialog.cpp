@@ -10,19 +10,13 @@
 #include <QClipboard>
 #include <QEvent>
 #include <QGuiApplication>
-#include <QHeaderView>
 
 NotesDialog::NotesDialog(QWidget *parent)
     : QDialog(parent), ui(std::make_unique<Ui::NotesDialog>()), m_table(new NoteTable(this))
 {
     ui->setupUi(this);
     ui->tableView->setModel(m_table);
-    ui->tableView->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    ui->tableView->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-    QHeaderView *columns = ui->tableView->horizontalHeader();
-    columns->setResizeContentsPrecision(100); // rows
-    columns->setSectionResizeMode(QHeaderView::ResizeToContents);
-    columns->setSectionResizeMode(NoteTable::What, QHeaderView::Stretch);
+    ui->tableView->setFillingColumn(NoteTable::What);
     connect(&NameLetters::shared(), &NameLetters::changed, this, &NotesDialog::showTexts);
 }
 

@@ -10,7 +10,10 @@
 #include "vectorwidget.h"
 
 #include <QCheckBox>
+#include <QColorDialog>
 #include <QLabel>
+#include <QScreen>
+#include <QScrollBar>
 #include <QStatusBar>
 #include <QTableView>
 
@@ -34,6 +37,8 @@ private slots:
     void eventsFollowTheRecording();
     void eventsAreGoneWithAFailedLoad();
     void eventsThatWereClosedKeepNothing();
+    void eventsHaveRoomForTheirNames_data();
+    void eventsHaveRoomForTheirNames();
 
     void measurementsStandBesideThePlots();
     void measurementsFollowADraggedCursor();
@@ -43,6 +48,8 @@ private slots:
     void measurementsOfARemovedPlotAreThoseOfTheFirst();
     void measurementsOpenFromAPhasorPanel();
     void measurementsAreSavedAndReported();
+
+    void phasorsTakeAColorByTheKeys();
 
 private:
     MeasurementsDialog *measurements() const { return window->findChild<MeasurementsDialog *>(); }
@@ -160,6 +167,59 @@ void TestSideWindows::eventsThatWereClosedKeepNothing()
     QCOMPARE(rows(), 0);
     showEvents();
     QCOMPARE(rows(), 3);
+}
+
+void TestSideWindows::eventsHaveRoomForTheirNames_data()
+{
+    QTest::addColumn<int>("points"); // of the font
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("entry"); // of the context menu
+    const auto rows = [](const char *language, const char *entry) {
+        for (const int points : {10, 12, 14})
+            QTest::addRow("%s at %d points", language, points)
+                << points << QString::fromUtf8(language) << QString::fromUtf8(entry);
+    };
+    rows("English", "Events...");
+    rows("Suomi", "Tapahtumat...");
+    rows("中文", "事件(V)...");
+}
+
+// Whatever the others need; on a small screen the table scrolls.
+void TestSideWindows::eventsHaveRoomForTheirNames()
+{
+    QFETCH(int, points);
+    QFETCH(QString, language);
+    QFETCH(QString, entry);
+    const QFont before = QApplication::font();
+    QFont font = before;
+    font.setPointSize(points);
+    QApplication::setFont(font);
+    closeWindow();
+    openWindow();
+    const QString name = QStringLiteral("CB Q0 closed");
+    open({QStringLiteral("Ia")}, {name});
+    Plotter *first = analog(); // its name is another one then
+    for (QAction *action : window->findChildren<QAction *>()) {
+        if (action->text() == language)
+            action->trigger();
+    }
+    QCoreApplication::processEvents();
+    QVERIFY(choose(first, entry));
+    QVERIFY(QTest::qWaitForWindowExposed(events()));
+    QApplication::setFont(before);
+    const QRect screen = events()->screen()->availableGeometry();
+    QVERIFY(events()->width() <= screen.width());
+    const QFontMetrics metrics = table()->fontMetrics();
+    QTRY_VERIFY(table()->columnWidth(4) > metrics.horizontalAdvance(name));
+    QTRY_VERIFY(
+        table()->columnWidth(1) > metrics.horizontalAdvance(QStringLiteral("10:00:00.050000")));
+    int columns = 0;
+    for (int column = 0; column < 6; ++column)
+        columns += table()->columnWidth(column);
+    QTRY_COMPARE(
+        table()->horizontalScrollBar()->maximum() > 0, columns > table()->viewport()->width());
+    QVERIFY(
+        events()->width() >= screen.width() * 8 / 10 || columns <= table()->viewport()->width());
 }
 
 // Ia counts from -10 to 9 in each 20 ms, Ib twice that.
@@ -293,6 +353,41 @@ void TestSideWindows::measurementsOpenFromAPhasorPanel()
             = measurements()->findChild<QComboBox *>(QStringLiteral("comboBox_reference"));
         QCOMPARE(reference->currentText(), QStringLiteral("Ia"));
         measurements()->close();
+    }
+}
+
+// From Show Vectors on, as someone without a mouse does.
+void TestSideWindows::phasorsTakeAColorByTheKeys()
+{
+    trigger("&Show Vectors");
+    auto *vectors = window->findChild<VectorDialog *>();
+    vectors->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(vectors));
+    QCheckBox *box = vectors->findChild<VectorWidget *>()->findChildren<QCheckBox *>().at(1);
+    for (int tab = 0; tab < 10 && !box->hasFocus(); ++tab)
+        QTest::keyClick(vectors->windowHandle(), Qt::Key_Tab);
+    QVERIFY(box->hasFocus());
+    for (int time = 0; time < 2; ++time) {
+        QTest::keyClick(vectors->windowHandle(), Qt::Key_F10, Qt::ShiftModifier);
+        QWidget *menu = QApplication::activePopupWidget();
+        QVERIFY(menu);
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [&] {
+            auto *dialog = qobject_cast<QColorDialog *>(QApplication::activeModalWidget());
+            if (!dialog || !dialog->isVisible())
+                return;
+            timer.stop();
+            dialog->setCurrentColor(QColor(10, 20, time));
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        timer.start(10);
+        QTest::keyClick(menu, Qt::Key_Up); // the last one
+        QTest::keyPress(menu, Qt::Key_Return); // it is gone before a release
+        QTRY_COMPARE(
+            box->styleSheet(), QStringLiteral("QCheckBox{color: rgb(10,20,%1);}").arg(time));
+        vectors->activateWindow(); // which is for a window manager to do
+        QVERIFY(QTest::qWaitForWindowActive(vectors));
+        QVERIFY(box->hasFocus());
     }
 }
 
