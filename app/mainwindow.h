@@ -122,7 +122,7 @@ private:
     bool unpack(QString &path); // path becomes that of the configuration file found
     bool loadRecording(const QString &path, const QString &asked); // false where it cannot be
     bool parse(const QString &path); // on the loader thread
-    void showInvalidPackage();
+    void showInvalidPackage(const QString &package);
     void showWarning(const QString &text, const QString &details = {});
     void clearView();
     void showRecording();

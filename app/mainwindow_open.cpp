@@ -97,6 +97,14 @@ QString failureText(const QString &asked, const QString &path, CFGProperties::Fa
     return lines.join(QLatin1Char('\n'));
 }
 
+// Below the text of a message; names of files may look like rich text.
+void setDetails(QMessageBox &box, const QString &details)
+{
+    box.setInformativeText(details);
+    for (QLabel *label : box.findChildren<QLabel *>())
+        label->setTextFormat(Qt::PlainText);
+}
+
 } // namespace
 
 void MainWindow::open()
@@ -234,10 +242,11 @@ void MainWindow::endZip(int /*exitcode*/)
     m_unpacker->end();
 }
 
-void MainWindow::showInvalidPackage()
+void MainWindow::showInvalidPackage(const QString &package)
 {
     auto *box = new QMessageBox(QMessageBox::Critical, tr("Error"),
         tr("The zip file is not valid.\nPlease select another file."), QMessageBox::Close, this);
+    setDetails(*box, package);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setModal(true);
     box->show();
@@ -248,11 +257,8 @@ void MainWindow::showWarning(const QString &text, const QString &details)
     const QPointer<QMessageBox> box
         = new QMessageBox(QMessageBox::Warning, tr("Application"), text, QMessageBox::Ok, this);
     box->setTextFormat(Qt::PlainText);
-    if (!details.isEmpty()) {
-        box->setInformativeText(details);
-        for (QLabel *label : box->findChildren<QLabel *>())
-            label->setTextFormat(Qt::PlainText);
-    }
+    if (!details.isEmpty())
+        setDetails(*box, details);
     box->exec();
     delete box; // unless the window has gone with it
 }

@@ -108,5 +108,9 @@ void OtherRecordings::addEntry(QMenu &menu, const QString &text, const QString &
     QAction *entry = menu.addAction(text);
     entry->setEnabled(!path.isEmpty());
     entry->setToolTip(plainToolTip(QDir::toNativeSeparators(path)));
-    connect(entry, &QAction::triggered, this, [this, path] { emit chosen(path); });
+    // A package that cannot be unpacked leaves what is on screen: the next one is behind it.
+    connect(entry, &QAction::triggered, this, [this, path] {
+        m_path = path;
+        emit chosen(path);
+    });
 }

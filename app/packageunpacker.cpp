@@ -101,6 +101,7 @@ void PackageUnpacker::start(const QString &package)
     m_isBusy = !package.isEmpty();
     if (!m_isBusy)
         return;
+    m_package = package;
     m_folder.renew();
     const QString plain = isMisread(package) ? m_folder.plainPath(package) : package;
     m_output.emplace(plain);
@@ -117,7 +118,7 @@ void PackageUnpacker::readOutput()
     if (!reaction.answer.isEmpty())
         m_process->write(reaction.answer);
     if (reaction.error)
-        emit packageInvalid();
+        emit packageInvalid(m_package);
 }
 
 void PackageUnpacker::end()

@@ -37,11 +37,12 @@ public:
     QString configuration() const;
 
 signals:
-    void packageInvalid(); // once at most for each package
+    void packageInvalid(const QString &package); // once at most for each
 
 private:
     ArchiverProcess *m_process;
     TemporaryFolder m_folder;
-    std::optional<ArchiverOutput> m_output; // of the latest package
+    QString m_package; // the latest
+    std::optional<ArchiverOutput> m_output; // of it
     bool m_isBusy = false;
 };

@@ -33,6 +33,7 @@ private slots:
 
     void throughAFolderAndBack();
     void pastAFileThatCannotBeLoaded();
+    void pastAPackageThatCannotBeUnpacked();
     void fromEveryPlot();
     void aPackageStandsInItsOwnFolder();
     void theLatestInTheMenu();
@@ -86,6 +87,15 @@ private:
         QFile file(path("bad.cfg"));
         file.open(QIODevice::WriteOnly);
         return file.fileName();
+    }
+    static QString installedArchiver()
+    {
+        QString archiver;
+        for (const char *name : {"7z", "7zz", "7za"}) {
+            if (archiver.isEmpty())
+                archiver = QStandardPaths::findExecutable(QLatin1String(name));
+        }
+        return archiver;
     }
     // As if the program had been ended.
     void startAnew()
@@ -155,6 +165,34 @@ void TestOtherRecordings::pastAFileThatCannotBeLoaded()
     QVERIFY(!recentRecordings().contains(bad));
 }
 
+// The recording before it stays on screen.
+void TestOtherRecordings::pastAPackageThatCannotBeUnpacked()
+{
+    if (installedArchiver().isEmpty())
+        QSKIP("no archiver is installed");
+    preferApplicationFolder();
+    goodRecording("r1");
+    goodRecording("r3");
+    QVERIFY(writeTextFile(path("r2.zip"), "no package"));
+    const auto isRefused = [this] {
+        const QList<BoxReader::Box> seen = boxes->take();
+        return seen.size() == 1 && seen.first().details == path("r2.zip");
+    };
+    window->open(path("r1.cfg"));
+    for (int twice = 0; twice < 2; ++twice) {
+        QVERIFY(choose(analog(), next));
+        QVERIFY(QTest::qWaitFor(isRefused));
+        QCOMPARE(title(), QStringLiteral("r1.cfg"));
+        QVERIFY(choose(analog(), next));
+        QVERIFY(comesToShow("r3.cfg"));
+        QVERIFY(choose(analog(), previous));
+        QVERIFY(QTest::qWaitFor(isRefused));
+        QVERIFY(choose(analog(), previous));
+        QVERIFY(comesToShow("r1.cfg"));
+    }
+    QVERIFY(!recentRecordings().contains(path("r2.zip")));
+}
+
 void TestOtherRecordings::fromEveryPlot()
 {
     goodRecording("a");
@@ -175,11 +213,7 @@ void TestOtherRecordings::fromEveryPlot()
 // What is unpacked lies in a folder that is nobody's business.
 void TestOtherRecordings::aPackageStandsInItsOwnFolder()
 {
-    QString archiver;
-    for (const char *name : {"7z", "7zz", "7za"}) {
-        if (archiver.isEmpty())
-            archiver = QStandardPaths::findExecutable(QLatin1String(name));
-    }
+    const QString archiver = installedArchiver();
     if (archiver.isEmpty())
         QSKIP("no archiver is installed");
     preferApplicationFolder();

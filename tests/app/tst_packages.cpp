@@ -87,6 +87,7 @@ class TestPackages : public WindowFixture {
         QCOMPARE(seen[0].title, QStringLiteral("Error"));
         QCOMPARE(seen[0].text,
             QStringLiteral("The zip file is not valid.\nPlease select another file."));
+        QVERIFY(seen[0].details.startsWith(folder->path()));
         QCOMPARE(seen[0].buttons, QMessageBox::Close);
         QVERIFY(seen[0].modal);
     }
