@@ -316,8 +316,7 @@ QString VectorWidget::tipAt(const QPoint &point) const
 void VectorWidget::contextMenuEvent(QContextMenuEvent *event)
 {
     const bool isByKey = event->reason() == QContextMenuEvent::Keyboard;
-    const QPointer<QCheckBox> checkBox
-        = qobject_cast<QCheckBox *>(isByKey ? focusWidget() : childAt(event->pos()));
+    auto *checkBox = qobject_cast<QCheckBox *>(isByKey ? focusWidget() : childAt(event->pos()));
     if (event->reason() == QContextMenuEvent::Mouse && checkBox) {
         event->ignore();
         return;
@@ -333,9 +332,9 @@ void VectorWidget::contextMenuEvent(QContextMenuEvent *event)
     measure->setEnabled(plotter && !channels.isEmpty());
     connect(measure, &QAction::triggered, this, [=] { emit measurementsWanted(channels); });
     if (checkBox) {
-        const auto choose = [=] {
-            if (checkBox)
-                chooseColor(checkBox);
+        const auto choose = [this, chosen = QPointer<QCheckBox>(checkBox)] {
+            if (chosen)
+                chooseColor(chosen);
         };
         // Once the menu is done, which would be deleted while the dialog is open.
         connect(menu->addAction(tr("Color...")), &QAction::triggered, this, choose,
