@@ -3,12 +3,14 @@
 
 #include "plotcolumn.h"
 
+#include <QScrollBar>
+
 bool PlotColumn::focusNextPrevChild(bool next)
 {
-    if (!QWidget::focusNextPrevChild(next))
-        return false;
-    QWidget *reached = focusWidget();
-    if (reached && reached != widget() && reached->hasFocus())
-        ensureWidgetVisible(reached);
-    return true;
+    const int place = verticalScrollBar()->value();
+    const bool isDone = QScrollArea::focusNextPrevChild(next);
+    const QWidget *reached = focusWidget();
+    if (isDone && reached && (reached == widget() || !reached->hasFocus()))
+        verticalScrollBar()->setValue(place);
+    return isDone;
 }

@@ -332,13 +332,10 @@ void VectorWidget::contextMenuEvent(QContextMenuEvent *event)
     measure->setEnabled(plotter && !channels.isEmpty());
     connect(measure, &QAction::triggered, this, [=] { emit measurementsWanted(channels); });
     if (checkBox) {
-        const auto choose = [this, chosen = QPointer<QCheckBox>(checkBox)] {
-            if (chosen)
-                chooseColor(chosen);
-        };
         // Once the menu is done, which would be deleted while the dialog is open.
-        connect(menu->addAction(tr("Color...")), &QAction::triggered, this, choose,
-            Qt::QueuedConnection);
+        connect(
+            menu->addAction(tr("Color...")), &QAction::triggered, checkBox,
+            [this, checkBox] { chooseColor(checkBox); }, Qt::QueuedConnection);
     }
     menu->popup(event->globalPos());
 }
