@@ -52,10 +52,13 @@ class TestReentrancy : public PlotsWindow {
             act();
     }
 
-    // Under a dialog a window can be closed, as by the end of the session, but not deleted.
+    // Under a dialog a window can be closed, as by the end of the session, but not deleted; that
+    // may be hidden already, while what was done in it is still at work.
     void leave()
     {
-        if (upTo(2) || QApplication::activeModalWidget())
+        const bool isAsking = QApplication::activeModalWidget()
+            || window->findChild<QFileDialog *>() || window->findChild<QMessageBox *>();
+        if (upTo(2) || isAsking)
             window->close();
         else
             window.reset();
