@@ -80,6 +80,16 @@ protected:
     // Composes a plot through the dialog; without channels, accepts an empty choice.
     void compose(
         const QStringList &channels, const QString &name = QString(), bool accepted = true);
+    // Of all plots; not a number where they are not in step.
+    QPair<double, double> times() const
+    {
+        QPair<double, double> shown(analog()->view().minX, analog()->view().maxX);
+        for (const Plotter *each : plots()) {
+            if (each->view().minX != shown.first || each->view().maxX != shown.second)
+                shown.first = qQNaN();
+        }
+        return shown;
+    }
     QListWidget *list(const char *name) const { return child<QListWidget>(name); }
     void click(QListWidget *widget, int row)
     {

@@ -288,8 +288,13 @@ private slots:
         });
         openLong(file);
         QVERIFY(isDone);
-        // At once, but later on a busy machine; the long one never comes.
-        QVERIFY2(sinceChosen.elapsed() < 20000, qPrintable(QString::number(sinceChosen.elapsed())));
+#ifdef Q_OS_WIN // under Wine, on a busy machine
+        constexpr int atOnce = 20000; // ms
+#else
+        constexpr int atOnce = 5000;
+#endif
+        QVERIFY2(
+            sinceChosen.elapsed() < atOnce, qPrintable(QString::number(sinceChosen.elapsed())));
         QVERIFY(boxes->take().isEmpty());
         QCOMPARE(titles, QStringList(QStringLiteral("Wavorin - chosen.cfg")));
         QVERIFY(window->recording());
