@@ -92,10 +92,13 @@ void noteChannelCounts(CFGProperties &recording)
         note(recording, Kind::ChannelCounts, recording.totalChannelCount, static_cast<double>(sum));
 }
 
-// Its three numbers; none where the text is no date.
+// Its three numbers; none where the text is no date, which is short.
 QVector<int> numbersOfDate(const QString &date)
 {
     constexpr int count = 3;
+    constexpr int mostLetters = 100;
+    if (date.size() > mostLetters)
+        return {};
     const QStringList fields = date.split(QLatin1Char('/'));
     QVector<int> numbers;
     for (int i = 0; i < count; ++i) {
@@ -214,8 +217,9 @@ void readConfiguration(QIODevice &device, CFGProperties &recording)
         const qint64 analog = recording.analogChannelCount;
         if (number <= analog + recording.digitalChannelCount + 2)
             names.add(number, text);
-        const int missing = fewestFields - 1 - text.count(QLatin1Char(','));
-        if (number >= 3 && number <= analog + 2 && missing > 0)
+        const bool isAnalog = number >= 3 && number <= analog + 2;
+        const int missing = isAnalog ? fewestFields - 1 - text.count(QLatin1Char(',')) : 0;
+        if (missing > 0)
             shortLines.add(number, -missing);
         recording.samplesPerCycle = roundedToInt(recording.sampleRate / recording.lineFrequency);
     }

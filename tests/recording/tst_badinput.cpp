@@ -197,6 +197,9 @@ void TestBadInput::oddFilesTakeAMomentAndLittleMemory_data()
 
     row("a configuration of one long line", QByteArray(4000000, 'x'), threeLines, 1, 80);
     row("a configuration of one line of commas", QByteArray(4000000, ','), threeLines, 1, 80);
+    row("a start of millions of parts",
+        QByteArray(text).replace("15/03/2024,", QByteArray("/a").repeated(4000000) + ','),
+        threeLines, 1, 150);
     row("a configuration of empty lines", QByteArray(200000, '\n'), threeLines, 1, 80);
     row("two hundred thousand lines of channels",
         "S,D,1999\n200000,200000A,0D\n" + QByteArray(200000, '\n'), threeLines, 1, 300);
