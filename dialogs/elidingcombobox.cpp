@@ -39,10 +39,10 @@ public:
     {
         if (role == Qt::UserRole)
             return QStringListModel::data(index, Qt::DisplayRole);
-        const QVariant value = QStringListModel::data(index, role);
         if (role != Qt::DisplayRole)
-            return value;
-        return m_areNames ? shownName(value.toString()) : cutText(value.toString());
+            return QStringListModel::data(index, role);
+        const QString text = QStringListModel::data(index, role).toString();
+        return m_areNames ? shownName(text) : cutText(text);
     }
 
 private:
