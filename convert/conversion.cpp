@@ -106,10 +106,7 @@ std::unique_ptr<RecordingOutput> Conversion::output(
 
 bool Conversion::isWanted(std::int64_t time) const
 {
-    constexpr double nanoseconds = 1e6; // of a millisecond
-    const auto exact = static_cast<double>(time);
-    return !(m_options.from && exact < *m_options.from * nanoseconds)
-        && !(m_options.to && exact > *m_options.to * nanoseconds);
+    return !(m_options.from && time < *m_options.from) && !(m_options.to && time > *m_options.to);
 }
 
 std::int64_t Conversion::write(const SampleBlock &block, RecordingOutput &output) const

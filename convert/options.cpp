@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cmath>
 
 namespace convert {
@@ -69,9 +70,9 @@ private:
         if (name == QLatin1String("-o"))
             m_options.output = value(name);
         else if (name == QLatin1String("--from"))
-            m_options.from = milliseconds(name);
+            m_options.from = nanoseconds(name);
         else if (name == QLatin1String("--to"))
-            m_options.to = milliseconds(name);
+            m_options.to = nanoseconds(name);
         else if (name == QLatin1String("--encoding"))
             m_options.encoding = encoding(value(name));
         else
@@ -112,13 +113,15 @@ private:
         return m_rest.takeFirst();
     }
 
-    double milliseconds(const QString &name)
+    // Of milliseconds; rounded, since most decimals are no doubles.
+    std::int64_t nanoseconds(const QString &name)
     {
         bool isNumber = false;
-        const double number = value(name).toDouble(&isNumber);
-        if (!isNumber || !std::isfinite(number))
+        const double milliseconds = value(name).toDouble(&isNumber);
+        if (!isNumber || !std::isfinite(milliseconds))
             throw BadUsage(name.toStdString() + " takes a number of milliseconds");
-        return number;
+        constexpr double beyondAllTimes = 9e18;
+        return std::llround(std::clamp(milliseconds * 1e6, -beyondAllTimes, beyondAllTimes));
     }
 
     static QTextCodec *encoding(const QString &name)

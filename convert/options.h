@@ -7,6 +7,7 @@
 
 #include <QStringList>
 
+#include <cstdint>
 #include <optional>
 #include <stdexcept>
 
@@ -25,8 +26,8 @@ struct Options {
     Format format = Format::Pair;
     bool mayReplace = false;
     std::optional<Side> side;
-    std::optional<double> from; // milliseconds of the recording's time, as is the end
-    std::optional<double> to;
+    std::optional<std::int64_t> from; // in nanoseconds of the recording's time, as is the end
+    std::optional<std::int64_t> to;
     QTextCodec *encoding = nullptr; // of the texts that are read, where it is named
     QStringList inputs; // patterns are resolved
     QString output; // file or folder, where it is named

@@ -52,6 +52,8 @@ private slots:
     void dataFileInOtherLetters();
     void parts_data();
     void parts();
+    void bordersOfAPart_data();
+    void bordersOfAPart();
     void partWithoutSamples();
     void partOfATableKeepsItsTimes();
     void sidesOfTheTransformers_data();
@@ -218,6 +220,42 @@ void TestConverterProgram::parts()
     QCOMPARE(m_folder->read("out.dat"), samples);
     QVERIFY(m_folder->read("out.cfg").contains(
         "\r\n15/03/2024," + start + "\r\n15/03/2024,10:00:00.001000\r\n"));
+}
+
+void TestConverterProgram::bordersOfAPart_data()
+{
+    QTest::addColumn<qint64>("stamp"); // in microseconds
+    QTest::addColumn<QString>("limit"); // the same in milliseconds
+    const auto row = [](const char *limit, qint64 stamp) {
+        QTest::newRow(limit) << stamp << QString::fromLatin1(limit);
+    };
+    row("1.001", 1001);
+    row("2.007", 2007);
+    row("4.1", 4100);
+    row("16.667", 16667);
+    row("-4.1", -4100);
+    row("0.1", 100);
+    row("123456789.123", 123456789123);
+}
+
+// A sample on the border belongs to the part, its neighbours on the other side do not.
+void TestConverterProgram::bordersOfAPart()
+{
+    QFETCH(qint64, stamp);
+    QFETCH(QString, limit);
+    m_folder->write("a.cfg", recording().configuration({1999, "ASCII"}));
+    QByteArray data;
+    for (int k = 1; k <= 3; ++k)
+        data += QByteArray::number(k) + ',' + QByteArray::number(stamp - 2 + k) + ','
+            + QByteArray::number(k) + ",0\n";
+    m_folder->write("a.dat", data);
+    const QString words = QStringLiteral(" --force @a.cfg -o @out");
+    m_folder->run(QStringLiteral("--from ") + limit + words);
+    QCOMPARE(m_folder->read("out.dat"), QByteArray("1,0,2,0\r\n2,1,3,0\r\n"));
+    m_folder->run(QStringLiteral("--to ") + limit + words);
+    QCOMPARE(m_folder->read("out.dat"), QByteArray("1,0,1,0\r\n2,1,2,0\r\n"));
+    m_folder->run(QStringLiteral("--from %1 --to %1").arg(limit) + words);
+    QCOMPARE(m_folder->read("out.dat"), QByteArray("1,0,2,0\r\n"));
 }
 
 void TestConverterProgram::partWithoutSamples()
