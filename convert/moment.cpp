@@ -93,13 +93,11 @@ std::string Moment::text() const
 {
     const Moment moment = plus(0);
     const auto seconds = static_cast<int>(moment.nanoseconds / second);
-    const auto fraction = static_cast<int>(moment.nanoseconds % second);
+    const auto microseconds = static_cast<int>(moment.nanoseconds % second / 1000);
     std::array<char, 64> letters{};
-    int size = std::snprintf(letters.data(), letters.size(), "%02d/%02d/%04d,%02d:%02d:%02d.%09d",
-        moment.date.day(), moment.date.month(), moment.date.year(), seconds / 3600,
-        seconds / 60 % 60, seconds % 60, fraction);
-    if (fraction % 1000 == 0)
-        size -= 3;
+    const int size = std::snprintf(letters.data(), letters.size(),
+        "%02d/%02d/%04d,%02d:%02d:%02d.%06d", moment.date.day(), moment.date.month(),
+        moment.date.year(), seconds / 3600, seconds / 60 % 60, seconds % 60, microseconds);
     return {letters.data(), static_cast<size_t>(size)};
 }
 

@@ -21,7 +21,7 @@ struct Moment {
     int decimals = 0; // of its seconds, as they were written
 
     Moment plus(std::int64_t duration) const; // in nanoseconds
-    // dd/mm/yyyy,hh:mm:ss.ssssss, with more decimals where these would lose something.
+    // dd/mm/yyyy,hh:mm:ss.ssssss, which leaves out parts of microseconds.
     std::string text() const;
 };
 
