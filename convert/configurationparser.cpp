@@ -21,18 +21,26 @@ bool isControl(char letter)
     return letter >= 0 && letter < ' ' && letter != '\t';
 }
 
-// A difference of time: "0", "-4", "+10h30".
+// The number of one or two digits.
+std::optional<std::int64_t> fromDigits(std::string_view text)
+{
+    const bool areDigits = text.find_first_not_of("0123456789") == std::string_view::npos;
+    return areDigits && text.size() <= 2 ? toInteger(text) : std::nullopt;
+}
+
+// A difference from world time, such as there are: "0", "-4", "+10h30".
 bool isTimeCode(std::string_view text)
 {
-    if (!text.empty() && (text.front() == '-' || text.front() == '+'))
+    const bool isBehind = !text.empty() && text.front() == '-';
+    if (isBehind || (!text.empty() && text.front() == '+'))
         text.remove_prefix(1);
-    const size_t hour = text.find('h');
-    const std::string_view hours = text.substr(0, hour);
-    const auto areDigits = [](std::string_view part) {
-        return (part.size() == 1 || part.size() == 2)
-            && part.find_first_not_of("0123456789") == std::string_view::npos;
-    };
-    return areDigits(hours) && (hour == std::string_view::npos || areDigits(text.substr(hour + 1)));
+    const size_t letter = text.find('h');
+    const std::optional<std::int64_t> hours = fromDigits(text.substr(0, letter));
+    const std::optional<std::int64_t> minutes = letter == std::string_view::npos
+        ? std::optional<std::int64_t>(0)
+        : fromDigits(text.substr(letter + 1));
+    const std::int64_t mostMinutes = (isBehind ? 12 : 14) * 60;
+    return hours && minutes && *minutes < 60 && *hours * 60 + *minutes <= mostMinutes;
 }
 
 } // namespace

@@ -83,7 +83,7 @@ Failure InputFile::failureOfFile(const std::string &what) const
 
 std::string InputFile::place() const
 {
-    return m_name + ':' + std::to_string(m_line) + ": ";
+    return m_name + ':' + std::to_string(std::max<std::int64_t>(m_line, 1)) + ": ";
 }
 
 // Adds what the file has next to the buffer, in which the rest moves to the front.

@@ -36,7 +36,7 @@ public:
     // What is wrong with the line that was read last, or with the file.
     Failure failureOfLine(const std::string &what) const;
     Failure failureOfFile(const std::string &what) const;
-    // "FILE:LINE: ", of the line that was read last.
+    // "FILE:LINE: ", of the line that was read last; of an empty file, its first line.
     std::string place() const;
 
 private:

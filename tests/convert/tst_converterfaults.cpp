@@ -81,6 +81,10 @@ private slots:
     void whatDoesNoHarmIsAWarning();
     void whatIsAllowed_data();
     void whatIsAllowed();
+    void timeCodes_data();
+    void timeCodes();
+    void oddNumbersAreTakenAsTheyAre_data();
+    void oddNumbersAreTakenAsTheyAre();
     void stampsFarApart();
 
 private:
@@ -185,6 +189,14 @@ void TestConverterFaults::configurationOfTheEnd_data()
     row("time multiplier 0", "ASCII\n1\n", "ASCII\n0\n",
         "r.cfg:14: the time multiplier is not above 0");
     row("time code without a number", "+2h30,x", "x,+2h30", "r.cfg:15: these are no time codes");
+    row("time code with other minutes", "+2h30,x", "99h99,x", "r.cfg:15: these are no time codes");
+    row("time code of 60 minutes", "+2h30,x", "+2h60,x", "r.cfg:15: these are no time codes");
+    row("time code beyond 14 hours", "+2h30,x", "14h01,x", "r.cfg:15: these are no time codes");
+    row("time code of 15 hours", "+2h30,x", "+15,x", "r.cfg:15: these are no time codes");
+    row("time code before 12 hours", "+2h30,x", "-12h01,x", "r.cfg:15: these are no time codes");
+    row("time code of three digits", "+2h30,x", "010,x", "r.cfg:15: these are no time codes");
+    row("time code without minutes", "+2h30,x", "2h,x", "r.cfg:15: these are no time codes");
+    row("local code that is none", "+2h30,x", "+2h30,-13", "r.cfg:15: these are no time codes");
     row("clock quality beyond F", "4,0", "G,0",
         "r.cfg:16: the clock quality is no digit from 0 to F: G");
     row("leap second 4", "4,0", "4,4",
@@ -201,7 +213,7 @@ void TestConverterFaults::configurationThatEnds_data()
         "clock quality"};
     for (int k = 0; k < whats.size(); ++k)
         QTest::addRow("after line %d", k) << k
-                                          << "r.cfg:" + QByteArray::number(k)
+                                          << "r.cfg:" + QByteArray::number(qMax(k, 1))
                 + ": the configuration ends before the line of the " + whats.at(k);
 }
 
@@ -319,7 +331,7 @@ void TestConverterFaults::singleFile_data()
     const QByteArray cfg = "--- file type: CFG ---\n" + configuration;
     const QByteArray binary = QByteArray(cfg).replace("ASCII", "BINARY");
     QTest::newRow("empty") << QByteArray()
-                           << QByteArray("r.cff:0: the file does not begin with the section CFG");
+                           << QByteArray("r.cff:1: the file does not begin with the section CFG");
     QTest::newRow("a configuration without headings")
         << configuration << QByteArray("r.cff:16: the file does not begin with the section CFG");
     QTest::newRow("data first") << QByteArray("--- file type: DAT ASCII ---\n"
@@ -409,6 +421,56 @@ void TestConverterFaults::whatIsAllowed()
     m_folder->write("r.dat", samples);
     QCOMPARE(m_folder->run(QStringLiteral("@r.cfg -o @out")).errors, QByteArray());
     QCOMPARE(m_folder->read("out.dat"), QByteArray(data).replace("\n", "\r\n"));
+}
+
+void TestConverterFaults::timeCodes_data()
+{
+    QTest::addColumn<QByteArray>("codes");
+    for (const char *codes :
+        {"0,0", "-12,+14", "-5h30,-5h30", "+10h30,x", "14h00,X", "-12h00,05h45"})
+        QTest::newRow(codes) << QByteArray(codes);
+}
+
+void TestConverterFaults::timeCodes()
+{
+    QFETCH(QByteArray, codes);
+    m_folder->write("r.cfg", QByteArray(configuration).replace("+2h30,x", codes));
+    m_folder->write("r.dat", data);
+    QCOMPARE(m_folder->run(QStringLiteral("@r.cfg -o @out")).errors, QByteArray());
+    QCOMPARE(m_folder->read("out.dat"), QByteArray(data).replace("\n", "\r\n"));
+}
+
+void TestConverterFaults::oddNumbersAreTakenAsTheyAre_data()
+{
+    QTest::addColumn<QByteArray>("search"); // in the configuration or in the data
+    QTest::addColumn<QByteArray>("replacement");
+    QTest::addColumn<QByteArray>("kept"); // line of the pair
+    const auto row = [](const char *name, const char *search, const char *replacement,
+                         const char *kept) {
+        QTest::newRow(name) << QByteArray(search) << QByteArray(replacement) << QByteArray(kept);
+    };
+    row("value of seven digits", ",3,4,", ",1234567,4,", "2,1000,1234567,4,0,1");
+    row("value with decimals", ",3,4,", ",1.5,4,", "2,1000,1.5,4,0,1");
+    row("six nines", ",3,4,", ",999999,4,", "2,1000,999999,4,0,1");
+    row("value beyond the channel's range", ",3,4,", ",-40000,4,", "2,1000,-40000,4,0,1");
+    row("least value above the greatest", "0.25,0,-32767,32767", "0.25,0,5,-5",
+        "1,IL1,A,Bay,A,0.5,0.25,0,5,-5,400,1,S");
+    row("channel number twice", "\n2,Start", "\n1,Start", "1,Start,,,1");
+    row("second 60 in the morning", "10:00:00.000000", "09:59:60.000000",
+        "15/03/2024,10:00:00.000000");
+}
+
+void TestConverterFaults::oddNumbersAreTakenAsTheyAre()
+{
+    QFETCH(QByteArray, search);
+    QFETCH(QByteArray, replacement);
+    QFETCH(QByteArray, kept);
+    QCOMPARE(configuration.count(search) + data.count(search), 1);
+    m_folder->write("r.cfg", QByteArray(configuration).replace(search, replacement));
+    m_folder->write("r.dat", QByteArray(data).replace(search, replacement));
+    QCOMPARE(m_folder->run(QStringLiteral("@r.cfg -o @out")).errors, QByteArray());
+    QCOMPARE(
+        (m_folder->read("out.cfg") + m_folder->read("out.dat")).split('\n').count(kept + '\r'), 1);
 }
 
 // The rate of the copy and the times of a part are differences of times.
