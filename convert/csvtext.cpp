@@ -6,6 +6,8 @@
 #include "fields.h"
 #include "numbertext.h"
 
+#include <cmath>
+
 namespace convert {
 
 namespace {
@@ -63,10 +65,9 @@ template <typename Value> char *CsvRows::writeValues(char *at, const Value *valu
     for (std::size_t k = 0; k < m_scales.size(); ++k) {
         const Scale &scale = m_scales[k];
         const Value x = values[k];
-        if (!isMissing(x)) {
-            at = scale.isNone ? writeNumber(at, x)
-                              : writeNumber(at, scale.a * static_cast<double>(x) + scale.b);
-        }
+        const double scaled = scale.a * static_cast<double>(x) + scale.b;
+        if (!isMissing(x) && std::isfinite(scaled))
+            at = scale.isNone ? writeNumber(at, x) : writeNumber(at, scaled);
         *at++ = ',';
     }
     return at;

@@ -107,6 +107,8 @@ private slots:
     void timesOfSamples();
     void ratesOfTheCopy_data();
     void ratesOfTheCopy();
+    void decimalsOfTheMoments();
+    void cellBeyondAllNumbers();
     void singleFiles_data();
     void singleFiles();
     void endMarkOfTheOldRevisions();
@@ -426,6 +428,45 @@ void TestConverterForms::ratesOfTheCopy()
         QVERIFY2(m_folder->read("out.cfg").contains(written + "15/03/2024"),
             m_folder->read("out.cfg").constData());
     }
+}
+
+// 1999 has six decimals.
+void TestConverterForms::decimalsOfTheMoments()
+{
+    PublishedRecording made;
+    made.rates = QByteArrayList{"1000,2"};
+    made.startTime = "09:59:59.998999999";
+    made.samples = {{0, {1}, "0"}, {1000000, {2}, "1"}};
+    QCOMPARE(convert(made, {2013, "BINARY"}).errors, QByteArray());
+    QVERIFY(m_folder->read("out.cfg").contains(
+        "\r\n15/03/2024,09:59:59.998999\r\n15/03/2024,10:00:00.001000\r\n"));
+    QVERIFY(faultsOfPair(
+        m_folder->read("out.cfg").toStdString(), m_folder->read("out.dat").toStdString())
+                .empty());
+    CFGProperties original;
+    original.filePath = m_folder->path(QStringLiteral("r.cfg"));
+    original.readConfgFile();
+    CFGProperties copy;
+    copy.filePath = m_folder->path(QStringLiteral("out.cfg"));
+    copy.readConfgFile();
+    for (const CFGProperties *read : {&original, &copy}) {
+        QCOMPARE(read->startTime, QStringLiteral("09:59:59.998"));
+        QCOMPARE(read->triggerOffsetMs, 3);
+    }
+    // A part that begins 1 ms later.
+    QCOMPARE(convert(made, {2013, "BINARY"}, QStringLiteral("--from 1")).errors, QByteArray());
+    QVERIFY(m_folder->read("out.cfg").contains("\r\n15/03/2024,09:59:59.999999\r\n"));
+}
+
+void TestConverterForms::cellBeyondAllNumbers()
+{
+    PublishedRecording made;
+    made.analog = QByteArrayList{"1,IL1,A,Bay,A,1e300,0.25,0,-32767,32767"};
+    made.rates = QByteArrayList{"1000,3"};
+    made.samples = {{0, {1e30}, "0"}, {1000, {-1e30}, "0"}, {2000, {0}, "0"}};
+    QCOMPARE(convert(made, {2013, "FLOAT32"}, QStringLiteral("--csv")).errors, QByteArray());
+    QCOMPARE(m_folder->read("out.csv"),
+        QByteArray("Time (ms),IL1 (A),Trip\r\n0,,0\r\n1,,0\r\n2,0.25,0\r\n"));
 }
 
 void TestConverterForms::singleFiles_data()
