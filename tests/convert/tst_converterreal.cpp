@@ -20,6 +20,56 @@ void read(CFGProperties &recording, const QString &path)
     recording.readDatFile();
 }
 
+bool has1991Layout(const CFGProperties &recording)
+{
+    return recording.revisionYear.isEmpty();
+}
+
+void requireSameNames(const CFGProperties &copy, const CFGProperties &original)
+{
+    QCOMPARE(copy.stationName, original.stationName);
+    // The viewer keeps the end of a line that ends with the device.
+    QCOMPARE(copy.recordingDeviceId, QString(original.recordingDeviceId).remove(QLatin1Char('\n')));
+    QCOMPARE(copy.analogIds, original.analogIds);
+    QCOMPARE(copy.analogPhases, original.analogPhases);
+    QCOMPARE(copy.analogCircuits, original.analogCircuits);
+    QCOMPARE(copy.analogUnits, original.analogUnits);
+    QCOMPARE(copy.digitalIndexes, original.digitalIndexes);
+    QCOMPARE(copy.digitalIds, original.digitalIds);
+    if (!has1991Layout(original)) {
+        QCOMPARE(copy.digitalPhases, original.digitalPhases);
+        QCOMPARE(copy.digitalCircuits, original.digitalCircuits);
+        QCOMPARE(copy.digitalNormalStates, original.digitalNormalStates);
+        return;
+    }
+    // In place of the phase there is the normal state, and nothing follows.
+    for (int j = 0; j < original.digitalIds.size(); ++j) {
+        QCOMPARE(copy.digitalPhases.at(j), QString());
+        QCOMPARE(copy.digitalCircuits.at(j), QString());
+        QCOMPARE(copy.digitalNormalStates.at(j), original.digitalPhases.at(j).trimmed());
+    }
+}
+
+void requireSameAnalogs(const CFGProperties &copy, const CFGProperties &original)
+{
+    QCOMPARE(copy.analogIndexes, original.analogIndexes);
+    QCOMPARE(copy.analogA, original.analogA);
+    QCOMPARE(copy.analogB, original.analogB);
+    QCOMPARE(copy.analogSkews, original.analogSkews);
+    QCOMPARE(copy.analogMins, original.analogMins);
+    QCOMPARE(copy.analogMaxs, original.analogMaxs);
+    QCOMPARE(copy.lineFrequency, original.lineFrequency);
+    const int channels = original.analogIds.size();
+    const bool hasRatios = !has1991Layout(original);
+    const QVector<double> ones(channels, 1);
+    QCOMPARE(copy.primaryValues.toVector(), hasRatios ? original.primaryValues.toVector() : ones);
+    QCOMPARE(
+        copy.secondaryValues.toVector(), hasRatios ? original.secondaryValues.toVector() : ones);
+    for (int k = 0; k < channels; ++k)
+        QCOMPARE(
+            copy.psFlags.at(k), hasRatios ? original.psFlags.at(k).toUpper() : QStringLiteral("P"));
+}
+
 } // namespace
 
 // Recordings of devices in service, which are not part of these sources: a copy means the same.
@@ -30,6 +80,8 @@ private slots:
     void initTestCase();
     void copyMeansTheSame_data();
     void copyMeansTheSame();
+    void copyHasTheSameMoments_data();
+    void copyHasTheSameMoments();
     void copyKeepsToTheLayout_data();
     void copyKeepsToTheLayout();
 };
@@ -60,11 +112,10 @@ void TestConverterReal::copyMeansTheSame()
     QVERIFY(original.sampleCount > 0);
     QCOMPARE(copy.sampleCount, original.sampleCount);
     QCOMPARE(copy.sampleTimes, original.sampleTimes);
-    QCOMPARE(copy.analogIds, original.analogIds);
-    QCOMPARE(copy.analogUnits, original.analogUnits);
-    QCOMPARE(copy.digitalIds, original.digitalIds);
     QCOMPARE(copy.triggerOffsetMs, original.triggerOffsetMs);
     QCOMPARE(copy.sampleRate, original.sampleRate);
+    requireSameNames(copy, original);
+    requireSameAnalogs(copy, original);
     for (int k = 0; k < original.analogChannels.size(); ++k) {
         const AnalogChannel &channel = *original.analogChannels.at(k);
         QVERIFY(copy.analogChannels.at(k)->rawValues == channel.rawValues);
@@ -80,6 +131,36 @@ void TestConverterReal::copyMeansTheSame()
         QVERIFY(
             bytesOf(folder.path(QStringLiteral("again/") + file)) == bytesOf(folder.path(file)));
     }
+}
+
+void TestConverterReal::copyHasTheSameMoments_data()
+{
+    QTest::addColumn<QByteArray>("start"); // of the copy
+    QTest::addColumn<QByteArray>("trigger");
+    const auto row = [](const char *name, const char *start, const char *trigger) {
+        QTest::newRow(name) << QByteArray(start) << QByteArray(trigger);
+    };
+    row("bay-cp1251-crlf", "05/08/2020,14:46:26.406000", "05/08/2020,14:46:26.906000");
+    row("line-110-digitals", "25/06/2022,21:46:07.483000", "25/06/2022,21:46:07.983000");
+    row("line-relay-gbk", "24/12/2012,17:30:48.384000", "24/12/2012,17:30:48.384000");
+    row("pq-monitor-1999", "11/07/2012,08:44:21.051022", "11/07/2012,08:44:21.051022");
+    row("simulator-40000", "09/10/2018,08:41:02.673000", "09/10/2018,08:41:03.073000");
+    row("small-2013-missing", "12/01/2011,05:55:30.075011", "12/01/2011,05:55:30.078261");
+    row("small-2013-utf8", "12/01/2011,05:55:30.750110", "12/01/2011,05:55:30.782610");
+    // These have the month first and years of two digits.
+    row("dfr-1991-gbk", "17/09/2015,10:52:52.987545", "17/09/2015,10:52:53.065045");
+    row("recorder-1991-cp866", "11/03/2013,15:19:07.000000", "11/03/2013,15:19:07.080000");
+}
+
+void TestConverterReal::copyHasTheSameMoments()
+{
+    QFETCH(QByteArray, start);
+    QFETCH(QByteArray, trigger);
+    const ConverterFolder folder;
+    const QString name = QLatin1String(QTest::currentDataTag()) + QLatin1String(".cfg");
+    QCOMPARE(folder.run(recordings + name + QStringLiteral(" -o @")).status, 0);
+    QVERIFY(bytesOf(folder.path(name))
+                .endsWith("\r\n" + start + "\r\n" + trigger + "\r\nASCII\r\n1\r\n"));
 }
 
 void TestConverterReal::copyKeepsToTheLayout_data()
