@@ -12,6 +12,7 @@
 #include <QtTest>
 
 #include <memory>
+#include <unistd.h>
 
 namespace {
 
@@ -72,11 +73,17 @@ private slots:
     void abandonedFileIsRemoved();
     void linkStaysALink();
     void inputBehindALinkIsNeverReplaced();
+    void inputIsALink();
+    void linkedFolder_data();
+    void linkedFolder();
+    void otherNameOfAnInputIsReplacedAlone();
     void folderThatIsNotThere();
     void folderInThePlaceOfAFile();
     void fullDiskLeavesOldFiles();
     void killedProcessLeavesOldFiles();
     void processTakesNamesInEveryLetter();
+    void documentedBatch_data();
+    void documentedBatch();
     void memoryDoesNotGrowWithTheSamples_data();
     void memoryDoesNotGrowWithTheSamples();
 };
@@ -154,6 +161,71 @@ void TestConverterFiles::inputBehindALinkIsNeverReplaced()
     QCOMPARE(m_folder->read("a.dat"), data);
 }
 
+void TestConverterFiles::inputIsALink()
+{
+    writeRecording(QStringLiteral("a"), recording(3));
+    const QByteArray configuration = m_folder->read("a.cfg");
+    const QByteArray data = m_folder->read("a.dat");
+    QVERIFY(QFile::link(path("a.cfg"), path("link.cfg")));
+    QVERIFY(QFile::link(path("a.dat"), path("link.dat")));
+    for (const char *words : {"--force @link.cfg", "--force @link.cfg -o @a"}) {
+        const auto outcome = m_folder->run(QString::fromLatin1(words));
+        QVERIFY2(outcome.errors.contains(".cfg: this would replace an input or another output"),
+            outcome.errors.constData());
+        QCOMPARE(outcome.status, 3);
+    }
+    QCOMPARE(m_folder->run(QStringLiteral("@link.cfg -o @out")).errors, QByteArray());
+    QCOMPARE(m_folder->read("out.dat"), QByteArray("1,0,0,1\r\n2,1000,1,1\r\n3,2000,2,1\r\n"));
+    QCOMPARE(m_folder->read("a.cfg"), configuration);
+    QCOMPARE(m_folder->read("a.dat"), data);
+    QVERIFY(QFileInfo(path("link.cfg")).isSymLink());
+    QVERIFY(QFileInfo(path("link.dat")).isSymLink());
+}
+
+void TestConverterFiles::linkedFolder_data()
+{
+    QTest::addColumn<QString>("words");
+    QTest::newRow("of the input") << QStringLiteral("--force @link/a.cfg -o @real");
+    QTest::newRow("of the output") << QStringLiteral("--force @real/a.cfg -o @link");
+    QTest::newRow("of both") << QStringLiteral("--force @link/a.cfg");
+    QTest::newRow("of a table by the name of the data")
+        << QStringLiteral("--force --csv @real/a.cfg -o @link/a.dat");
+}
+
+void TestConverterFiles::linkedFolder()
+{
+    QFETCH(QString, words);
+    QVERIFY(QDir(path("")).mkdir(QStringLiteral("real")));
+    writeRecording(QStringLiteral("real/a"), recording(3));
+    const QByteArray configuration = m_folder->read("real/a.cfg");
+    const QByteArray data = m_folder->read("real/a.dat");
+    QVERIFY(QFile::link(path("real"), path("link")));
+    const auto outcome = m_folder->run(words);
+    QVERIFY2(outcome.errors.contains(": this would replace an input or another output, see -o\n"),
+        outcome.errors.constData());
+    QCOMPARE(outcome.status, 3);
+    QCOMPARE(m_folder->read("real/a.cfg"), configuration);
+    QCOMPARE(m_folder->read("real/a.dat"), data);
+    QCOMPARE(QDir(path("real")).count(), 2U + 2U);
+}
+
+// A second name of the same file is another place: the file stays under its first name.
+void TestConverterFiles::otherNameOfAnInputIsReplacedAlone()
+{
+    writeRecording(QStringLiteral("a"), recording(3));
+    const QByteArray configuration = m_folder->read("a.cfg");
+    const QByteArray data = m_folder->read("a.dat");
+    QCOMPARE(::link(path("a.cfg").toUtf8().constData(), path("out.cfg").toUtf8().constData()), 0);
+    QCOMPARE(::link(path("a.dat").toUtf8().constData(), path("out.dat").toUtf8().constData()), 0);
+    const auto outcome = m_folder->run(QStringLiteral("--force @a.cfg -o @out"));
+    QCOMPARE(outcome.errors, QByteArray());
+    QCOMPARE(outcome.status, 0);
+    QCOMPARE(m_folder->read("out.dat"), QByteArray("1,0,0,1\r\n2,1000,1,1\r\n3,2000,2,1\r\n"));
+    QCOMPARE(m_folder->read("a.cfg"), configuration);
+    QCOMPARE(m_folder->read("a.dat"), data);
+    QCOMPARE(m_folder->names().size(), 4);
+}
+
 void TestConverterFiles::folderThatIsNotThere()
 {
     writeRecording(QStringLiteral("a"), recording(3));
@@ -228,6 +300,76 @@ void TestConverterFiles::processTakesNamesInEveryLetter()
     QCOMPARE(failing.readAllStandardError(),
         nonAscii.toUtf8() + ".cfg: this would replace an input or another output, see -o\n");
     QCOMPARE(failing.exitCode(), 3);
+}
+
+void TestConverterFiles::documentedBatch_data()
+{
+    QTest::addColumn<QByteArray>("pattern"); // of the names that the commands look for
+    QTest::addColumn<QByteArrayList>("inputs"); // b breaks the standard
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QByteArray>("errors");
+    QTest::addColumn<QByteArrayList>("outputs");
+    const QByteArrayList three{"archive/a", "archive/bay 1/b", "archive/bay 1/c"};
+    const QByteArray pairs = "'*.cff'";
+    const QByteArray tables = "'*.cfg'";
+    QTest::newRow("pairs of no file")
+        << pairs << QByteArrayList() << 0 << QByteArray() << QByteArrayList();
+    QTest::newRow("pairs") << pairs << QByteArrayList{"archive/a", "archive/bay 1/c"} << 0
+                           << QByteArray() << QByteArrayList{"converted/a.dat", "converted/c.dat"};
+    QTest::newRow("pairs, and a bad file")
+        << pairs << three << 123
+        << QByteArray("archive/bay 1/b.cff:1: the file does not begin with the section CFG\n")
+        << QByteArrayList{"converted/a.dat", "converted/c.dat"};
+    QTest::newRow("tables of no file")
+        << tables << QByteArrayList() << 0 << QByteArray() << QByteArrayList();
+    QTest::newRow("tables, and a bad file")
+        << tables << three << 123
+        << QByteArray("archive/bay 1/b.cfg:1: the first line is not station, device and, since "
+                      "1999, revision year\n")
+        << QByteArrayList{"archive/a.csv", "archive/bay 1/c.csv"};
+}
+
+// The commands are those of the manual.
+void TestConverterFiles::documentedBatch()
+{
+    QFETCH(QByteArray, pattern);
+    QFETCH(QByteArrayList, inputs);
+    QFETCH(int, status);
+    QFETCH(QByteArray, errors);
+    QFETCH(QByteArrayList, outputs);
+    QVERIFY(QDir(path("")).mkpath(QStringLiteral("archive/bay 1")));
+    for (const QByteArray &input : inputs) {
+        const bool isBad = input.endsWith('b');
+        const Form form{2013, "ASCII"};
+        m_folder->write(input + ".cff", isBad ? "nonsense" : recording(2).singleFile(form));
+        m_folder->write(input + ".cfg", isBad ? "nonsense" : recording(2).configuration(form));
+        m_folder->write(input + ".dat", recording(2).data(form));
+    }
+    QByteArray commands;
+    QByteArray block; // of indented lines
+    for (const QByteArray &line :
+        bytesOf(QStringLiteral(SOURCE_DIR "/docs/convert.md")).split('\n')) {
+        block = line.startsWith("    ") ? block + line.trimmed() + '\n' : QByteArray();
+        if (line.contains("xargs") && block.contains(pattern))
+            commands = block;
+    }
+    QVERIFY(!commands.isEmpty());
+    QProcess shell;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("PATH"),
+        QFileInfo(QStringLiteral(CONVERTER)).path() + QLatin1Char(':')
+            + environment.value(QStringLiteral("PATH")));
+    shell.setProcessEnvironment(environment);
+    shell.setWorkingDirectory(path(""));
+    shell.start(QStringLiteral("sh"), {QStringLiteral("-c"), QString::fromUtf8(commands)});
+    QVERIFY(shell.waitForFinished());
+    QCOMPARE(shell.readAllStandardError(), errors);
+    QCOMPARE(shell.exitCode(), status);
+    for (const QByteArray &output : outputs)
+        QVERIFY2(m_folder->read(output).contains(
+                     output.endsWith(".csv") ? "\n1,0.75,1\r\n" : "\n2,1000,1,1\r\n"),
+            output);
+    QVERIFY(!QFile::exists(path("converted/b.cfg")) && !QFile::exists(path("archive/bay 1/b.csv")));
 }
 
 void TestConverterFiles::memoryDoesNotGrowWithTheSamples_data()
