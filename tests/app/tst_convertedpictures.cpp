@@ -57,9 +57,12 @@ private slots:
         QTest::addColumn<bool>("isSingleFile");
         QTest::newRow("ASCII pair of 1991") << 1991 << QByteArray("ASCII") << false;
         QTest::newRow("BINARY pair of 1991") << 1991 << QByteArray("BINARY") << false;
+        QTest::newRow("ASCII pair of 1999") << 1999 << QByteArray("ASCII") << false;
         QTest::newRow("BINARY pair of 1999") << 1999 << QByteArray("BINARY") << false;
         QTest::newRow("BINARY32 pair of 2013") << 2013 << QByteArray("BINARY32") << false;
         QTest::newRow("single file of ASCII") << 2013 << QByteArray("ASCII") << true;
+        QTest::newRow("single file of BINARY") << 2013 << QByteArray("BINARY") << true;
+        QTest::newRow("single file of BINARY32") << 2013 << QByteArray("BINARY32") << true;
         QTest::newRow("single file of FLOAT32") << 2013 << QByteArray("FLOAT32") << true;
     }
 
