@@ -79,11 +79,11 @@ QString reasonText(CFGProperties::Failure failure)
     return QString();
 }
 
-// Binary data, a type word that is not at its place, and single files.
+// Binary data, a type word that is not at its place, and single files. Nobody has looked whether
+// the converter knows the type, or whether the file is whole.
 bool canBeConverted(const QString &path, CFGProperties::Failure failure)
 {
-    return failure == CFGProperties::Failure::NotAscii
-        || path.endsWith(QLatin1String(".cff"), Qt::CaseInsensitive);
+    return failure == CFGProperties::Failure::NotAscii || isSingleFile(path);
 }
 
 // What is said of a recording that is not supported, which may lie in the package that was asked
@@ -93,7 +93,7 @@ QString failureText(const QString &asked, const QString &path, CFGProperties::Fa
     const QString inPackage = QStringLiteral("%1 (%2)").arg(asked, QFileInfo(path).fileName());
     QStringList lines{asked == path ? path : inPackage, reasonText(failure)};
     if (canBeConverted(path, failure))
-        lines.append(MainWindow::tr("wavorin-convert turns it into a recording that opens."));
+        lines.append(MainWindow::tr("wavorin-convert may turn it into a recording that opens."));
     return lines.join(QLatin1Char('\n'));
 }
 
@@ -155,6 +155,8 @@ void MainWindow::load(QString path)
         if (!loadRecording(path, asked))
             return;
         m_otherRecordings->remember();
+    } else if (isSingleFile(path)) {
+        sayNotOpened(path);
     }
     setCurrentFile(path);
     statusBar()->showMessage(tr("File loaded"), messageDuration);

@@ -5,6 +5,7 @@
 
 #include "analogchannel.h"
 #include "cfgproperties.h"
+#include "filekind.h"
 #include "labeltext.h"
 #include "plothost.h"
 #include "plotsearch.h"
@@ -17,7 +18,7 @@
 
 namespace {
 
-constexpr int mostOfFile = 200; // pixels of its name
+constexpr int mostOfFile = 200; // pixels of the name of a file
 
 // Whether a channel recorded on a side, "P" or "S", shows other values there than the file's, as it
 // does once its ratings were set.
@@ -68,24 +69,40 @@ void StatusField::pointAt(const Plotter *plot, const QPoint &point)
 
 void StatusField::refresh()
 {
-    QStringList parts;
-    if (!m_file.isEmpty() && m_host.recording()) {
-        parts << fontMetrics().elidedText(m_file, Qt::ElideMiddle, mostOfFile) << sideText();
-        if (m_plot && !m_plot->sampleTimes().times().isEmpty())
-            parts << pointedText();
-    } else if (m_file.isEmpty() && !m_notOpened.isEmpty()) {
-        parts << tr("%1 was not opened: the name does not end with .cfg or .zip").arg(m_notOpened);
-    }
-    const QString shown = parts.join(QStringLiteral("  |  "));
+    setToolTip(plainToolTip(wholeText(QWIDGETSIZE_MAX)));
+    const QString shown = wholeText(mostOfFile);
     if (shown == text())
         return;
     setText(shown);
-    setToolTip(plainToolTip(shown));
     const int width = fontMetrics().horizontalAdvance(shown) + 2 * fontMetrics().averageCharWidth();
     if (width > m_widest) {
         m_widest = width;
         updateGeometry();
     }
+}
+
+QString StatusField::wholeText(int mostOfName) const
+{
+    const auto shortened = [&](const QString &name) {
+        return fontMetrics().elidedText(name, Qt::ElideMiddle, mostOfName);
+    };
+    QStringList parts;
+    if (!m_file.isEmpty() && m_host.recording()) {
+        parts << shortened(m_file) << sideText();
+        if (m_plot && !m_plot->sampleTimes().times().isEmpty())
+            parts << pointedText();
+    }
+    if (!m_notOpened.isEmpty())
+        parts << notOpenedText(shortened(m_notOpened));
+    return parts.join(QStringLiteral("  |  "));
+}
+
+QString StatusField::notOpenedText(const QString &name) const
+{
+    return (isSingleFile(m_notOpened)
+            ? tr("%1 was not opened: wavorin-convert turns .cff files into recordings that open")
+            : tr("%1 was not opened: the name does not end with .cfg or .zip"))
+        .arg(name);
 }
 
 QString StatusField::sideText() const

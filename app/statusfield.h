@@ -12,8 +12,8 @@ class PlotHost;
 class Plotter;
 
 // The field at the right of the status bar: the recording on screen, the side of its values, and
-// what stands under the pointer in which plot. Without a recording it is hidden, but for a note on
-// what was not opened.
+// what stands under the pointer in which plot; then a note on what was not opened. Without any of
+// these it is hidden.
 class StatusField : public ElidingLabel {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ public:
     void showFile(const QString &name);
     const QString &file() const { return m_file; }
     QString sideText() const; // of the values shown; there is a recording
-    // A path that was not opened at the start; said until a recording is shown.
+    // A path that was not opened; said until another recording is shown.
     void showNotOpened(const QString &path);
     // The pointer stands at a point of a plot, or, with null, over none.
     void pointAt(const Plotter *plot, const QPoint &point);
@@ -41,6 +41,8 @@ protected:
 
 private:
     QString pointedText() const;
+    QString notOpenedText(const QString &name) const;
+    QString wholeText(int mostOfName) const; // so many pixels of the names of files
 
     const PlotHost &m_host;
     QString m_file;

@@ -12,6 +12,7 @@ const QLatin1String package(".zip");
 const QLatin1String configuration(".cfg");
 const QLatin1String text(".txt");
 const QLatin1String data(".dat");
+const QLatin1String single(".cff");
 
 } // namespace
 
@@ -34,6 +35,11 @@ bool isRecording(const QString &path)
 bool isTextExport(const QString &path)
 {
     return path.endsWith(text);
+}
+
+bool isSingleFile(const QString &path)
+{
+    return path.endsWith(single, Qt::CaseInsensitive);
 }
 
 bool isPipeOrDevice(const QString &path)

@@ -21,6 +21,10 @@ bool isRecording(const QString &path);
 // letters.
 bool isTextExport(const QString &path);
 
+// All of a recording in one file, which the viewer does not read: the path ends with ".cff", in any
+// case.
+bool isSingleFile(const QString &path);
+
 // It is neither a file nor a folder. Reading it could wait for ever, or never end.
 bool isPipeOrDevice(const QString &path);
 

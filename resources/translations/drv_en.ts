@@ -545,8 +545,8 @@ Please select another file.</translation>
         <translation>There is too little memory for it.</translation>
     </message>
     <message>
-        <source>wavorin-convert turns it into a recording that opens.</source>
-        <translation>wavorin-convert turns it into a recording that opens.</translation>
+        <source>wavorin-convert may turn it into a recording that opens.</source>
+        <translation>wavorin-convert may turn it into a recording that opens.</translation>
     </message>
     <message>
         <source>Cop&amp;y Picture with Heading</source>
@@ -1738,6 +1738,10 @@ Do you want to replace it?</translation>
     <message>
         <source>%1 was not opened: the name does not end with .cfg or .zip</source>
         <translation>%1 was not opened: the name does not end with .cfg or .zip</translation>
+    </message>
+    <message>
+        <source>%1 was not opened: wavorin-convert turns .cff files into recordings that open</source>
+        <translation>%1 was not opened: wavorin-convert turns .cff files into recordings that open</translation>
     </message>
 </context>
 <context>

@@ -545,8 +545,8 @@ Valitse toinen tiedosto.</translation>
         <translation>Muisti ei riitä siihen.</translation>
     </message>
     <message>
-        <source>wavorin-convert turns it into a recording that opens.</source>
-        <translation>wavorin-convert muuntaa sen häiriötallenteeksi, joka avautuu.</translation>
+        <source>wavorin-convert may turn it into a recording that opens.</source>
+        <translation>wavorin-convert voi ehkä muuntaa sen häiriötallenteeksi, joka avautuu.</translation>
     </message>
     <message>
         <source>Cop&amp;y Picture with Heading</source>
@@ -1738,6 +1738,10 @@ Korvataanko se?</translation>
     <message>
         <source>%1 was not opened: the name does not end with .cfg or .zip</source>
         <translation>Tiedostoa %1 ei avattu: nimen lopussa ei ole .cfg eikä .zip</translation>
+    </message>
+    <message>
+        <source>%1 was not opened: wavorin-convert turns .cff files into recordings that open</source>
+        <translation>Tiedostoa %1 ei avattu: wavorin-convert muuntaa .cff-tiedostot häiriötallenteiksi, jotka avautuvat</translation>
     </message>
 </context>
 <context>

@@ -545,8 +545,8 @@ Please select another file.</source>
         <translation>内存不足，无法打开。</translation>
     </message>
     <message>
-        <source>wavorin-convert turns it into a recording that opens.</source>
-        <translation>wavorin-convert 可将其转换为能打开的故障录波。</translation>
+        <source>wavorin-convert may turn it into a recording that opens.</source>
+        <translation>wavorin-convert 或可将其转换为能打开的故障录波。</translation>
     </message>
     <message>
         <source>Cop&amp;y Picture with Heading</source>
@@ -1738,6 +1738,10 @@ Do you want to replace it?</source>
     <message>
         <source>%1 was not opened: the name does not end with .cfg or .zip</source>
         <translation>未打开 %1：文件名不以 .cfg 或 .zip 结尾</translation>
+    </message>
+    <message>
+        <source>%1 was not opened: wavorin-convert turns .cff files into recordings that open</source>
+        <translation>未打开 %1：wavorin-convert 可将 .cff 文件转换为能打开的故障录波</translation>
     </message>
 </context>
 <context>

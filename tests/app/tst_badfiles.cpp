@@ -104,7 +104,7 @@ private slots:
         const QString noFile = QStringLiteral("There is no data file (.dat) beside it.");
         const QString noSample = QStringLiteral("Its data file holds no sample.");
         const QString notAscii = QStringLiteral(
-            "Its data are not ASCII.\nwavorin-convert turns it into a recording that opens.");
+            "Its data are not ASCII.\nwavorin-convert may turn it into a recording that opens.");
         QTest::newRow("no data file") << smallConfiguration() << QByteArray() << noFile;
         QTest::newRow("empty configuration, empty data")
             << QByteArray("") << QByteArray("") << noSample;
@@ -165,7 +165,7 @@ private slots:
             QCOMPARE(seen[0].details,
                 single
                     + QStringLiteral("\nThere is no data file (.dat) beside it."
-                                     "\nwavorin-convert turns it into a recording that opens."));
+                                     "\nwavorin-convert may turn it into a recording that opens."));
         }
     }
 

@@ -1,9 +1,12 @@
 // SPDX-FileCopyrightText: 2026 Norvale
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "drops.h"
 #include "plotmenus.h"
 #include "plotswindow.h"
+#include "startup.h"
 
+#include <QFileDialog>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QStatusBar>
@@ -21,6 +24,11 @@ private slots:
     void nothingIsShownWithoutARecording();
     void whatWasNotOpenedIsSaidUntilARecordingIs();
     void whatWasNotOpenedIsSaidInTheLanguageOfTheWindow();
+    void aSingleFileIsForTheConverter_data();
+    void aSingleFileIsForTheConverter();
+    void aSingleFileIsForTheConverterInEachLanguage();
+    void aSingleFileBesideARecording();
+    void theTipTellsTheWholePath();
     void thePointerInAnAnalogPlot();
     void thePointerLeavesUnderAMenu();
     void thePointerOverARow_data();
@@ -106,6 +114,131 @@ void TestStatusField::whatWasNotOpenedIsSaidInTheLanguageOfTheWindow()
     QCoreApplication::processEvents();
     QCOMPARE(field()->text(),
         QStringLiteral("x.CFG was not opened: the name does not end with .cfg or .zip"));
+}
+
+void TestStatusField::aSingleFileIsForTheConverter_data()
+{
+    QTest::addColumn<QString>("way");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("by the dialog") << "dialog"
+                                   << "x.cff";
+    QTest::newRow("by the dialog, in capitals") << "dialog"
+                                                << "X.CFF";
+    QTest::newRow("dropped") << "drop"
+                             << "x.cff";
+    QTest::newRow("on the command line") << "start"
+                                         << "x.cff";
+}
+
+// As with other files that are no recordings, the bar says "File loaded", and nothing comes up.
+void TestStatusField::aSingleFileIsForTheConverter()
+{
+    QFETCH(QString, way);
+    QFETCH(QString, name);
+    BoxReader boxes;
+    const QString path = folder->filePath(name);
+    const QString said = path
+        + QLatin1String(
+            " was not opened: wavorin-convert turns .cff files into recordings that open");
+    QVERIFY(writeTextFile(path, "--- file type: CFG ---\r\n"));
+    for (int twice = 0; twice < 2; ++twice) {
+        if (way == QLatin1String("dialog")) {
+            QTimer::singleShot(0, window.get(), [&] {
+                auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+                QVERIFY(dialog);
+                dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(path);
+                QTest::keyClick(dialog, Qt::Key_Return);
+            });
+            trigger("&Open...");
+        } else if (way == QLatin1String("drop")) {
+            dropFile(*window, path);
+            QCoreApplication::processEvents();
+        } else {
+            openOrWait(*window, path);
+        }
+        QCOMPARE(boxes.count(), 0);
+        if (way != QLatin1String("start"))
+            QCOMPARE(window->statusBar()->currentMessage(), QStringLiteral("File loaded"));
+        QVERIFY(!window->recording());
+        QVERIFY(field()->isVisible());
+        QCOMPARE(field()->toolTip(), said);
+        QVERIFY2(
+            field()->text().endsWith(name + said.mid(path.size())), qPrintable(field()->text()));
+        openUsual();
+        QCOMPARE(field()->text(), QStringLiteral("recording.cfg  |  Primary"));
+        QCOMPARE(field()->toolTip(), field()->text());
+        QVERIFY(writeTextFile(folder->filePath(QStringLiteral("bad.cfg")), "x"));
+        window->open(folder->filePath(QStringLiteral("bad.cfg")));
+        QVERIFY(field()->isHidden());
+        QCOMPARE(boxes.take().size(), 1);
+        window->statusBar()->clearMessage();
+    }
+}
+
+void TestStatusField::aSingleFileIsForTheConverterInEachLanguage()
+{
+    window->sayNotOpened(QStringLiteral("x.cff"));
+    for (const char *text :
+        {"Suomi|Tiedostoa x.cff ei avattu: wavorin-convert muuntaa .cff-tiedostot "
+         "häiriötallenteiksi, jotka avautuvat",
+            "中文|未打开 x.cff：wavorin-convert 可将 .cff 文件转换为能打开的故障录波",
+            "English|x.cff was not opened: wavorin-convert turns .cff files into recordings that "
+            "open"}) {
+        const QStringList parts = QString::fromUtf8(text).split(QLatin1Char('|'));
+        for (QAction *each : window->findChildren<QAction *>()) {
+            if (each->text() == parts.at(0))
+                each->trigger();
+        }
+        QCoreApplication::processEvents();
+        QCOMPARE(field()->text(), parts.at(1));
+        QCOMPARE(field()->toolTip(), parts.at(1));
+    }
+}
+
+// What is pointed at has its place before it.
+void TestStatusField::aSingleFileBesideARecording()
+{
+    const BoxReader boxes;
+    const QString note = QStringLiteral(
+        "  |  x.cff was not opened: wavorin-convert turns .cff files into recordings that open");
+    QVERIFY(writeTextFile(folder->filePath(QStringLiteral("x.cff")), "--- file type: CFG ---\r\n"));
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(folder->path()));
+    openUsual();
+    for (int twice = 0; twice < 2; ++twice) {
+        window->open(QStringLiteral("x.cff"));
+        QVERIFY(window->recording()); // which stays
+        QCOMPARE(field()->text(), QStringLiteral("recording.cfg  |  Primary") + note);
+        point(analog(), {100, 150});
+        QCOMPARE(field()->text(),
+            QStringLiteral("recording.cfg  |  Primary  |  Analog: 0.000 ms  |  10:00:00.000000  |  "
+                           "from trigger: -50.000 ms")
+                + note);
+        QCOMPARE(field()->toolTip(), field()->text());
+        leave(analog());
+        QCOMPARE(field()->text(), QStringLiteral("recording.cfg  |  Primary") + note);
+        openUsual();
+        QCOMPARE(field()->text(), QStringLiteral("recording.cfg  |  Primary"));
+    }
+    QVERIFY(QDir::setCurrent(before));
+    QCOMPARE(boxes.count(), 0);
+}
+
+void TestStatusField::theTipTellsTheWholePath()
+{
+    const QString path
+        = QLatin1Char('/') + QString(120, QLatin1Char('n')) + QLatin1String("/x.cff");
+    const int width = window->width();
+    window->sayNotOpened(path);
+    QCoreApplication::processEvents();
+    QCOMPARE(window->width(), width);
+    const QString text = field()->text();
+    QVERIFY2(text.startsWith(QLatin1String("/nnn"))
+            && text.contains(QLatin1String("/x.cff was not")) && text.contains(QChar(0x2026)),
+        qPrintable(text));
+    QVERIFY(field()->width()
+        >= field()->fontMetrics().horizontalAdvance(text.section(QLatin1String(" turns"), 0, 0)));
+    QVERIFY(field()->toolTip().startsWith(path + QLatin1String(" was not opened: ")));
 }
 
 void TestStatusField::thePointerInAnAnalogPlot()

@@ -25,13 +25,14 @@ void TestFileKind::goesByThePath_data()
     QTest::addColumn<bool>("package");
     QTest::addColumn<bool>("recording");
     QTest::addColumn<bool>("textExport");
+    QTest::addColumn<bool>("singleFile");
     const auto row = [](const char *name, const char *path, const char *kinds) {
         const QByteArray answers(kinds);
         QTest::newRow(name) << QString::fromLatin1(path) << answers.contains('s')
                             << answers.contains('p') << answers.contains('r')
-                            << answers.contains('t');
+                            << answers.contains('t') << answers.contains('f');
     };
-    // s: opens at start, p: package, r: recording, t: text export
+    // s: opens at start, p: package, r: recording, t: text export, f: single file
     row("a package", "/rec/a.zip", "sp");
     row("a package in capitals", "/rec/A.ZIP", "p");
     row("a package in mixed letters", "/rec/A.Zip", "p");
@@ -50,6 +51,11 @@ void TestFileKind::goesByThePath_data()
     row("a text in a folder named like a configuration", "/rec.cfg/a.txt", "rt");
     row("a configuration named after a text", "/rec/a.txt.cfg", "sr");
     row("a data file", "/rec/a.dat", "");
+    row("a single file", "/rec/a.cff", "f");
+    row("a single file in capitals", "/rec/A.CFF", "f");
+    row("a single file in a folder named like a configuration", "/rec.cfg/a.cff", "rf");
+    row("the single file's ending in the middle", "/rec/a.cff.bak", "");
+    row("no point before the single file's ending", "/rec/acff", "");
     row("no point before the ending", "/rec/acfg", "");
     row("another ending", "/rec/a.pdf", "");
     row("the ending alone", ".cfg", "sr");
@@ -63,6 +69,7 @@ void TestFileKind::goesByThePath()
     QTEST(isPackage(path), "package");
     QTEST(isRecording(path), "recording");
     QTEST(isTextExport(path), "textExport");
+    QTEST(isSingleFile(path), "singleFile");
 }
 
 void TestFileKind::takesTheFirstRecordingOfSeveral_data()
