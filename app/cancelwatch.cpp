@@ -3,11 +3,14 @@
 
 #include "cancelwatch.h"
 
+#include "sidewindows.h"
+
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QSplashScreen>
 
-CancelWatch::CancelWatch(const QWidget &window) : m_window(window)
+CancelWatch::CancelWatch(const QWidget &window, const SideWindows &sideWindows)
+    : m_window(window), m_sideWindows(&sideWindows)
 {
     QCoreApplication::instance()->installEventFilter(this);
 }
@@ -20,15 +23,16 @@ bool CancelWatch::isCancelled() const
 bool CancelWatch::eventFilter(QObject *watched, QEvent *event)
 {
     const auto *widget = qobject_cast<QWidget *>(watched);
-    if (widget) {
-        const bool isSplash = qobject_cast<const QSplashScreen *>(widget);
-        const bool isClick = isSplash && event->type() == QEvent::MouseButtonPress;
-        const bool isEscape = (isSplash || widget->window() == &m_window)
-            && event->type() == QEvent::KeyPress
-            && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape;
-        m_isCancelled = m_isCancelled || isClick || isEscape;
-        if (isEscape)
-            emit escaped();
-    }
-    return QObject::eventFilter(watched, event);
+    if (!widget)
+        return QObject::eventFilter(watched, event);
+    const bool isSplash = qobject_cast<const QSplashScreen *>(widget);
+    const bool isBeside = m_sideWindows && m_sideWindows->has(widget->window());
+    const bool isClick = isSplash && event->type() == QEvent::MouseButtonPress;
+    const bool isEscape = (isSplash || isBeside || widget->window() == &m_window)
+        && event->type() == QEvent::KeyPress
+        && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape;
+    m_isCancelled = m_isCancelled || isClick || isEscape;
+    if (isEscape)
+        emit escaped();
+    return (isEscape && isBeside) || QObject::eventFilter(watched, event);
 }

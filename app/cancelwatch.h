@@ -4,16 +4,19 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 
 class QWidget;
+class SideWindows;
 
-// While it lives, notices when the user wants to wait no longer: presses Escape in the window or in
-// the splash, or clicks on the splash. Both get these events as ever.
+// While it lives, notices when the user wants to wait no longer: presses Escape in the window, in
+// one beside it or in the splash, or clicks on the splash. The windows beside it stay open, the
+// others get these events as ever.
 class CancelWatch : public QObject {
     Q_OBJECT
 
 public:
-    explicit CancelWatch(const QWidget &window);
+    CancelWatch(const QWidget &window, const SideWindows &sideWindows);
 
     bool isCancelled() const;
 
@@ -25,5 +28,6 @@ protected:
 
 private:
     const QWidget &m_window;
+    QPointer<const SideWindows> m_sideWindows; // they go with the window, perhaps meanwhile
     bool m_isCancelled = false;
 };

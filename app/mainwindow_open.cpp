@@ -165,7 +165,7 @@ void MainWindow::load(QString path)
 bool MainWindow::unpack(QString &path)
 {
     const QPointer<MainWindow> self(this);
-    const CancelWatch watch(*this);
+    const CancelWatch watch(*this, *m_sideWindows);
     m_unpacker->start(path);
     // The archiver may never end, or never start.
     const auto isGivenUp = [&] { return m_queuedPath || watch.isCancelled(); };
@@ -222,7 +222,7 @@ bool MainWindow::parse(const QString &path)
     });
     // A window that closes stops the thread, perhaps before the load has begun.
     connect(m_loaderThread, &QThread::finished, &loop, &QEventLoop::quit);
-    const CancelWatch watch(*this);
+    const CancelWatch watch(*this, *m_sideWindows);
     connect(&watch, &CancelWatch::escaped, m_loadingProgress, &LoadingProgress::giveUp);
     m_loadingProgress->start(m_cfgProperties->progress,
         isTextExport(path) ? LoadProgress::Stage::Reading : LoadProgress::Stage::Phasors);

@@ -64,6 +64,11 @@ void SideWindows::refresh()
         m_measurements->refresh();
 }
 
+bool SideWindows::has(const QWidget *window) const
+{
+    return window && (window == m_events || window == m_measurements || window == m_notes);
+}
+
 void SideWindows::showEvents()
 {
     if (!m_events) {

@@ -31,6 +31,7 @@ public:
     void addTo(QMenu &menu, Plotter &plot);
     // After a change of cursors, channels or values; cheap while no window shows them.
     void refresh();
+    bool has(const QWidget *window) const; // whether it is one of these
     // Before a plot is removed: its measurements become those of the plot given with the recording.
     void leave(const Plotter *plot);
     // Of analog channels (0-based), against a reference (-1 for none).

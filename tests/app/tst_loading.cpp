@@ -5,7 +5,9 @@
 #include "openhint.h"
 #include "openingfixture.h"
 #include "playedarchiver.h"
+#include "plotmenus.h"
 #include "plotter.h"
+#include "vectordialog.h"
 
 #include <QFileDialog>
 #include <QLineEdit>
@@ -13,6 +15,7 @@
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QRegularExpression>
+#include <QTableView>
 #include <QToolButton>
 
 #include <functional>
@@ -93,6 +96,31 @@ class TestLoading : public OpeningFixture {
             if (candidate->text() == name)
                 candidate->trigger();
         }
+    }
+
+    // A recording with a note is on screen.
+    void openNoted()
+    {
+        window->open(writeSmallRecording(folder->path(), QStringLiteral("before"),
+            smallConfiguration().replace(",1999\n", ",2013\n")));
+        QVERIFY(window->recording());
+        window->statusBar()->clearMessage();
+        titles.clear();
+    }
+    // A window beside it, from the menu of the plots.
+    QWidget *openBeside(const QString &entry) const
+    {
+        const bool isOpened = choose(window->findChild<Plotter *>(), entry)
+            && QTest::qWaitFor([this] { return QApplication::activeWindow() != window.get(); });
+        return isOpened ? QApplication::activeWindow() : nullptr;
+    }
+    static void giveKeys(QWidget *to)
+    {
+        to->activateWindow();
+        QVERIFY(QTest::qWaitFor([to] {
+            const QWidget *focus = QApplication::focusWidget();
+            return focus && focus->window() == to;
+        }));
     }
 
     // The window is as after a failed load, but for the message that there was none.
@@ -236,6 +264,109 @@ private slots:
                 isClosed = !menu->isVisible();
             });
             menu->popup(window->mapToGlobal(QPoint(50, 50)));
+        });
+        bool goesOn = false;
+        whenAt(QStringLiteral("Phasors"), [&] {
+            goesOn = true;
+            pressEscape();
+        });
+        openLong(longFile("phasors.cfg"));
+        QVERIFY(isClosed);
+        QVERIFY(goesOn);
+        expectNothingLoaded();
+    }
+
+    void escapeInAWindowBesideEndsTheLoad_data()
+    {
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<QString>("stage");
+        for (const char *entry : {"Events...", "Measurements...", "Notes..."}) {
+            for (const char *stage : {"Reading", "Phasors"})
+                QTest::addRow("%s, %s", entry, stage) << entry << stage;
+        }
+    }
+
+    // It stays open for the next recording; after the load the key closes it as ever.
+    void escapeInAWindowBesideEndsTheLoad()
+    {
+        QFETCH(QString, entry);
+        QFETCH(QString, stage);
+        openNoted();
+        const QPointer<QWidget> beside = openBeside(entry);
+        QVERIFY(beside);
+        for (int time = 0; time < 2; ++time) {
+            isDone = false;
+            giveKeys(beside);
+            whenAt(stage, [&] {
+                pressEscape();
+                pressEscape();
+            });
+            openLong(longAt(stage));
+            expectNothingLoaded();
+            QVERIFY(beside->isVisible());
+        }
+        giveKeys(beside);
+        pressEscape();
+        QVERIFY(!beside->isVisible());
+        expectNextFileOpens();
+    }
+
+    void escapeInAWindowBesideEndsTheUnpacking()
+    {
+        playArchiver("sleep 60000\n", searchPath);
+        QVERIFY(writeTextFile(path("some.zip"), "PK"));
+        openNoted();
+        const QPointer<QWidget> beside = openBeside(QStringLiteral("Notes..."));
+        QVERIFY(beside);
+        QTimer::singleShot(500, window.get(), [&] { pressEscape(); });
+        QTimer::singleShot(10000, window.get(), &QWidget::close); // fails instead of hanging
+        window->open(path("some.zip"));
+        QVERIFY(window->isVisible());
+        QVERIFY(window->recording()); // as before
+        QVERIFY(beside->isVisible());
+        QCOMPARE(beside->findChild<QTableView *>()->model()->rowCount(), 1);
+        QCOMPARE(titles, QStringList());
+        pressEscape();
+        QVERIFY(!beside->isVisible());
+        expectNextFileOpens();
+    }
+
+    void notesThatAreShownGoWithTheirRecording()
+    {
+        openNoted();
+        QWidget *notes = openBeside(QStringLiteral("Notes..."));
+        QVERIFY(notes);
+        const auto rows = [&] { return notes->findChild<QTableView *>()->model()->rowCount(); };
+        for (int time = 0; time < 2; ++time) {
+            QCOMPARE(rows(), 1);
+            QVERIFY(child<QToolButton>("noteSign")->isVisible());
+            isDone = false;
+            giveKeys(window.get());
+            whenAt(QStringLiteral("Reading"), [&] {
+                QCOMPARE(rows(), 0);
+                pressEscape();
+            });
+            openLong(longFile("reading.cfg"));
+            expectNothingLoaded();
+            QVERIFY(notes->isVisible());
+            QCOMPARE(rows(), 0);
+            QVERIFY(!child<QToolButton>("noteSign")->isVisible());
+            openNoted();
+        }
+        QCOMPARE(rows(), 1);
+    }
+
+    void escapeInTheDialogOfPhasorsClosesThatAlone()
+    {
+        trigger("&Show Vectors");
+        auto *dialog = window->findChild<VectorDialog *>();
+        QVERIFY(QTest::qWaitForWindowExposed(dialog));
+        giveKeys(dialog);
+        bool isClosed = false;
+        whenSeen(QStringLiteral("Reading"), 0, [&] {
+            pressEscape();
+            isClosed = !dialog->isVisible();
+            giveKeys(window.get());
         });
         bool goesOn = false;
         whenAt(QStringLiteral("Phasors"), [&] {
@@ -421,8 +552,21 @@ private slots:
         QVERIFY2(texts[1].startsWith(QLatin1String("Phasors: ")), qPrintable(texts[1]));
     }
 
+    void theTimeThatIsLeftIsSaid_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("stage");
+        QTest::newRow("an export") << "export.txt"
+                                   << "Reading: ";
+        QTest::newRow("a pair") << "phasors.cfg"
+                                << "Phasors: ";
+    }
+
+    // In the last stage alone.
     void theTimeThatIsLeftIsSaid()
     {
+        QFETCH(QString, name);
+        QFETCH(QString, stage);
         QString said;
         QTimer watch;
         connect(&watch, &QTimer::timeout, this, [&] {
@@ -431,10 +575,11 @@ private slots:
                 return;
             watch.stop();
             isDone = true;
+            QVERIFY2(bar()->text().startsWith(stage), qPrintable(bar()->text()));
             pressEscape();
         });
         watch.start(20);
-        openLong(longFile("export.txt"));
+        openLong(longFiles->filePath(name));
         expectNothingLoaded();
         QVERIFY2(QRegularExpression(QStringLiteral("^about [1-9]\\d* (s|min) left$"))
                      .match(said)
