@@ -80,8 +80,8 @@ bool OtherRecordings::eventFilter(QObject *watched, QEvent *event)
 void OtherRecordings::addTo(QMenu &menu)
 {
     const Neighbours beside = neighboursOf(m_path);
-    addEntry(menu, tr("Open &Next in Folder"), beside.next);
-    addEntry(menu, tr("Open &Previous in Folder"), beside.previous);
+    addStep(menu, tr("Open &Next in Folder"), beside.next);
+    addStep(menu, tr("Open &Previous in Folder"), beside.previous);
     QMenu *latest = menu.addMenu(tr("&Recent Recordings"));
     latest->setToolTipsVisible(true);
     latest->setEnabled(!recentRecordings().isEmpty());
@@ -108,9 +108,13 @@ void OtherRecordings::addEntry(QMenu &menu, const QString &text, const QString &
     QAction *entry = menu.addAction(text);
     entry->setEnabled(!path.isEmpty());
     entry->setToolTip(plainToolTip(QDir::toNativeSeparators(path)));
-    // A package that cannot be unpacked leaves what is on screen: the next one is behind it.
-    connect(entry, &QAction::triggered, this, [this, path] {
-        m_path = path;
-        emit chosen(path);
-    });
+    connect(entry, &QAction::triggered, this, [this, path] { emit chosen(path); });
+}
+
+// One beside may leave what is on screen, as a package does that cannot be unpacked: the next one
+// is behind it.
+void OtherRecordings::addStep(QMenu &menu, const QString &text, const QString &path)
+{
+    addEntry(menu, text, path);
+    connect(menu.actions().constLast(), &QAction::triggered, this, [this, path] { m_path = path; });
 }

@@ -34,6 +34,7 @@ protected:
 
 private:
     void addEntry(QMenu &menu, const QString &text, const QString &path);
+    void addStep(QMenu &menu, const QString &text, const QString &path);
     void addLatest(QMenu &menu);
 
     OpenHint *m_hint;

@@ -34,6 +34,8 @@ private slots:
     void throughAFolderAndBack();
     void pastAFileThatCannotBeLoaded();
     void pastAPackageThatCannotBeUnpacked();
+    void aChoiceThatFailsLeavesTheWalk_data();
+    void aChoiceThatFailsLeavesTheWalk();
     void fromEveryPlot();
     void aPackageStandsInItsOwnFolder();
     void theLatestInTheMenu();
@@ -191,6 +193,50 @@ void TestOtherRecordings::pastAPackageThatCannotBeUnpacked()
         QVERIFY(comesToShow("r1.cfg"));
     }
     QVERIFY(!recentRecordings().contains(path("r2.zip")));
+}
+
+void TestOtherRecordings::aChoiceThatFailsLeavesTheWalk_data()
+{
+    QTest::addColumn<QString>("chosen");
+    QTest::newRow("a recording that vanished") << "sub/r8.cfg";
+    QTest::newRow("a package that vanished") << "sub/r8.zip";
+    QTest::newRow("a package that cannot be unpacked") << "sub/r8.bad.zip";
+}
+
+// Of the latest, from another folder. What is on screen stays, and the next is the one beside that.
+void TestOtherRecordings::aChoiceThatFailsLeavesTheWalk()
+{
+    QFETCH(QString, chosen);
+    const bool vanishes = !chosen.contains(QLatin1String("bad"));
+    if (!vanishes && installedArchiver().isEmpty())
+        QSKIP("no archiver is installed");
+    preferApplicationFolder();
+    for (const char *name : {"r1", "r2", "r3"})
+        goodRecording(name);
+    QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("sub")));
+    goodRecording("sub/r7");
+    goodRecording("sub/r9");
+    for (int twice = 0; twice < 2; ++twice) {
+        window->open(path("r2.cfg"));
+        QVERIFY(writeTextFile(folder->filePath(chosen), "no package"));
+        rememberRecording(folder->filePath(chosen));
+        const QPointer<QMenu> menu = contextMenuAt(analog(), {300, 100});
+        QTest::keyClick(menu, Qt::Key_R);
+        if (vanishes) // while the menu is open
+            QVERIFY(QFile::remove(folder->filePath(chosen)));
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_1);
+        QVERIFY(QTest::qWaitFor([this] { return boxes->take().size() == 1; }));
+        QTest::qWait(20);
+        QCOMPARE(title(), QStringLiteral("r2.cfg"));
+        QVERIFY(offers(analog(), previous));
+        QVERIFY(choose(analog(), next));
+        QVERIFY(comesToShow("r3.cfg"));
+        QVERIFY(!offers(analog(), next));
+        QVERIFY(choose(analog(), previous));
+        QVERIFY(comesToShow("r2.cfg"));
+        QVERIFY(choose(analog(), previous));
+        QVERIFY(comesToShow("r1.cfg"));
+    }
 }
 
 void TestOtherRecordings::fromEveryPlot()
