@@ -40,7 +40,7 @@ QJsonValue remembered(const QString &key)
 void remember(const QString &key, const QJsonValue &value)
 {
     const QString path = memoryFilePath();
-    if (isPipeOrDevice(path))
+    if (isPipeOrDevice(path) || (QFile::exists(path) && !QFile(path).open(QIODevice::ReadOnly)))
         return;
     QJsonObject kept = contents();
     kept.insert(key, value);

@@ -16,5 +16,6 @@ QString memoryFilePath();
 // than a megabyte or is not what was written counts as empty.
 QJsonValue remembered(const QString &key);
 
-// Replaces the file as a whole; where that cannot be, all stays as it was, in silence.
+// Replaces the file as a whole; where that cannot be, all stays as it was, in silence. So it does
+// where a file is there that cannot be opened, for what else it keeps would be lost.
 void remember(const QString &key, const QJsonValue &value);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "memoryfile.h"
+#include "ordinaryuser.h"
 #include "windowtest.h"
 
 #include <QJsonArray>
@@ -38,6 +39,8 @@ private slots:
     void keepsWhatIsUnderOtherKeys();
     void badFilesAreEmpty_data();
     void badFilesAreEmpty();
+    void aFileThatCannotBeReadStays();
+    void severalAtOnce();
     void noFileThatCannotBeWritten();
     void noFolderThatCannotBeMade();
     void noPipe();
@@ -89,6 +92,46 @@ void TestMemoryFile::badFilesAreEmpty()
     QVERIFY(remembered(key).isUndefined());
     QCOMPARE(remembered(other).toInt(), 2);
     QVERIFY(contents().size() < 100);
+}
+
+// What it keeps may be of use again.
+void TestMemoryFile::aFileThatCannotBeReadStays()
+{
+#ifdef Q_OS_UNIX
+    remember(key, 1);
+    const QByteArray before = contents();
+    QFile file(memoryFilePath());
+    QVERIFY(QFile::setPermissions(
+        QFileInfo(file).path(), QFile::Permissions(0x7777))); // so that it could be replaced
+    QVERIFY(file.setPermissions(QFile::WriteOwner));
+    {
+        const OrdinaryUser user;
+        if (!QFile::exists(file.fileName()))
+            QSKIP("The folder of this test is out of another user's reach.");
+        QVERIFY(!QFile(file.fileName()).open(QIODevice::ReadOnly));
+        QVERIFY(remembered(key).isUndefined());
+        remember(other, 2);
+        QVERIFY(remembered(other).isUndefined());
+    }
+    QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+    QCOMPARE(contents(), before);
+    remember(other, 2);
+    QCOMPARE(remembered(key).toInt(), 1);
+    QCOMPARE(remembered(other).toInt(), 2);
+#else
+    QSKIP("A file that others may not read is not made this way here.");
+#endif
+}
+
+// Two instances take turns: each changes what is under its key alone.
+void TestMemoryFile::severalAtOnce()
+{
+    remember(key, 1);
+    write(R"({"key": 1, "other": 2, "third": 3})"); // by another one
+    remember(key, 4);
+    QCOMPARE(remembered(key).toInt(), 4);
+    QCOMPARE(remembered(other).toInt(), 2);
+    QCOMPARE(remembered(QStringLiteral("third")).toInt(), 3);
 }
 
 void TestMemoryFile::noFileThatCannotBeWritten()
