@@ -41,6 +41,8 @@ private slots:
     void everywhereAtOnce();
     void throughAllAndBack_data() { addLetters(); }
     void throughAllAndBack();
+    void notesOfChannels_data() { addLetters(); }
+    void notesOfChannels();
     void nothingElse_data() { addLetters(); }
     void nothingElse();
     void channelsAreFound_data() { addLetters(); }
@@ -173,6 +175,7 @@ void TestNameLetters::showAllWindows()
     analog()->addCursorAt(25);
     QVERIFY(choose(analog(), QStringLiteral("Events...")));
     QVERIFY(choose(analog(), QStringLiteral("Measurements...")));
+    QVERIFY(choose(analog(), QStringLiteral("Notes...")));
     QVERIFY(choose(analog(), QStringLiteral("Plots by Unit")));
     trigger("&Show Vectors");
     for (QAbstractButton *box : window->findChild<VectorDialog *>()->findChildren<QCheckBox *>())
@@ -255,6 +258,43 @@ void TestNameLetters::throughAllAndBack()
         QCOMPARE(shownTexts(), before);
         QCOMPARE(picture(analog()), analogBefore);
         QCOMPARE(picture(digital()), digitalBefore);
+    }
+}
+
+// While they are shown, and as they are shown again.
+void TestNameLetters::notesOfChannels()
+{
+    QFETCH(QByteArray, hex);
+    QFETCH(QString, texts);
+    const QByteArray read = QByteArray::fromHex(hex).split('|').at(3);
+    const QString meant = texts.split(QLatin1Char('|')).at(3);
+    ConfigurationText text;
+    text.addAnalog("Ia,A,line,A,1,0,0,-99,99,400,5,P");
+    text.addAnalog(read + ",A,line,A,1,0,0,-99,99,400,5,P");
+    text.rates = QByteArrayList{"1000,2"};
+    window->open(writePair(
+        folder->filePath(QStringLiteral("noted")), text.text(), "1,0,5,7\n2,1000,6,99999\n"));
+    QVERIFY(window->recording());
+    const auto notes = [this] {
+        const auto *table = child<QDialog>("NotesDialog")->findChild<QTableView *>();
+        QStringList shown;
+        for (int row = 0; row < table->model()->rowCount(); ++row)
+            shown.append(table->model()->index(row, 0).data().toString());
+        return shown.filter(QStringLiteral("marks of missing values"));
+    };
+    const QString rest = QStringLiteral(": marks of missing values, read as numbers");
+    const QStringList asItIsRead(QString::fromLatin1(read) + rest);
+    const QStringList asItIsMeant(meant + rest);
+    for (int twice = 0; twice < 2; ++twice) {
+        QVERIFY(choose(analog(), QStringLiteral("Notes...")));
+        QCOMPARE(notes(), asItIsRead);
+        chooseLetters(QLatin1String(QTest::currentDataTag()));
+        QCOMPARE(notes(), asItIsMeant);
+        child<QDialog>("NotesDialog")->close();
+        QVERIFY(choose(analog(), QStringLiteral("Notes...")));
+        QCOMPARE(notes(), asItIsMeant);
+        chooseLetters(asRead);
+        QCOMPARE(notes(), asItIsRead);
     }
 }
 

@@ -4,6 +4,7 @@
 #include "notesdialog.h"
 #include "plotmenus.h"
 #include "plotswindow.h"
+#include "samplebudget.h"
 
 #include <QClipboard>
 #include <QLabel>
@@ -263,6 +264,7 @@ void TestNotes::lettersAreOffered()
 
 void TestNotes::textsOfNotes_data()
 {
+    QTest::addColumn<QByteArray>("counts");
     QTest::addColumn<QByteArrayList>("rates");
     QTest::addColumn<QByteArrayList>("stamps"); // of start and trigger
     QTest::addColumn<QByteArray>("fileType");
@@ -271,9 +273,10 @@ void TestNotes::textsOfNotes_data()
     const auto row = [](const char *name, const QByteArray &data, const QStringList &texts,
                          const QByteArrayList &rates = {"1000,3"},
                          const QByteArray &trigger = "15/03/2024,10:00:00.001000",
-                         const QByteArray &fileType = "ASCII") {
-        QTest::newRow(name) << rates << QByteArrayList{"15/03/2024,10:00:00.000000", trigger}
-                            << fileType << data << texts;
+                         const QByteArray &fileType = "ASCII", const QByteArray &counts = {}) {
+        QTest::newRow(name) << counts << rates
+                            << QByteArrayList{"15/03/2024,10:00:00.000000", trigger} << fileType
+                            << data << texts;
     };
     const auto text
         = [](const char *texts) { return QString::fromUtf8(texts).split(QLatin1Char('|')); };
@@ -293,6 +296,15 @@ void TestNotes::textsOfNotes_data()
         {"1000,3"}, "16/03/2024,10:00:00.001000");
     row("type", whole, text("Data of type BINARY, read as ASCII; Configuration; 9; "), {"1000,3"},
         "15/03/2024,10:00:00.001000", "BINARY");
+    // Of three channels, the rates stand two lines further on, and each sample has two states.
+    row("counts", "1,0,5,0,1\n2,1000,6,0,1\n3,2000,7,0,1\n",
+        text("The total of 3 channels is not the sum of analog and digital ones, 1; "
+             "Configuration; 2; "),
+        {"1000,3\n1000,3\n1000,3"}, "15/03/2024,10:00:00.001000", "ASCII", "3,1A,0D");
+    row("a line too long", "1,0,5\n2,1000,6\n3,2000," + QByteArray(mostLineBytes, '7') + '\n',
+        text("Too long a line, or too many samples for the file: not read from here on; "
+             "Data; 3; |"
+             "Fewer samples than the last rate line promises: 2 of 3; Configuration; 6; "));
     row("fewer and ended", "1,0,5\n2,1000,6\n\n3,2000,7\n",
         text("A blank or short line ended the reading before the end of the file; Data; 3; |"
              "Fewer samples than the last rate line promises: 2 of 3; Configuration; 6; "));
@@ -312,6 +324,7 @@ void TestNotes::textsOfNotes_data()
 
 void TestNotes::textsOfNotes()
 {
+    QFETCH(QByteArray, counts);
     QFETCH(QByteArrayList, rates);
     QFETCH(QByteArrayList, stamps);
     QFETCH(QByteArray, fileType);
@@ -319,6 +332,7 @@ void TestNotes::textsOfNotes()
     QFETCH(QStringList, texts);
     ConfigurationText text;
     text.addAnalog("Ia,A,line,A,1,0,0,-99,99,400,5,P");
+    text.counts = counts;
     text.rates = rates;
     text.start = stamps.at(0);
     text.trigger = stamps.at(1);
