@@ -57,7 +57,7 @@ void putAwayLeftovers(const QString &base)
         const auto lock = lockBeside(folder);
         if (lock->tryLock()) { // its instance has died
             putAway(folder, Entries::All);
-            QFile::remove(folder + linkEnding);
+            removeRecursively(folder + linkEnding);
         }
     }
     const QStringList aside
@@ -95,16 +95,18 @@ void TemporaryFolder::remove()
     if (!m_isOwn)
         return;
     putAway(m_path, Entries::Visible);
-    QFile::remove(m_path + linkEnding);
+    removeRecursively(m_path + linkEnding);
     m_lock.reset();
     m_isOwn = false;
 }
 
-// A link would be followed to the file by what is unpacked, if it lay in the folder.
+// A link would be followed to the file by what is unpacked, if it lay in the folder. A copy is
+// write-protected where the file is.
 QString TemporaryFolder::plainPath(const QString &file)
 {
     QString path = m_path + linkEnding;
     const QString absolute = QFileInfo(file).absoluteFilePath();
+    removeRecursively(path); // or what lies there would be taken for the file
 #ifdef Q_OS_WIN
     QFile::copy(absolute, path); // a link needs rights of its own
 #else

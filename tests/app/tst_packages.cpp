@@ -404,6 +404,55 @@ private slots:
         QVERIFY(QFile::exists(path("outside/precious")));
     }
 
+    void nextAfterAWriteProtectedOne_data()
+    {
+        QTest::addColumn<bool>("entries");
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("second");
+        QTest::newRow("its entries are protected") << true << "one.zip"
+                                                   << "two.zip";
+        QTest::newRow("itself, named like an option") << false << "-one.zip"
+                                                      << "-two.zip";
+    }
+
+    // Windows removes and overwrites nothing that is protected; on other systems this says little.
+    void nextAfterAWriteProtectedOne()
+    {
+        QFETCH(bool, entries);
+        QFETCH(QString, first);
+        QFETCH(QString, second);
+        if (realArchiver.isEmpty())
+            QSKIP("no archiver is installed");
+        const QString before = QDir::currentPath();
+        const auto back = qScopeGuard([&] { QDir::setCurrent(before); });
+        QVERIFY(QDir::setCurrent(folder->path()));
+        for (const QString &name : {first, second}) {
+            const QString recording
+                = QFileInfo(name.mid(name.indexOf(QLatin1Char('-')) + 1)).baseName();
+            const QString configuration = writeSmallRecording(path("in"), recording);
+            QString protectedFile = configuration;
+            if (entries)
+                QVERIFY(QFile::setPermissions(protectedFile, QFile::ReadOwner));
+            QCOMPARE(package(qPrintable(name)), path(qPrintable(name)));
+            if (!entries) {
+                protectedFile = path(qPrintable(name));
+                QVERIFY(QFile::setPermissions(protectedFile, QFile::ReadOwner));
+            }
+            window->open(name);
+            QCOMPARE(window->windowTitle(),
+                QLatin1String("Wavorin - ") + recording + QLatin1String(".cfg"));
+            QVERIFY(boxes->take().isEmpty());
+            QVERIFY(QFile::setPermissions(protectedFile, QFile::ReadOwner | QFile::WriteOwner));
+            removeRecursively(path("in"));
+            QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("in")));
+        }
+        window->close();
+        QThreadPool::globalInstance()->waitForDone();
+        const QDir parent = QFileInfo(unpackingFolder(1)).dir();
+        QCOMPARE(parent.entryList({QStringLiteral("files*")}).join(QLatin1Char(' ')),
+            QStringLiteral("files")); // the base, of no instance
+    }
+
     void noArchiverInstalled()
     {
 #ifdef Q_OS_WIN

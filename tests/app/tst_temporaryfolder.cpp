@@ -71,6 +71,7 @@ private slots:
     void removalsCutShortAreFinished();
     void plainPathLeadsToTheFile_data();
     void plainPathLeadsToTheFile();
+    void writeProtectedPlainPathsGo();
     void onlyOwnFoldersAreRemoved();
     void lostParentIsMadeAgain();
     void whereNoFolderCanBeMade();
@@ -407,6 +408,32 @@ void TestTemporaryFolder::plainPathLeadsToTheFile()
     folder.remove();
     QCOMPARE(left().join(QLatin1Char(' ')), QStringLiteral("in"));
     QVERIFY(QFileInfo(file).isFile());
+}
+
+// On Windows they are copies, protected like the file; on other systems links, which any protection
+// of the file lets go.
+void TestTemporaryFolder::writeProtectedPlainPathsGo()
+{
+    QVERIFY(QDir().mkdir(path(QStringLiteral("in"))));
+    QVERIFY(makeFile(path(QStringLiteral("files1.zip")))); // of nobody
+    TemporaryFolder folder(base());
+    for (const char *content : {"one", "two"}) {
+        const QString file = path(QLatin1String("in/-") + QLatin1String(content));
+        QFile written(file);
+        QVERIFY(written.open(QIODevice::WriteOnly));
+        QCOMPARE(written.write(content), qint64(3));
+        written.close();
+        QVERIFY(QFile::setPermissions(file, QFile::ReadOwner));
+        folder.renew();
+        QFile read(folder.plainPath(file));
+        QVERIFY(read.open(QIODevice::ReadOnly));
+        QCOMPARE(read.readAll(), QByteArray(content));
+        read.close();
+        QVERIFY(!(QFile::permissions(file) & QFile::WriteOwner));
+        QVERIFY(QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner)); // for cleanup()
+    }
+    folder.remove();
+    QCOMPARE(left().join(QLatin1Char(' ')), QStringLiteral("in"));
 }
 
 void TestTemporaryFolder::onlyOwnFoldersAreRemoved()
