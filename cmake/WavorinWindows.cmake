@@ -1,6 +1,15 @@
 # SPDX-FileCopyrightText: 2026 Norvale
 # SPDX-License-Identifier: GPL-3.0-or-later
 
+# Icon, manifest and version of a program of ours.
+function(wavorin_describe program description)
+    set(resources "${CMAKE_BINARY_DIR}/install/${program}.rc")
+    configure_file("${PROJECT_SOURCE_DIR}/resources/windows/program.rc.in" "${resources}" @ONLY)
+    target_sources(${program} PRIVATE "${resources}")
+endfunction()
+wavorin_describe(wavorin "Wavorin, ${PROJECT_DESCRIPTION}")
+wavorin_describe(wavorin-convert "Wavorin, converter of disturbance recordings")
+
 # cmake --install for Windows: one folder that runs where it stands, with the archiver beside the
 # viewer. script/windows makes the packages of it.
 install(TARGETS wavorin wavorin-convert RUNTIME DESTINATION .)
@@ -8,7 +17,12 @@ install(PROGRAMS "${WAVORIN_WINDOWS_TREE}/7z/7za.exe" DESTINATION . RENAME 7z.ex
 configure_file("${WAVORIN_WINDOWS_TREE}/7z/7za.exe" "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/7z.exe" COPYONLY)
 
 install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION . RENAME LICENSE.txt)
-file(READ "${PROJECT_SOURCE_DIR}/tools/windows/sources" sources)
+# An archive may have been built from another list than this tree's, and an old one does not tell.
+set(list "${WAVORIN_WINDOWS_TREE}/sources")
+if(NOT EXISTS "${list}")
+    set(list "${PROJECT_SOURCE_DIR}/tools/windows/sources")
+endif()
+file(READ "${list}" sources)
 string(REGEX REPLACE "([^ \n]+) ([^ ]+) ([^\n]+)\n" "    \\1 \\2\n" sources "${sources}")
 configure_file("${PROJECT_SOURCE_DIR}/resources/windows/README.txt.in" "${CMAKE_BINARY_DIR}/install/README.txt"
     NEWLINE_STYLE CRLF)
