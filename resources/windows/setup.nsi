@@ -1,7 +1,7 @@
 ; SPDX-FileCopyrightText: 2026 Norvale
 ; SPDX-License-Identifier: GPL-3.0-or-later
 ;
-; The installer. script/windows gives it VERSION, FILES (the folder to install), REMOVAL (the commands that
+; The installer. tools/windows/setup gives it VERSION, FILES (the folder to install), REMOVAL (the commands that
 ; remove what is in it), OUTPUT (the installer) and SIGN (a command that signs its argument).
 ; Options: /S (silent), /AllUsers, /CurrentUser, /NoAssociation, /D=FOLDER (the last one).
 Unicode true
@@ -83,9 +83,9 @@ LangString kindName ${LANG_SIMPCHINESE} "故障录波"
 LangString isRunning ${LANG_ENGLISH} "Wavorin is running. Close it, then try again."
 LangString isRunning ${LANG_FINNISH} "Wavorin on käynnissä. Sulje se ja yritä uudelleen."
 LangString isRunning ${LANG_SIMPCHINESE} "Wavorin 正在运行。请关闭它，然后重试。"
-LangString needsWindows ${LANG_ENGLISH} "Wavorin needs a 64-bit Windows."
-LangString needsWindows ${LANG_FINNISH} "Wavorin tarvitsee 64-bittisen Windowsin."
-LangString needsWindows ${LANG_SIMPCHINESE} "Wavorin 需要 64 位 Windows。"
+LangString notRemoved ${LANG_ENGLISH} "The installed version could not be removed."
+LangString notRemoved ${LANG_FINNISH} "Asennettua versiota ei voitu poistaa."
+LangString notRemoved ${LANG_SIMPCHINESE} "无法移除已安装的版本。"
 
 ; A program that runs cannot be written to. Silent, the answer is no: exit code 2, and nothing has changed.
 !macro WaitForTheProgram UN
@@ -117,7 +117,13 @@ Section "$(programSection)" programPart
     Call waitForTheProgram
     ; The files of an older version may have other names.
     ${If} ${FileExists} "$INSTDIR\uninstall.exe"
-        ExecWait '"$INSTDIR\uninstall.exe" /S /$MultiUser.InstallMode _?=$INSTDIR'
+        StrCpy $0 0 ; where it cannot be started
+        ExecWait '"$INSTDIR\uninstall.exe" /S /$MultiUser.InstallMode _?=$INSTDIR' $0
+        ${If} $0 <> 0
+            MessageBox MB_ICONSTOP "$(notRemoved)" /SD IDOK
+            SetErrorLevel 3
+            Quit
+        ${EndIf}
     ${EndIf}
     SetOutPath "$INSTDIR"
     File /r "${FILES}/*"
@@ -157,6 +163,17 @@ Function .onInit
     SetRegView 64
     !insertmacro MULTIUSER_INIT
     !insertmacro MUI_LANGDLL_DISPLAY
+    ; Whoever did without a part keeps doing without it.
+    ReadRegStr $0 SHCTX "${SETUP_KEY}" Folder
+    ${If} $0 != ""
+        ${IfNot} ${FileExists} "$SMPROGRAMS\Wavorin.lnk"
+            !insertmacro UnselectSection ${menuPart}
+        ${EndIf}
+        ReadRegStr $0 SHCTX "Software\Classes\${KIND}" ""
+        ${If} $0 == ""
+            !insertmacro UnselectSection ${kindPart}
+        ${EndIf}
+    ${EndIf}
     ${GetParameters} $0
     ClearErrors
     ${GetOptions} $0 "/NoAssociation" $1
