@@ -35,7 +35,11 @@ own_display() {
     local number
     number=$(mktemp)
     Xvfb -displayfd 3 -screen 0 "${1}x24" 3>"$number" 2>/dev/null &
-    until [ -s "$number" ]; do sleep 0.1; done
+    # It may end at once, where it is missing or has no place for what it needs.
+    until [ -s "$number" ]; do
+        kill -0 $! 2>/dev/null || { echo "Xvfb did not start" >&2 && return 1; }
+        sleep 0.1
+    done
     DISPLAY=:$(cat "$number")
     export DISPLAY
     rm "$number"
