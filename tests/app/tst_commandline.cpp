@@ -22,14 +22,21 @@ private slots:
 
 void TestCommandLine::readsArgumentOne_data()
 {
-    QTest::addColumn<QByteArray>("argument"); // in the locale's encoding, UTF-8
+    QTest::addColumn<QByteArray>("argument"); // in the encoding of the system
     QTest::addColumn<QString>("path");
     QTest::newRow("plain letters")
         << QByteArray("/rec/fault.cfg") << QStringLiteral("/rec/fault.cfg");
+#ifdef Q_OS_WIN
+    QTest::newRow("letters of Latin-1 arrive whole")
+        << QByteArray("h\xe4iri\xf6.cfg") << QStringLiteral("h\u00e4iri\u00f6.cfg");
+    QTest::newRow("letters of a Chinese system arrive altered")
+        << QByteArray("\xb9\xca.cfg") << QStringLiteral("\u00b9\u00ca.cfg");
+#else
     QTest::newRow("letters of Latin-1 arrive whole")
         << QByteArray("h\xc3\xa4iri\xc3\xb6.cfg") << QStringLiteral("h\u00e4iri\u00f6.cfg");
     QTest::newRow("letters outside Latin-1 arrive altered")
         << QByteArray("\xe6\x95\x85.cfg") << QStringLiteral("?.cfg");
+#endif
     QTest::newRow("an empty argument") << QByteArray("") << QStringLiteral("");
 }
 
@@ -55,6 +62,9 @@ void TestCommandLine::furtherArgumentsAreIgnored()
 
 void TestCommandLine::eightBitTextIsLatin1()
 {
+#ifdef Q_OS_WIN
+    QSKIP("Arguments are not read as UTF-8 there.");
+#endif
     QCOMPARE(latin1Argument("h\xc3\xa4iri\xc3\xb6"), QByteArray("h\xe4iri\xf6"));
 }
 

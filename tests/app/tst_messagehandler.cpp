@@ -5,24 +5,11 @@
 
 #include <QtTest>
 
-#ifdef Q_OS_UNIX
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
-#endif
 
-class TestMessageHandler : public QObject {
-    Q_OBJECT
-
-private slots:
-    void writesToStandardError_data();
-    void writesToStandardError();
-    void fatalMessageEndsTheProcess_data();
-    void fatalMessageEndsTheProcess();
-};
-
-#ifdef Q_OS_UNIX
 namespace {
 
 struct Outcome {
@@ -58,7 +45,16 @@ Outcome outcomeOf(QtMsgType type, const char *message, bool debugged = false)
 }
 
 } // namespace
-#endif
+
+class TestMessageHandler : public QObject {
+    Q_OBJECT
+
+private slots:
+    void writesToStandardError_data();
+    void writesToStandardError();
+    void fatalMessageEndsTheProcess_data();
+    void fatalMessageEndsTheProcess();
+};
 
 void TestMessageHandler::writesToStandardError_data()
 {
@@ -72,15 +68,11 @@ void TestMessageHandler::writesToStandardError_data()
 
 void TestMessageHandler::writesToStandardError()
 {
-#ifdef Q_OS_UNIX
     QFETCH(int, type);
     const Outcome outcome = outcomeOf(QtMsgType(type), "100 %s left");
     QTEST(outcome.standardError, "output");
     QVERIFY(WIFEXITED(outcome.status));
     QCOMPARE(WEXITSTATUS(outcome.status), 0);
-#else
-    QSKIP("The handler is called in a forked process.");
-#endif
 }
 
 void TestMessageHandler::fatalMessageEndsTheProcess_data()
@@ -92,15 +84,11 @@ void TestMessageHandler::fatalMessageEndsTheProcess_data()
 
 void TestMessageHandler::fatalMessageEndsTheProcess()
 {
-#ifdef Q_OS_UNIX
     QFETCH(bool, debugged);
     const Outcome outcome = outcomeOf(QtFatalMsg, "no way on", debugged);
     QCOMPARE(outcome.standardError, QByteArray("Fatal: no way on\n"));
     QVERIFY(WIFSIGNALED(outcome.status));
     QCOMPARE(WTERMSIG(outcome.status), debugged ? SIGABRT : SIGTRAP);
-#else
-    QSKIP("The handler is called in a forked process.");
-#endif
 }
 
 QTEST_GUILESS_MAIN(TestMessageHandler)

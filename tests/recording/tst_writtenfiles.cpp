@@ -42,7 +42,19 @@ public:
 private:
     const bool m_wasRoot;
 };
+#else
+// A file that is read-only is so for the administrator there, too.
+class OrdinaryUser {
+public:
+    OrdinaryUser() { }
+    ~OrdinaryUser() { }
+};
 #endif
+
+// Rights of everybody, whoever the owner is.
+const int readable = int(QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+const int writable = readable | int(QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther);
+const int enterable = writable | int(QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther);
 
 } // namespace
 
@@ -60,11 +72,11 @@ private slots:
     void aFolderWithoutPermissionKeepsItsFiles();
     void aFullFileSystemKeepsItsFiles_data();
     void aFullFileSystemKeepsItsFiles();
+    void aProtectedFileKeepsItsPair_data();
+    void aProtectedFileKeepsItsPair();
 #ifdef Q_OS_UNIX
     void aFolderThatTakesNoNewFilesHasItsFilesReplaced_data();
     void aFolderThatTakesNoNewFilesHasItsFilesReplaced();
-    void aProtectedFileKeepsItsPair_data();
-    void aProtectedFileKeepsItsPair();
     void aFileThatCannotBeReadKeepsItsPair();
     void aFileThatMayNotBeReplacedKeepsItsPair_data();
     void aFileThatMayNotBeReplacedKeepsItsPair();
@@ -258,6 +270,55 @@ void TestWrittenFiles::aFullFileSystemKeepsItsFiles()
     }
 }
 
+void TestWrittenFiles::aProtectedFileKeepsItsPair_data()
+{
+    QTest::addColumn<int>("configurationRights"); // 0: there is no such file
+    QTest::addColumn<int>("dataRights");
+    QTest::addColumn<bool>("isConfigurationWritten");
+    QTest::addColumn<bool>("isDataWritten");
+    QTest::newRow("none is protected") << writable << writable << true << true;
+    QTest::newRow("the configuration") << readable << writable << false << false;
+    QTest::newRow("the data") << writable << readable << false << false;
+    QTest::newRow("both") << readable << readable << false << false;
+    QTest::newRow("a configuration without data") << readable << 0 << false << true;
+    QTest::newRow("data without a configuration") << 0 << readable << true << false;
+}
+
+void TestWrittenFiles::aProtectedFileKeepsItsPair()
+{
+    QFETCH(int, configurationRights);
+    QFETCH(int, dataRights);
+    const RecordingFolder source;
+    CFGProperties recording;
+    source.load(recording, configurationText().text(), dataUpTo(3));
+    const QTemporaryDir folder(QDir::temp().filePath(QStringLiteral("protected-XXXXXX")));
+    const auto allow = [](const QString &path, int rights) {
+        return QFile::setPermissions(path, QFile::Permissions(rights));
+    };
+    QVERIFY(allow(folder.path(), enterable));
+    const QString configuration = folder.filePath(QStringLiteral("out.cfg"));
+    const QString data = folder.filePath(QStringLiteral("out.dat"));
+    const auto makeFile = [&allow](const QString &path, int rights) {
+        return rights == 0 || (writeTextFile(path, "as before") && allow(path, rights));
+    };
+    QVERIFY(makeFile(configuration, configurationRights));
+    QVERIFY(makeFile(data, dataRights));
+    bool isReached = false;
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        const OrdinaryUser user;
+        isReached = QFileInfo(folder.path()).isWritable();
+        const auto outcome = RecordingWriter(recording, {}, {}).write(configuration, 1, 1);
+        QVERIFY2(!outcome.hasFailed(), qPrintable(outcome.error)); // no word of it
+    }
+    for (const QString &path : {configuration, data})
+        QVERIFY(allow(path, writable)); // or Windows would not remove them
+    if (!isReached)
+        QSKIP("The folder for tests cannot be entered by an ordinary user.");
+    QTEST(contents(configuration).startsWith("Harju,"), "isConfigurationWritten");
+    QTEST(contents(data) == "2,0,1,-1,1", "isDataWritten");
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+}
+
 #ifdef Q_OS_UNIX
 void TestWrittenFiles::aFolderThatTakesNoNewFilesHasItsFilesReplaced_data()
 {
@@ -302,52 +363,6 @@ void TestWrittenFiles::aFolderThatTakesNoNewFilesHasItsFilesReplaced()
         QVERIFY(file.open(QIODevice::ReadOnly));
         QVERIFY(!file.readAll().startsWith("as before"));
     }
-}
-
-void TestWrittenFiles::aProtectedFileKeepsItsPair_data()
-{
-    QTest::addColumn<int>("configurationRights"); // 0: there is no such file
-    QTest::addColumn<int>("dataRights");
-    QTest::addColumn<bool>("isConfigurationWritten");
-    QTest::addColumn<bool>("isDataWritten");
-    QTest::newRow("none is protected") << 0666 << 0666 << true << true;
-    QTest::newRow("the configuration") << 0444 << 0666 << false << false;
-    QTest::newRow("the data") << 0666 << 0444 << false << false;
-    QTest::newRow("both") << 0444 << 0444 << false << false;
-    QTest::newRow("a configuration without data") << 0444 << 0 << false << true;
-    QTest::newRow("data without a configuration") << 0 << 0444 << true << false;
-}
-
-void TestWrittenFiles::aProtectedFileKeepsItsPair()
-{
-    QFETCH(int, configurationRights);
-    QFETCH(int, dataRights);
-    const RecordingFolder source;
-    CFGProperties recording;
-    source.load(recording, configurationText().text(), dataUpTo(3));
-    const QTemporaryDir folder(QDir::temp().filePath(QStringLiteral("protected-XXXXXX")));
-    QCOMPARE(chmod(qPrintable(folder.path()), 0777), 0);
-    const QString configuration = folder.filePath(QStringLiteral("out.cfg"));
-    const QString data = folder.filePath(QStringLiteral("out.dat"));
-    const auto makeFile = [](const QString &path, int rights) {
-        return rights == 0
-            || (writeTextFile(path, "as before")
-                && chmod(qPrintable(path), static_cast<mode_t>(rights)) == 0);
-    };
-    QVERIFY(makeFile(configuration, configurationRights));
-    QVERIFY(makeFile(data, dataRights));
-    bool isReached = false;
-    for (int attempt = 0; attempt < 2; ++attempt) {
-        const OrdinaryUser user;
-        isReached = QFileInfo(folder.path()).isWritable();
-        const auto outcome = RecordingWriter(recording, {}, {}).write(configuration, 1, 1);
-        QVERIFY2(!outcome.hasFailed(), qPrintable(outcome.error)); // no word of it
-    }
-    if (!isReached)
-        QSKIP("The folder for tests cannot be entered by an ordinary user.");
-    QTEST(contents(configuration).startsWith("Harju,"), "isConfigurationWritten");
-    QTEST(contents(data) == "2,0,1,-1,1", "isDataWritten");
-    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
 
 // It could not come back where the data do not fit.
