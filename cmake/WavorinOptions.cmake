@@ -14,7 +14,7 @@ target_compile_options(wavorin_options INTERFACE
     $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual>
     # The toolkit's own macros take no further arguments, as the next standard allows.
-    $<$<CXX_COMPILER_ID:Clang,AppleClang>:-Wno-gnu-zero-variadic-macro-arguments>)
+    $<$<CXX_COMPILER_ID:Clang,AppleClang>:-Wno-gnu-zero-variadic-macro-arguments -Wreserved-identifier>)
 if(WAVORIN_WERROR)
     target_compile_options(wavorin_options INTERFACE
         $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-Werror>)
@@ -46,8 +46,8 @@ function(wavorin_precompiled name)
     target_precompile_headers(${name} PRIVATE ${arg_HEADERS})
     set_target_properties(${name} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
 endfunction()
+check_linker_flag(CXX -fuse-ld=gold WAVORIN_HAS_GOLD)
 if(WAVORIN_QUICK_BUILD)
-    check_linker_flag(CXX -fuse-ld=gold WAVORIN_HAS_GOLD)
     if(WAVORIN_HAS_GOLD AND NOT WAVORIN_SANITIZE)
         target_link_options(wavorin_options INTERFACE -fuse-ld=gold)
     endif()

@@ -3,13 +3,17 @@
 
 add_library(wavorin_test_options INTERFACE)
 target_include_directories(wavorin_test_options INTERFACE "${PROJECT_SOURCE_DIR}/tests/support")
+# Tests are compiled far more often than their own code takes time.
+set(optimisation -O0)
+if(WAVORIN_SANITIZE)
+    set(optimisation -O1) # sanitizers make tests slow enough
+endif()
+target_compile_options(wavorin_test_options INTERFACE
+    $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:${optimisation}>)
+if(WAVORIN_HAS_GOLD AND NOT WAVORIN_SANITIZE)
+    target_link_options(wavorin_test_options INTERFACE -fuse-ld=gold)
+endif()
 if(WAVORIN_QUICK_BUILD)
-    set(optimisation -O0)
-    if(WAVORIN_SANITIZE)
-        set(optimisation -O1) # sanitizers make tests slow enough
-    endif()
-    target_compile_options(wavorin_test_options INTERFACE
-        $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:${optimisation}>)
     wavorin_precompiled(wavorin_test_headers
         HEADERS <QtTest> LIBRARIES wavorin_test_options Qt5::Test)
     wavorin_precompiled(wavorin_widget_test_headers
