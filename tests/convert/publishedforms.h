@@ -98,13 +98,15 @@ private:
         QByteArray bytes = little(static_cast<std::uint32_t>(i + 1), 4)
             + little(static_cast<std::uint32_t>(sample.stamp), 4);
         for (const double value : sample.values) {
-            const auto number = static_cast<float>(value);
-            std::uint32_t bits = 0;
-            std::memcpy(&bits, &number, sizeof bits);
-            const auto whole = static_cast<std::uint32_t>(static_cast<std::int32_t>(value));
-            bytes += form.type == "FLOAT32" ? little(bits, 4)
-                : form.type == "BINARY32"   ? little(whole, 4)
-                                            : little(whole, 2);
+            if (form.type == "FLOAT32") {
+                const auto number = static_cast<float>(value);
+                std::uint32_t bits = 0;
+                std::memcpy(&bits, &number, sizeof bits);
+                bytes += little(bits, 4);
+            } else {
+                const auto whole = static_cast<std::uint32_t>(static_cast<std::int32_t>(value));
+                bytes += little(whole, form.type == "BINARY32" ? 4 : 2);
+            }
         }
         for (int j = 0; j < sample.states.size(); j += 16) {
             std::uint32_t word = 0;
