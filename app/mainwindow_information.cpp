@@ -76,8 +76,7 @@ void showStampAsLocal(
     QLabel &date, QLabel &time, const QString &dateText, const QString &timeText, DateOrder order)
 {
     const bool isMonthFirst = order == DateOrder::MonthFirst;
-    const QString format
-        = isMonthFirst ? QStringLiteral("MM/dd/yyyy") : QStringLiteral("dd/MM/yyyy");
+    const QString format = isMonthFirst ? QStringLiteral("MM/dd/yyyy") : dateFormat;
     const QDateTime local
         = joinedAsUtc(dateText.trimmed(), format, timeText.trimmed()).toLocalTime();
     showStamp(date, time, local.toString(format), local.toString(timeOfDayFormat));

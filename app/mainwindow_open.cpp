@@ -203,7 +203,7 @@ bool MainWindow::loadRecording(const QString &path, const QString &asked)
         m_otherRecordings->offerInArea();
         if (!isGivenUp)
             showWarning(
-                tr("File not supported."), failureText(asked, path, m_cfgProperties->failure));
+                tr("File not supported."), failureText(asked, path, m_cfgProperties->failure()));
     }
     if (animation)
         animation->close();
@@ -224,7 +224,7 @@ bool MainWindow::parse(const QString &path)
     connect(m_loaderThread, &QThread::finished, &loop, &QEventLoop::quit);
     const CancelWatch watch(*this, *m_sideWindows);
     connect(&watch, &CancelWatch::escaped, m_loadingProgress, &LoadingProgress::giveUp);
-    m_loadingProgress->start(m_cfgProperties->progress,
+    m_loadingProgress->start(m_cfgProperties->progress(),
         isTextExport(path) ? LoadProgress::Stage::Reading : LoadProgress::Stage::Phasors);
     emit initProperties();
     loop.exec();

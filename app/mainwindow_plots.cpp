@@ -6,6 +6,7 @@
 #include "mainwindow.h"
 
 #include "addplotterdialog.h"
+#include "analogsource.h"
 #include "cfgproperties.h"
 #include "channelnames.h"
 #include "ctvtdialog.h"
@@ -35,7 +36,6 @@ constexpr int largestPlotHeight = 1000;
 constexpr int scrolledPlotHeight = 320;
 constexpr char numberOfUnnamed[] = "numberOfUnnamed"; // property of a plot that was given no name
 constexpr char kindOfUnit[] = "kindOfUnit"; // property of one that shows what has the same unit
-const QString spectrumSuffix = QStringLiteral("_FFT");
 
 QStringList analogNames(const CFGProperties &recording)
 {
@@ -369,7 +369,7 @@ void MainWindow::removePlotter()
         m_sideWindows->leave(removed);
         delete removed;
         setColumnHeight();
-        m_analogPlotter->zoomIn(); // the widest readout may have gone
+        m_analogPlotter->refreshAll(); // the widest readout may have gone
         ui->scrollWidget->repaint();
     }
     if (m_addedPlotters.isEmpty())
@@ -381,7 +381,7 @@ void MainWindow::removeCursors()
     for (Plotter *plot : plots())
         plot->clearCursors();
     if (m_analogPlotter)
-        m_analogPlotter->zoomIn(); // which refreshes all plots
+        m_analogPlotter->refreshAll();
 }
 
 void MainWindow::refreshPlots()
@@ -389,7 +389,7 @@ void MainWindow::refreshPlots()
     for (Plotter *plot : plots())
         plot->rescaleValues();
     if (m_analogPlotter)
-        m_analogPlotter->zoomIn();
+        m_analogPlotter->refreshAll();
 }
 
 void MainWindow::primSecChanged(int index)

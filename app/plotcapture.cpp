@@ -59,7 +59,6 @@ void recolour(QImage &image, CaptureTarget target)
 
 QString captureCaption(const QString &startDate, const QString &startTime)
 {
-    const QString dateFormat = QStringLiteral("dd/MM/yyyy");
     const QString text = joinedAsUtc(startDate, dateFormat, startTime)
                              .toString(dateFormat + QLatin1Char(' ') + timeOfDayFormat);
     return QCoreApplication::translate("MainWindow", "Start: %1    Trigger: %2").arg(text, text);

@@ -143,8 +143,7 @@ void PlotMenu::addLook()
 
 QString PlotMenu::nameOf(int channel) const
 {
-    const QString name = m_plot.shownChannels().at(channel).id;
-    return AnalogSource(&m_host).isSpectrum(channel) ? name + QStringLiteral(" FFT") : name;
+    return AnalogSource(&m_host).nameOf(channel, m_plot.shownChannels().at(channel).id);
 }
 
 // A tabulator would part the text.
@@ -213,7 +212,7 @@ void PlotMenu::addMoves(int cursor)
             if (!label)
                 return;
             plot->moveCursor(cursor, time);
-            plot->zoomIn(); // which refreshes all plots
+            plot->refreshAll();
         });
     });
     add(tr("Step to &Previous Sample"), true, [=] { step(false); });

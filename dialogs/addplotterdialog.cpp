@@ -38,7 +38,7 @@ void AddPlotterDialog::setChannelNames(const QStringList &names)
 {
     ui->listWidget_unSelected->clear();
     ui->listWidget_Selected->clear();
-    channelNames = names;
+    m_channelNames = names;
     for (int i = 0; i < names.size(); ++i) {
         auto *item = new QListWidgetItem(shownName(names.at(i)), ui->listWidget_unSelected);
         item->setData(Qt::UserRole, i);
@@ -58,7 +58,7 @@ QStringList AddPlotterDialog::selectedChannels() const
 {
     QStringList names;
     for (const int number : selectedNumbers())
-        names.append(channelNames.at(number));
+        names.append(m_channelNames.at(number));
     return names;
 }
 

@@ -36,5 +36,5 @@ protected:
 
 private:
     std::unique_ptr<Ui::AddPlotterDialog> ui;
-    QStringList channelNames;
+    QStringList m_channelNames;
 };

@@ -55,39 +55,39 @@ CTVTDialog::~CTVTDialog() = default;
 void CTVTDialog::setChannels(
     const QStringList &names, const QStringList &primaries, const QStringList &secondaries)
 {
-    channelNames = names;
-    appliedPrimaries = primaries;
-    appliedSecondaries = secondaries;
+    m_channelNames = names;
+    m_appliedPrimaries = primaries;
+    m_appliedSecondaries = secondaries;
     makeRows(isVisible() ? rowsOfAPortion : firstRows);
 }
 
 void CTVTDialog::makeRows(int count)
 {
-    const int first = nameLabels.size();
-    const int end = std::min(channelNames.size(), first + count);
+    const int first = m_nameLabels.size();
+    const int end = std::min(m_channelNames.size(), first + count);
     for (int i = first; i < end; ++i) {
-        nameLabels.append(new QLabel(this));
-        nameLabels.last()->setTextFormat(Qt::PlainText);
-        primaryEdits.append(new QLineEdit(appliedPrimaries.value(i), this));
-        secondaryEdits.append(new QLineEdit(appliedSecondaries.value(i), this));
-        ui->gridLayout->addWidget(nameLabels.last(), i + 1, 0);
-        ui->gridLayout->addWidget(primaryEdits.last(), i + 1, 1);
-        ui->gridLayout->addWidget(secondaryEdits.last(), i + 1, 2);
+        m_nameLabels.append(new QLabel(this));
+        m_nameLabels.last()->setTextFormat(Qt::PlainText);
+        m_primaryEdits.append(new QLineEdit(m_appliedPrimaries.value(i), this));
+        m_secondaryEdits.append(new QLineEdit(m_appliedSecondaries.value(i), this));
+        ui->gridLayout->addWidget(m_nameLabels.last(), i + 1, 0);
+        ui->gridLayout->addWidget(m_primaryEdits.last(), i + 1, 1);
+        ui->gridLayout->addWidget(m_secondaryEdits.last(), i + 1, 2);
     }
     showNames(first);
-    if (!secondaryEdits.isEmpty()) {
-        setTabOrder(secondaryEdits.last(), ui->pushButton_Close);
-        setTabOrder(secondaryEdits.last(), ui->pushButton_Set);
+    if (!m_secondaryEdits.isEmpty()) {
+        setTabOrder(m_secondaryEdits.last(), ui->pushButton_Close);
+        setTabOrder(m_secondaryEdits.last(), ui->pushButton_Set);
     }
 }
 
 void CTVTDialog::showNames(int first)
 {
-    for (int i = first; i < nameLabels.size(); ++i) {
-        const QString name = shownName(channelNames.at(i));
-        nameLabels.at(i)->setText(name);
-        primaryEdits.at(i)->setAccessibleName(tr("%1, primary").arg(name));
-        secondaryEdits.at(i)->setAccessibleName(tr("%1, secondary").arg(name));
+    for (int i = first; i < m_nameLabels.size(); ++i) {
+        const QString name = shownName(m_channelNames.at(i));
+        m_nameLabels.at(i)->setText(name);
+        m_primaryEdits.at(i)->setAccessibleName(tr("%1, primary").arg(name));
+        m_secondaryEdits.at(i)->setAccessibleName(tr("%1, secondary").arg(name));
     }
 }
 
@@ -96,7 +96,7 @@ void CTVTDialog::showNames(int first)
 void CTVTDialog::makeRowsInSight()
 {
     const QScrollBar *bar = ui->scrollArea->verticalScrollBar();
-    if (isVisible() && nameLabels.size() < channelNames.size()
+    if (isVisible() && m_nameLabels.size() < m_channelNames.size()
         && bar->value() + bar->pageStep() >= bar->maximum())
         makeRows(rowsOfAPortion);
 }
@@ -104,17 +104,17 @@ void CTVTDialog::makeRowsInSight()
 void CTVTDialog::clearChannels()
 {
     // In the order of their making: each is the first that its parent finds.
-    for (int i = 0; i < nameLabels.size(); ++i) {
-        delete nameLabels.at(i);
-        delete primaryEdits.at(i);
-        delete secondaryEdits.at(i);
+    for (int i = 0; i < m_nameLabels.size(); ++i) {
+        delete m_nameLabels.at(i);
+        delete m_primaryEdits.at(i);
+        delete m_secondaryEdits.at(i);
     }
-    primaryEdits.clear();
-    secondaryEdits.clear();
-    nameLabels.clear();
-    channelNames.clear();
-    appliedPrimaries.clear();
-    appliedSecondaries.clear();
+    m_primaryEdits.clear();
+    m_secondaryEdits.clear();
+    m_nameLabels.clear();
+    m_channelNames.clear();
+    m_appliedPrimaries.clear();
+    m_appliedSecondaries.clear();
 }
 
 void CTVTDialog::on_pushButton_Set_clicked()
@@ -122,15 +122,15 @@ void CTVTDialog::on_pushButton_Set_clicked()
     const CFGProperties *recording = mainWindow ? mainWindow->recording() : nullptr;
     QStringList primaries;
     QStringList secondaries;
-    for (int i = 0; i < channelNames.size(); ++i) {
-        const bool isMade = i < nameLabels.size(); // or else nothing can have been typed
-        primaries.append(isMade ? primaryEdits.at(i)->text() : appliedPrimaries.value(i));
-        secondaries.append(isMade ? secondaryEdits.at(i)->text() : appliedSecondaries.value(i));
+    for (int i = 0; i < m_channelNames.size(); ++i) {
+        const bool isMade = i < m_nameLabels.size(); // or else nothing can have been typed
+        primaries.append(isMade ? m_primaryEdits.at(i)->text() : m_appliedPrimaries.value(i));
+        secondaries.append(isMade ? m_secondaryEdits.at(i)->text() : m_appliedSecondaries.value(i));
         if (AnalogChannel *channel = recording ? recording->analogChannels.value(i) : nullptr)
             setRatio(*channel, primaries.at(i).toDouble(), secondaries.at(i).toDouble());
     }
-    appliedPrimaries = primaries;
-    appliedSecondaries = secondaries;
+    m_appliedPrimaries = primaries;
+    m_appliedSecondaries = secondaries;
     emit scaleChanged();
     if (mainWindow)
         mainWindow->refreshPlots();
@@ -152,12 +152,12 @@ void CTVTDialog::changeEvent(QEvent *event)
 
 void CTVTDialog::showEvent(QShowEvent *event)
 {
-    if (nameLabels.size() < rowsOfAPortion)
-        makeRows(rowsOfAPortion - nameLabels.size());
+    if (m_nameLabels.size() < rowsOfAPortion)
+        makeRows(rowsOfAPortion - m_nameLabels.size());
     // A window that is only uncovered or restored keeps what is being typed.
-    for (int i = 0; !event->spontaneous() && i < nameLabels.size(); ++i) {
-        primaryEdits.at(i)->setText(appliedPrimaries.value(i));
-        secondaryEdits.at(i)->setText(appliedSecondaries.value(i));
+    for (int i = 0; !event->spontaneous() && i < m_nameLabels.size(); ++i) {
+        m_primaryEdits.at(i)->setText(m_appliedPrimaries.value(i));
+        m_secondaryEdits.at(i)->setText(m_appliedSecondaries.value(i));
     }
     QDialog::showEvent(event);
 }

@@ -32,8 +32,8 @@ public:
     void clearChannels();
 
     // The ratings last applied, as typed, parallel to the analog channels.
-    const QStringList &primaryTexts() const { return appliedPrimaries; }
-    const QStringList &secondaryTexts() const { return appliedSecondaries; }
+    const QStringList &primaryTexts() const { return m_appliedPrimaries; }
+    const QStringList &secondaryTexts() const { return m_appliedSecondaries; }
 
 public slots:
     void on_pushButton_Set_clicked();
@@ -52,12 +52,12 @@ private:
     void showNames(int first); // of the channels, to screen readers, too, from a row on
 
     // Of the rows that are made.
-    QList<QLineEdit *> primaryEdits;
-    QList<QLineEdit *> secondaryEdits;
-    QList<QLabel *> nameLabels;
-    QStringList appliedPrimaries;
-    QStringList appliedSecondaries;
+    QList<QLineEdit *> m_primaryEdits;
+    QList<QLineEdit *> m_secondaryEdits;
+    QList<QLabel *> m_nameLabels;
+    QStringList m_appliedPrimaries;
+    QStringList m_appliedSecondaries;
     std::unique_ptr<Ui::CTVTDialog> ui;
     DialogHost *mainWindow;
-    QStringList channelNames;
+    QStringList m_channelNames;
 };

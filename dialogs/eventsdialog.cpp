@@ -86,6 +86,11 @@ void EventsDialog::showSelected(const QItemSelection &selected)
 
 void EventsDialog::on_tableView_doubleClicked(const QModelIndex &index)
 {
+    askForCursor(index);
+}
+
+void EventsDialog::askForCursor(const QModelIndex &index)
+{
     if (index.isValid())
         emit cursorWanted(m_table->timeOf(index.row()));
 }
@@ -129,7 +134,7 @@ bool EventsDialog::eventFilter(QObject *watched, QEvent *event)
         return QDialog::eventFilter(watched, event);
     auto *press = static_cast<QKeyEvent *>(event);
     if (press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter) {
-        on_tableView_doubleClicked(ui->tableView->currentIndex());
+        askForCursor(ui->tableView->currentIndex());
         return true;
     }
     if (press->matches(QKeySequence::SelectAll))

@@ -43,6 +43,7 @@ protected:
 
 private:
     void showSelected(const QItemSelection &selected);
+    void askForCursor(const QModelIndex &index);
     void setFilter();
     void nameEntries();
     void showNames(); // anew, in other letters

@@ -40,7 +40,7 @@ MeasurementsDialog::MeasurementsDialog(QWidget *parent)
             &MeasurementsDialog::measure);
     connect(ui->tabWidget, &QTabWidget::currentChanged, this, &MeasurementsDialog::measure);
     addShortcut(
-        QKeySequence::keyBindings(QKeySequence::Copy), [this] { on_pushButton_copy_clicked(); });
+        QKeySequence::keyBindings(QKeySequence::Copy), [this] { ui->pushButton_copy->click(); });
     // Wherever the focus is, not in the pages alone.
     const auto turnPage = [this](int pages) {
         const int count = ui->tabWidget->count();
@@ -208,9 +208,7 @@ MeasuredChannel MeasurementsDialog::analogChannel(const AnalogSource &source, in
     if (!measured.analog)
         return measured;
     measured.isSpectrum = source.isSpectrum(number);
-    measured.name = trimmedName(measured.analog->id);
-    if (measured.isSpectrum)
-        measured.name += QStringLiteral(" FFT");
+    measured.name = source.nameOf(number, trimmedName(measured.analog->id));
     measured.factor = source.factor(number);
     const QString unit = m_host->recording()->analogUnits.value(number % source.firstSpectrum());
     measured.unit = shownUnit(trimmedName(unit), *measured.analog, m_host->valueMode());

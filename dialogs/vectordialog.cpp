@@ -24,10 +24,10 @@ VectorDialog::~VectorDialog() = default;
 void VectorDialog::setMainWindow(QObject *object)
 {
     mainWindow = qobject_cast<DialogHost *>(object) ? object : nullptr;
-    firstPanel = new VectorWidget(this);
-    firstPanel->disableRemoval();
-    equip(firstPanel);
-    ui->horizontalLayout_vectors->addWidget(firstPanel);
+    m_firstPanel = new VectorWidget(this);
+    m_firstPanel->disableRemoval();
+    equip(m_firstPanel);
+    ui->horizontalLayout_vectors->addWidget(m_firstPanel);
 }
 
 void VectorDialog::equip(VectorWidget *panel)
@@ -47,7 +47,7 @@ void VectorDialog::setPlotter(Plotter *source)
 
 void VectorDialog::setChannelNames(const QStringList &names)
 {
-    channelNames = names;
+    m_channelNames = names;
     ui->comboBox_reference->setNames(QStringList(QStringLiteral("-")) + names, 0);
     for (VectorWidget *panel : panels())
         panel->setChannelNames(names);
@@ -76,25 +76,25 @@ void VectorDialog::on_toolButton_clicked()
 {
     auto *panel = new VectorWidget(this);
     equip(panel);
-    panel->setChannelNames(channelNames);
+    panel->setChannelNames(m_channelNames);
     panel->setPlotter(plotter);
     connect(panel, &VectorWidget::deleteSignal, this, &VectorDialog::deleteWidgetSlot);
-    addedPanels.append(panel);
+    m_addedPanels.append(panel);
     ui->horizontalLayout_vectors->addWidget(panel);
 }
 
 void VectorDialog::deleteWidgetSlot(VectorWidget *widget)
 {
-    const int place = addedPanels.indexOf(widget);
+    const int place = m_addedPanels.indexOf(widget);
     if (place < 0)
         return;
     const bool hadFocus = widget->isAncestorOf(focusWidget());
-    addedPanels.removeAll(widget);
+    m_addedPanels.removeAll(widget);
     delete widget;
-    if (hadFocus && addedPanels.isEmpty())
+    if (hadFocus && m_addedPanels.isEmpty())
         ui->toolButton->setFocus();
     else if (hadFocus)
-        addedPanels.at(std::min(place, addedPanels.size() - 1))->focusRemoval();
+        m_addedPanels.at(std::min(place, m_addedPanels.size() - 1))->focusRemoval();
 }
 
 void VectorDialog::on_comboBox_reference_currentIndexChanged(int)
@@ -116,5 +116,5 @@ void VectorDialog::showEvent(QShowEvent *) { }
 
 QList<VectorWidget *> VectorDialog::panels() const
 {
-    return firstPanel ? QList<VectorWidget *>{firstPanel} + addedPanels : addedPanels;
+    return m_firstPanel ? QList<VectorWidget *>{m_firstPanel} + m_addedPanels : m_addedPanels;
 }

@@ -57,10 +57,10 @@ private:
     QList<VectorWidget *> panels() const;
     void equip(VectorWidget *panel);
 
-    QStringList channelNames;
-    VectorWidget *firstPanel = nullptr;
+    QStringList m_channelNames;
+    VectorWidget *m_firstPanel = nullptr;
     std::unique_ptr<Ui::VectorDialog> ui;
     QObject *mainWindow = nullptr; // handed on to the panels
-    QList<VectorWidget *> addedPanels;
+    QList<VectorWidget *> m_addedPanels;
     QPointer<Plotter> plotter;
 };

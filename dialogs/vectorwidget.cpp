@@ -121,13 +121,13 @@ VectorWidget::VectorWidget(QWidget *parent)
       channelColors{{250, 140, 20}, {0, 255, 0}, {100, 150, 255}, {223, 105, 209}, {60, 150, 0},
           {80, 150, 180}, {193, 137, 62}, {0, 255, 255}, {245, 30, 18}, {112, 146, 190}, {0, 0, 0},
           {200, 191, 231}, {177, 177, 177}},
-      refreshTimer(new QTimer(this)),
-      owner(qobject_cast<VectorDialog *>(parent)),
+      m_refreshTimer(new QTimer(this)),
+      m_owner(qobject_cast<VectorDialog *>(parent)),
       ui(std::make_unique<Ui::VectorWidget>()),
       m_checkBoxTimer(new QTimer(this))
 {
     ui->setupUi(this);
-    connect(refreshTimer, &QTimer::timeout, this, &VectorWidget::drawAll);
+    connect(m_refreshTimer, &QTimer::timeout, this, &VectorWidget::drawAll);
     connect(
         m_checkBoxTimer, &QTimer::timeout, this, [this] { makeCheckBoxes(checkBoxesOfARound); });
     // The check boxes show their names by themselves.
@@ -155,30 +155,30 @@ void VectorWidget::setPlotter(Plotter *source)
 
 void VectorWidget::setChannelNames(const QStringList &names)
 {
-    channelNames = names;
-    qDeleteAll(checkBoxes);
-    checkBoxes.clear();
+    m_channelNames = names;
+    qDeleteAll(m_checkBoxes);
+    m_checkBoxes.clear();
     makeCheckBoxes(isVisible() ? shownCheckBoxes : firstCheckBoxes);
 }
 
 void VectorWidget::makeCheckBoxes(int count)
 {
-    const int end = std::min(channelNames.size(), checkBoxes.size() + count);
-    for (int i = checkBoxes.size(); i < end; ++i) {
+    const int end = std::min(m_channelNames.size(), m_checkBoxes.size() + count);
+    for (int i = m_checkBoxes.size(); i < end; ++i) {
         auto *checkBox = new ElidingCheckBox(this);
         connect(checkBox, &QCheckBox::toggled, this, &VectorWidget::drawAll);
         ui->gridLayout->addWidget(checkBox, i / checkBoxesPerRow, i % checkBoxesPerRow);
         checkBox->setStyleSheet(colorSheet(channelColors.at(i % channelColors.size())));
-        checkBox->setName(channelNames.at(i));
+        checkBox->setName(m_channelNames.at(i));
         // The panel's width is fixed, however long the names are.
         checkBox->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         QWidget *previous = ui->toolButton; // for the Tab key
         if (i > 0)
-            previous = checkBoxes.constLast();
+            previous = m_checkBoxes.constLast();
         setTabOrder(previous, checkBox);
-        checkBoxes.append(checkBox);
+        m_checkBoxes.append(checkBox);
     }
-    if (isVisible() && end < channelNames.size())
+    if (isVisible() && end < m_channelNames.size())
         m_checkBoxTimer->start(0);
     else
         m_checkBoxTimer->stop();
@@ -192,8 +192,8 @@ void VectorWidget::disableRemoval()
 
 void VectorWidget::requestRedraw()
 {
-    if (!refreshTimer->isActive())
-        refreshTimer->start(refreshDelay);
+    if (!m_refreshTimer->isActive())
+        m_refreshTimer->start(refreshDelay);
 }
 
 void VectorWidget::drawAll()
@@ -202,20 +202,20 @@ void VectorWidget::drawAll()
         requestRedraw();
         return;
     }
-    refreshTimer->stop();
-    diagramPixmap = pixmapFor(*ui->labelVector);
-    magnitudesPixmap = pixmapFor(*ui->labelMagnitudes);
-    renderPending = true;
+    m_refreshTimer->stop();
+    m_diagramPixmap = pixmapFor(*ui->labelVector);
+    m_magnitudesPixmap = pixmapFor(*ui->labelMagnitudes);
+    m_renderPending = true;
     update();
 
     // A check box that reports its toggling must not be deleted meanwhile, so no event is handled
     // then.
     if (!qobject_cast<QCheckBox *>(sender()) && !waitForPaintEvent())
         return;
-    if (renderPending)
+    if (m_renderPending)
         renderPixmaps();
-    ui->labelVector->setPixmap(diagramPixmap);
-    ui->labelMagnitudes->setPixmap(magnitudesPixmap);
+    ui->labelVector->setPixmap(m_diagramPixmap);
+    ui->labelMagnitudes->setPixmap(m_magnitudesPixmap);
 }
 
 // Handles events other than the user's for 10 ms; false when one of them has deleted the widget.
@@ -256,7 +256,7 @@ void VectorWidget::mousePressEvent(QMouseEvent *event)
 
 void VectorWidget::chooseColor(const QPointer<QCheckBox> &checkBox)
 {
-    const int entry = checkBoxes.indexOf(checkBox) % channelColors.size();
+    const int entry = m_checkBoxes.indexOf(checkBox) % channelColors.size();
     const QPointer<VectorWidget> self(this);
     const QColor color = QColorDialog::getColor(Qt::white, this);
     if (!self)
@@ -270,13 +270,13 @@ void VectorWidget::chooseColor(const QPointer<QCheckBox> &checkBox)
 
 void VectorWidget::paintEvent(QPaintEvent *)
 {
-    if (renderPending)
+    if (m_renderPending)
         renderPixmaps();
 }
 
 void VectorWidget::showEvent(QShowEvent *)
 {
-    makeCheckBoxes(std::max(shownCheckBoxes - checkBoxes.size(), 0));
+    makeCheckBoxes(std::max(shownCheckBoxes - m_checkBoxes.size(), 0));
     QTimer::singleShot(firstDrawDelay, this, &VectorWidget::drawAll);
 }
 
@@ -342,17 +342,17 @@ void VectorWidget::contextMenuEvent(QContextMenuEvent *event)
 
 void VectorWidget::renderPixmaps()
 {
-    renderPending = false;
-    diagramPixmap.fill(Qt::transparent);
-    magnitudesPixmap.fill(Qt::transparent);
+    m_renderPending = false;
+    m_diagramPixmap.fill(Qt::transparent);
+    m_magnitudesPixmap.fill(Qt::transparent);
     m_drawn.clear();
     if (!plotter)
         return;
 
     const QList<int> channels = checkedChannels();
     const PhasorDiagram diagram(extremeOf(channels), ui->labelVector->size());
-    QPainter diagramPainter(&diagramPixmap);
-    QPainter magnitudesPainter(&magnitudesPixmap);
+    QPainter diagramPainter(&m_diagramPixmap);
+    QPainter magnitudesPainter(&m_magnitudesPixmap);
     diagramPainter.translate(30, 20);
     drawGrid(diagramPainter, diagram);
     diagramPainter.resetTransform();
@@ -416,8 +416,8 @@ void VectorWidget::drawPhasors(QPainter &diagramPainter, QPainter &magnitudesPai
 
 int VectorWidget::referenceChannel() const
 {
-    const int position = owner ? owner->referencePosition() : -1;
-    return position < 0 ? 0 : positionOf(owner->referenceName(), recordingNames(), position) + 1;
+    const int position = m_owner ? m_owner->referencePosition() : -1;
+    return position < 0 ? 0 : positionOf(m_owner->referenceName(), recordingNames(), position) + 1;
 }
 
 // With the side, of a channel counted from 1.
@@ -435,9 +435,9 @@ QList<int> VectorWidget::checkedChannels() const
 {
     const QStringList names = recordingNames();
     QList<int> channels;
-    for (int i = 0; i < checkBoxes.size(); ++i)
-        if (checkBoxes.at(i)->isChecked())
-            channels.append(positionOf(channelNames.at(i), names, i) + 1);
+    for (int i = 0; i < m_checkBoxes.size(); ++i)
+        if (m_checkBoxes.at(i)->isChecked())
+            channels.append(positionOf(m_channelNames.at(i), names, i) + 1);
     return channels;
 }
 

@@ -88,16 +88,16 @@ private:
     QPixmap pixmapFor(const QWidget &label) const;
 
     QList<QColor> channelColors;
-    QTimer *refreshTimer;
+    QTimer *m_refreshTimer;
     DialogHost *mainWindow = nullptr;
     QPointer<Plotter> plotter;
-    QPixmap diagramPixmap;
-    QPixmap magnitudesPixmap;
+    QPixmap m_diagramPixmap;
+    QPixmap m_magnitudesPixmap;
     DrawnPhasors m_drawn; // in both
-    QStringList channelNames;
-    QList<QCheckBox *> checkBoxes; // parallel to channelNames, as far as they are made
-    VectorDialog *owner;
-    bool renderPending = false;
+    QStringList m_channelNames;
+    QList<QCheckBox *> m_checkBoxes; // parallel to m_channelNames, as far as they are made
+    VectorDialog *m_owner;
+    bool m_renderPending = false;
     std::unique_ptr<Ui::VectorWidget> ui;
     QTimer *m_checkBoxTimer; // runs while there are more to make
     bool m_drawing = false;

@@ -48,6 +48,11 @@ int AnalogSource::firstSpectrum() const
     return m_recording ? m_recording->analogChannels.size() : std::numeric_limits<int>::max();
 }
 
+QString AnalogSource::nameOf(int number, const QString &channelName) const
+{
+    return isSpectrum(number) ? channelName + QStringLiteral(" FFT") : channelName;
+}
+
 const AnalogChannel *AnalogSource::channel(int number) const
 {
     if (!m_recording)

@@ -149,5 +149,5 @@ void stepCursor(Plotter &plot, int cursor, bool isForward)
         });
     }
     plot.moveCursor(cursor, *time);
-    plot.zoomIn();
+    plot.refreshAll();
 }

@@ -88,7 +88,7 @@ void Plotter::removeLinkedPlotter(const QString &name)
 
 bool Plotter::showsSpectrum() const
 {
-    return !digitalFlag && m_channels.count() > 0
+    return !m_digitalFlag && m_channels.count() > 0
         && AnalogSource(mainWindow).isSpectrum(m_channels.byNumber().lastKey());
 }
 
@@ -149,8 +149,8 @@ void Plotter::resetPlot()
     m_view.clear();
     zoomLevel = 0;
     scrollDelta = 0;
-    restX = 0;
-    restY = 0;
+    m_restX = 0;
+    m_restY = 0;
     clearCursors();
 }
 

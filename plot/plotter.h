@@ -21,7 +21,6 @@ class CFGProperties;
 class PlotHost;
 class PlotTitle;
 class QColorDialog;
-class QLabel;
 
 // Shows analog channels of a recording as waveforms or spectra against time. A plot paints into two
 // pixmaps, the base layer (grid, traces, readout) and the overlay (cursors); a repaint only copies
@@ -66,6 +65,7 @@ public:
     // After a change of factors or angles: fits the value axis to them, keeping what was zoomed to.
     void rescaleValues();
     void resetPlot();
+    void refreshAll(); // this plot and the linked ones
 
     // Changes the view, gives whether that did something, and has the linked plots follow in time.
     bool changeView(const ViewChange &change);
@@ -143,7 +143,7 @@ protected:
     void setHome();
 
     QString plotType; // "Analog" or "Digital"; the zooms ask whether it contains one of them
-    int digitalFlag = 0;
+    int m_digitalFlag = 0;
     PlotTitle *plotterLabel;
     ShownChannels m_channels; // traces are drawn in the order of the numbers
     TimeAxis m_timeAxis;
@@ -152,7 +152,6 @@ protected:
 
 private:
     bool isOnScreen() const;
-    void refreshAll();
     void refreshOverlay();
     void settleReadout();
     void shareReadoutWidth();
@@ -193,8 +192,8 @@ private:
     // Kept for their values; nothing reads them.
     QWidget *hostWidget;
     int scrollDelta = 0;
-    int restX = 710;
-    int restY = 138;
+    int m_restX = 710;
+    int m_restY = 138;
 
     static SharedView s_shared;
 };

@@ -107,7 +107,7 @@ void Plotter::placeMarks()
     if (m_view.isEmpty())
         return;
     m_marks.place(geometryOfView());
-    m_drags.band.preview(m_view, geometryOfView(), !digitalFlag);
+    m_drags.band.preview(m_view, geometryOfView(), !m_digitalFlag);
     const QLabel *dragged = m_drags.label.label();
     if (dragged && dragged->isHidden()) // by a zoom; it would not be told of its release
         endDrag();

@@ -29,7 +29,7 @@ QVector<ChannelLabels::Entry> labelEntries(
         const ShownChannel &shown = channels.at(number);
         QString text = shown.id + QLatin1Char('(') + shown.unit + QLatin1Char(')');
         if (source.isSpectrum(number))
-            text += QStringLiteral("_FFT");
+            text += spectrumSuffix;
         QStringList tip{text, shown.phase, shown.circuit};
         tip.removeAll(QString());
         const QColor color = channels.color(number, source.firstSpectrum());
@@ -55,7 +55,7 @@ Readout readoutAt(const QList<double> &cursors, const TimeAxis &axis, const Show
     for (const int number : channels.order()) {
         const ShownChannel &shown = channels.at(number);
         const QVector<float> &values = shown.trace.values();
-        Readout::Row row{source.isSpectrum(number) ? shown.id + QStringLiteral(" FFT") : shown.id};
+        Readout::Row row{source.nameOf(number, shown.id)};
         Readout::Row briefRow = row;
         for (const int sample : qAsConst(samples)) {
             const bool isRecorded = sample >= 0 && sample < values.size();
@@ -81,7 +81,7 @@ void Plotter::refreshPixmap()
     BaseContent content = baseContent();
     if (!(content == m_base.content)) {
         m_base.content = std::move(content);
-        if (!digitalFlag)
+        if (!m_digitalFlag)
             m_channelLabels.show(labelEntries(m_channels, AnalogSource(mainWindow)));
         paintBase(visibleRegion().boundingRect());
     }
@@ -101,7 +101,7 @@ BaseContent Plotter::baseContent() const
     content.times = m_timeAxis.times();
     const AnalogSource source(mainWindow);
     const int firstSpectrum
-        = digitalFlag ? std::numeric_limits<int>::max() : source.firstSpectrum();
+        = m_digitalFlag ? std::numeric_limits<int>::max() : source.firstSpectrum();
     for (const int number : channels()) {
         const QColor color = m_channels.color(number, firstSpectrum);
         content.traces.append({number, source.factor(number), color.rgb(), m_channels.at(number)});
@@ -181,7 +181,7 @@ void Plotter::drawTrigger(QPainter *painter)
 
 void Plotter::settleReadout()
 {
-    m_readoutRoom.readout = digitalFlag
+    m_readoutRoom.readout = m_digitalFlag
         ? Readout()
         : readoutAt(cursors(), m_timeAxis, m_channels, AnalogSource(mainWindow));
     m_readoutRoom.needed = m_readoutRoom.readout.neededWidth(smallFont(font()));
@@ -194,7 +194,7 @@ void Plotter::shareReadoutWidth()
 {
     QVector<Plotter *> sharing;
     for (Plotter *plotter : QList<Plotter *>{this} + linkedPlotters) {
-        if (!plotter->digitalFlag && plotter->isOnScreen())
+        if (!plotter->m_digitalFlag && plotter->isOnScreen())
             sharing.append(plotter);
     }
     const auto moves = [&] { // the plots whose room becomes another, with its width

@@ -144,7 +144,7 @@ void Plotter::mouseMoveEvent(QMouseEvent *event)
         dragCursor(point.x());
     if (m_drags.band.isShown()) {
         m_drags.band.growTo(point);
-        m_drags.band.preview(m_view, geometryOfView(), !digitalFlag);
+        m_drags.band.preview(m_view, geometryOfView(), !m_digitalFlag);
     }
     if (m_drags.view.isActive())
         dragView(m_drags.view.moveTo(point));

@@ -117,7 +117,7 @@ void Plotter::dragView(const QPoint &way)
         return;
     const double time = -way.x() * view().spanX() / geometry.plotWidth();
     const double value = way.y() * view().spanY() / (geometry.plotHeight() - PlotGeometry::top);
-    lead([&](PlotView &now) { return now.moveBy(time, digitalFlag ? 0 : value); });
+    lead([&](PlotView &now) { return now.moveBy(time, m_digitalFlag ? 0 : value); });
 }
 
 // One that is hidden has a view of an earlier moment.

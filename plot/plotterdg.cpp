@@ -28,7 +28,7 @@ constexpr int smallestRowHeight = 16;
 plotterDg::plotterDg(QWidget *parent) : Plotter(parent)
 {
     plotType = QStringLiteral("Digital");
-    digitalFlag = 1;
+    m_digitalFlag = 1;
 }
 
 void plotterDg::setupPlot()

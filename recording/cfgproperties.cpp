@@ -26,7 +26,7 @@ CFGProperties::~CFGProperties() = default;
 void CFGProperties::init()
 {
     clearConfig();
-    failure = Failure::None;
+    m_failure = Failure::None;
     try {
         load();
     } catch (const Interruption &) {
@@ -48,7 +48,7 @@ void CFGProperties::fail(Failure reason)
         *channel = DigitalChannel();
     clearConfig();
     loaded = 0;
-    failure = reason;
+    m_failure = reason;
 }
 
 void CFGProperties::load()
@@ -62,7 +62,7 @@ void CFGProperties::load()
         fftTransform();
     }
     requireMemory(0);
-    if (progress.isCancelled())
+    if (m_progress.isCancelled())
         throw Interruption();
 }
 
@@ -81,12 +81,12 @@ bool CFGProperties::readDatFile()
 {
     filePath.replace(QLatin1String(".cfg"), QLatin1String(".dat"), Qt::CaseInsensitive);
     QFile file(existingPath(filePath));
-    failure = Failure::NoDataFile;
+    m_failure = Failure::NoDataFile;
     if (!isPipeOrDevice(file.fileName()) && file.open(QIODevice::ReadOnly)) {
         const LoadStage stage = reading(file);
         readData(file, *this);
         if (sampleCount > 0) {
-            failure = Failure::None;
+            m_failure = Failure::None;
             return true;
         }
         // Without a rate, the type most likely stands a line later.
@@ -95,7 +95,7 @@ bool CFGProperties::readDatFile()
                 || note.kind == ReadingNote::Kind::NoRates;
         });
         const bool isAscii = fileType.contains(QLatin1String("ascii"), Qt::CaseInsensitive);
-        failure = isNoted && !isAscii ? Failure::NotAscii : Failure::NoDataLine;
+        m_failure = isNoted && !isAscii ? Failure::NotAscii : Failure::NoDataLine;
     }
     clearConfig();
     return false;
@@ -112,7 +112,7 @@ void CFGProperties::readTxtFile()
 
 LoadStage CFGProperties::reading(const QFile &file)
 {
-    return {progress, LoadProgress::Stage::Reading, file.size(), [&file] { return file.pos(); }};
+    return {m_progress, LoadProgress::Stage::Reading, file.size(), [&file] { return file.pos(); }};
 }
 
 void CFGProperties::fftTransform()
@@ -124,7 +124,7 @@ void CFGProperties::fftTransform()
         samples += channel->rawValues.size();
     qint64 before = 0; // of the channels that have their phasors
     for (AnalogChannel *channel : qAsConst(analogChannels)) {
-        const LoadStage stage(progress, LoadProgress::Stage::Phasors, samples,
+        const LoadStage stage(m_progress, LoadProgress::Stage::Phasors, samples,
             [=] { return before + channel->fftMagnitudes.size(); });
         computePhasors(*channel, samplesPerCycle);
         before += channel->rawValues.size();

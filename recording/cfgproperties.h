@@ -18,14 +18,16 @@ public:
     explicit CFGProperties(QObject *parent = nullptr);
     ~CFGProperties() override;
 
-    // These three survive clearConfig().
+    // These three survive clearConfig(), as does why the last init() failed.
     QString filePath; // file to load; names the ".dat" file after a COMTRADE load
     int loaded = 0; // result of the last init(): 1 loaded, 0 failed
-    enum class Failure { None, NoDataFile, NotAscii, NoDataLine, ReadError, LittleMemory, GivenUp };
-    Failure failure = Failure::None; // why it failed; survives clearConfig(), too
     double timeMultiplier = 1.0; // read, not applied
 
-    LoadProgress progress; // of init(); a cancelled load fails and leaves everything cleared
+    enum class Failure { None, NoDataFile, NotAscii, NoDataLine, ReadError, LittleMemory, GivenUp };
+    Failure failure() const { return m_failure; }
+
+    // Of init(); a cancelled load fails and leaves everything cleared.
+    LoadProgress &progress() { return m_progress; }
 
     // Reads the ASCII data file beside the configuration (clause 6) and makes the channel records.
     // False, with everything cleared, when there is no data line. This and the two other readers
@@ -58,4 +60,7 @@ private:
     void load();
     void fail(Failure reason);
     LoadStage reading(const QFile &file); // by its bytes
+
+    Failure m_failure = Failure::None;
+    LoadProgress m_progress;
 };

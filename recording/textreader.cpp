@@ -12,6 +12,7 @@
 #include "recordregistry.h"
 #include "samplebudget.h"
 #include "textlines.h"
+#include "timeofday.h"
 
 #include <QDateTime>
 #include <QIODevice>
@@ -167,9 +168,9 @@ public:
         noteFieldCount(line, fields);
         const QDateTime stamp = parsedStamp(fields.constFirst());
         if (m_recording.startDate.isEmpty())
-            m_recording.startDate = stamp.toString(QStringLiteral("dd/MM/yyyy"));
+            m_recording.startDate = stamp.toString(dateFormat);
         if (m_recording.startTime.isEmpty())
-            m_recording.startTime = stamp.toString(QStringLiteral("hh:mm:ss:zzz"));
+            m_recording.startTime = stamp.toString(exportedTimeFormat);
         const qint64 moment = stamp.isValid() ? stamp.toMSecsSinceEpoch() : 0;
         if (m_reference == 0)
             m_reference = moment;

@@ -17,20 +17,18 @@ constexpr qint64 microsPerDay = 86'400'000 * microsPerMs;
 
 } // namespace
 
-QDateTime joinedAsUtc(const QString &date, const QString &dateFormat, const QString &time)
+QDateTime joinedAsUtc(const QString &date, const QString &format, const QString &time)
 {
     const QTime timeOfDay = QTime::fromString(time, timeOfDayFormat);
     if (!timeOfDay.isValid())
         return QDateTime(); // the toolkit would take it as midnight
-    return QDateTime(QDate::fromString(date, dateFormat), timeOfDay, Qt::UTC);
+    return QDateTime(QDate::fromString(date, format), timeOfDay, Qt::UTC);
 }
 
-// Text exports have a colon before the milliseconds.
 QTime readStart(const QString &startTime)
 {
     const QTime start = QTime::fromString(startTime.trimmed(), timeOfDayFormat);
-    return start.isValid() ? start
-                           : QTime::fromString(startTime.trimmed(), QStringLiteral("hh:mm:ss:zzz"));
+    return start.isValid() ? start : QTime::fromString(startTime.trimmed(), exportedTimeFormat);
 }
 
 QString clockText(const QString &startTime, double ms)

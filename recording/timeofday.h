@@ -10,10 +10,13 @@
 
 // A time of day as configuration files have it, to the millisecond.
 inline const QString timeOfDayFormat = QStringLiteral("hh:mm:ss.zzz");
+// As text exports have it.
+inline const QString exportedTimeFormat = QStringLiteral("hh:mm:ss:zzz");
+inline const QString dateFormat = QStringLiteral("dd/MM/yyyy");
 
 // Date and time of day are read apart and joined as UTC, so that no hour falls into the gap that
 // daylight saving leaves in local time. Invalid where one of them does not read.
-QDateTime joinedAsUtc(const QString &date, const QString &dateFormat, const QString &time);
+QDateTime joinedAsUtc(const QString &date, const QString &format, const QString &time);
 
 // The time of day, to the microsecond, at a time of a recording that starts at startTime (as
 // timeOfDayFormat has it): "10:00:00.020500" for 20.5 ms after 10 o'clock. It begins anew at

@@ -16,6 +16,7 @@
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QTableView>
+#include <QToolButton>
 
 // The recording lasts from 0 to 99 ms, its whole view to 100; Trip changes at 50 ms, the trigger.
 class TestSideWindows : public PlotsWindow {
@@ -336,7 +337,8 @@ void TestSideWindows::measurementsOpenFromAPhasorPanel()
     trigger("&Show Vectors");
     auto *vectors = window->findChild<VectorDialog *>();
     QVERIFY(QTest::qWaitForWindowExposed(vectors));
-    vectors->on_toolButton_clicked(); // a second panel
+    vectors->findChild<QToolButton *>(QStringLiteral("toolButton"), Qt::FindDirectChildrenOnly)
+        ->click(); // a second panel
     for (VectorWidget *panel : vectors->findChildren<VectorWidget *>()) {
         QTRY_VERIFY(panel->isVisible());
         const QPoint diagram = panel->findChild<QLabel *>(QStringLiteral("labelVector"))

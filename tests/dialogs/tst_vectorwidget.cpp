@@ -448,7 +448,7 @@ void TestVectorWidget::offersTheColorByKeysOverACheckBoxAlone()
 {
     recording.add(QStringLiteral("A"), 0, 50, extremeOf100);
     recording.add(QStringLiteral("B"), 1, 50, extremeOf100);
-    dialog->on_toolButton_clicked(); // the second panel has a button that takes the focus
+    addPanel(); // the second panel has a button that takes the focus
     show();
     panel = dialog->findChildren<VectorWidget *>().at(1);
     check(1);
@@ -587,9 +587,7 @@ void TestVectorWidget::survivesItsRemovalWhileItWaits()
     QFETCH(bool, byToggle);
     recording.add(QStringLiteral("A"), 0, 50, extremeOf100);
     show();
-    QTest::mouseClick(
-        dialog->findChild<QToolButton *>(QStringLiteral("toolButton"), Qt::FindDirectChildrenOnly),
-        Qt::LeftButton);
+    addPanel();
     panel = dialog->findChildren<VectorWidget *>().last();
     QTRY_VERIFY(!diagram().isNull());
     QTimer::singleShot(0, this, [&] {
@@ -611,7 +609,7 @@ void TestVectorWidget::drawsPanelsOutOfView()
     recording.add(QStringLiteral("A"), 0, 50, extremeOf100);
     show();
     for (int i = 0; i < 4; ++i)
-        dialog->on_toolButton_clicked();
+        addPanel();
     panel = dialog->findChildren<VectorWidget *>().last();
     QTRY_VERIFY(!diagram().isNull());
     QVERIFY(dialog->width() <= dialog->screen()->availableSize().width());

@@ -64,11 +64,11 @@ class TestLoadProgress : public QObject {
     // Loads in another thread, and calls the other function with each place seen meanwhile.
     static void load(CFGProperties &recording, const std::function<void(LoadProgress::Place)> &seen)
     {
-        recording.progress.restart();
+        recording.progress().restart();
         const std::unique_ptr<QThread> thread(QThread::create([&] { recording.init(); }));
         thread->start();
         while (!thread->wait(betweenPlaces))
-            seen(recording.progress.place());
+            seen(recording.progress().place());
     }
 
 private slots:
@@ -172,7 +172,7 @@ private slots:
             places.push_back(place);
         });
         QCOMPARE(recording.loaded, 1);
-        QCOMPARE(recording.failure, CFGProperties::Failure::None);
+        QCOMPARE(recording.failure(), CFGProperties::Failure::None);
         QVERIFY(isAscending);
         for (const Stage stage : {Stage::Reading, Stage::Phasors}) {
             float least = 1;
@@ -209,27 +209,27 @@ private slots:
         const QString path = isExport ? exportOnDisk() : recordingOnDisk();
         recording.filePath = path;
         const QSignalSpy finished(&recording, &CFGProperties::initFinished);
-        recording.progress.restart();
+        recording.progress().restart();
         const std::unique_ptr<QThread> thread(QThread::create([&] { recording.init(); }));
         if (stage < 0)
-            recording.progress.cancel();
+            recording.progress().cancel();
         thread->start();
         bool isReached = stage < 0;
         QElapsedTimer sinceCancelled;
         while (!thread->wait(betweenPlaces)) {
-            const LoadProgress::Place place = recording.progress.place();
+            const LoadProgress::Place place = recording.progress().place();
             if (isReached || int(place.stage) != stage || place.done <= from)
                 continue;
             isReached = true;
             sinceCancelled.start();
-            recording.progress.cancel();
+            recording.progress().cancel();
         }
         QVERIFY(isReached);
         // It ends within 200 ms, but later on a busy machine and under sanitizers.
         QVERIFY(!sinceCancelled.isValid() || sinceCancelled.elapsed() < 2000);
         QCOMPARE(finished.count(), 1);
         QCOMPARE(recording.loaded, 0);
-        QCOMPARE(recording.failure, CFGProperties::Failure::GivenUp);
+        QCOMPARE(recording.failure(), CFGProperties::Failure::GivenUp);
         QCOMPARE(recording.stationName, QString());
         QCOMPARE(recording.sampleTimes.size(), 0);
         QVERIFY(recording.analogChannels.isEmpty());
@@ -237,7 +237,7 @@ private slots:
         recording.filePath = path;
         load(recording, [](LoadProgress::Place) {});
         QCOMPARE(recording.loaded, 1);
-        QCOMPARE(recording.failure, CFGProperties::Failure::None);
+        QCOMPARE(recording.failure(), CFGProperties::Failure::None);
         QCOMPARE(recording.sampleCount, samples);
     }
 
@@ -247,11 +247,11 @@ private slots:
         recording.filePath = path("small.cfg");
         QVERIFY(writeTextFile(recording.filePath, configuration()));
         QVERIFY(writeTextFile(path("small.dat"), "1,1,5\n"));
-        recording.progress.restart();
-        recording.progress.cancel();
+        recording.progress().restart();
+        recording.progress().cancel();
         recording.init();
         QCOMPARE(recording.loaded, 0);
-        QCOMPARE(recording.failure, CFGProperties::Failure::GivenUp);
+        QCOMPARE(recording.failure(), CFGProperties::Failure::GivenUp);
         QVERIFY(recording.analogChannels.isEmpty());
     }
 };

@@ -558,7 +558,7 @@ void TestReadingNotes::failedLoads()
     CFGProperties recording;
     recording.filePath = writePair(m_folder.path("failed"), configuration, data);
     recording.init();
-    QTEST(recording.failure, "failure");
+    QTEST(recording.failure(), "failure");
     QCOMPARE(recording.loaded, 0);
     QVERIFY(recording.notes.isEmpty());
 }

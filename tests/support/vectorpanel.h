@@ -13,6 +13,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPainter>
+#include <QToolButton>
 #include <QtTest>
 
 #include <memory>
@@ -154,6 +155,13 @@ protected:
         dialog->show();
         QVERIFY(QTest::qWaitForWindowExposed(dialog));
         QTRY_VERIFY(!diagram().isNull());
+    }
+
+    void addPanel()
+    {
+        QTest::mouseClick(dialog->findChild<QToolButton *>(
+                              QStringLiteral("toolButton"), Qt::FindDirectChildrenOnly),
+            Qt::LeftButton);
     }
 
     void check(int box) { checkBoxes().at(box)->setChecked(true); }
