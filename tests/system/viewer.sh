@@ -4,13 +4,14 @@
 # For scripts that drive the real viewer on an X server of its own; to be sourced.
 # shellcheck shell=bash
 
-# on_own_display WIDTHxHEIGHT SCRIPT ARGUMENT...: runs the script again on an X server of that size.
+# on_own_display WIDTHxHEIGHT SCRIPT ARGUMENT...: runs the script again on an X server of that size, which keeps
+# what is set before the viewer starts.
 on_own_display() {
     local size=$1
     shift
     [ -z "${OWN_DISPLAY:-}" ] || return 0
     export OWN_DISPLAY=$size
-    exec xvfb-run -a -s "-screen 0 ${size}x24 -dpi 96" "$@"
+    exec xvfb-run -a -s "-screen 0 ${size}x24 -dpi 96 -noreset" "$@"
 }
 
 # start_viewer VIEWER RECORDING: starts it over the whole display, with settings and folders of its own,
