@@ -39,8 +39,8 @@ bool isTimeCode(std::string_view text)
     const std::optional<std::int64_t> minutes = letter == std::string_view::npos
         ? std::optional<std::int64_t>(0)
         : fromDigits(text.substr(letter + 1));
-    const std::int64_t mostMinutes = (isBehind ? 12 : 14) * 60;
-    return hours && minutes && *minutes < 60 && *hours * 60 + *minutes <= mostMinutes;
+    const std::int64_t mostHours = isBehind ? 12 : 14;
+    return hours && minutes && *minutes < 60 && *hours * 60 + *minutes <= mostHours * 60;
 }
 
 } // namespace
