@@ -11,7 +11,8 @@ on_own_display() {
     shift
     [ -z "${OWN_DISPLAY:-}" ] || return 0
     export OWN_DISPLAY=$size
-    exec xvfb-run -a -s "-screen 0 ${size}x24 -dpi 96 -noreset" "$@"
+    # A free number that is looked for may be taken by another one meanwhile; a process has its own.
+    exec xvfb-run -n "$((100 + $$ % 20000))" -s "-screen 0 ${size}x24 -dpi 96 -noreset" "$@"
 }
 
 # start_viewer VIEWER RECORDING: starts it over the whole display, with settings and folders of its own,
