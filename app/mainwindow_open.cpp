@@ -64,6 +64,8 @@ QString reasonText(CFGProperties::Failure failure)
     switch (failure) {
     case Failure::NoDataFile:
         return MainWindow::tr("There is no data file (.dat) beside it.");
+    case Failure::NoAccess:
+        return MainWindow::tr("The data file (.dat) beside it cannot be read.");
     case Failure::NotAscii:
         return MainWindow::tr("Its data are not ASCII.");
     case Failure::NoDataLine:

@@ -172,7 +172,7 @@ private:
     void rangeScrollBar();
     void takeBarPosition();
     void scrollView(int dx, int dy);
-    void showTimeLine(int x, const Plotter &pointed);
+    void showPointer(const QPoint &point, bool withLine);
     void removeCursors(int first, int last);
     void dragCursor(int x);
     void takeKeyboard();

@@ -12,16 +12,27 @@
 
 #include <algorithm>
 
-// The line stands at the same place in all plots, the mark at the time of the plot pointed at.
-void Plotter::showTimeLine(int x, const Plotter &pointed)
+// The line stands at the same place in all plots, the mark at the time of this one in the others.
+void Plotter::showPointer(const QPoint &point, bool withLine)
 {
-    if (m_view.isEmpty())
-        return;
-    m_marks.timeLine.show(x, geometryOfView());
-    if (&pointed == this)
-        m_marks.timeMark->hide();
-    else if (!pointed.m_view.isEmpty())
-        m_marks.timeMark->show(pointed.geometryOfView().lineTime(x), geometryOfView());
+    const auto show = [&](Plotter *plotter) {
+        if (plotter->m_view.isEmpty())
+            return;
+        if (withLine)
+            plotter->m_marks.timeLine.show(point.x(), plotter->geometryOfView());
+        if (plotter == this)
+            m_marks.timeMark->hide();
+        else if (!m_view.isEmpty())
+            plotter->m_marks.timeMark->show(
+                geometryOfView().lineTime(point.x()), plotter->geometryOfView());
+    };
+    show(this);
+    for (Plotter *plotter : qAsConst(linkedPlotters)) {
+        if (plotter != this)
+            show(plotter);
+    }
+    if (mainWindow)
+        mainWindow->pointAt(this, point);
 }
 
 void Plotter::addCursor(int x, int /*y*/)

@@ -66,6 +66,9 @@ bool Plotter::event(QEvent *event)
             colorDialog->setWindowTitle(QColorDialog::tr("Select Color"));
         refreshPixmap();
         break;
+    case QEvent::Enter: // after a drag from another plot, too, which had the moves
+        showPointer(static_cast<QEnterEvent *>(event)->pos(), false);
+        break;
     case QEvent::Hide:
     case QEvent::WindowDeactivate:
         letGo();
@@ -100,16 +103,20 @@ void Plotter::mousePressEvent(QMouseEvent *event)
 {
     if (m_drags.view.isActive()) // another button; what it drags would go on beside the view
         return;
+    // The toolkit may not tell of the release of a second button.
+    const bool mayDrag = event->buttons() == event->button();
     auto *label = qobject_cast<CustomLabel *>(childAt(event->pos()));
     if (label && label->objectName().contains(QLatin1String("lineLabel"))) {
-        m_drags.label.press(label, event->pos());
+        if (mayDrag)
+            m_drags.label.press(label, event->pos());
         return;
     }
     const QRect area = geometryOfView().area();
     const QPoint point(caught(event->pos().x(), area.left(), area.right()),
         caught(event->pos().y(), area.top(), area.bottom()));
     if (event->button() == Qt::LeftButton && area.contains(point)) {
-        m_drags.band.begin(point);
+        if (mayDrag)
+            m_drags.band.begin(point);
         return;
     }
     for (Plotter *plotter : qAsConst(linkedPlotters)) {
@@ -117,8 +124,8 @@ void Plotter::mousePressEvent(QMouseEvent *event)
             plotter->m_drags.band.hide();
         plotter->plotterLabel->closeEditor();
     }
-    if (event->button() == Qt::MiddleButton && area.contains(point) && !m_drags.band.isShown()
-        && !m_drags.label.label()) {
+    if (event->button() == Qt::MiddleButton && area.contains(point) && mayDrag
+        && !m_drags.band.isShown() && !m_drags.label.label()) {
         noteViews();
         m_drags.view.begin(event->pos());
     }
@@ -148,11 +155,7 @@ void Plotter::mouseMoveEvent(QMouseEvent *event)
     }
     if (m_drags.view.isActive())
         dragView(m_drags.view.moveTo(point));
-    showTimeLine(point.x(), *this);
-    for (Plotter *plotter : qAsConst(linkedPlotters))
-        plotter->showTimeLine(point.x(), *this);
-    if (mainWindow)
-        mainWindow->pointAt(this, point);
+    showPointer(point, true);
 }
 
 void Plotter::mouseReleaseEvent(QMouseEvent * /*event*/)

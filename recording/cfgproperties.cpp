@@ -81,7 +81,7 @@ bool CFGProperties::readDatFile()
 {
     filePath.replace(QLatin1String(".cfg"), QLatin1String(".dat"), Qt::CaseInsensitive);
     QFile file(existingPath(filePath));
-    m_failure = Failure::NoDataFile;
+    m_failure = file.exists() ? Failure::NoAccess : Failure::NoDataFile;
     if (!isPipeOrDevice(file.fileName()) && file.open(QIODevice::ReadOnly)) {
         const LoadStage stage = reading(file);
         readData(file, *this);

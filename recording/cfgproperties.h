@@ -23,7 +23,16 @@ public:
     int loaded = 0; // result of the last init(): 1 loaded, 0 failed
     double timeMultiplier = 1.0; // read, not applied
 
-    enum class Failure { None, NoDataFile, NotAscii, NoDataLine, ReadError, LittleMemory, GivenUp };
+    enum class Failure {
+        None,
+        NoDataFile,
+        NoAccess,
+        NotAscii,
+        NoDataLine,
+        ReadError,
+        LittleMemory,
+        GivenUp
+    };
     Failure failure() const { return m_failure; }
 
     // Of init(); a cancelled load fails and leaves everything cleared.

@@ -529,6 +529,10 @@ Please select another file.</translation>
         <translation>There is no data file (.dat) beside it.</translation>
     </message>
     <message>
+        <source>The data file (.dat) beside it cannot be read.</source>
+        <translation>The data file (.dat) beside it cannot be read.</translation>
+    </message>
+    <message>
         <source>Its data are not ASCII.</source>
         <translation>Its data are not ASCII.</translation>
     </message>

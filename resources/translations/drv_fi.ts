@@ -529,6 +529,10 @@ Valitse toinen tiedosto.</translation>
         <translation>Sen vieressä ei ole datatiedostoa (.dat).</translation>
     </message>
     <message>
+        <source>The data file (.dat) beside it cannot be read.</source>
+        <translation>Sen vieressä olevaa datatiedostoa (.dat) ei voi lukea.</translation>
+    </message>
+    <message>
         <source>Its data are not ASCII.</source>
         <translation>Sen data ei ole ASCII-muodossa.</translation>
     </message>

@@ -529,6 +529,10 @@ Please select another file.</source>
         <translation>同一文件夹中没有数据文件 (.dat)。</translation>
     </message>
     <message>
+        <source>The data file (.dat) beside it cannot be read.</source>
+        <translation>无法读取同一文件夹中的数据文件 (.dat)。</translation>
+    </message>
+    <message>
         <source>Its data are not ASCII.</source>
         <translation>其数据不是 ASCII 格式。</translation>
     </message>

@@ -27,6 +27,9 @@ private slots:
     void aCursorIsDraggedBesideTheMiddleButton();
     void anotherButtonDragsNothingBesideTheView_data();
     void anotherButtonDragsNothingBesideTheView();
+    void aButtonBesideALabelOutOfViewDragsNothing_data();
+    void aButtonBesideALabelOutOfViewDragsNothing();
+    void theMarkStandsWhereADragEnds();
 
 private:
     void press(Plotter *plot, const QPoint &point) const
@@ -192,6 +195,65 @@ void TestViewDrag::anotherButtonDragsNothingBesideTheView()
         QCOMPARE(pair->digital->view().minX, -100000.0 / 703);
         QCOMPARE(pair->digital->view().maxX, 1000 - 100000.0 / 703);
         QCOMPARE(pair->digital->cursors(), QList<double>{300});
+    }
+}
+
+void TestViewDrag::aButtonBesideALabelOutOfViewDragsNothing_data()
+{
+    QTest::addColumn<Qt::MouseButton>("held");
+    QTest::addColumn<Qt::MouseButton>("other");
+    QTest::newRow("left, then middle") << Qt::LeftButton << Qt::MiddleButton;
+    QTest::newRow("middle, then left") << Qt::MiddleButton << Qt::LeftButton;
+    QTest::newRow("right, then left") << Qt::RightButton << Qt::LeftButton;
+}
+
+// A label that is hidden under a pressed button takes with it what the toolkit knows of buttons: it
+// tells of the press of another one, not of its release.
+void TestViewDrag::aButtonBesideALabelOutOfViewDragsNothing()
+{
+    QFETCH(Qt::MouseButton, held);
+    QFETCH(Qt::MouseButton, other);
+    QWindow *window = pair->area.windowHandle();
+    pair->digital->raise();
+    for (int twice = 0; twice < 2; ++twice) {
+        pair->digital->customResetZoom();
+        pair->digital->clearCursors();
+        pair->digital->addCursorAt(500);
+        const QPoint grip = PlotPair::lineLabels(pair->digital).first()->geometry().center();
+        QTest::mousePress(window, held, {}, grip);
+        QTest::mouseMove(window, grip + QPoint(60, 0));
+        pair->digital->customZoomIn();
+        pair->digital->customZoomIn(); // shows 250 ms
+        const PlotSettings before = pair->digital->view();
+        QTest::mouseMove(window, {400, 150});
+        QTest::mousePress(window, other, {}, {400, 150});
+        QTest::mouseRelease(window, other, {}, {400, 150});
+        QTest::mouseRelease(window, held, {}, {400, 150});
+        QTest::mouseMove(window, {450, 170});
+        QCOMPARE(pair->digital->view(), before);
+        QVERIFY(pair->digital->cursor().shape() != Qt::ClosedHandCursor);
+        QVERIFY(pair->digital->cursor().shape() != Qt::CrossCursor);
+    }
+}
+
+// The plot that was pressed has the moves until the release, then the one under the pointer.
+void TestViewDrag::theMarkStandsWhereADragEnds()
+{
+    const auto mark = [](const Plotter *plot) {
+        return plot->findChild<QWidget *>(QStringLiteral("timemark"));
+    };
+    for (int twice = 0; twice < 2; ++twice) {
+        press(pair->plot, {400, 150});
+        PlotPair::move(pair->plot, {300, 150}, Qt::MiddleButton);
+        QTest::mouseRelease(pair->plot, Qt::MiddleButton, {}, {300, 150});
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(pair->plot, &leave);
+        QVERIFY(mark(pair->digital)->isHidden());
+        QEnterEvent enter({300, 160}, {300, 160}, {300, 160});
+        QApplication::sendEvent(pair->digital, &enter);
+        QVERIFY(mark(pair->digital)->isHidden());
+        QCOMPARE(mark(pair->plot)->geometry().center().x(), 300);
+        QVERIFY(mark(pair->plot)->isVisibleTo(pair->plot));
     }
 }
 

@@ -87,6 +87,7 @@ private slots:
     void everyLoadBeginsAnew();
     void failedLoads_data();
     void failedLoads();
+    void aDataFileThatCannotBeOpened();
     void ofRealRecordings_data();
     void ofRealRecordings();
 
@@ -561,6 +562,22 @@ void TestReadingNotes::failedLoads()
     QTEST(recording.failure(), "failure");
     QCOMPARE(recording.loaded, 0);
     QVERIFY(recording.notes.isEmpty());
+}
+
+void TestReadingNotes::aDataFileThatCannotBeOpened()
+{
+    CFGProperties recording;
+    const QString path
+        = writePair(m_folder.path("unopened"), plainConfiguration().text(), QByteArray());
+    QFile::remove(m_folder.path("unopened.dat"));
+    recording.filePath = path;
+    recording.init();
+    QCOMPARE(recording.failure(), CFGProperties::Failure::NoDataFile);
+    QVERIFY(QDir().mkdir(m_folder.path("unopened.dat")));
+    recording.filePath = path;
+    recording.init();
+    QCOMPARE(recording.failure(), CFGProperties::Failure::NoAccess);
+    QCOMPARE(recording.loaded, 0);
 }
 
 // Worked out from the bytes of the files by a script that shares nothing with the readers.
