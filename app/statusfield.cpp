@@ -14,11 +14,16 @@
 
 #include <QEvent>
 
+#include <QStatusBar>
+
 #include <algorithm>
+#include <array>
 
 namespace {
 
-constexpr int mostOfFile = 200; // pixels of the name of a file
+// Pixels of the name of a file. It and that of a digital row have as many as leave room for the
+// state, which stands last.
+constexpr std::array<int, 4> mostOfNames{200, 120, 80, 50};
 
 // Whether a channel recorded on a side, "P" or "S", shows other values there than the file's, as it
 // does once its ratings were set.
@@ -40,6 +45,8 @@ StatusField::StatusField(const PlotHost &host, QWidget *parent) : ElidingLabel(p
     setSizePolicy(
         sizePolicy().horizontalPolicy(), QSizePolicy::Ignored); // the bar keeps its height
     hide();
+    if (const auto *bar = qobject_cast<QStatusBar *>(parent))
+        connect(bar, &QStatusBar::messageChanged, this, &StatusField::leaveRoomFor);
 }
 
 void StatusField::showFile(const QString &name)
@@ -70,30 +77,55 @@ void StatusField::pointAt(const Plotter *plot, const QPoint &point)
 void StatusField::refresh()
 {
     setToolTip(plainToolTip(wholeText(QWIDGETSIZE_MAX)));
-    const QString shown = wholeText(mostOfFile);
+    QString shown;
+    for (const int most : mostOfNames) {
+        shown = wholeText(most);
+        if (pointedRow() < 0 || neededFor(shown) <= mostWidth())
+            break;
+    }
     if (shown == text())
         return;
     setText(shown);
-    const int width = fontMetrics().horizontalAdvance(shown) + 2 * fontMetrics().averageCharWidth();
-    if (width > m_widest) {
-        m_widest = width;
+    if (neededFor(shown) > m_widest) {
+        m_widest = neededFor(shown);
         updateGeometry();
     }
 }
 
-QString StatusField::wholeText(int mostOfName) const
+// Once the pointer has left the plots, what was needed there is free.
+void StatusField::leaveRoomFor(const QString &message)
 {
-    const auto shortened = [&](const QString &name) {
-        return fontMetrics().elidedText(name, Qt::ElideMiddle, mostOfName);
-    };
+    if (message.isEmpty() || m_plot)
+        return;
+    m_widest = neededFor(text());
+    updateGeometry();
+}
+
+int StatusField::neededFor(const QString &shown) const
+{
+    return fontMetrics().horizontalAdvance(shown) + 2 * fontMetrics().averageCharWidth();
+}
+
+int StatusField::mostWidth() const
+{
+    return parentWidget()->width() * 3 / 4;
+}
+
+QString StatusField::shortened(const QString &name, int most) const
+{
+    return fontMetrics().elidedText(name, Qt::ElideMiddle, most);
+}
+
+QString StatusField::wholeText(int ofNames) const
+{
     QStringList parts;
     if (!m_file.isEmpty() && m_host.recording()) {
-        parts << shortened(m_file) << sideText();
+        parts << shortened(m_file, ofNames) << sideText();
         if (m_plot && !m_plot->sampleTimes().times().isEmpty())
-            parts << pointedText();
+            parts << pointedText(ofNames);
     }
     if (!m_notOpened.isEmpty())
-        parts << notOpenedText(shortened(m_notOpened));
+        parts << notOpenedText(shortened(m_notOpened, ofNames));
     return parts.join(QStringLiteral("  |  "));
 }
 
@@ -122,26 +154,31 @@ QString StatusField::sideText() const
     }
 }
 
+int StatusField::pointedRow() const
+{
+    return qobject_cast<const plotterDg *>(m_plot) ? rowAt(*m_plot, m_point) : -1;
+}
+
 // The time is that of the line in the plot pointed at.
-QString StatusField::pointedText() const
+QString StatusField::pointedText(int ofRow) const
 {
     const CFGProperties &recording = *m_host.recording();
     const double time = m_plot->geometryOfView().lineTime(m_point.x());
     QStringList parts{QStringLiteral("%1: %2 ms").arg(m_plot->name(), millisecondsText(time)),
         clockText(recording.startTime, time),
         tr("from trigger: %1 ms").arg(millisecondsText(time - recording.triggerOffsetMs))};
-    const int row = qobject_cast<const plotterDg *>(m_plot) ? rowAt(*m_plot, m_point) : -1;
-    if (row >= 0)
-        parts << stateText(m_plot->shownChannels().at(row),
-            m_plot->sampleTimes().sampleAt(recording.sampleRate, time));
+    if (pointedRow() >= 0) {
+        ShownChannel channel = m_plot->shownChannels().at(pointedRow());
+        channel.id = shortened(channel.id, ofRow);
+        parts << stateText(channel, m_plot->sampleTimes().sampleAt(recording.sampleRate, time));
+    }
     parts.removeAll(QString());
     return parts.join(QStringLiteral("  |  "));
 }
 
 QSize StatusField::sizeHint() const
 {
-    const int most = parentWidget()->width() * 3 / 4;
-    return {std::min(m_widest, most), fontMetrics().height()};
+    return {std::min(m_widest, mostWidth()), fontMetrics().height()};
 }
 
 void StatusField::changeEvent(QEvent *event)

@@ -40,9 +40,14 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    QString pointedText() const;
+    void leaveRoomFor(const QString &message);
+    int neededFor(const QString &shown) const; // pixels
+    int mostWidth() const; // pixels
+    QString shortened(const QString &name, int most) const;
+    int pointedRow() const; // its channel, negative for none
+    QString pointedText(int ofRow) const;
     QString notOpenedText(const QString &name) const;
-    QString wholeText(int mostOfName) const; // so many pixels of the names of files
+    QString wholeText(int ofNames) const; // so many pixels of each name
 
     const PlotHost &m_host;
     QString m_file;

@@ -39,6 +39,8 @@ private slots:
     void aViewThatChangesUnderThePointer();
     void anotherRecordingAndNone();
     void aLongNameLeavesRoomForMessages();
+    void aLongRowKeepsItsState();
+    void messagesHaveTheRoomThatThePointerLeft();
     void marksInTheOtherPlots();
     void noMarkOutOfView();
 
@@ -391,12 +393,55 @@ void TestStatusField::aLongNameLeavesRoomForMessages()
             renamed + QLatin1String(ending)));
     const int width = window->width();
     window->open(renamed + QStringLiteral(".cfg"));
-    point(digital(), {100, 130});
-    QCoreApplication::processEvents();
-    QCOMPARE(window->width(), width);
+    for (Plotter *pointed : {static_cast<Plotter *>(digital()), analog()}) {
+        point(pointed, {100, 130});
+        QCoreApplication::processEvents();
+        QCOMPARE(window->width(), width);
+        QVERIFY(field()->x() >= window->statusBar()->width() / 5);
+    }
     QVERIFY(field()->text().startsWith(QStringLiteral("nnn")));
     QVERIFY(field()->text().contains(QStringLiteral("n.cfg")));
-    QVERIFY(field()->x() >= window->statusBar()->width() / 5);
+}
+
+void TestStatusField::aLongRowKeepsItsState()
+{
+    const QString name = QString(60, QLatin1Char('r'));
+    open({QStringLiteral("Ia")}, {name});
+    digital()->resize(digital()->width(), 200); // the row stands from y = 84 to 134
+    for (int twice = 0; twice < 2; ++twice) {
+        point(digital(), {600, 100});
+        QVERIFY2(field()->text().endsWith(QStringLiteral("r = 1")), qPrintable(field()->text()));
+        QVERIFY(field()->toolTip().contains(name + QStringLiteral(" = 1")));
+        QVERIFY(field()->fontMetrics().horizontalAdvance(field()->text())
+            <= window->statusBar()->width() * 3 / 4);
+        leave(digital());
+    }
+}
+
+// Such as the status tip of a button: the field was wider while it had more to say.
+void TestStatusField::messagesHaveTheRoomThatThePointerLeft()
+{
+    openUsual();
+    QStatusBar *bar = window->statusBar();
+    int narrow = 0;
+    for (int twice = 0; twice < 2; ++twice) {
+        point(analog(), rightEdge(analog()));
+        QCoreApplication::processEvents();
+        const int wide = field()->width();
+        leave(analog());
+        bar->showMessage(QStringLiteral("Open an existing file."));
+        QCoreApplication::processEvents();
+        narrow = field()->width();
+        QVERIFY(narrow < wide / 2);
+        QVERIFY(narrow >= field()->fontMetrics().horizontalAdvance(field()->text()));
+        point(analog(), {100, 150});
+        QCoreApplication::processEvents();
+        QVERIFY(field()->width() > narrow);
+        bar->showMessage(QStringLiteral("File saved."));
+        QCoreApplication::processEvents();
+        QVERIFY(field()->width() > narrow); // the pointer still has something to say
+        leave(analog());
+    }
 }
 
 // The digital plot keeps no room for the readout, so that equal pixels are other times.
