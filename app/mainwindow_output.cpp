@@ -73,6 +73,20 @@ QList<QWidget *> hidePointer(const QList<Plotter *> &plots)
     return hidden;
 }
 
+// The names of cursors, with their places in a widget around the plots.
+QVector<ReportPicture::Name> cursorNames(const QList<Plotter *> &plots, const QWidget &around)
+{
+    QVector<ReportPicture::Name> names;
+    for (const Plotter *plot : plots) {
+        for (const QLabel *label : plot->findChildren<QLabel *>(QStringLiteral("lineLabel"))) {
+            if (label->isVisibleTo(&around))
+                names.append({label->text(), QRect(label->mapTo(&around, QPoint()), label->size()),
+                    label->font()});
+        }
+    }
+    return names;
+}
+
 // What stood there goes only where all of the picture can be written. A file that cannot be
 // replaced is written in its place.
 void savePicture(const QPixmap &picture, const QString &path, const QString &format)
@@ -157,8 +171,9 @@ void MainWindow::copyToClipboard()
 QPixmap MainWindow::report()
 {
     // Not the window's file path: that may be of a file that was passed over.
-    const ReportPicture report(*m_cfgProperties, m_statusField->file(), m_statusField->sideText(),
+    ReportPicture report(*m_cfgProperties, m_statusField->file(), m_statusField->sideText(),
         m_analogPlotter->cursors());
+    report.names = cursorNames(plots(), *ui->scrollWidget);
     setForPaper(plots(), true);
     const QList<QWidget *> pointer = hidePointer(plots());
     const QPixmap picture = report.around(capture(CaptureTarget::File, QString()), font());

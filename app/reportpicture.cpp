@@ -5,7 +5,6 @@
 
 #include "cfgproperties.h"
 #include "channelnames.h"
-#include "plotstyle.h"
 #include "timeofday.h"
 
 #include <QFontMetrics>
@@ -35,18 +34,43 @@ int encoded(double light)
     return static_cast<int>(c * 255); // never brighter than asked for
 }
 
-// By the relative luminance and the contrast of the Web Content Accessibility Guidelines.
+// By the relative luminance and the contrast of the Web Content Accessibility Guidelines: what may
+// stand on white, and what black may stand on.
+constexpr double leastContrast = 4.5;
+constexpr double brightest = 1.05 / leastContrast - 0.05;
+constexpr double darkest = 0.05 * leastContrast - 0.05;
+
+using Light = std::array<double, 3>;
+
+Light lightOf(QRgb color)
+{
+    return {linear(qRed(color)), linear(qGreen(color)), linear(qBlue(color))};
+}
+
+double luminanceOf(const Light &light)
+{
+    return 0.2126 * light[0] + 0.7152 * light[1] + 0.0722 * light[2];
+}
+
 QRgb darkened(QRgb color)
 {
-    constexpr double leastContrast = 4.5;
-    constexpr double brightest = 1.05 / leastContrast - 0.05;
-    const std::array<double, 3> light{
-        linear(qRed(color)), linear(qGreen(color)), linear(qBlue(color))};
-    const double luminance = 0.2126 * light[0] + 0.7152 * light[1] + 0.0722 * light[2];
+    const Light light = lightOf(color);
+    const double luminance = luminanceOf(light);
     if (luminance <= brightest)
         return color;
     const double factor = brightest / luminance;
     return qRgb(encoded(light[0] * factor), encoded(light[1] * factor), encoded(light[2] * factor));
+}
+
+QRgb lightened(QRgb color)
+{
+    const Light light = lightOf(color);
+    const double luminance = luminanceOf(light);
+    if (luminance >= darkest)
+        return color;
+    const double share = (brightest - luminance) / (1 - luminance);
+    const auto mixed = [share](double part) { return encoded(part + (1 - part) * share); };
+    return qRgb(mixed(light[0]), mixed(light[1]), mixed(light[2]));
 }
 
 QVector<int> columnWidths(const QVector<QStringList> &table, const QFontMetrics &metrics)
@@ -73,10 +97,19 @@ void darkenForPaper(QImage &image)
         for (const QRgb *const end = pixel + image.width(); pixel != end; ++pixel) {
             if (*pixel != before) {
                 before = *pixel;
-                after = before == white || before == paperWhite ? white : darkened(before);
+                after = before == white ? white : darkened(before);
             }
             *pixel = after;
         }
+    }
+}
+
+void lightenForName(QImage &image, const QRect &place)
+{
+    const QRect part = place & image.rect();
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+        for (int x = part.left(); x <= part.right(); ++x)
+            image.setPixel(x, y, lightened(image.pixel(x, y)));
     }
 }
 
@@ -109,6 +142,11 @@ QPixmap ReportPicture::around(const QPixmap &plots, const QFont &font) const
     QImage image = plots.toImage();
     const double ratio = image.devicePixelRatio();
     darkenForPaper(image);
+    for (const Name &name : names) {
+        const QRectF place(
+            QPointF(name.place.topLeft()) * ratio, QSizeF(name.place.size()) * ratio);
+        lightenForName(image, place.toAlignedRect());
+    }
     const QFontMetrics metrics(font);
     const int line = metrics.lineSpacing();
     const QSize size = plots.size() / ratio;
@@ -121,6 +159,12 @@ QPixmap ReportPicture::around(const QPixmap &plots, const QFont &font) const
     QPainter painter(&picture);
     painter.drawImage(0, above, image);
     painter.setPen(Qt::black);
+    for (const Name &name : names) {
+        QFont sharp = name.font;
+        sharp.setStyleStrategy(QFont::NoAntialias); // smooth edges would be too pale
+        painter.setFont(sharp);
+        painter.drawText(name.place.translated(0, above), Qt::AlignCenter, name.text);
+    }
     painter.setFont(font);
     const int width = size.width() - 2 * margin;
     int base = margin + metrics.ascent();

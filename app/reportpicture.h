@@ -4,12 +4,13 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QFont>
 #include <QPixmap>
+#include <QRect>
 #include <QStringList>
 #include <QVector>
 
 class CFGProperties;
-class QFont;
 class QImage;
 
 // The plots as a picture for a report on paper: what was recorded stands above them, the cursors
@@ -21,6 +22,13 @@ public:
     // Lines of text, and rows of cells under a row of headers.
     QStringList heading;
     QVector<QStringList> table;
+    // Names of cursors, to be written over the plots; the places are pixels of these.
+    struct Name {
+        QString text;
+        QRect place;
+        QFont font;
+    };
+    QVector<Name> names;
 
     // The side tells which values the plots show. The table has a row for each cursor, whose times
     // are ms, and is empty without one.
@@ -31,6 +39,9 @@ public:
     QPixmap around(const QPixmap &plots, const QFont &font) const;
 };
 
-// Darkens every colour until its contrast to white is that of readable text, 4.5; white stays, and
-// so does what stands for it.
+// Darkens every colour until its contrast to white is that of readable text, 4.5; white stays.
 void darkenForPaper(QImage &image);
+
+// Lightens what black letters could not be read on, as far as its contrast to white stays 4.5. The
+// place is device pixels of an image that has been darkened for paper.
+void lightenForName(QImage &image, const QRect &place);

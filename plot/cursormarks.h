@@ -41,7 +41,7 @@ public:
     void move(int cursor, double time) { m_cursors.at(static_cast<size_t>(cursor)).time = time; }
     void remove(int cursor); // nothing where there is no such cursor
     void clear();
-    // For a picture for paper names have another style and texts no shadow, which would smear them.
+    // For a picture for paper names are not painted, and texts have no shadow to smear them.
     void setForPaper(bool isForPaper);
 
     // Sets lines and labels to their places in a view. Those out of view are hidden. A label stands

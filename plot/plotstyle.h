@@ -12,12 +12,10 @@ inline const QString screenStyle = QStringLiteral(
 constexpr int borderWidth = 2; // of a plot on the screen
 inline const QString captureStyle = QStringLiteral("Plotter{background-color: transparent;}");
 
-// Stands for the white of paper in a picture that is made for it: white letters turn black there.
-constexpr unsigned paperWhite = 0xfffffff0;
-
-// The style sheet of a cursor's name on the screen, and in a picture for paper.
+// The style sheet of a cursor's name on the screen, and the one that leaves its place to the
+// picture for paper.
 inline const QString cursorNameStyle = QStringLiteral(
     "QLabel{color: #fffa50; background-color: rgba(49, 48, 52, 70%); padding: 0px 2px;}"
     "QLabel:focus{color: #313034; background-color: #fffa50;}");
-inline const QString cursorNamePaperStyle
-    = QStringLiteral("QLabel{color: white; background-color: #fffff0; padding: 0px 2px;}");
+inline const QString cursorNamePaperStyle = QStringLiteral(
+    "QLabel{color: transparent; background-color: transparent; padding: 0px 2px;}");

@@ -481,6 +481,36 @@ private slots:
         }
     }
 
+    void bandsAreSeenUnderNamesInAReport()
+    {
+        window->open(QStringLiteral(SOURCE_DIR "/examples/earth-fault.cfg"));
+        Plotter *plot = plotNamed(QStringLiteral("Digital"));
+        const auto report = [&] {
+            choose(plot, QStringLiteral("Copy Picture with Heading"));
+            return QGuiApplication::clipboard()->image();
+        };
+        const QImage before = report();
+        for (const double time : {200, 300, 350, 405, 950})
+            plot->addCursorAt(time);
+        const QImage after = report();
+        const int above = 20 + 3 * window->fontMetrics().lineSpacing();
+        int ofBands = 0;
+        for (const QLabel *name : plot->findChildren<QLabel *>(QStringLiteral("lineLabel"))) {
+            const QRect place(name->mapTo(plotColumn(), QPoint(0, above)), name->size());
+            for (int y = place.top(); y <= place.bottom(); ++y) {
+                for (int x = place.left(); x <= place.right(); ++x) {
+                    const QRgb color = after.pixel(x, y);
+                    QVERIFY(color == 0xff000000 || contrast(color, 0xff000000) >= 4.5);
+                    if (before.pixel(x, y) == 0xffffffff)
+                        continue;
+                    QVERIFY(contrast(color, 0xffffffff) >= 4.5);
+                    ++ofBands;
+                }
+            }
+        }
+        QVERIFY2(ofBands > 100, qPrintable(QString::number(ofBands)));
+    }
+
     // On white they would run into the letters. Other pictures have them.
     void timeDifferencesHaveNoShadowInAReport()
     {

@@ -22,6 +22,10 @@ private slots:
     void standsAroundThePlots_data();
     void standsAroundThePlots();
     void cutsLongNames();
+    void lightensUnderNames_data();
+    void lightensUnderNames();
+    void writesNamesOverThePlots_data();
+    void writesNamesOverThePlots();
 
 private:
     CFGProperties recording;
@@ -76,11 +80,6 @@ void TestReportPicture::darkensColours()
 
 void TestReportPicture::darkensNothingElse()
 {
-    QImage paper(2, 1, QImage::Format_RGB32);
-    paper.fill(0xfffffff0);
-    darkenForPaper(paper);
-    QCOMPARE(paper.pixel(1, 0), white);
-
     QImage image(2, 2, QImage::Format_RGB32);
     image.setDevicePixelRatio(1.5);
     image.fill(white);
@@ -178,6 +177,74 @@ void TestReportPicture::cutsLongNames()
     QCOMPARE(picture.width(), 300);
     for (int y = 0; y < picture.height(); ++y)
         QCOMPARE(picture.pixel(295, y), white); // the margin
+}
+
+void TestReportPicture::lightensUnderNames_data()
+{
+    QTest::addColumn<QRgb>("before");
+    QTest::addColumn<QRgb>("after");
+    QTest::newRow("white") << white << white;
+    // The grey whose contrast to white is 4.5 and to black 4.6.
+    QTest::newRow("black") << 0xff000000 << 0xff767676;
+    QTest::newRow("what is as light as paper allows") << 0xff767676 << 0xff767676;
+}
+
+void TestReportPicture::lightensUnderNames()
+{
+    QFETCH(QRgb, before);
+    QImage image(4, 3, QImage::Format_RGB32);
+    image.fill(before);
+    lightenForName(image, QRect(2, 1, 9, 9));
+    for (int y = 0; y < 3; ++y) {
+        for (int x = 0; x < 4; ++x) {
+            if (x >= 2 && y >= 1)
+                QTEST(image.pixel(x, y), "after");
+            else
+                QCOMPARE(image.pixel(x, y), before);
+        }
+    }
+}
+
+void TestReportPicture::writesNamesOverThePlots_data()
+{
+    QTest::addColumn<double>("ratio");
+    QTest::addColumn<QRgb>("band");
+    for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
+        for (const QRgb band : {0xfff0fff0, 0xff000000, 0xffffff00, 0xff4242ff, 0xff000080})
+            QTest::addRow("%g, over %x", ratio, band) << ratio << band;
+    }
+}
+
+// The band stands across the plots, rows 30 to 39; the name stands over all of its height.
+void TestReportPicture::writesNamesOverThePlots()
+{
+    QFETCH(double, ratio);
+    QFETCH(QRgb, band);
+    QPixmap plots(QSize(200, 80) * ratio);
+    plots.setDevicePixelRatio(ratio);
+    plots.fill(Qt::white);
+    QPainter(&plots).fillRect(QRect(0, 30, 200, 10), QColor(band));
+    QFont font;
+    font.setPixelSize(12);
+    ReportPicture report(recording, QString(), QString(), {});
+    report.names.append({QStringLiteral("P3"), QRect(100, 26, 24, 18), font});
+    const QImage picture = report.around(plots, font).toImage();
+    const int above = 20 + 3 * QFontMetrics(font).lineSpacing();
+    const QRgb black = 0xff000000;
+    int letters = 0;
+    for (int x = qRound(101 * ratio); x < qRound(123 * ratio); ++x) {
+        for (int y = qRound((above + 27) * ratio); y < qRound((above + 43) * ratio); ++y) {
+            const QRgb color = picture.pixel(x, y);
+            const QByteArray place = QByteArray::number(x) + ' ' + QByteArray::number(y);
+            const bool isBand
+                = y >= qRound((above + 31) * ratio) && y < qRound((above + 39) * ratio);
+            QVERIFY2(!isBand || contrast(color, white) >= 4.5, place.constData());
+            QVERIFY2(color == black || contrast(color, black) >= 4.5, place.constData());
+            letters += color == black ? 1 : 0;
+        }
+    }
+    QVERIFY(letters > 10);
+    QVERIFY(letters < 200 * ratio * ratio); // of 22 x 16 pixels
 }
 
 QTEST_MAIN(TestReportPicture)
