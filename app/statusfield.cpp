@@ -5,6 +5,7 @@
 
 #include "analogchannel.h"
 #include "cfgproperties.h"
+#include "channelvalues.h"
 #include "filekind.h"
 #include "labeltext.h"
 #include "plothost.h"
@@ -25,14 +26,11 @@ namespace {
 // state, which stands last.
 constexpr std::array<int, 4> mostOfNames{200, 120, 80, 50};
 
-// Whether a channel recorded on a side, "P" or "S", shows other values there than the file's, as it
-// does once its ratings were set.
-bool isMultiplied(const CFGProperties &recording, const char *side, double AnalogChannel::*factor)
+bool hasMultiplied(const CFGProperties &recording, int valueMode)
 {
     const QList<AnalogChannel *> &channels = recording.analogChannels;
-    return std::any_of(channels.cbegin(), channels.cend(), [=](const AnalogChannel *channel) {
-        return channel->*factor != 1 && channel->ps == QLatin1String(side);
-    });
+    return std::any_of(channels.cbegin(), channels.cend(),
+        [=](const AnalogChannel *channel) { return isMultiplied(*channel, valueMode); });
 }
 
 } // namespace
@@ -139,16 +137,13 @@ QString StatusField::notOpenedText(const QString &name) const
 
 QString StatusField::sideText() const
 {
-    const CFGProperties &recording = *m_host.recording();
-    switch (m_host.valueMode()) {
+    const int mode = m_host.valueMode();
+    const bool isOther = hasMultiplied(*m_host.recording(), mode);
+    switch (mode) {
     case 0:
-        return isMultiplied(recording, "P", &AnalogChannel::toPrimary)
-            ? tr("P = file value x rating")
-            : tr("Primary");
+        return isOther ? tr("P = file value x rating") : tr("Primary");
     case 1:
-        return isMultiplied(recording, "S", &AnalogChannel::toSecondary)
-            ? tr("S = file value x rating")
-            : tr("Secondary");
+        return isOther ? tr("S = file value x rating") : tr("Secondary");
     default:
         return tr("Per Unit");
     }

@@ -4,6 +4,7 @@
 #include "measurementtables.h"
 
 #include "analogchannel.h"
+#include "channelvalues.h"
 #include "digitalchannel.h"
 #include "measurementsdialog.h"
 #include "numbers.h"
@@ -56,6 +57,11 @@ QString headingWith(const QString &heading, const QStringList &names)
 {
     const QString all = names.join(QLatin1String(", "));
     return all.isEmpty() ? heading : heading + QLatin1String(": ") + all;
+}
+
+QString withSide(const QString &unit, const QString &side)
+{
+    return unit.isEmpty() ? side : QStringLiteral("%1 (%2)").arg(unit, side);
 }
 
 std::optional<double> difference(
@@ -111,6 +117,15 @@ QString angleText(double angle)
     return text == QLatin1String("-180.00") ? text.mid(1) : text;
 }
 
+QString recordedUnit(const QString &unit, const AnalogChannel &channel)
+{
+    if (channel.ps == QLatin1String("S"))
+        return withSide(unit, MeasurementsDialog::tr("secondary"));
+    if (channel.ps == QLatin1String("P"))
+        return withSide(unit, MeasurementsDialog::tr("primary"));
+    return unit;
+}
+
 QString shownUnit(const QString &unit, const AnalogChannel &channel, int valueMode)
 {
     constexpr int secondaryMode = 1;
@@ -120,9 +135,14 @@ QString shownUnit(const QString &unit, const AnalogChannel &channel, int valueMo
         return unit;
     if (valueMode == perUnitMode)
         return QStringLiteral("p.u.");
-    const QString side = valueMode == secondaryMode ? MeasurementsDialog::tr("secondary")
-                                                    : MeasurementsDialog::tr("primary");
-    return unit.isEmpty() ? side : QStringLiteral("%1 (%2)").arg(unit, side);
+    const bool isOther = isMultiplied(channel, valueMode);
+    if (valueMode == secondaryMode)
+        return withSide(unit,
+            isOther ? MeasurementsDialog::tr("S = file value x rating")
+                    : MeasurementsDialog::tr("secondary"));
+    return withSide(unit,
+        isOther ? MeasurementsDialog::tr("P = file value x rating")
+                : MeasurementsDialog::tr("primary"));
 }
 
 const QVector<float> &MeasuredChannel::values() const

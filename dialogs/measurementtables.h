@@ -42,8 +42,10 @@ struct MeasuredCursor {
     int sample = -1; // the nearest; -1 outside the recording
 };
 
-// The unit of what is shown of a channel in a value mode (0 primary, 1 secondary, 2 per unit), with
-// the side.
+// The unit of a channel's values in the file, with the side.
+QString recordedUnit(const QString &unit, const AnalogChannel &channel);
+// That of what is shown of it in a value mode (0 primary, 1 secondary, 2 per unit), with the side
+// or, where the file's values are multiplied on their own side, with what they are there.
 QString shownUnit(const QString &unit, const AnalogChannel &channel, int valueMode);
 // Degrees above -180 and up to 180, however they are rounded.
 QString angleText(double angle);

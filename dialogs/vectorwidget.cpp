@@ -426,8 +426,7 @@ QString VectorWidget::recordedUnit(int channel) const
     const AnalogChannel *record = recordOf(channel);
     if (!record)
         return QString();
-    const int side = record->ps == QLatin1String("S") ? 1 : 0;
-    return shownUnit(trimmedName(recording()->analogUnits.value(channel - 1)), *record, side);
+    return ::recordedUnit(trimmedName(recording()->analogUnits.value(channel - 1)), *record);
 }
 
 // Numbers of the checked channels in the recording, 1-based; 0 for a name that it does not have.

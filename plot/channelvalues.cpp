@@ -30,6 +30,13 @@ double valueFactor(const AnalogChannel &channel, int valueMode)
     }
 }
 
+bool isMultiplied(const AnalogChannel &channel, int valueMode)
+{
+    const bool isRecordedThere = (valueMode == 0 && channel.ps == QLatin1String("P"))
+        || (valueMode == 1 && channel.ps == QLatin1String("S"));
+    return isRecordedThere && valueFactor(channel, valueMode) != 1;
+}
+
 double angleDegrees(double radians)
 {
     const double degrees = radians * (180 / shortPi);

@@ -11,6 +11,10 @@ class AnalogChannel;
 // secondary value (1), to a fraction of the channel's rating (2, by its P/S flag); 1 otherwise.
 double valueFactor(const AnalogChannel &channel, int valueMode);
 
+// Whether a channel recorded on the side of a mode, primary (0) or secondary (1), shows other
+// values there than the file's, as it does once its ratings were set.
+bool isMultiplied(const AnalogChannel &channel, int valueMode);
+
 // The angle traces of a spectrum. fullTurnDegrees and fullTurnRadians bound their values.
 constexpr double fullTurnDegrees = 360;
 constexpr double fullTurnRadians = 6.2831852;

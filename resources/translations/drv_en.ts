@@ -724,6 +724,14 @@ Please select another file.</translation>
         <translation>primary</translation>
     </message>
     <message>
+        <source>S = file value x rating</source>
+        <translation>S = file value x rating</translation>
+    </message>
+    <message>
+        <source>P = file value x rating</source>
+        <translation>P = file value x rating</translation>
+    </message>
+    <message>
         <source>There is no cursor.</source>
         <translation>There is no cursor.</translation>
     </message>

@@ -724,6 +724,14 @@ Valitse toinen tiedosto.</translation>
         <translation>ensiö</translation>
     </message>
     <message>
+        <source>S = file value x rating</source>
+        <translation>S = tiedoston arvo x nimellisarvo</translation>
+    </message>
+    <message>
+        <source>P = file value x rating</source>
+        <translation>P = tiedoston arvo x nimellisarvo</translation>
+    </message>
+    <message>
         <source>There is no cursor.</source>
         <translation>Kursoria ei ole.</translation>
     </message>

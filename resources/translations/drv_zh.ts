@@ -724,6 +724,14 @@ Please select another file.</source>
         <translation>一次</translation>
     </message>
     <message>
+        <source>S = file value x rating</source>
+        <translation>S = 文件值 x 额定值</translation>
+    </message>
+    <message>
+        <source>P = file value x rating</source>
+        <translation>P = 文件值 x 额定值</translation>
+    </message>
+    <message>
         <source>There is no cursor.</source>
         <translation>没有游标。</translation>
     </message>

@@ -102,6 +102,8 @@ private slots:
     void tellsWhatIsTicked();
     void tellsTheSide_data();
     void tellsTheSide();
+    void tellsASideThatIsMultiplied_data();
+    void tellsASideThatIsMultiplied();
     void measuresSpectraAndDigitalPlots();
     void followsTheCursors();
     void followsTheChannelsOfThePlot();
@@ -254,6 +256,54 @@ void TestMeasurementsDialog::tellsTheSide()
     plot->rescaleValues();
     plot->refreshPixmap();
     QTRY_COMPARE(atCursors(), rows);
+}
+
+// IL1 is secondary at 400/5, IL2 primary at 100/50: "Set" without a change multiplies each on its
+// own side by the rating there.
+void TestMeasurementsDialog::tellsASideThatIsMultiplied_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QStringList>("before");
+    QTest::addColumn<QStringList>("afterwards");
+    QTest::newRow("primary") << 0
+                             << texts({"IL1, Value, A (primary)|1600|4000",
+                                    "IL2, Value, kA (primary)|-20|-50", "Freq, Value, Hz|20|50"})
+                             << texts({"IL1, Value, A (primary)|1600|4000",
+                                    "IL2, Value, kA (P = file value x rating)|-2000|-5000",
+                                    "Freq, Value, Hz|20|50"});
+    QTest::newRow("secondary") << 1
+                               << texts({"IL1, Value, A (secondary)|20|50",
+                                      "IL2, Value, kA (secondary)|-10|-25",
+                                      "Freq, Value, Hz|20|50"})
+                               << texts({"IL1, Value, A (S = file value x rating)|100|250",
+                                      "IL2, Value, kA (secondary)|-10|-25",
+                                      "Freq, Value, Hz|20|50"});
+    const QStringList perUnit
+        = texts({"IL1, Value, p.u.|4|10", "IL2, Value, p.u.|-0.2|-0.5", "Freq, Value, Hz|20|50"});
+    QTest::newRow("per unit") << 2 << perUnit << perUnit;
+}
+
+void TestMeasurementsDialog::tellsASideThatIsMultiplied()
+{
+    QFETCH(int, mode);
+    QFETCH(QStringList, before);
+    QFETCH(QStringList, afterwards);
+    plot->showChannels({0, 1, 2});
+    host->mode = mode;
+    const QList<AnalogChannel *> &channels = host->source->analogChannels;
+    for (int twice = 0; twice < 2; ++twice) {
+        channels.at(0)->toSecondary = 1;
+        channels.at(1)->toPrimary = 1;
+        dialog->refresh();
+        QTRY_COMPARE(atCursors(), before);
+        channels.at(0)->toSecondary = 5;
+        channels.at(1)->toPrimary = 100;
+        dialog->refresh();
+        QTRY_COMPARE(atCursors(), afterwards);
+    }
+    QTest::mouseClick(child<QPushButton>("pushButton_copy"), Qt::LeftButton);
+    QVERIFY(QGuiApplication::clipboard()->text().contains(
+        afterwards.at(1).section(QStringLiteral(", "), 2).section(QLatin1Char('|'), 0, 0)));
 }
 
 void TestMeasurementsDialog::measuresSpectraAndDigitalPlots()

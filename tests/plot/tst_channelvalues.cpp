@@ -15,6 +15,8 @@ class TestChannelValues : public QObject {
 private slots:
     void valueFactor_data();
     void valueFactor();
+    void isMultiplied_data();
+    void isMultiplied();
     void angleDegrees_data();
     void angleDegrees();
     void angleAhead_data();
@@ -50,6 +52,38 @@ void TestChannelValues::valueFactor()
     channel.primary = 400;
     channel.secondary = 5;
     QTEST(::valueFactor(channel, mode), "factor");
+}
+
+void TestChannelValues::isMultiplied_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QString>("ps");
+    QTest::addColumn<double>("toPrimary");
+    QTest::addColumn<double>("toSecondary");
+    QTest::addColumn<bool>("multiplied");
+    QTest::newRow("primary as recorded") << 0 << "P" << 1.0 << 0.5 << false;
+    QTest::newRow("secondary as recorded") << 1 << "S" << 80.0 << 1.0 << false;
+    QTest::newRow("primary, set") << 0 << "P" << 400.0 << 0.5 << true;
+    QTest::newRow("secondary, set") << 1 << "S" << 80.0 << 5.0 << true;
+    QTest::newRow("primary of a secondary channel") << 0 << "S" << 80.0 << 5.0 << false;
+    QTest::newRow("secondary of a primary channel") << 1 << "P" << 400.0 << 0.5 << false;
+    QTest::newRow("per unit") << 2 << "S" << 80.0 << 5.0 << false;
+    QTest::newRow("neither side") << 1 << "" << 80.0 << 5.0 << false;
+}
+
+void TestChannelValues::isMultiplied()
+{
+    QFETCH(int, mode);
+    QFETCH(QString, ps);
+    QFETCH(double, toPrimary);
+    QFETCH(double, toSecondary);
+    AnalogChannel channel;
+    channel.ps = ps;
+    channel.primary = 400;
+    channel.secondary = 5;
+    channel.toPrimary = toPrimary;
+    channel.toSecondary = toSecondary;
+    QTEST(::isMultiplied(channel, mode), "multiplied");
 }
 
 void TestChannelValues::angleDegrees_data()
