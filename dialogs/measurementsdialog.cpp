@@ -22,6 +22,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <utility>
 
 MeasurementsDialog::MeasurementsDialog(QWidget *parent)
     : QDialog(parent), ui(std::make_unique<Ui::MeasurementsDialog>()), m_timer(new QTimer(this))
@@ -257,7 +258,10 @@ void MeasurementsDialog::measure()
     tellTitle();
     const AnalogSource source(m_host);
     const Measured now = measured(source);
-    nameCursors(now.cursors.size());
+    QList<double> times;
+    for (const MeasuredCursor &cursor : now.cursors)
+        times.append(cursor.time);
+    followCursors(times);
     QTableView *view = currentView();
     const bool hasQuantities = view == ui->tableView_cursors || view == ui->tableView_differences;
     for (QCheckBox *box : findChildren<QCheckBox *>())
@@ -285,23 +289,41 @@ void MeasurementsDialog::measure()
     }
 }
 
-// Offers the cursors that exist; what is chosen stays as long as it is among them. At first the
+// Offers the cursors that exist. Those chosen stay chosen while others go; in place of one that is
+// gone comes another than the other end of the differences, if there is one. At first the
 // differences are those of the first two.
-void MeasurementsDialog::nameCursors(int count)
+void MeasurementsDialog::followCursors(const QList<double> &times)
 {
-    if (ui->comboBox_from->count() == count)
-        return;
+    const QList<double> before = std::exchange(m_cursorTimes, times);
+    if (before.size() == times.size())
+        return; // moved at most
     QStringList names;
-    for (int i = 1; i <= count; ++i)
+    for (int i = 1; i <= times.size(); ++i)
         names.append(QStringLiteral("P%1").arg(i));
-    const auto offer = [&](ElidingComboBox *box, int otherwise) {
-        const int current = box->currentIndex();
-        const bool stays = current >= 0 && current < count && box->count() > otherwise;
-        box->setTexts(names, stays ? current : std::min(otherwise, count - 1));
+    const int last = times.size() - 1;
+    // -1 for one that is gone. Cursors only move up as others go.
+    const auto placeNow = [&](const ElidingComboBox *box, int atFirst) {
+        const int chosen = box->currentIndex();
+        return chosen < 0 || before.size() <= atFirst
+            ? std::min(atFirst, last)
+            : times.lastIndexOf(before.at(chosen), chosen);
     };
-    offer(ui->comboBox_from, 0);
-    offer(ui->comboBox_to, 1);
-    offer(ui->comboBox_cursor, 0);
+    const auto instead = [&](const ElidingComboBox *box, int otherEnd) {
+        const int place = std::min(box->currentIndex(), last);
+        if (place != otherEnd)
+            return place;
+        return place > 0 ? place - 1 : std::min(1, last);
+    };
+    int from = placeNow(ui->comboBox_from, 0);
+    int to = placeNow(ui->comboBox_to, 1);
+    if (from < 0)
+        from = instead(ui->comboBox_from, to);
+    if (to < 0)
+        to = instead(ui->comboBox_to, from);
+    const int cursor = placeNow(ui->comboBox_cursor, 0);
+    ui->comboBox_from->setTexts(names, from);
+    ui->comboBox_to->setTexts(names, to);
+    ui->comboBox_cursor->setTexts(names, cursor < 0 ? instead(ui->comboBox_cursor, -1) : cursor);
 }
 
 void MeasurementsDialog::tellTitle()

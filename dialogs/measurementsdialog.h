@@ -75,7 +75,7 @@ private:
     QStringList channelNames() const;
     void showNames(); // anew, in other letters
     void measure();
-    void nameCursors(int count);
+    void followCursors(const QList<double> &times); // ms
     void tellTitle();
 
     QList<Quantity> quantities() const;
@@ -93,5 +93,6 @@ private:
     QPointer<Plotter> m_plotter;
     std::optional<QList<int>> m_ownChannels; // where they are not those of the plot
     QHash<int, TraceSummary> m_traces; // of the channels whose extremes were asked for
+    QList<double> m_cursorTimes; // of the cursors on offer, ms
     QTimer *m_timer;
 };

@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 Norvale
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "customlabel.h"
 #include "elidingcombobox.h"
 #include "fakeplothost.h"
 #include "harmonicbars.h"
 #include "measurementsdialog.h"
+#include "plotmenus.h"
 #include "plotterdg.h"
 #include "pseudotranslator.h"
 
@@ -21,6 +23,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -111,6 +114,9 @@ private slots:
     void anglesGoByTheChosenReference();
     void differencesGoBetweenTheChosenCursors();
     void chosenCursorsStayAsLongAsTheyExist();
+    void chosenCursorsAreFollowed_data();
+    void chosenCursorsAreFollowed();
+    void aChosenCursorMovesOntoAnotherAndAway();
     void sequencesAreThoseOfTheChosenPhases();
     void harmonicsAreThoseOfTheChosenChannel();
     void refreshesOnceForManyRequests();
@@ -417,6 +423,98 @@ void TestMeasurementsDialog::chosenCursorsStayAsLongAsTheyExist()
     plot->addCursorAt(30);
     QTRY_COMPARE(lines(view("tableView_differences")).value(0),
         QStringLiteral("Time, ms|10.000|30.000|20.000||||"));
+}
+
+// The first of cursors at 10, 30, 60 and 95 ms, of which one is removed before another is set.
+void TestMeasurementsDialog::chosenCursorsAreFollowed_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<int>("from"); // as the third: of the harmonics
+    QTest::addColumn<int>("to");
+    QTest::addColumn<int>("removed");
+    QTest::addColumn<QList<int>>("places"); // of from, to and the third
+    QTest::addColumn<QString>("time"); // afterwards
+    QTest::newRow("the first of three") << 3 << 1 << 2 << 0 << QList<int>{0, 1, 0}
+                                        << QStringLiteral("Time, ms|30.000|60.000|30.000||||");
+    QTest::newRow("the first of three, backwards")
+        << 3 << 2 << 1 << 0 << QList<int>{1, 0, 1}
+        << QStringLiteral("Time, ms|60.000|30.000|-30.000||||");
+    QTest::newRow("between those chosen") << 3 << 0 << 2 << 1 << QList<int>{0, 1, 0}
+                                          << QStringLiteral("Time, ms|10.000|60.000|50.000||||");
+    QTest::newRow("the last of three") << 3 << 0 << 1 << 2 << QList<int>{0, 1, 0}
+                                       << QStringLiteral("Time, ms|10.000|30.000|20.000||||");
+    QTest::newRow("from the one removed") << 3 << 1 << 2 << 1 << QList<int>{0, 1, 1}
+                                          << QStringLiteral("Time, ms|10.000|60.000|50.000||||");
+    QTest::newRow("from the first, removed")
+        << 3 << 0 << 1 << 0 << QList<int>{1, 0, 0}
+        << QStringLiteral("Time, ms|60.000|30.000|-30.000||||");
+    QTest::newRow("to the one removed") << 3 << 0 << 1 << 1 << QList<int>{0, 1, 0}
+                                        << QStringLiteral("Time, ms|10.000|60.000|50.000||||");
+    QTest::newRow("to the last, removed") << 3 << 1 << 2 << 2 << QList<int>{1, 0, 1}
+                                          << QStringLiteral("Time, ms|30.000|10.000|-20.000||||");
+    QTest::newRow("one against itself") << 3 << 2 << 2 << 0 << QList<int>{1, 1, 1}
+                                        << QStringLiteral("Time, ms|60.000|60.000|0.000||||");
+    QTest::newRow("the first of four") << 4 << 1 << 3 << 0 << QList<int>{0, 2, 0}
+                                       << QStringLiteral("Time, ms|30.000|95.000|65.000||||");
+    QTest::newRow("between those chosen of four")
+        << 4 << 1 << 3 << 2 << QList<int>{1, 2, 1}
+        << QStringLiteral("Time, ms|30.000|95.000|65.000||||");
+    QTest::newRow("from the third of four, removed")
+        << 4 << 2 << 0 << 2 << QList<int>{2, 0, 2}
+        << QStringLiteral("Time, ms|95.000|10.000|-85.000||||");
+}
+
+void TestMeasurementsDialog::chosenCursorsAreFollowed()
+{
+    QFETCH(int, count);
+    QFETCH(int, from);
+    QFETCH(int, to);
+    QFETCH(int, removed);
+    QFETCH(QList<int>, places);
+    turnTo(1);
+    for (int twice = 0; twice < 2; ++twice) {
+        plot->clearCursors();
+        plot->refreshPixmap();
+        QTRY_COMPARE(child<ElidingComboBox>("comboBox_to")->count(), 0);
+        for (const double time : QList<double>{10, 30, 60, 95}.mid(0, count))
+            plot->addCursorAt(time);
+        QTRY_COMPARE(child<ElidingComboBox>("comboBox_to")->count(), count);
+        choose("comboBox_from", from);
+        choose("comboBox_to", to);
+        choose("comboBox_cursor", from);
+        const auto labels = plot->findChildren<CustomLabel *>();
+        const auto label = std::find_if(labels.cbegin(), labels.cend(), [&](const QLabel *one) {
+            return one->text() == QStringLiteral("P%1").arg(removed + 1);
+        });
+        QVERIFY(label != labels.cend());
+        QVERIFY(
+            ::choose(plot.get(), QStringLiteral("Remove Cursor"), (*label)->geometry().center()));
+        QTRY_COMPARE(child<ElidingComboBox>("comboBox_to")->count(), count - 1);
+        QTEST(lines(view("tableView_differences")).at(0), "time");
+        QCOMPARE(
+            QList<int>({chosen("comboBox_from"), chosen("comboBox_to"), chosen("comboBox_cursor")}),
+            places);
+        plot->addCursorAt(80); // behind all others
+        QTRY_COMPARE(child<ElidingComboBox>("comboBox_to")->count(), count);
+        QTEST(lines(view("tableView_differences")).at(0), "time");
+    }
+}
+
+// It is not taken for the other one.
+void TestMeasurementsDialog::aChosenCursorMovesOntoAnotherAndAway()
+{
+    turnTo(1);
+    for (const double time : {30.0, 20.0, 40.0}) {
+        plot->clearCursors();
+        plot->addCursorAt(20);
+        plot->addCursorAt(time);
+        plot->refreshPixmap();
+        const QString difference = QString::number(time - 20, 'f', 3);
+        QTRY_COMPARE(lines(view("tableView_differences")).at(0),
+            QStringLiteral("Time, ms|20.000|%1|%2||||")
+                .arg(QString::number(time, 'f', 3), difference));
+        QCOMPARE(chosen("comboBox_to"), 1);
+    }
 }
 
 // A third of each: 800 at 30 degrees and 20 at -90, turned by 120 degrees and by -120. Of the
