@@ -15,6 +15,16 @@ namespace {
 const QColor background(0x31, 0x30, 0x34);
 const QColor barColor(0x00, 0xb9, 0xf2);
 constexpr int margin = 6;
+constexpr int leastLetters = 6; // pixels of a font that can just be read
+
+// Smaller where a text is wider than its room.
+QFont fittingFont(QFont font, const QString &text, int width)
+{
+    for (int size = QFontInfo(font).pixelSize();
+         size > leastLetters && QFontMetrics(font).horizontalAdvance(text) > width; --size)
+        font.setPixelSize(size - 1);
+    return font;
+}
 
 } // namespace
 
@@ -91,8 +101,13 @@ void HarmonicBars::paintEvent(QPaintEvent * /*event*/)
             = *m_harmonics.at(static_cast<size_t>(order - 1)) * 100 / *m_harmonics[0];
         const QString text = QString::number(percent, 'f', percent < 9.95 ? 1 : 0);
         const int top = (shown.isEmpty() ? whole.bottom() + 1 - textHeight() : shown.top());
-        if (std::isfinite(percent) && fontMetrics().horizontalAdvance(text) <= whole.width())
+        const QFont small = fittingFont(font(), text, whole.width());
+        if (std::isfinite(percent)
+            && QFontMetrics(small).horizontalAdvance(text) <= whole.width()) {
+            painter.setFont(small);
             painter.drawText(QRect(whole.left(), top - textHeight(), whole.width(), textHeight()),
                 Qt::AlignCenter, text);
+            painter.setFont(font());
+        }
     }
 }

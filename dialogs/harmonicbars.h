@@ -8,7 +8,8 @@
 #include <QWidget>
 
 // The harmonics of a cycle as bars, the highest as high as the room allows. Below each stands its
-// order, above it what it is in per cent of the fundamental, as far as there is room.
+// order, above it what it is in per cent of the fundamental, in smaller letters where the columns
+// are narrow.
 class HarmonicBars : public QWidget {
     Q_OBJECT
 

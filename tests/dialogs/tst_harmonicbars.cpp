@@ -18,15 +18,25 @@ Harmonics harmonicsOf(const QList<double> &values)
     return harmonics;
 }
 
-bool hasBlue(const QImage &picture, const QRect &place)
+bool has(const QImage &picture, const QRect &place, bool (*isSought)(const QColor &))
 {
     for (int x = place.left(); x <= place.right(); ++x) {
         for (int y = place.top(); y <= place.bottom(); ++y) {
-            if (picture.pixelColor(x, y) == blue)
+            if (isSought(picture.pixelColor(x, y)))
                 return true;
         }
     }
     return false;
+}
+
+bool hasBlue(const QImage &picture, const QRect &place)
+{
+    return has(picture, place, [](const QColor &color) { return color == blue; });
+}
+
+bool hasText(const QImage &picture, const QRect &place)
+{
+    return has(picture, place, [](const QColor &color) { return color.lightness() > 150; });
 }
 
 } // namespace
@@ -39,6 +49,8 @@ private slots:
     void barsStandSideBySide_data();
     void barsStandSideBySide();
     void barsAreDrawnInTheirPlaces();
+    void narrowBarsHaveTheirShares_data();
+    void narrowBarsHaveTheirShares();
     void withoutHarmonicsThereIsAText();
     void whatIsNotFiniteHasNoBar();
 };
@@ -97,17 +109,39 @@ void TestHarmonicBars::barsAreDrawnInTheirPlaces()
     QCOMPARE(picture.pixelColor(bars.bar(2).left() - 1, bars.bar(2).center().y()), panel);
     QCOMPARE(picture.pixelColor(bars.bar(1).right() + 1, bars.bar(1).center().y()), panel);
     // The order below the bar and the share above it.
-    const auto hasText = [&](int top) {
-        const QRect place(bars.bar(2).left(), top, bars.bar(2).width(), 14);
-        bool found = false;
-        for (int x = place.left(); x <= place.right(); ++x) {
-            for (int y = place.top(); y <= place.bottom(); ++y)
-                found = found || picture.pixelColor(x, y).lightness() > 150;
-        }
-        return found;
-    };
-    QVERIFY(hasText(bars.bar(2).bottom() + 2));
-    QVERIFY(hasText(bars.bar(2).top() - 15));
+    const QRect bar = bars.bar(2);
+    QVERIFY(hasText(picture, {bar.left(), bar.bottom() + 2, bar.width(), 14}));
+    QVERIFY(hasText(picture, {bar.left(), bar.top() - 15, bar.width(), 14}));
+}
+
+void TestHarmonicBars::narrowBarsHaveTheirShares_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<QList<double>>("values");
+    const int least = HarmonicBars().minimumSizeHint().width();
+    for (const int width : {least, 320, 345, 400, 800}) {
+        QTest::addRow("the fundamental alone, %d", width) << width << QList<double>{10};
+        QTest::addRow("one hundred each, %d", width)
+            << width << QList<double>{1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1};
+        QTest::addRow("above the fundamental, %d", width) << width << QList<double>{1, 12.5, 8};
+    }
+}
+
+// Each bar has white above it.
+void TestHarmonicBars::narrowBarsHaveTheirShares()
+{
+    QFETCH(int, width);
+    QFETCH(QList<double>, values);
+    HarmonicBars bars;
+    bars.resize(width, 200);
+    bars.setHarmonics(harmonicsOf(values), QString());
+    const QImage picture = bars.grab().toImage();
+    for (int order = 1; order <= values.size(); ++order) {
+        const QRect bar = bars.bar(order);
+        const QRect above(bar.left(), bar.top() - bars.fontMetrics().height(), bar.width(),
+            bars.fontMetrics().height());
+        QVERIFY2(hasText(picture, above), qPrintable(QString::number(order)));
+    }
 }
 
 void TestHarmonicBars::withoutHarmonicsThereIsAText()
