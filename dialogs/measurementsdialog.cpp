@@ -24,6 +24,18 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+QStringList rowNames(const TextTableModel &model)
+{
+    QStringList names;
+    for (int row = 0; row < model.rowCount(); ++row)
+        names.append(model.headerData(row, Qt::Vertical).toString());
+    return names;
+}
+
+} // namespace
+
 MeasurementsDialog::MeasurementsDialog(QWidget *parent)
     : QDialog(parent), ui(std::make_unique<Ui::MeasurementsDialog>()), m_timer(new QTimer(this))
 {
@@ -349,7 +361,10 @@ void MeasurementsDialog::fill(QTableView *view, const TextTable &table)
     TextTableModel *model = modelOf(view);
     const QSize before(model->columnCount(), model->rowCount());
     const QStringList headings = model->table().headings;
+    const QStringList names = rowNames(*model);
     model->setTable(table);
+    if (rowNames(*model) != names) // lays out anew, which a drag need not wait for
+        emit model->headerDataChanged(Qt::Vertical, 0, model->rowCount() - 1);
     if (before == QSize(model->columnCount(), model->rowCount())
         && headings.mid(0, table.names) == table.headings.mid(0, table.names))
         return;

@@ -121,6 +121,8 @@ private slots:
     void harmonicsAreThoseOfTheChosenChannel();
     void refreshesOnceForManyRequests();
     void paintsNoMoreThanWhatDiffers();
+    void rowNamesHaveTheWidthTheyNeed();
+    void anotherRecordingsRowNamesHaveTheWidthTheyNeed();
     void refreshesNothingWhileHidden();
     void turnsItsPagesByKeys();
     void turnsItsPagesFromEverywhere_data();
@@ -597,6 +599,45 @@ void TestMeasurementsDialog::paintsNoMoreThanWhatDiffers()
     dialog->refresh();
     QTRY_VERIFY(rowNames.painted.height() > 0);
     QTRY_COMPARE(cells.painted.left(), table->columnViewportPosition(0));
+}
+
+// Of the longest one, with room for bold letters.
+void TestMeasurementsDialog::rowNamesHaveTheWidthTheyNeed()
+{
+    const QTableView *table = view("tableView_cursors");
+    const QHeaderView *names = table->verticalHeader();
+    dialog->resize(1400, 500);
+    tick("checkBox_fundamental");
+    const auto showSide = [&](int mode, const QString &name) {
+        host->mode = mode;
+        dialog->refresh();
+        QTRY_COMPARE(names->model()->headerData(3, Qt::Vertical).toString(), name);
+        const int needed = names->fontMetrics().horizontalAdvance(name);
+        QTRY_VERIFY2(names->width() > needed && names->width() < needed * 5 / 4,
+            qPrintable(QStringLiteral("%1 for %2").arg(names->width()).arg(needed)));
+        QCOMPARE(table->viewport()->x() - names->geometry().right(), 1);
+    };
+    for (int twice = 0; twice < 2; ++twice) {
+        showSide(2, QStringLiteral("IL2, RMS of fundamental, p.u."));
+        showSide(1, QStringLiteral("IL2, RMS of fundamental, kA (secondary)"));
+    }
+}
+
+void TestMeasurementsDialog::anotherRecordingsRowNamesHaveTheWidthTheyNeed()
+{
+    const QHeaderView *names = view("tableView_cursors")->verticalHeader();
+    dialog->resize(1400, 500);
+    QTRY_VERIFY(names->width() > 0);
+    const int before = names->width();
+    for (int twice = 0; twice < 2; ++twice) {
+        host->source->analogChannels.at(0)->id = QStringLiteral("Feeder current of phase one");
+        dialog->setPlotter(plot.get());
+        const QString name = QStringLiteral("Feeder current of phase one, Value, A (primary)");
+        QTRY_VERIFY(names->width() > names->fontMetrics().horizontalAdvance(name));
+        host->source->analogChannels.at(0)->id = QStringLiteral("IL1");
+        dialog->setPlotter(plot.get());
+        QTRY_COMPARE(names->width(), before);
+    }
 }
 
 void TestMeasurementsDialog::refreshesNothingWhileHidden()
