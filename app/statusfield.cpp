@@ -14,7 +14,6 @@
 #include "timeofday.h"
 
 #include <QEvent>
-
 #include <QStatusBar>
 
 #include <algorithm>

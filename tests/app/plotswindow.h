@@ -66,6 +66,10 @@ protected:
         window->open(writeRecording(folder->path(), analog, digital, flag));
         QVERIFY(window->recording());
     }
+    void openUsual()
+    {
+        open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {QStringLiteral("Trip")});
+    }
     // In the order in which they stand, the first analog plot first.
     QList<Plotter *> plots() const
     {

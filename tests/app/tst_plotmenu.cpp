@@ -31,7 +31,7 @@ private slots:
     void init()
     {
         openWindow();
-        open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {QStringLiteral("Trip")});
+        openUsual();
     }
     void cleanup() { closeWindow(); }
 

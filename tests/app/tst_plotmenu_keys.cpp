@@ -20,7 +20,7 @@ private slots:
     void init()
     {
         openWindow();
-        open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {QStringLiteral("Trip")});
+        openUsual();
     }
     void cleanup() { closeWindow(); }
 

@@ -27,7 +27,7 @@ private slots:
     void init()
     {
         openWindow();
-        open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {QStringLiteral("Trip")});
+        openUsual();
     }
     void cleanup() { closeWindow(); }
 

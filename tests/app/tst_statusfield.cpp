@@ -66,10 +66,6 @@ private:
     {
         return plot->findChild<QWidget *>(QStringLiteral("timemark"));
     }
-    void openUsual()
-    {
-        open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {QStringLiteral("Trip")});
-    }
 };
 
 void TestStatusField::nothingIsShownWithoutARecording()
