@@ -12,6 +12,7 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -604,7 +605,7 @@ void TestMeasurementsDialog::saveInto(const QString &path)
         timer.stop();
         if (path.isEmpty())
             return box->reject();
-        box->selectFile(path);
+        box->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"))->setText(path);
         QTest::keyClick(box, Qt::Key_Return);
     });
     timer.start(10);
