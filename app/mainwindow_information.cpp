@@ -24,6 +24,7 @@
 #include <QCheckBox>
 #include <QSignalBlocker>
 
+#include <limits>
 #include <utility>
 
 namespace {
@@ -49,6 +50,19 @@ template <typename Channel> void listNames(QListWidget &list, const QList<Channe
     }
     if (!isNew)
         list.doItemsLayout(); // with other widths
+}
+
+// The texts of a rating of each channel. Neighbours mostly share it, and its text then.
+QStringList ratingTexts(const QList<AnalogChannel *> &channels, double AnalogChannel::*rating)
+{
+    QStringList texts;
+    double last = std::numeric_limits<double>::quiet_NaN();
+    for (const AnalogChannel *channel : channels) {
+        const double value = channel->*rating;
+        texts.append(value == last ? texts.constLast() : generalText(value));
+        last = value;
+    }
+    return texts;
 }
 
 void showName(QLabel &label, const QString &name)
@@ -136,13 +150,8 @@ void MainWindow::showRecording()
     chooseLettersOf(*m_cfgProperties);
     m_hasRecording = true; // the plots read the recording while they are made
     QStringList ids;
-    QStringList primaries;
-    QStringList secondaries;
-    for (const AnalogChannel *channel : qAsConst(m_cfgProperties->analogChannels)) {
+    for (const AnalogChannel *channel : qAsConst(m_cfgProperties->analogChannels))
         ids.append(channel->id);
-        primaries.append(generalText(channel->primary));
-        secondaries.append(generalText(channel->secondary));
-    }
     showNames();
     ui->listWidget->setSelectionMode(QAbstractItemView::MultiSelection);
     ui->listWidget2->setSelectionMode(QAbstractItemView::MultiSelection);
@@ -153,7 +162,9 @@ void MainWindow::showRecording()
         showTimes(*ui, *m_cfgProperties);
     createPlots();
     enableRecordingActions(true);
-    m_ctvtDialog->setChannels(ids, primaries, secondaries);
+    m_ctvtDialog->setChannels(ids,
+        ratingTexts(m_cfgProperties->analogChannels, &AnalogChannel::primary),
+        ratingTexts(m_cfgProperties->analogChannels, &AnalogChannel::secondary));
     m_sideWindows->setRecording(m_cfgProperties, m_analogPlotter);
 }
 

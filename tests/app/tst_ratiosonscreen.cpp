@@ -49,6 +49,7 @@ private slots:
     void valuesAndReadoutsFollowTheFactors_data();
     void valuesAndReadoutsFollowTheFactors();
     void aReloadBringsTheRatiosOfTheFile();
+    void eachRowHasTheRatingsOfItsChannel();
 
 private:
     void open(const QString &flag);
@@ -177,6 +178,30 @@ void TestRatiosOnScreen::aReloadBringsTheRatiosOfTheFile()
         QCOMPARE(edits.at(i)->text(), i % 2 == 0 ? QStringLiteral("400") : QStringLiteral("5"));
     window->findChild<QComboBox *>(QStringLiteral("comboBox_primSec"))->setCurrentIndex(0);
     QCOMPARE(readout(1), QStringLiteral("8000"));
+}
+
+// Neighbours with the same rating or all but the same, of different writing.
+void TestRatiosOnScreen::eachRowHasTheRatingsOfItsChannel()
+{
+    const QList<std::pair<QByteArray, QByteArray>> ratings{{"400", "5"}, {"400.0", "5"},
+        {"400", "1"}, {"0", "1"}, {"-0", "1"}, {"0", "0.5"}, {"nan", ".5"}, {"nan", "-0.5"},
+        {"1200000", "5e-1"}, {"1200001", "5"}};
+    ConfigurationText text;
+    for (const auto &[primary, secondary] : ratings)
+        text.addAnalog("I,,line,A,1,0,0,-999,999," + primary + ',' + secondary + ",P");
+    for (int time = 0; time < 2; ++time) {
+        window->open(writePair(folder->path() + QStringLiteral("/ratings"), text.text(), "1,0\n"));
+        QVERIFY(window->recording());
+        const QStringList primaries{QStringLiteral("400"), QStringLiteral("400"),
+            QStringLiteral("400"), QStringLiteral("0"), QStringLiteral("0"), QStringLiteral("0"),
+            QStringLiteral("nan"), QStringLiteral("nan"), QStringLiteral("1.2e+06"),
+            QStringLiteral("1.2e+06")};
+        const QStringList secondaries{QStringLiteral("5"), QStringLiteral("5"), QStringLiteral("1"),
+            QStringLiteral("1"), QStringLiteral("1"), QStringLiteral("0.5"), QStringLiteral("0.5"),
+            QStringLiteral("-0.5"), QStringLiteral("0.5"), QStringLiteral("5")};
+        QCOMPARE(ratios()->primaryTexts(), primaries);
+        QCOMPARE(ratios()->secondaryTexts(), secondaries);
+    }
 }
 
 QTEST_MAIN(TestRatiosOnScreen)
