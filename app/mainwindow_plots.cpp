@@ -24,6 +24,7 @@
 #include <QPointer>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QTimer>
 
 #include <algorithm>
 #include <numeric>
@@ -181,7 +182,8 @@ void MainWindow::disposePlots()
     if (!m_analogPlotter)
         return;
     m_sideWindows->setRecording(nullptr, nullptr);
-    m_analogPlotter->setLinkedPlotters({});
+    for (Plotter *plot : plots()) // the pointer enters others while one goes
+        plot->setLinkedPlotters({});
     m_analogPlotter->resetPlot(); // plots of the next recording begin at the full view
     for (Plotter *plot : plots())
         delete plot;
@@ -348,10 +350,12 @@ void MainWindow::addPlot(const QString &name, const QList<int> &numbers, const U
     // The scroll area knows the plot's place only after its layout was done.
     constexpr int settleTime = 50; // ms
     const QPointer<Plotter> added(plot);
+    QTimer waking; // to look at the time where no event comes
+    waking.start(settleTime / 5);
     QElapsedTimer timer;
     timer.start();
     while (added && timer.elapsed() < settleTime)
-        QCoreApplication::processEvents(QEventLoop::AllEvents, settleTime);
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     if (added)
         ui->scrollArea->ensureWidgetVisible(added, 0, 0);
 }

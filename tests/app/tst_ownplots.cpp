@@ -22,6 +22,29 @@ protected:
     }
 };
 
+// How often the pointer has entered plots, and whether one of these was still linked to the plot
+// that goes.
+class EntryCounter : public QObject {
+public:
+    explicit EntryCounter(Plotter *gone) : m_gone(gone) { }
+
+    int entered = 0;
+    bool isLinked = false;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Enter) {
+            ++entered;
+            isLinked = isLinked || static_cast<Plotter *>(watched)->linked().contains(m_gone);
+        }
+        return false;
+    }
+
+private:
+    Plotter *m_gone; // for its address alone
+};
+
 } // namespace
 
 // Plots that the user composes, and their removal.
@@ -59,6 +82,8 @@ private slots:
     void anAddedPlotScrollsWithTheOthers();
     void aRemovedPlotTakesItsReadoutAway();
     void anAddedPlotIsScrolledIntoView();
+    void thePointerEntersPlotsAsTheOthersGo_data();
+    void thePointerEntersPlotsAsTheOthersGo();
     void aRemovalMovesTheOthersAtOnce_data();
     void aRemovalMovesTheOthersAtOnce();
 
@@ -404,6 +429,53 @@ void TestOwnPlots::anAddedPlotIsScrolledIntoView()
         compose({QStringLiteral("Ia")});
     const Plotter *newest = plot(QStringLiteral("Graph 4"));
     QCOMPARE(newest->visibleRegion().boundingRect().size(), newest->size());
+}
+
+void TestOwnPlots::thePointerEntersPlotsAsTheOthersGo_data()
+{
+    QTest::addColumn<QString>("way");
+    QTest::newRow("another recording") << "load";
+    QTest::newRow("removal") << "removal";
+    QTest::newRow("the end of the window") << "end";
+}
+
+// The toolkit tells the plot below a deleted one that the pointer is over it, in mid-deletion.
+void TestOwnPlots::thePointerEntersPlotsAsTheOthersGo()
+{
+    QFETCH(QString, way);
+    for (int twice = 0; twice < 2; ++twice) {
+        open({QStringLiteral("Ia"), QStringLiteral("Ib")}, {QStringLiteral("D1")});
+        window->resize(1200, 1500); // none is out of sight
+        for (int i = 0; i < 2; ++i)
+            compose({QStringLiteral("Ib")});
+        QCoreApplication::processEvents();
+        const bool byRemoval = way == QLatin1String("removal");
+        Plotter *gone = byRemoval ? plot(QStringLiteral("Graph 2")) : analog();
+        const QPoint place = gone->mapTo(window.get(), gone->rect().center());
+        QTest::mouseMove(window->windowHandle(), {1, 1});
+        QCursor::setPos(window->mapToGlobal(place));
+        QTest::mouseMove(window->windowHandle(), place);
+        QCoreApplication::processEvents();
+        QVERIFY(gone->underMouse());
+        // The others come to stand where it stands.
+        for (Plotter *plot : plots()) {
+            if (plot != gone)
+                plot->setGeometry(gone->geometry());
+        }
+        EntryCounter entries(gone);
+        for (Plotter *plot : plots())
+            plot->installEventFilter(&entries);
+        if (byRemoval)
+            trigger("&Remove Plotter");
+        else if (way == QLatin1String("load"))
+            openUsual();
+        else
+            closeWindow();
+        QVERIFY(entries.entered > 0);
+        QVERIFY(!entries.isLinked);
+        if (!window)
+            openWindow();
+    }
 }
 
 void TestOwnPlots::aRemovalMovesTheOthersAtOnce_data()

@@ -157,8 +157,9 @@ class TestReentrancy : public PlotsWindow {
         const QPoint from(100 + upTo(400), 60 + upTo(100));
         const QPoint to(100 + upTo(400), 60 + upTo(100));
         switch (upTo(5)) {
-        case 0:
-            QTest::mouseMove(plot, to);
+        case 0: // through the window, which knows then over what the pointer stands
+            QCursor::setPos(plot->mapToGlobal(to));
+            QTest::mouseMove(window->windowHandle(), plot->mapTo(window.get(), to));
             break;
         case 1:
             QTest::mouseDClick(plot, Qt::LeftButton, {}, to);
