@@ -291,6 +291,8 @@ void VectorWidget::changeEvent(QEvent *event)
 
 bool VectorWidget::event(QEvent *event)
 {
+    if (event->type() == QEvent::ScreenChangeInternal && isVisible()) // to one of another factor
+        requestRedraw();
     if (event->type() != QEvent::ToolTip)
         return QWidget::event(event);
     const auto *help = static_cast<QHelpEvent *>(event);

@@ -152,9 +152,17 @@ void CursorMarks::place(const PlotGeometry &geometry)
 
     QVector<QRect> taken;
     for (Mark &mark : marks) {
-        while (
-            !take(mark.place, taken) && mark.place.bottom() + mark.place.height() < area.bottom())
-            mark.place.translate(0, mark.place.height());
+        const int width = mark.place.width();
+        const int toTheMiddle = mark.place.left() < area.center().x() ? width : -width;
+        for (QRect place = mark.place; area.intersects(place);) {
+            if (take(place, taken)) {
+                mark.place = place;
+                break;
+            }
+            place.translate(0, place.height());
+            if (place.bottom() >= area.bottom())
+                place.moveTopLeft({place.left() + toTheMiddle, mark.place.top()});
+        }
         mark.label->move(mark.place.topLeft());
     }
 }

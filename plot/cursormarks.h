@@ -46,7 +46,8 @@ public:
 
     // Sets lines and labels to their places in a view. Those out of view are hidden. A label stands
     // right of its line; one that would leave the plot area there stands left of it, and so does
-    // any that would run into such a one. Labels that still would overlap stand below each other.
+    // any that would run into such a one. Labels that still would overlap stand below each other,
+    // beyond the height of the plot in further columns towards its middle.
     void place(const PlotGeometry &geometry);
 
     // The time difference of two neighbouring cursors as it is painted, in widget pixels.

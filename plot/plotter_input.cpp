@@ -58,6 +58,7 @@ bool Plotter::event(QEvent *event)
         break;
     case QEvent::Show:
     case QEvent::Resize:
+    case QEvent::ScreenChangeInternal: // to one of another factor
         refreshPixmap();
         break;
     case QEvent::LanguageChange:

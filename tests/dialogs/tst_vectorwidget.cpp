@@ -79,6 +79,7 @@ private slots:
     void offersNoColorOfARemovedCheckBox();
     void asksForAColorOnlyOverACheckBox();
     void drawsOnceForManyRequests();
+    void drawsAnewOnAScreenOfAnotherFactor();
     void drawsWhileRequestsKeepComing();
     void drawsLaterWhatIsAskedWhileItWaits();
     void asksToBeRemoved();
@@ -526,6 +527,24 @@ void TestVectorWidget::drawsOnceForManyRequests()
         panel->requestRedraw();
     QTest::qWait(150);
     QCOMPARE(drawings.count(), 1);
+}
+
+void TestVectorWidget::drawsAnewOnAScreenOfAnotherFactor()
+{
+    recording.add(QStringLiteral("A"), 0, 50, extremeOf100);
+    show();
+    QTest::qWait(200); // for the drawing that being shown brings
+    DrawingCounter drawings(panel);
+    const auto moveToScreen = [this] {
+        QEvent event(QEvent::ScreenChangeInternal);
+        QCoreApplication::sendEvent(panel, &event);
+        QTest::qWait(150);
+    };
+    moveToScreen();
+    QCOMPARE(drawings.count(), 1);
+    panel->hide();
+    moveToScreen();
+    QCOMPARE(drawings.count(), 1); // it is drawn when it is shown again
 }
 
 // As from a cursor that is dragged: the pause between two requests is shorter than the delay.

@@ -59,6 +59,8 @@ private slots:
     void linesAreSeenAtEveryFactor();
     void labelsAtTheRightEndKeepTheirOrder_data();
     void labelsAtTheRightEndKeepTheirOrder();
+    void labelsAtOnePlaceFillColumns_data();
+    void labelsAtOnePlaceFillColumns();
     void anyCursorsAreReadRight_data();
     void anyCursorsAreReadRight();
 
@@ -339,7 +341,8 @@ void TestCursorMarks::checkDifferences(const PlotGeometry &geometry)
     }
 }
 
-// Labels stand beside their lines, within the plot area, in the order of the lines.
+// Labels stand beside their lines, within the plot area, in the order of the lines; none covers
+// another. One stands elsewhere only where the whole height beside its line is taken.
 void TestCursorMarks::checkLabels(const PlotGeometry &geometry)
 {
     const QRect area = geometry.area();
@@ -347,21 +350,75 @@ void TestCursorMarks::checkLabels(const PlotGeometry &geometry)
     const QList<double> times = marks.times();
     const auto isRight
         = [&](int i) { return places.at(i).left() == qRound(geometry.cursorX(times.at(i))) + 3; };
+    const auto isFull = [&](QRect place) { // the column from a place at its top on
+        for (; place.bottom() < area.bottom(); place.translate(0, place.height())) {
+            if (std::none_of(places.cbegin(), places.cend(),
+                    [&](const QRect &other) { return other.intersects(place); }))
+                return false;
+        }
+        return true;
+    };
+    const auto isFullBeside = [&](int i) {
+        const int x = qRound(geometry.cursorX(times.at(i)));
+        const QSize size = places.at(i).size();
+        return isFull({{x + 3, area.top() + 2}, size})
+            || isFull({{x - 2 - size.width(), area.top() + 2}, size});
+    };
     for (int i = 0; i < places.size(); ++i) {
         const int x = qRound(geometry.cursorX(times.at(i)));
         QCOMPARE(places.at(i).isNull(), x < area.left() || x > area.right());
         if (places.at(i).isNull())
             continue;
         QVERIFY(area.contains(places.at(i)));
-        QVERIFY(isRight(i) || places.at(i).right() == x - 3 || places.at(i).left() == area.left());
+        const bool isBeside
+            = isRight(i) || places.at(i).right() == x - 3 || places.at(i).left() == area.left();
+        QVERIFY(isBeside || isFullBeside(i));
+        for (int k = 0; k < i; ++k)
+            QVERIFY(!places.at(i).intersects(places.at(k)));
         for (int k = 0; k < places.size(); ++k) {
-            if (places.at(k).isNull() || times.at(k) <= times.at(i))
+            if (places.at(k).isNull() || qRound(geometry.cursorX(times.at(k))) <= x
+                || isFullBeside(i) || isFullBeside(k))
                 continue;
             if (isRight(i) && !isRight(k))
                 QVERIFY(places.at(i).right() < places.at(k).left());
             if (places.at(i).top() == places.at(k).top() && !places.at(i).intersects(places.at(k)))
                 QVERIFY(places.at(i).left() < places.at(k).left());
         }
+    }
+}
+
+// On the left side of the middle to the right, on the right side to the left.
+void TestCursorMarks::labelsAtOnePlaceFillColumns_data()
+{
+    QTest::addColumn<double>("time");
+    QTest::addColumn<int>("nextColumn"); // to the right of the one before, in widths of a label
+    QTest::addColumn<bool>("leftOfTheLine");
+    QTest::newRow("at the left end") << 0.0 << 1 << false;
+    QTest::newRow("left of the middle") << 450.0 << 1 << false;
+    QTest::newRow("right of the middle") << 550.0 << -1 << false;
+    QTest::newRow("at the right end") << 1000.0 << -1 << true;
+}
+
+void TestCursorMarks::labelsAtOnePlaceFillColumns()
+{
+    QFETCH(double, time);
+    QFETCH(int, nextColumn);
+    QFETCH(bool, leftOfTheLine);
+    for (int twice = 0; twice < 2; ++twice) {
+        marks.clear();
+        add(QVector<double>(20, time));
+        const QVector<QRect> places = labels(pixels);
+        QCOMPARE(places.size(), 20);
+        const QRect first = places.first();
+        const int rows = (pixels.area().bottom() - first.top()) / first.height();
+        QVERIFY(rows > 5 && rows < 20);
+        for (int i = 0; i < places.size(); ++i) {
+            const int moved = leftOfTheLine ? places.at(i).right() - first.right()
+                                            : places.at(i).left() - first.left();
+            QCOMPARE(moved, i < rows ? 0 : nextColumn * places.at(i).width());
+            QCOMPARE(places.at(i).top() - first.top(), i % rows * first.height());
+        }
+        checkLabels(pixels);
     }
 }
 
@@ -373,6 +430,7 @@ void TestCursorMarks::anyCursorsAreReadRight_data()
     QTest::newRow("many anywhere") << 20 << 1000;
     QTest::newRow("a few close ones") << 5 << 60;
     QTest::newRow("many close ones") << 20 << 30;
+    QTest::newRow("many all but at one place") << 20 << 1;
 }
 
 void TestCursorMarks::anyCursorsAreReadRight()

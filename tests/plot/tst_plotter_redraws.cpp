@@ -29,6 +29,16 @@ public:
         ++refreshes;
         Plot::refreshPixmap();
     }
+
+    double ratio = 1; // of the pixels of the screen to its own
+
+protected:
+    int metric(QPaintDevice::PaintDeviceMetric wanted) const override
+    {
+        return wanted == QPaintDevice::PdmDevicePixelRatioScaled
+            ? qRound(ratio * QPaintDevice::devicePixelRatioFScale())
+            : Plot::metric(wanted);
+    }
 };
 
 } // namespace
@@ -47,6 +57,7 @@ private slots:
     void aBandRedrawsNoBaseLayerUntilItEnds_data();
     void aBandRedrawsNoBaseLayerUntilItEnds();
     void aRefreshThatChangesNothingRedrawsNone();
+    void aScreenOfAnotherFactorRedrawsEachPlotOnce();
     void aZoomRedrawsEachPlotOnce();
     void aReadoutThatWidensRedrawsEachPlotOnce_data();
     void aReadoutThatWidensRedrawsEachPlotOnce();
@@ -184,6 +195,26 @@ void TestPlotterRedraws::aRefreshThatChangesNothingRedrawsNone()
 {
     analog.first()->zoomIn();
     QCOMPARE(baseLayers(), QList<int>({0, 0, 0, 0, 0, 0, 0, 0}));
+}
+
+void TestPlotterRedraws::aScreenOfAnotherFactorRedrawsEachPlotOnce()
+{
+    const auto moveToScreen = [&](double ratio) {
+        const auto move = [&](auto *plot) {
+            plot->ratio = ratio;
+            QEvent event(QEvent::ScreenChangeInternal);
+            QCoreApplication::sendEvent(plot, &event);
+        };
+        for (Counted<Plotter> *plot : qAsConst(analog))
+            move(plot);
+        move(digital);
+    };
+    for (const double ratio : {1.5, 1.25, 1.5, 1.0}) {
+        moveToScreen(ratio);
+        QCOMPARE(baseLayers(), (QList<int>{1, 1, 1, 1, 1, 1, 1, 1}));
+        moveToScreen(ratio); // another screen of the same factor
+        QCOMPARE(baseLayers(), (QList<int>{0, 0, 0, 0, 0, 0, 0, 0}));
+    }
 }
 
 void TestPlotterRedraws::aZoomRedrawsEachPlotOnce()
