@@ -125,9 +125,7 @@ std::int64_t ConfigurationParser::whole(
 void ConfigurationParser::readStation()
 {
     Fields fields = nextFields("station");
-    constexpr std::string_view byteOrderMark = "\xef\xbb\xbf";
-    if (fields[0].substr(0, byteOrderMark.size()) == byteOrderMark)
-        fields[0].remove_prefix(byteOrderMark.size());
+    fields[0] = withoutByteOrderMark(fields[0]);
     if (fields.size() != 2 && fields.size() != 3)
         throw failure("the first line is not station, device and, since 1999, revision year");
     m_configuration.station = fields[0];

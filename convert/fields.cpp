@@ -47,6 +47,12 @@ std::string_view trimmed(std::string_view text)
     return text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
 }
 
+std::string_view withoutByteOrderMark(std::string_view text)
+{
+    constexpr std::string_view mark = "\xef\xbb\xbf";
+    return text.substr(0, mark.size()) == mark ? text.substr(mark.size()) : text;
+}
+
 std::vector<std::string_view> split(std::string_view line)
 {
     std::vector<std::string_view> fields;

@@ -13,6 +13,9 @@ namespace convert {
 // The text without blanks and tabs at its ends.
 std::string_view trimmed(std::string_view text);
 
+// The text without a byte order mark of UTF-8 at its beginning.
+std::string_view withoutByteOrderMark(std::string_view text);
+
 // The fields of a line, which commas separate; one at least.
 std::vector<std::string_view> split(std::string_view line);
 

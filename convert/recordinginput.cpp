@@ -10,6 +10,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <string_view>
 
 namespace convert {
 
@@ -78,7 +79,9 @@ void RecordingInput::readPair(const QString &dataPath, const Warn &warn)
 void RecordingInput::readSingleFile(const Warn &warn)
 {
     m_lines = std::make_unique<SectionReader>(*m_file, SectionReader::Layout::Sections);
-    std::optional<Heading> section = m_lines->nextSection();
+    std::optional<Heading> section;
+    if (std::string_view line; !m_lines->nextLine(line)) // nothing stands before the heading
+        section = m_lines->nextSection();
     if (!section || section->section != "CFG")
         throw m_file->failureOfLine("the file does not begin with the section CFG");
     m_configuration = ConfigurationParser(*m_lines, warn).parse();

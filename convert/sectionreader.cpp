@@ -28,6 +28,12 @@ std::string takeWord(std::string_view &text)
     return capitals;
 }
 
+// Whether a line is meant to begin a section.
+bool isHeading(std::string_view line)
+{
+    return areSameWords(trimmed(line).substr(0, opening.size()), opening);
+}
+
 std::optional<Heading> heading(std::string_view line)
 {
     line = trimmed(line).substr(opening.size());
@@ -49,11 +55,6 @@ std::optional<Heading> heading(std::string_view line)
 
 } // namespace
 
-bool isHeading(std::string_view line)
-{
-    return areSameWords(trimmed(line).substr(0, opening.size()), opening);
-}
-
 bool SectionReader::nextLine(std::string_view &line)
 {
     if (m_next || m_isAtEnd)
@@ -62,8 +63,9 @@ bool SectionReader::nextLine(std::string_view &line)
         m_isAtEnd = true;
         return false;
     }
-    if (m_layout == Layout::Sections && isHeading(line)) {
-        m_next = heading(line);
+    const std::string_view text = withoutByteOrderMark(line); // as files that were joined have them
+    if (m_layout == Layout::Sections && isHeading(text)) {
+        m_next = heading(text);
         if (!m_next)
             throw m_file.failureOfLine("this is no heading of a section");
         return false;

@@ -18,9 +18,6 @@ struct Heading {
     std::optional<std::int64_t> bytes; // of binary data
 };
 
-// Whether a line is meant to begin a section.
-bool isHeading(std::string_view line);
-
 // The lines of a section: of a file that has no sections all, else those up to the next heading.
 class SectionReader {
 public:

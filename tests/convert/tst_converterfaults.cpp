@@ -333,7 +333,11 @@ void TestConverterFaults::singleFile_data()
     QTest::newRow("empty") << QByteArray()
                            << QByteArray("r.cff:1: the file does not begin with the section CFG");
     QTest::newRow("a configuration without headings")
-        << configuration << QByteArray("r.cff:16: the file does not begin with the section CFG");
+        << configuration << QByteArray("r.cff:1: the file does not begin with the section CFG");
+    QTest::newRow("a line before the first heading")
+        << "x\n" + cfg << QByteArray("r.cff:1: the file does not begin with the section CFG");
+    QTest::newRow("an empty line before the first heading")
+        << "\n" + cfg << QByteArray("r.cff:1: the file does not begin with the section CFG");
     QTest::newRow("data first") << QByteArray("--- file type: DAT ASCII ---\n"
         + data) << QByteArray("r.cff:1: the file does not begin with the section CFG");
     QTest::newRow("heading that does not close")

@@ -480,6 +480,13 @@ void TestConverterForms::singleFiles_data()
     QTest::newRow("heading without the number of bytes")
         << QByteArray("DAT BINARY: 24") << QByteArray("DAT BINARY");
     QTest::newRow("byte order mark") << QByteArray("Harju") << QByteArray("\xef\xbb\xbfHarju");
+    QTest::newRow("byte order mark at the beginning")
+        << QByteArray("--- file type: CFG ---") << QByteArray("\xef\xbb\xbf--- file type: CFG ---");
+    QTest::newRow("byte order mark before a later heading")
+        << QByteArray("--- file type: INF ---") << QByteArray("\xef\xbb\xbf--- file type: INF ---");
+    QTest::newRow("byte order marks at both")
+        << QByteArray("--- file type: CFG ---\r\nHarju")
+        << QByteArray("\xef\xbb\xbf--- file type: CFG ---\r\n\xef\xbb\xbfHarju");
     QTest::newRow("lines that end with LF") << QByteArray("\r\n") << QByteArray("\n");
     QTest::newRow("empty line before a heading")
         << QByteArray("--- file type: INF ---") << QByteArray("\r\n--- file type: INF ---");
