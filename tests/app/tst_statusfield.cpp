@@ -40,6 +40,8 @@ private slots:
     void anotherRecordingAndNone();
     void aLongNameLeavesRoomForMessages();
     void aLongRowKeepsItsState();
+    void aResizeUnderThePointer_data();
+    void aResizeUnderThePointer();
     void messagesHaveTheRoomThatThePointerLeft();
     void marksInTheOtherPlots();
     void noMarkOutOfView();
@@ -139,7 +141,8 @@ void TestStatusField::aSingleFileIsForTheConverter()
         + QLatin1String(
             " was not opened: wavorin-convert turns .cff files into recordings that open");
     QVERIFY(writeTextFile(path, "--- file type: CFG ---\r\n"));
-    for (int twice = 0; twice < 2; ++twice) {
+    const bool isStart = way == QLatin1String("start"); // which a program has once
+    for (int time = 0; time < (isStart ? 1 : 2); ++time) {
         if (way == QLatin1String("dialog")) {
             QTimer::singleShot(0, window.get(), [&] {
                 auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
@@ -155,7 +158,7 @@ void TestStatusField::aSingleFileIsForTheConverter()
             openOrWait(*window, path);
         }
         QCOMPARE(boxes.count(), 0);
-        if (way != QLatin1String("start"))
+        if (!isStart)
             QCOMPARE(window->statusBar()->currentMessage(), QStringLiteral("File loaded"));
         QVERIFY(!window->recording());
         QVERIFY(field()->isVisible());
@@ -412,6 +415,35 @@ void TestStatusField::aLongRowKeepsItsState()
             <= window->statusBar()->width() * 3 / 4);
         leave(digital());
     }
+}
+
+void TestStatusField::aResizeUnderThePointer_data()
+{
+    QTest::addColumn<bool>("isDigital");
+    QTest::newRow("an analog plot") << false;
+    QTest::newRow("a long row") << true;
+}
+
+// What is said is what the next move at the same place would say.
+void TestStatusField::aResizeUnderThePointer()
+{
+    QFETCH(bool, isDigital);
+    open({QStringLiteral("Ia")}, {QString(100, QLatin1Char('r'))});
+    Plotter *plot = isDigital ? digital() : analog();
+    const QPoint place(400, 100);
+    point(plot, place);
+    QStringList said{field()->text()};
+    for (const int width : {1900, 1100, 1900, 1100}) {
+        window->resize(width, 900);
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+        const QString text = field()->text();
+        point(plot, place);
+        QCOMPARE(text, field()->text());
+        QVERIFY(text != said.constLast());
+        said.append(text);
+    }
+    QCOMPARE(said.at(3), said.at(1));
 }
 
 // Such as the status tip of a button: the field was wider while it had more to say.

@@ -7,18 +7,24 @@
 #include <QImage>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
 
 // Relative luminance of an sRGB colour, 0 (black) to 1 (white), as the Web Content Accessibility
 // Guidelines define it.
 inline double luminance(QRgb color)
 {
-    const auto linear = [](int channel) {
-        const double c = channel / 255.0;
-        return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color))
-        + 0.0722 * linear(qBlue(color));
+    static const auto linear = [] { // of each value of a channel: whole pictures are compared
+        std::array<double, 256> table;
+        for (std::size_t channel = 0; channel < table.size(); ++channel) {
+            const double c = static_cast<double>(channel) / 255.0;
+            table[channel] = c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+        }
+        return table;
+    }();
+    const auto part = [](int channel) { return linear[static_cast<std::size_t>(channel)]; };
+    return 0.2126 * part(qRed(color)) + 0.7152 * part(qGreen(color)) + 0.0722 * part(qBlue(color));
 }
 
 // Contrast ratio of two colours after the same guidelines, 1 to 21.

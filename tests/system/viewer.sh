@@ -11,6 +11,8 @@ on_own_display() {
     shift
     [ -z "${OWN_DISPLAY:-}" ] || return 0
     export OWN_DISPLAY=$size
+    # Where there is no bus, the toolkit would start one, which outlives it and leaves folders in its home.
+    export DBUS_SESSION_BUS_ADDRESS=${DBUS_SESSION_BUS_ADDRESS:-disabled:}
     # A free number that is looked for may be taken by another one meanwhile; a process has its own.
     exec xvfb-run -n "$((100 + $$ % 20000))" -s "-screen 0 ${size}x24 -dpi 96 -noreset" "$@"
 }
@@ -23,8 +25,6 @@ start_viewer() {
     mkdir -p "$home/Norvale"
     printf '[General]\npos=@Point(0 0)\nsize=@Size(%s)\n' "${OWN_DISPLAY/x/ }" >"$home/Norvale/Wavorin.conf"
     export HOME=$home XDG_CONFIG_HOME=$home XDG_DATA_HOME=$home XDG_RUNTIME_DIR=$home QT_QPA_PLATFORM=xcb
-    # Where there is no bus, the toolkit would start one, which outlives it and leaves folders in $home.
-    export DBUS_SESSION_BUS_ADDRESS=${DBUS_SESSION_BUS_ADDRESS:-disabled:}
     "$1" "$2" &
     process=$!
     within 60 titled '^Wavorin$' || fail "no window"
