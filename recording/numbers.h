@@ -28,12 +28,15 @@ constexpr int mostDigitsOfFloat = 40; // or of an int
 char *writeWhole(char *at, double value);
 char *writeWhole(char *at, qint64 value);
 
-// A double as a float; beyond its range an infinity.
+// The nearest float, as IEEE 754 rounds: beyond the largest one by half a step an infinity.
 inline float narrowed(double value)
 {
     using Limits = std::numeric_limits<float>;
-    if (std::abs(value) > static_cast<double>(Limits::max()))
-        return value > 0 ? Limits::infinity() : -Limits::infinity();
+    constexpr double infinite = 0x1.ffffffp127;
+    if (const double size = std::abs(value); size > static_cast<double>(Limits::max())) {
+        const float nearest = size < infinite ? Limits::max() : Limits::infinity();
+        return value > 0 ? nearest : -nearest;
+    }
     return static_cast<float>(value);
 }
 

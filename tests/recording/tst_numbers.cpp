@@ -170,6 +170,11 @@ void TestNumbers::doublesNarrowToFloats_data()
     QTest::newRow("the nearest float") << 0.1 << 0.1F;
     QTest::newRow("the largest float") << static_cast<double>(std::numeric_limits<float>::max())
                                        << std::numeric_limits<float>::max();
+    QTest::newRow("nearer to the largest float than to the next power of 2")
+        << 3.4028235e38 << std::numeric_limits<float>::max();
+    QTest::newRow("the same below 0") << -3.4028235e38 << -std::numeric_limits<float>::max();
+    QTest::newRow("the last that is") << 0x1.fffffefffffffp127 << std::numeric_limits<float>::max();
+    QTest::newRow("the first that is not") << 0x1.ffffffp127 << infiniteFloat;
     QTest::newRow("too large") << 1e39 << infiniteFloat;
     QTest::newRow("too large below 0") << -1e39 << -infiniteFloat;
     QTest::newRow("infinite") << infinite << infiniteFloat;
