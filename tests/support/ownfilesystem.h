@@ -77,7 +77,7 @@ private:
         const bool isAlone = unshare(CLONE_NEWNS) == 0
             || (unshare(CLONE_NEWNS | CLONE_NEWUSER) == 0 && tell("uid_map", user)
                 && tell("setgroups", "deny") && tell("gid_map", group));
-        return isAlone && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+        return isAlone && mount("none", "/", "none", MS_REC | MS_PRIVATE, nullptr) == 0;
     }
 
     static inline const bool s_isAlone = leaveForOwnNameSpace();
