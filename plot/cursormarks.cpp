@@ -163,7 +163,7 @@ void CursorMarks::place(const PlotGeometry &geometry)
             if (place.bottom() >= area.bottom())
                 place.moveTopLeft({place.left() + toTheMiddle, mark.place.top()});
         }
-        mark.label->move(mark.place.topLeft());
+        moveOver(*m_plot, *mark.label, mark.place.topLeft());
     }
 }
 

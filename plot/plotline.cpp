@@ -14,6 +14,15 @@ void repaintAround(QWidget &plot, const QRect &place)
     plot.update(place.adjusted(-1, -1, 1, 1));
 }
 
+void moveOver(QWidget &plot, QWidget &moved, const QPoint &place)
+{
+    if (place == moved.pos())
+        return;
+    repaintAround(plot, moved.geometry());
+    moved.move(place);
+    repaintAround(plot, moved.geometry());
+}
+
 PlotLine::PlotLine(QWidget *plot, const QString &name, const QString &color) : QFrame(plot)
 {
     setObjectName(name);
@@ -41,6 +50,12 @@ void PlotLine::paintEvent(QPaintEvent * /*event*/)
 void PlotLine::moveEvent(QMoveEvent *event)
 {
     repaintAround(*parentWidget(), QRect(event->oldPos(), size()));
+    repaintAround(*parentWidget(), geometry());
+}
+
+void PlotLine::showEvent(QShowEvent * /*event*/)
+{
+    repaintAround(*parentWidget(), geometry());
 }
 
 void PlotLine::hideEvent(QHideEvent * /*event*/)

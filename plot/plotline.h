@@ -8,9 +8,12 @@
 class PlotGeometry;
 class QRect;
 
-// Has a plot drawn again where a widget of it stood, and around there: where the scale factor is no
-// whole number, a place may miss a device pixel of what was shown there.
+// Has a plot drawn again where a widget of it stood or stands, and around there: where the scale
+// factor is no whole number, the toolkit's own repaint may miss a device pixel of what is shown.
 void repaintAround(QWidget &plot, const QRect &place);
+
+// Moves a widget of a plot, which is drawn again around both places.
+void moveOver(QWidget &plot, QWidget &moved, const QPoint &place);
 
 // A vertical line over a plot, one pixel wide and seen at every scale factor of the screen; the
 // mouse passes through it. Hidden at first.
@@ -27,5 +30,6 @@ public:
 protected:
     void paintEvent(QPaintEvent *event) override;
     void moveEvent(QMoveEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 };

@@ -68,10 +68,9 @@ void TimeLine::show(int x, const PlotGeometry &geometry)
     const int farthest = m_plot->width() - m_label->width(); // where the label is still whole
     const int right = x + labelGap;
     const int left = x - labelGap - m_label->width() + 1;
-    repaintAround(*m_plot, m_label->geometry());
     // A drag may have led the pointer out of the plot.
     const int place = right <= farthest ? right : std::min(left, farthest - borderWidth);
-    m_label->move(std::max(borderWidth, place), labelTop);
+    moveOver(*m_plot, *m_label, {std::max(borderWidth, place), labelTop});
     m_label->show();
     m_label->lower();
     m_line->place(x, geometry);

@@ -4,6 +4,7 @@
 #include "timemark.h"
 
 #include "plotgeometry.h"
+#include "plotline.h"
 
 #include <QPainter>
 
@@ -25,7 +26,7 @@ void TimeMark::show(double time, const PlotGeometry &geometry)
 {
     const QRect area = geometry.area();
     const int x = PlotGeometry::pixel(geometry.cursorX(time));
-    move(x - halfWidth, area.bottom() + 1);
+    moveOver(*parentWidget(), *this, {x - halfWidth, area.bottom() + 1});
     setVisible(geometry.isDrawable() && x >= area.left() && x <= area.right());
 }
 
