@@ -219,7 +219,7 @@ bool MainWindow::parse(const QString &path)
     QEventLoop loop;
     bool finished = false;
     connect(m_cfgProperties, &CFGProperties::initFinished, &loop, [&] {
-        finished = true;
+        finished = m_cfgProperties && m_cfgProperties->progress().hasEnded();
         loop.quit();
     });
     // A window that closes stops the thread, perhaps before the load has begun.

@@ -36,6 +36,7 @@ void CFGProperties::init()
     } catch (const std::exception &) { // out of memory
         fail(Failure::LittleMemory);
     }
+    m_progress.end();
     emit initFinished();
 }
 
@@ -53,6 +54,7 @@ void CFGProperties::fail(Failure reason)
 
 void CFGProperties::load()
 {
+    m_progress.look();
     if (isTextExport(filePath)) {
         readTxtFile();
         loaded = 1;
@@ -62,8 +64,7 @@ void CFGProperties::load()
         fftTransform();
     }
     requireMemory(0);
-    if (m_progress.isCancelled())
-        throw Interruption();
+    m_progress.look();
 }
 
 void CFGProperties::readConfgFile()

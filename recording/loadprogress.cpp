@@ -14,22 +14,37 @@ thread_local const LoadStage *currentStage = nullptr;
 
 } // namespace
 
-// Nothing else hangs on the order of these: what was loaded is handed over by a signal.
-
 void LoadProgress::restart()
 {
     m_place.store({Stage::Reading, 0}, std::memory_order_relaxed);
-    m_isCancelled.store(false, std::memory_order_relaxed);
+    m_hasEnded.store(false, std::memory_order_relaxed);
+    m_isCancelled.store(false, std::memory_order_release);
+}
+
+void LoadProgress::end()
+{
+    m_hasEnded.store(true, std::memory_order_release);
+}
+
+bool LoadProgress::hasEnded() const
+{
+    return m_hasEnded.load(std::memory_order_acquire);
 }
 
 void LoadProgress::cancel()
 {
-    m_isCancelled.store(true, std::memory_order_relaxed);
+    m_isCancelled.store(true, std::memory_order_release);
 }
 
 bool LoadProgress::isCancelled() const
 {
-    return m_isCancelled.load(std::memory_order_relaxed);
+    return m_isCancelled.load(std::memory_order_acquire);
+}
+
+void LoadProgress::look() const
+{
+    if (isCancelled())
+        throw Interruption();
 }
 
 void LoadProgress::setPlace(Place place)
@@ -58,8 +73,7 @@ void LoadStage::look()
 {
     if (!currentStage)
         return;
-    if (currentStage->m_progress.isCancelled())
-        throw Interruption();
+    currentStage->m_progress.look();
     currentStage->tell();
 }
 

@@ -9,7 +9,9 @@
 #include <functional>
 
 // How far a load is, and whether it is to be given up: between the thread that loads and one that
-// looks on, each of which may call any of this at any moment.
+// looks on, each of which may call any of this at any moment. The loading thread sees what was done
+// before the restart, and who sees that a load has ended sees what it has loaded: the toolkit's
+// queue, which hands the two over, orders that, too, but not for the thread sanitizer.
 class LoadProgress {
 public:
     enum class Stage { Reading, Phasors };
@@ -19,8 +21,11 @@ public:
     };
 
     void restart(); // before a load
+    void end(); // after it
+    bool hasEnded() const;
     void cancel();
     bool isCancelled() const;
+    void look() const; // throws an Interruption where the load is cancelled
 
     void setPlace(Place place);
     Place place() const;
@@ -29,6 +34,7 @@ private:
     std::atomic<Place> m_place{Place{Stage::Reading, 0}};
     static_assert(std::atomic<Place>::is_always_lock_free);
     std::atomic<bool> m_isCancelled{false};
+    std::atomic<bool> m_hasEnded{false};
 };
 
 // A stage of a load, while it lives, in the thread that loads. Whenever work that is counted there

@@ -13,6 +13,8 @@
 #include <QThreadPool>
 #include <QtTest>
 
+#include <memory>
+
 // Packages, unpacked by the real archiver where one is installed and by a program in its place
 // where its behaviour must be arranged.
 class TestPackages : public PackagesWindow {
@@ -216,17 +218,17 @@ private slots:
             QSKIP("no archiver is installed");
         writeSmallRecording(path("in"), QStringLiteral("rec"));
         const QString zip = package("device.zip");
-        MainWindow madeBefore;
+        const auto madeBefore = std::make_unique<MainWindow>();
         window->open(zip);
-        MainWindow madeAfter;
-        madeBefore.open(zip);
-        madeAfter.open(zip);
+        const auto madeAfter = std::make_unique<MainWindow>();
+        madeBefore->open(zip);
+        madeAfter->open(zip);
         QCOMPARE(window->windowFilePath(), unpackingFolder(1) + QLatin1String("/rec.cfg"));
-        QCOMPARE(madeBefore.windowFilePath(), unpackingFolder(2) + QLatin1String("/rec.cfg"));
-        QCOMPARE(madeAfter.windowFilePath(), unpackingFolder(3) + QLatin1String("/rec.cfg"));
-        QVERIFY(madeAfter.recording());
-        madeAfter.close();
-        madeBefore.close();
+        QCOMPARE(madeBefore->windowFilePath(), unpackingFolder(2) + QLatin1String("/rec.cfg"));
+        QCOMPARE(madeAfter->windowFilePath(), unpackingFolder(3) + QLatin1String("/rec.cfg"));
+        QVERIFY(madeAfter->recording());
+        madeAfter->close();
+        madeBefore->close();
         QVERIFY(QDir(unpackingFolder(1)).exists());
         QVERIFY(!QDir(unpackingFolder(2)).exists());
         QVERIFY(!QDir(unpackingFolder(3)).exists());
@@ -234,9 +236,9 @@ private slots:
 
     void anUnusedInstanceRemovesNothing()
     {
-        MainWindow other;
+        const auto other = std::make_unique<MainWindow>();
         QVERIFY(QDir().mkpath(unpackingFolder(1)));
-        other.close();
+        other->close();
         QVERIFY(QDir(unpackingFolder(1)).exists());
     }
 

@@ -254,6 +254,39 @@ private slots:
         QCOMPARE(recording.failure(), CFGProperties::Failure::GivenUp);
         QVERIFY(recording.analogChannels.isEmpty());
     }
+
+    void theEndIsSaidBeforeItsSignal_data()
+    {
+        QTest::addColumn<QByteArray>("data");
+        QTest::addColumn<bool>("isCancelled");
+        QTest::addColumn<int>("loaded");
+        QTest::newRow("loaded") << QByteArray("1,1,5\n") << false << 1;
+        QTest::newRow("failed") << QByteArray() << false << 0;
+        QTest::newRow("cancelled") << QByteArray("1,1,5\n") << true << 0;
+    }
+
+    void theEndIsSaidBeforeItsSignal()
+    {
+        QFETCH(QByteArray, data);
+        QFETCH(bool, isCancelled);
+        QFETCH(int, loaded);
+        CFGProperties recording;
+        QVERIFY(writeTextFile(path("small.cfg"), configuration()));
+        QVERIFY(writeTextFile(path("small.dat"), data));
+        int ends = 0;
+        connect(&recording, &CFGProperties::initFinished, this,
+            [&] { ends += recording.progress().hasEnded() ? 1 : 0; });
+        for (int time = 1; time <= 2; ++time) {
+            recording.filePath = path("small.cfg");
+            recording.progress().restart();
+            if (isCancelled)
+                recording.progress().cancel();
+            QVERIFY(!recording.progress().hasEnded());
+            recording.init();
+            QCOMPARE(ends, time);
+            QCOMPARE(recording.loaded, loaded);
+        }
+    }
 };
 
 QTEST_GUILESS_MAIN(TestLoadProgress)
