@@ -217,11 +217,7 @@ bool MainWindow::parse(const QString &path)
     const QPointer<MainWindow> self(this);
     m_cfgProperties->filePath = path;
     QEventLoop loop;
-    bool finished = false;
-    connect(m_cfgProperties, &CFGProperties::initFinished, &loop, [&] {
-        finished = m_cfgProperties && m_cfgProperties->progress().hasEnded();
-        loop.quit();
-    });
+    connect(m_cfgProperties, &CFGProperties::initFinished, &loop, &QEventLoop::quit);
     // A window that closes stops the thread, perhaps before the load has begun.
     connect(m_loaderThread, &QThread::finished, &loop, &QEventLoop::quit);
     const CancelWatch watch(*this, *m_sideWindows);
@@ -233,7 +229,7 @@ bool MainWindow::parse(const QString &path)
     if (self)
         m_loadingProgress->stop();
     // The end of the application ends the loop, too: the loader may still be at work.
-    return finished && self && m_cfgProperties;
+    return self && m_cfgProperties && m_cfgProperties->progress().hasEnded();
 }
 
 void MainWindow::processZip()
