@@ -46,6 +46,7 @@ private slots:
     void isSeenWhereverItStands();
     void leavesNothingBehind();
     void repaintsMoreThanItsPlace();
+    void whatIsMovedOverAPlotRepaintsAroundBothPlaces();
 
 private:
     void checkLine(const QImage &image, int x) const;
@@ -187,6 +188,24 @@ void TestPlotLine::repaintsMoreThanItsPlace()
     line.hide();
     screenshot(*window);
     QVERIFY((QRegion(299, 59, 3, 62) - watch.painted).isEmpty());
+}
+
+void TestPlotLine::whatIsMovedOverAPlotRepaintsAroundBothPlaces()
+{
+    QWidget moved(window.get());
+    moved.setGeometry(100, 60, 10, 10);
+    moved.show();
+    screenshot(*window);
+    PaintWatch watch;
+    window->installEventFilter(&watch);
+    for (int time = 0; time < 2; ++time) { // there and back
+        watch.painted = QRegion();
+        moveOver(*window, moved, time == 0 ? QPoint(300, 60) : QPoint(100, 60));
+        screenshot(*window);
+        QVERIFY((QRegion(99, 59, 12, 12) - watch.painted).isEmpty());
+        QVERIFY((QRegion(299, 59, 12, 12) - watch.painted).isEmpty());
+        QVERIFY(!watch.painted.intersects(QRect(120, 59, 160, 62)));
+    }
 }
 
 QTEST_MAIN(TestPlotLine)
