@@ -58,14 +58,25 @@ bool canBeLoaded(const QString &path)
         && QFile(path).open(QIODevice::ReadOnly);
 }
 
-QString reasonText(CFGProperties::Failure failure)
+// The data file that belongs to a configuration, by its name where both lie in one folder. They do
+// not where ".cfg" stands in the name of a folder, too.
+QString dataFileName(const QString &path, const CFGProperties &recording)
+{
+    const QString data = existingPath(recording.filePath);
+    const QFileInfo file(data);
+    return file.path() == QFileInfo(path).path() ? file.fileName() : data;
+}
+
+// Why the recording was not loaded from path.
+QString reasonText(const QString &path, const CFGProperties &recording)
 {
     using Failure = CFGProperties::Failure;
-    switch (failure) {
+    switch (recording.failure()) {
     case Failure::NoDataFile:
-        return MainWindow::tr("There is no data file (.dat) beside it.");
+        return MainWindow::tr("There is no data file %1.").arg(dataFileName(path, recording));
     case Failure::NoAccess:
-        return MainWindow::tr("The data file (.dat) beside it cannot be read.");
+        return MainWindow::tr("The data file %1 cannot be read.")
+            .arg(dataFileName(path, recording));
     case Failure::NotAscii:
         return MainWindow::tr("Its data are not ASCII.");
     case Failure::NoDataLine:
@@ -90,11 +101,11 @@ bool canBeConverted(const QString &path, CFGProperties::Failure failure)
 
 // What is said of a recording that is not supported, which may lie in the package that was asked
 // for.
-QString failureText(const QString &asked, const QString &path, CFGProperties::Failure failure)
+QString failureText(const QString &asked, const QString &path, const CFGProperties &recording)
 {
     const QString inPackage = QStringLiteral("%1 (%2)").arg(asked, QFileInfo(path).fileName());
-    QStringList lines{asked == path ? path : inPackage, reasonText(failure)};
-    if (canBeConverted(path, failure))
+    QStringList lines{asked == path ? path : inPackage, reasonText(path, recording)};
+    if (canBeConverted(path, recording.failure()))
         lines.append(MainWindow::tr("wavorin-convert may turn it into a recording that opens."));
     return lines.join(QLatin1Char('\n'));
 }
@@ -204,8 +215,7 @@ bool MainWindow::loadRecording(const QString &path, const QString &asked)
     } else {
         m_otherRecordings->offerInArea();
         if (!isGivenUp)
-            showWarning(
-                tr("File not supported."), failureText(asked, path, m_cfgProperties->failure()));
+            showWarning(tr("File not supported."), failureText(asked, path, *m_cfgProperties));
     }
     if (animation)
         animation->close();

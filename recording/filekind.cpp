@@ -55,7 +55,7 @@ QString existingPath(const QString &path)
         return path;
     const QDir folder = wanted.dir();
     QString found;
-    const QStringList names = folder.entryList(QDir::Files);
+    const QStringList names = folder.entryList(QDir::Files | QDir::Hidden);
     for (const QString &name : names) {
         const bool isAlike = name.compare(wanted.fileName(), Qt::CaseInsensitive) == 0;
         if (isAlike && (found.isEmpty() || name.startsWith(wanted.completeBaseName())))

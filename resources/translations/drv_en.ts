@@ -525,12 +525,12 @@ Please select another file.</translation>
         <translation>%1 %2 cannot be read as day/month/year and time of day</translation>
     </message>
     <message>
-        <source>There is no data file (.dat) beside it.</source>
-        <translation>There is no data file (.dat) beside it.</translation>
+        <source>There is no data file %1.</source>
+        <translation>There is no data file %1.</translation>
     </message>
     <message>
-        <source>The data file (.dat) beside it cannot be read.</source>
-        <translation>The data file (.dat) beside it cannot be read.</translation>
+        <source>The data file %1 cannot be read.</source>
+        <translation>The data file %1 cannot be read.</translation>
     </message>
     <message>
         <source>Its data are not ASCII.</source>

@@ -525,12 +525,12 @@ Valitse toinen tiedosto.</translation>
         <translation>%1 %2 ei ole muotoa päivä/kuukausi/vuosi ja kellonaika</translation>
     </message>
     <message>
-        <source>There is no data file (.dat) beside it.</source>
-        <translation>Sen vieressä ei ole datatiedostoa (.dat).</translation>
+        <source>There is no data file %1.</source>
+        <translation>Datatiedostoa %1 ei ole.</translation>
     </message>
     <message>
-        <source>The data file (.dat) beside it cannot be read.</source>
-        <translation>Sen vieressä olevaa datatiedostoa (.dat) ei voi lukea.</translation>
+        <source>The data file %1 cannot be read.</source>
+        <translation>Datatiedostoa %1 ei voi lukea.</translation>
     </message>
     <message>
         <source>Its data are not ASCII.</source>

@@ -525,12 +525,12 @@ Please select another file.</source>
         <translation>无法将 %1 %2 读作“日/月/年 时刻”</translation>
     </message>
     <message>
-        <source>There is no data file (.dat) beside it.</source>
-        <translation>同一文件夹中没有数据文件 (.dat)。</translation>
+        <source>There is no data file %1.</source>
+        <translation>没有数据文件 %1。</translation>
     </message>
     <message>
-        <source>The data file (.dat) beside it cannot be read.</source>
-        <translation>无法读取同一文件夹中的数据文件 (.dat)。</translation>
+        <source>The data file %1 cannot be read.</source>
+        <translation>无法读取数据文件 %1。</translation>
     </message>
     <message>
         <source>Its data are not ASCII.</source>

@@ -101,7 +101,7 @@ private slots:
         QTest::addColumn<QByteArray>("configuration");
         QTest::addColumn<QByteArray>("data");
         QTest::addColumn<QString>("reason");
-        const QString noFile = QStringLiteral("There is no data file (.dat) beside it.");
+        const QString noFile = QStringLiteral("There is no data file bad.dat.");
         const QString noSample = QStringLiteral("Its data file holds no sample.");
         const QString notAscii = QStringLiteral(
             "Its data are not ASCII.\nwavorin-convert may turn it into a recording that opens.");
@@ -155,7 +155,10 @@ private slots:
     // What holds all in one has no data file beside it.
     void singleFile()
     {
-        for (const char *name : {"single.cfg.cff", "SINGLE.CFG.CFF"}) {
+        const QList<QPair<const char *, QString>> names{
+            {"single.cfg.cff", QStringLiteral("single.dat.cff")},
+            {"SINGLE.CFG.CFF", QStringLiteral("SINGLE.dat.CFF")}};
+        for (const auto &[name, data] : names) {
             const QString single = path(name);
             QVERIFY(writeTextFile(single, "--- file type: CFG ---\r\n" + smallConfiguration()));
             window->open(single);
@@ -164,9 +167,43 @@ private slots:
             QCOMPARE(seen[0].text, QStringLiteral("File not supported."));
             QCOMPARE(seen[0].details,
                 single
-                    + QStringLiteral("\nThere is no data file (.dat) beside it."
-                                     "\nwavorin-convert may turn it into a recording that opens."));
+                    + QStringLiteral("\nThere is no data file %1."
+                                     "\nwavorin-convert may turn it into a recording that opens.")
+                          .arg(data));
         }
+    }
+
+    // The folder's name is part of what names the data file.
+    void dataFileOfAFolderNamedLikeAConfiguration_data()
+    {
+        QTest::addColumn<QString>("folderName");
+        QTest::addColumn<bool>("isThere"); // a folder in the data file's place
+        QTest::addColumn<QString>("reason");
+        const QString none = QStringLiteral("There is no data file %1.");
+        QTest::newRow("lower case") << "site.cfg" << false << none;
+        QTest::newRow("capitals, in the middle") << "site.CFG.2026" << false << none;
+        QTest::newRow("there, but no file")
+            << "site.cfg" << true << "The data file %1 cannot be read.";
+    }
+
+    void dataFileOfAFolderNamedLikeAConfiguration()
+    {
+        QFETCH(QString, folderName);
+        QFETCH(bool, isThere);
+        QFETCH(QString, reason);
+        QVERIFY(QDir(folder->path()).mkdir(folderName));
+        const QDir beside(folder->filePath(folderName));
+        const QString asked = writeSmallRecording(beside.path(), QStringLiteral("good"));
+        QVERIFY(beside.exists(QStringLiteral("good.dat")));
+        const QString wanted = folder->filePath(folderName.left(4) + QLatin1String(".dat")
+            + folderName.mid(8) + QLatin1String("/good.dat"));
+        if (isThere)
+            QVERIFY(QDir().mkpath(wanted));
+        window->open(asked);
+        const QList<BoxReader::Box> seen = boxes->take();
+        QCOMPARE(seen.size(), 1);
+        QCOMPARE(seen[0].text, QStringLiteral("File not supported."));
+        QCOMPARE(seen[0].details, asked + QLatin1Char('\n') + reason.arg(wanted));
     }
 
     // This process's own memory looks like a file, and its first bytes cannot be read.

@@ -276,6 +276,7 @@ void TestCfgProperties::theDataFileIsNamedAfterTheConfiguration_data()
     row("also in the middle of the name", "a.cfg.old.cfg", "a.dat.old.dat", "a.dat.old.dat");
     row("data in another case are found", "REC.CFG", "REC.DAT", "REC.dat");
     row("data under another capital letter are found", "rec.cfg", "Rec.Dat", "rec.dat");
+    row("hidden data are found", ".rec.CFG", ".REC.DAT", ".rec.dat");
 }
 
 void TestCfgProperties::theDataFileIsNamedAfterTheConfiguration()
