@@ -73,6 +73,12 @@ void ElidingComboBox::set(const QStringList &texts, int current, bool areNames)
     setCurrentIndex(current);
 }
 
+// The toolkit computes both alike, but keeps this one when the font changes.
+QSize ElidingComboBox::minimumSizeHint() const
+{
+    return sizeHint();
+}
+
 void ElidingComboBox::showPopup()
 {
     const int needed = view()->sizeHintForColumn(0) + 30; // a scroll bar, too

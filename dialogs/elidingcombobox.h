@@ -18,6 +18,7 @@ public:
     // The same with names as the file has them, which are shown in the letters chosen.
     void setNames(const QStringList &names, int current);
 
+    QSize minimumSizeHint() const override;
     void showPopup() override;
 
 protected:

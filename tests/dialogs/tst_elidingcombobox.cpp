@@ -20,6 +20,7 @@ private slots:
     void showsBothEndsOfALongText();
     void tellsALongTextInItsToolTip_data();
     void tellsALongTextInItsToolTip();
+    void needsNoMoreRoomThanItWants();
     void widensItsListWithinTheScreen_data();
     void widensItsListWithinTheScreen();
 
@@ -116,6 +117,23 @@ void TestElidingComboBox::tellsALongTextInItsToolTip()
     QTest::mouseMove(combo.get(), QPoint(12, 10));
     QTRY_VERIFY(QToolTip::isVisible());
     QTEST(QToolTip::text(), "tip");
+}
+
+void TestElidingComboBox::needsNoMoreRoomThanItWants()
+{
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    combo->setTexts({QStringLiteral("Per Unit")}, 0);
+    const auto needed = [this](int points) {
+        QFont font = combo->font();
+        font.setPointSize(points);
+        combo->setFont(font);
+        return combo->minimumSizeHint();
+    };
+    const QSize large = needed(20);
+    QCOMPARE(large, combo->sizeHint());
+    const QSize small = needed(9);
+    QCOMPARE(small, combo->sizeHint());
+    QVERIFY(small.width() < large.width());
 }
 
 void TestElidingComboBox::widensItsListWithinTheScreen_data()
