@@ -4,8 +4,8 @@
 #include "plotline.h"
 
 #include "plotgeometry.h"
+#include "screenshot.h"
 
-#include <QBackingStore>
 #include <QtTest>
 
 #include <cmath>
@@ -16,16 +16,6 @@ namespace {
 
 const QRgb white = qRgb(255, 255, 255);
 const QRgb black = qRgb(0, 0, 0);
-
-// What the window has put on the screen, in device pixels, after all that is to be repainted.
-QImage screenshot(QWidget &window)
-{
-    QCoreApplication::processEvents();
-    QEvent update(QEvent::UpdateRequest);
-    QCoreApplication::sendEvent(&window, &update);
-    const auto *image = dynamic_cast<const QImage *>(window.backingStore()->paintDevice());
-    return image ? image->convertToFormat(QImage::Format_RGB32) : QImage();
-}
 
 QImage picture(QWidget &window)
 {
