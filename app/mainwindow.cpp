@@ -78,6 +78,9 @@ MainWindow::MainWindow(QWidget *parent)
     m_loadingProgress = new LoadingProgress(statusBar());
     statusBar()->addPermanentWidget(m_loadingProgress);
     statusBar()->addPermanentWidget(m_sideWindows->noteSign());
+    // Between whole pixels the bar forgets the column in which a message begins.
+    connect(statusBar(), &QStatusBar::messageChanged, statusBar(),
+        [bar = statusBar()] { bar->update(); });
     readSettings();
     setCurrentFile(QString());
     setUnifiedTitleAndToolBarOnMac(true);

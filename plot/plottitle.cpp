@@ -23,6 +23,7 @@ PlotTitle::PlotTitle(QWidget *plot) : QLabel(plot), m_editor(new QLineEdit(plot)
     setObjectName(QStringLiteral("Plotter Label"));
     setStyleSheet(QStringLiteral("QLabel{border: 1px solid #00b9f2; color:white;}"));
     setTextFormat(Qt::PlainText);
+    setMouseTracking(true); // for the plot, which gets the moves that nothing here takes
 
     m_editor->setWindowFlags(m_editor->windowFlags() | Qt::FramelessWindowHint);
     m_editor->setStyleSheet(QStringLiteral("QLineEdit{background-color: black; color: white;}"));

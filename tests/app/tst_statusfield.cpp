@@ -4,12 +4,20 @@
 #include "drops.h"
 #include "plotmenus.h"
 #include "plotswindow.h"
+#include "screenshot.h"
 #include "startup.h"
 
 #include <QFileDialog>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStatusBar>
+
+#include <functional>
+
+using Change = std::function<void()>;
+Q_DECLARE_METATYPE(Change)
 
 // The recording lasts from 0 to 99 ms, its whole view to 100; it starts at 10 o'clock and its
 // trigger lies at 50 ms. "Trip" is 1 from there on.
@@ -30,6 +38,7 @@ private slots:
     void aSingleFileBesideARecording();
     void theTipTellsTheWholePath();
     void thePointerInAnAnalogPlot();
+    void thePointerOverTheTitle();
     void thePointerLeavesUnderAMenu();
     void thePointerOverARow_data();
     void thePointerOverARow();
@@ -42,7 +51,12 @@ private slots:
     void aLongRowKeepsItsState();
     void aResizeUnderThePointer_data();
     void aResizeUnderThePointer();
+    void plotsThatMoveUnderThePointer_data();
+    void plotsThatMoveUnderThePointer();
+    void theKeyboardFollowsThePlotUnderThePointer();
+    void aButtonThatIsHeldKeepsItsPlot();
     void messagesHaveTheRoomThatThePointerLeft();
+    void messagesLeaveNothingBehind();
     void marksInTheOtherPlots();
     void noMarkOutOfView();
 
@@ -59,6 +73,17 @@ private:
         QEvent event(QEvent::Leave);
         QApplication::sendEvent(plot, &event);
     }
+    // Higher than the window.
+    void openManyRows()
+    {
+        QStringList rows;
+        for (int i = 1; i <= 60; ++i)
+            rows.append(QStringLiteral("Row%1").arg(i));
+        open({QStringLiteral("Ia")}, rows);
+        window->move(0, 0); // the screen of the tests has 800 x 600
+        QCoreApplication::processEvents();
+    }
+    QScrollBar *column() const { return child<QScrollArea>("scrollArea")->verticalScrollBar(); }
     // Where the time of the line is the last one of the view.
     static QPoint rightEdge(const Plotter *plot)
     {
@@ -259,6 +284,22 @@ void TestStatusField::thePointerInAnAnalogPlot()
     QCOMPARE(field()->text(), QStringLiteral("recording.cfg  |  Primary"));
 }
 
+// A line at x = 400 that came over the title stood there still.
+void TestStatusField::thePointerOverTheTitle()
+{
+    openManyRows();
+    QTest::mouseMove(analog(), {400, 150});
+    const QRect title = child<QLabel>("Plotter Label")->geometry();
+    for (const QPoint &place : {title.center(), QPoint(400, 150), title.topLeft()}) {
+        QTest::mouseMove(analog(), place);
+        QCOMPARE(analog()->findChild<QWidget *>(QStringLiteral("timeline"))->x(), place.x());
+        QVERIFY(field()->text().contains(
+            QStringLiteral("Analog: %1 ms")
+                .arg(analog()->geometryOfView().lineTime(place.x()), 0, 'f', 3)));
+    }
+    QTest::mouseMove(window.get(), QPoint(1, 1));
+}
+
 // A plot is not told that the pointer leaves it while its menu is open.
 void TestStatusField::thePointerLeavesUnderAMenu()
 {
@@ -446,6 +487,81 @@ void TestStatusField::aResizeUnderThePointer()
     QCOMPARE(said.at(3), said.at(1));
 }
 
+void TestStatusField::plotsThatMoveUnderThePointer_data()
+{
+    QTest::addColumn<bool>("isAnalog"); // the plot first pointed at
+    QTest::addColumn<Change>("there");
+    QTest::addColumn<Change>("back");
+    const auto scrollTo = [this](int place) { return Change([=] { column()->setValue(place); }); };
+    QTest::newRow("scrolled by rows") << false << scrollTo(60) << scrollTo(0);
+    QTest::newRow("scrolled by plots") << true << scrollTo(QWIDGETSIZE_MAX) << scrollTo(0);
+    QTest::newRow("the plot hides")
+        << false << Change([this] { list("listWidget2")->clearSelection(); })
+        << Change([this] { list("listWidget2")->selectAll(); });
+    QTest::newRow("a plot comes and goes") << false << Change([this] {
+        compose({QStringLiteral("Ia")});
+        column()->setValue(0);
+    }) << Change([this] { window->removePlotter(); });
+}
+
+// What is said is what the next move by nothing would say.
+void TestStatusField::plotsThatMoveUnderThePointer()
+{
+    QFETCH(bool, isAnalog);
+    QFETCH(Change, there);
+    QFETCH(Change, back);
+    openManyRows();
+    QTest::mouseMove(window.get(), QPoint(1, 1));
+    Plotter *first = isAnalog ? analog() : digital();
+    const QPoint place = first->mapTo(window.get(), {400, 80});
+    QTest::mouseMove(window.get(), place);
+    QVERIFY(field()->text().contains(first->name() + QLatin1Char(':')));
+    QStringList said{field()->text()};
+    for (const Change &change : {there, back, there, back}) {
+        change();
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+        const QString text = field()->text();
+        QTest::mouseMove(window.get(), place + QPoint(1, 0));
+        QTest::mouseMove(window.get(), place);
+        QCOMPARE(text, field()->text());
+        QVERIFY(text != said.constLast());
+        said.append(text);
+    }
+    QCOMPARE(said.at(2), said.at(0));
+}
+
+// Only where it was with the plot that the pointer was over.
+void TestStatusField::theKeyboardFollowsThePlotUnderThePointer()
+{
+    openManyRows();
+    const QPoint place = analog()->mapTo(window.get(), {400, 150});
+    QTest::mouseMove(window.get(), place);
+    QCOMPARE(QWidget::keyboardGrabber(), analog());
+    column()->setValue(column()->maximum());
+    QCoreApplication::processEvents();
+    QCOMPARE(QWidget::keyboardGrabber(), digital());
+    digital()->releaseKeyboard();
+    column()->setValue(0);
+    QCoreApplication::processEvents();
+    QVERIFY(field()->text().contains(QStringLiteral("Analog:")));
+    QVERIFY(!QWidget::keyboardGrabber());
+    QTest::mouseMove(window.get(), QPoint(1, 1));
+}
+
+void TestStatusField::aButtonThatIsHeldKeepsItsPlot()
+{
+    openManyRows();
+    QTest::mouseMove(analog(), {400, 150});
+    const QString said = field()->text();
+    QTest::mousePress(analog(), Qt::LeftButton, {}, {400, 150});
+    column()->setValue(column()->maximum());
+    QCoreApplication::processEvents();
+    QCOMPARE(field()->text(), said);
+    QTest::mouseRelease(analog(), Qt::LeftButton, {}, {400, 150});
+    QTest::mouseMove(window.get(), QPoint(1, 1));
+}
+
 // Such as the status tip of a button: the field was wider while it had more to say.
 void TestStatusField::messagesHaveTheRoomThatThePointerLeft()
 {
@@ -469,6 +585,22 @@ void TestStatusField::messagesHaveTheRoomThatThePointerLeft()
         QCoreApplication::processEvents();
         QVERIFY(field()->width() > narrow); // the pointer still has something to say
         leave(analog());
+    }
+}
+
+// At a factor between whole numbers, a letter lights pixels left of where its message begins.
+void TestStatusField::messagesLeaveNothingBehind()
+{
+    openUsual();
+    window->statusBar()->clearMessage();
+    const QImage before = screenshot(*window);
+    QVERIFY(!before.isNull());
+    for (char letter = '0'; letter <= 'z'; ++letter) {
+        const QString message(3, QLatin1Char(letter));
+        window->statusBar()->showMessage(message);
+        QVERIFY(screenshot(*window) != before);
+        window->statusBar()->clearMessage();
+        QVERIFY2(screenshot(*window) == before, qPrintable(message));
     }
 }
 
