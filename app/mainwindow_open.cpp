@@ -10,6 +10,7 @@
 #include "cfgproperties.h"
 #include "filekind.h"
 #include "filewarning.h"
+#include "labeltext.h"
 #include "loadinganimation.h"
 #include "loadingprogress.h"
 #include "otherrecordings.h"
@@ -113,7 +114,7 @@ QString failureText(const QString &asked, const QString &path, const CFGProperti
 // Below the text of a message; names of files may look like rich text.
 void setDetails(QMessageBox &box, const QString &details)
 {
-    box.setInformativeText(details);
+    box.setInformativeText(breakableText(details));
     for (QLabel *label : box.findChildren<QLabel *>())
         label->setTextFormat(Qt::PlainText);
 }
@@ -264,8 +265,8 @@ void MainWindow::showInvalidPackage(const QString &package)
 
 void MainWindow::showWarning(const QString &text, const QString &details)
 {
-    const QPointer<QMessageBox> box
-        = new QMessageBox(QMessageBox::Warning, tr("Application"), text, QMessageBox::Ok, this);
+    const QPointer<QMessageBox> box = new QMessageBox(
+        QMessageBox::Warning, tr("Application"), breakableText(text), QMessageBox::Ok, this);
     box->setTextFormat(Qt::PlainText);
     if (!details.isEmpty())
         setDetails(*box, details);

@@ -3,6 +3,7 @@
 
 #include "overwritequestion.h"
 
+#include "labeltext.h"
 #include "savedialog.h"
 
 #include <QMessageBox>
@@ -16,7 +17,7 @@ bool mayOverwrite(QWidget *parent, const QString &styleSheet, const QStringList 
     box.setStyleSheet(styleSheet);
     box.setWindowTitle(SaveDialog::tr("Save file"));
     box.setTextFormat(Qt::PlainText);
-    box.setText((QStringList(question) + files).join(QLatin1Char('\n')));
+    box.setText(breakableText((QStringList(question) + files).join(QLatin1Char('\n'))));
     const QAbstractButton *proceed
         = box.addButton(SaveDialog::tr("Continue"), QMessageBox::AcceptRole);
     box.setDefaultButton(box.addButton(SaveDialog::tr("Cancel"), QMessageBox::RejectRole));

@@ -8,11 +8,18 @@
 #include <QFont>
 #include <QFontInfo>
 #include <QFontMetrics>
+#include <QRegularExpression>
 #include <QTextDocument>
 
 QString plainToolTip(const QString &text)
 {
     return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
+}
+
+QString breakableText(QString text)
+{
+    static const QRegularExpression unbroken(QStringLiteral("([^\\s/-]{64})"));
+    return text.replace(unbroken, QStringLiteral("\\1\u200B")); // zero width space
 }
 
 QFont fittingFont(QFont font, const QString &text, int width, int smallest)

@@ -4,6 +4,7 @@
 #include "openingfixture.h"
 
 #include <QDir>
+#include <QRegularExpression>
 #include <QtTest>
 
 #include <functional>
@@ -150,6 +151,21 @@ private slots:
         QCOMPARE(listed("listWidget").size(), 2);
         QVERIFY(recordingActionsEnabled());
         QCOMPARE(window->windowTitle(), QStringLiteral("Wavorin - after.cfg"));
+    }
+
+    // No line of a message is longer than its box.
+    void longNameInAMessage()
+    {
+        const QRegularExpression tooLong(QStringLiteral("[^\\s/\u200B-]{65}"));
+        const QString name(200, QLatin1Char('n'));
+        QVERIFY(writeTextFile(folder->filePath(name + QLatin1String(".cfg")), ""));
+        for (const char *ending : {".cfg", "none.cfg"}) {
+            window->open(folder->filePath(name + QLatin1String(ending)));
+            const BoxReader::Box seen = boxes->take().value(0);
+            QVERIFY((seen.text + seen.details).contains(QString(64, QLatin1Char('n'))));
+            QVERIFY(!tooLong.match(seen.text).hasMatch());
+            QVERIFY(!tooLong.match(seen.details).hasMatch());
+        }
     }
 
     // What holds all in one has no data file beside it.

@@ -228,6 +228,18 @@ private slots:
         QCOMPARE(QDir(folder->path()).entryList(QDir::Files).size(), 2);
     }
 
+    void aLongNameBreaksInTheQuestion()
+    {
+        const QString name(64, QLatin1Char('n'));
+        QVERIFY(writeTextFile(folder->filePath(name + name + QLatin1String(".cfg")), "before"));
+        BoxReader boxes;
+        answerFileDialog(folder->filePath(name + name));
+        trigger("Save As &Primary");
+        const QChar mayBreak(0x200B);
+        QVERIFY(boxes.take().value(0).text.endsWith(
+            QLatin1Char('/') + name + mayBreak + name + mayBreak + QLatin1String(".cfg")));
+    }
+
     void saveAsPrimaryAsksBeforeItReplaces_data()
     {
         QTest::addColumn<QString>("typed");

@@ -14,6 +14,8 @@ private slots:
     void valueAxisText_data();
     void valueAxisText();
     void valuesThatDoNotFitAreWrittenShort();
+    void longNamesBreak_data();
+    void longNamesBreak();
 };
 
 void TestLabelText::valueAxisText_data()
@@ -44,6 +46,34 @@ void TestLabelText::valuesThatDoNotFitAreWrittenShort()
     const QFontMetrics metrics{QFont()};
     QCOMPARE(fittingValueText(1e15, metrics, 10000), QStringLiteral("1000000000000000"));
     QCOMPARE(fittingValueText(1e15, metrics, 60), QStringLiteral("1e+15"));
+}
+
+// A star stands for 63 letters, "|" for the sign that breaks.
+void TestLabelText::longNamesBreak_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("broken");
+    const auto row = [](const char *name, const QString &text, const QString &broken) {
+        const auto whole = [](QString shortened) {
+            return shortened.replace(QLatin1Char('*'), QString(63, QLatin1Char('n')));
+        };
+        QTest::newRow(name) << whole(text) << whole(broken);
+    };
+    const auto latin = [](const char *text) { return QString::fromLatin1(text); };
+    row("short", latin("a/b.cfg:\nno."), latin("a/b.cfg:\nno."));
+    row("just short", latin("*/*"), latin("*/*"));
+    row("long", latin("/*n*n.cfg"), latin("/*n|*n|.cfg"));
+    row("two lines", latin("*n\n*n"), latin("*n|\n*n|"));
+    row("blanks and hyphens", latin("* *-*"), latin("* *-*"));
+    row("a letter of two units stays whole", QStringLiteral("*\U0001F5F2n"),
+        QStringLiteral("*\U0001F5F2|n"));
+    row("what looks like a place in the pattern", latin("\\0\\1"), latin("\\0\\1"));
+}
+
+void TestLabelText::longNamesBreak()
+{
+    QFETCH(QString, text);
+    QTEST(breakableText(text).replace(QChar(0x200B), QLatin1Char('|')), "broken");
 }
 
 QTEST_MAIN(TestLabelText)
