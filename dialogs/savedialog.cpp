@@ -177,9 +177,10 @@ void SaveDialog::reset()
     }
 }
 
+// A slider that is held while the dialog closes goes on: what it says is no longer wanted.
 void SaveDialog::chooseStart(int sample)
 {
-    if (sample >= sampleTimes.size())
+    if (!isVisible() || sample >= sampleTimes.size())
         return;
     ui->lineEdit_Start->setText(wholeMilliseconds(*sampleTimes.at(sample)));
     emit setStartPoint(*sampleTimes.at(sample));
@@ -187,7 +188,7 @@ void SaveDialog::chooseStart(int sample)
 
 void SaveDialog::chooseEnd(int sample)
 {
-    if (sample >= sampleTimes.size())
+    if (!isVisible() || sample >= sampleTimes.size())
         return;
     ui->lineEdit_End->setText(wholeMilliseconds(*sampleTimes.at(sample)));
     emit setEndPoint(*sampleTimes.at(sample));

@@ -42,6 +42,8 @@ private slots:
     void escapeIsCancel_data();
     void escapeIsCancel();
     void resetsAtEachShowing();
+    void aSliderHeldWhileItClosesSetsNoMarker_data();
+    void aSliderHeldWhileItClosesSetsNoMarker();
     void keepsWhatWasChosenWhenItIsRestored();
     void survivesAStrangerAsParent();
     void retranslatesOnALanguageChange();
@@ -433,6 +435,41 @@ void TestSaveDialog::escapeIsCancel()
     QVERIFY(!dialog->isVisible());
     QCOMPARE(cleared.count(), 2);
     QVERIFY(host->savings.isEmpty());
+}
+
+void TestSaveDialog::aSliderHeldWhileItClosesSetsNoMarker_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("start") << "horizontalSlider_StartPoint";
+    QTest::newRow("end") << "horizontalSlider_EndPoint";
+}
+
+// The handle follows the mouse, and a press beside it is repeated, until the button is let go.
+void TestSaveDialog::aSliderHeldWhileItClosesSetsNoMarker()
+{
+    QFETCH(QString, name);
+    auto *slider = dialog->findChild<QSlider *>(name);
+    for (int i = 0; i < 2; ++i) {
+        open(threeTimes);
+        QSignalSpy start(dialog, &SaveDialog::setStartPoint);
+        QSignalSpy end(dialog, &SaveDialog::setEndPoint);
+        const auto hold = [&] {
+            slider->setSliderDown(true);
+            slider->setSliderPosition(0);
+            slider->setSliderPosition(1);
+            slider->setSliderDown(false);
+            slider->triggerAction(QSlider::SliderPageStepSub);
+            slider->triggerAction(QSlider::SliderPageStepAdd);
+        };
+        hold();
+        QVERIFY(start.count() + end.count() >= 3);
+        QTest::keyClick(slider, Qt::Key_Escape);
+        QVERIFY(!dialog->isVisible());
+        start.clear();
+        end.clear();
+        hold();
+        QCOMPARE(start.count() + end.count(), 0);
+    }
 }
 
 void TestSaveDialog::keepsWhatWasChosenWhenItIsRestored()
