@@ -230,7 +230,7 @@ private slots:
 
     void aLongNameBreaksInTheQuestion()
     {
-        const QString name(64, QLatin1Char('n'));
+        const QString name(40, QLatin1Char('n'));
         QVERIFY(writeTextFile(folder->filePath(name + name + QLatin1String(".cfg")), "before"));
         BoxReader boxes;
         answerFileDialog(folder->filePath(name + name));

@@ -48,14 +48,14 @@ void TestLabelText::valuesThatDoNotFitAreWrittenShort()
     QCOMPARE(fittingValueText(1e15, metrics, 60), QStringLiteral("1e+15"));
 }
 
-// A star stands for 63 letters, "|" for the sign that breaks.
+// A star stands for 39 letters, "|" for the sign that breaks.
 void TestLabelText::longNamesBreak_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("broken");
     const auto row = [](const char *name, const QString &text, const QString &broken) {
         const auto whole = [](QString shortened) {
-            return shortened.replace(QLatin1Char('*'), QString(63, QLatin1Char('n')));
+            return shortened.replace(QLatin1Char('*'), QString(39, QLatin1Char('n')));
         };
         QTest::newRow(name) << whole(text) << whole(broken);
     };
