@@ -125,6 +125,7 @@ void MainWindow::refreshVectors()
     m_vectorDialog->refresh();
     m_sideWindows->refresh();
     m_statusField->refresh();
+    ui->scrollArea->pointAgain();
 }
 
 void MainWindow::pointAt(const Plotter *plot, const QPoint &point)

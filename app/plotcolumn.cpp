@@ -6,11 +6,14 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QWindow>
+
+#include <algorithm>
 
 PlotColumn::PlotColumn(QWidget *parent) : QScrollArea(parent)
 {
-    m_moved.setSingleShot(true);
-    connect(&m_moved, &QTimer::timeout, this, &PlotColumn::tellOfPointer);
+    m_again.setSingleShot(true);
+    connect(&m_again, &QTimer::timeout, this, &PlotColumn::repeatMove);
 }
 
 bool PlotColumn::focusNextPrevChild(bool next)
@@ -23,44 +26,82 @@ bool PlotColumn::focusNextPrevChild(bool next)
     return isDone;
 }
 
-// Of what is scrolled, which hears of every change of its layout.
+// Of the window's handle, which gets every event of the mouse before any widget, and of what is
+// scrolled, which hears of every change of its layout.
 bool PlotColumn::eventFilter(QObject *watched, QEvent *event)
 {
-    switch (event->type()) {
-    case QEvent::Move:
-    case QEvent::Resize:
-    case QEvent::LayoutRequest:
-        m_moved.start();
+    const QEvent::Type type = event->type();
+    if (watched->isWindowType())
+        followPointer(*event);
+    else if (type == QEvent::Move || type == QEvent::Resize || type == QEvent::LayoutRequest)
+        pointAgain();
+    return QScrollArea::eventFilter(watched, event);
+}
+
+void PlotColumn::showEvent(QShowEvent *event)
+{
+    window()->windowHandle()->installEventFilter(this);
+    QScrollArea::showEvent(event);
+}
+
+void PlotColumn::followPointer(const QEvent &event)
+{
+    switch (event.type()) {
+    case QEvent::Enter:
+        m_pointer = static_cast<const QEnterEvent &>(event).windowPos();
+        break;
+    case QEvent::MouseButtonRelease:
+        pointAgain(); // plots that moved before had to wait for it
+        [[fallthrough]];
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseMove:
+        m_pointer = static_cast<const QMouseEvent &>(event).windowPos();
         break;
     default:
         break;
     }
-    return QScrollArea::eventFilter(watched, event);
 }
 
-// The toolkit tells of a pointer when it moves, not when something moves under it.
-void PlotColumn::tellOfPointer()
+// In the window, as exactly as that has heard of it: the cursor stands at whole pixels. But the
+// window hears of nothing while a dialog is open, or when it is moved itself.
+QPointF PlotColumn::pointer() const
 {
-    if (QApplication::mouseButtons() != Qt::NoButton || QApplication::activePopupWidget())
+    constexpr int rounding = 4; // pixels, of both ways together
+    const QPoint cursor = QCursor::pos();
+    const QPoint way = cursor - window()->mapToGlobal(m_pointer.toPoint());
+    return way.manhattanLength() <= rounding ? m_pointer : window()->mapFromGlobal(cursor);
+}
+
+// The toolkit tells of a pointer when it moves, not when something moves under it. The keyboard
+// goes along with it from plot to plot, but no plot takes it from elsewhere.
+void PlotColumn::repeatMove()
+{
+    if (QApplication::mouseButtons() != Qt::NoButton || QApplication::activePopupWidget()
+        || QApplication::activeModalWidget())
         return;
-    const QPoint pointer = QCursor::pos();
-    QWidget *plot = QApplication::widgetAt(pointer);
-    while (plot && plot->parentWidget() != widget())
-        plot = plot->parentWidget();
-    const QWidget *listener = QWidget::keyboardGrabber(); // where the pointer was
-    const bool isListening = listener && listener->parentWidget() == widget();
+    const QWidget *under = QApplication::widgetAt(QCursor::pos());
+    const QPointF there = pointer();
+    if (!under || under->window() != window() || !concernsPlots(there))
+        return;
+    const bool isListening = isPlot(QWidget::keyboardGrabber());
+    QMouseEvent move(QEvent::MouseMove, there, there, QCursor::pos(), Qt::NoButton, Qt::NoButton,
+        QApplication::keyboardModifiers());
+    QCoreApplication::sendEvent(window()->windowHandle(), &move);
+    QWidget *listener = QWidget::keyboardGrabber();
+    if (!isListening && isPlot(listener))
+        listener->releaseKeyboard();
+}
+
+bool PlotColumn::isPlot(const QWidget *widget) const
+{
+    return widget && widget->parentWidget() == this->widget();
+}
+
+// Also where a plot has not been told that the pointer has left it.
+bool PlotColumn::concernsPlots(const QPointF &inWindow) const
+{
     const auto plots = widget()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    for (QWidget *left : plots) {
-        QEvent leave(QEvent::Leave);
-        if (left != plot && left->underMouse())
-            QApplication::sendEvent(left, &leave);
-    }
-    if (!plot)
-        return;
-    const QPointF point = plot->mapFromGlobal(pointer);
-    QEnterEvent enter(point, plot->window()->mapFromGlobal(pointer), pointer);
-    QApplication::sendEvent(plot, &enter);
-    QMouseEvent move(QEvent::MouseMove, point, pointer, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-    if (isListening)
-        QApplication::sendEvent(plot, &move);
+    return viewport()->rect().contains(viewport()->mapFrom(window(), inWindow.toPoint()))
+        || std::any_of(
+            plots.cbegin(), plots.cend(), [](const QWidget *plot) { return plot->underMouse(); });
 }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QPointF>
 #include <QScrollArea>
 #include <QTimer>
 
@@ -15,12 +16,21 @@ class PlotColumn : public QScrollArea {
 public:
     explicit PlotColumn(QWidget *parent);
 
+    // Tells the plot under the pointer of it again, soon, as what is seen there has changed.
+    void pointAgain() { m_again.start(); }
+
 protected:
     bool focusNextPrevChild(bool next) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
-    void tellOfPointer();
+    void followPointer(const QEvent &event);
+    QPointF pointer() const;
+    void repeatMove();
+    bool isPlot(const QWidget *widget) const;
+    bool concernsPlots(const QPointF &inWindow) const;
 
-    QTimer m_moved; // runs once the plots have their new places
+    QPointF m_pointer; // in the window, when that heard of it last
+    QTimer m_again; // runs once the plots have their new places
 };

@@ -23,7 +23,8 @@ struct PlotMarks {
     SaveMarker endMarker;
     CursorMarks cursors;
 
-    // Sets all of them to their places in a view; but the mark goes till the pointer moves again.
+    // Sets all of them to their places in a view; but the mark goes till the plot is told of the
+    // pointer again.
     void place(const PlotGeometry &geometry);
     // Takes over the cursors and the range to be saved of another plot.
     void copy(const PlotMarks &other);

@@ -13,6 +13,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStatusBar>
+#include <QWindow>
 
 #include <functional>
 
@@ -54,10 +55,12 @@ private slots:
     void plotsThatMoveUnderThePointer_data();
     void plotsThatMoveUnderThePointer();
     void theKeyboardFollowsThePlotUnderThePointer();
+    void thePointerLeavesAPlotThatCameUnderIt();
     void aButtonThatIsHeldKeepsItsPlot();
     void messagesHaveTheRoomThatThePointerLeft();
     void messagesLeaveNothingBehind();
     void marksInTheOtherPlots();
+    void marksFollowTheView();
     void noMarkOutOfView();
 
 private:
@@ -549,16 +552,50 @@ void TestStatusField::theKeyboardFollowsThePlotUnderThePointer()
     QTest::mouseMove(window.get(), QPoint(1, 1));
 }
 
+// The toolkit tells the plot that it takes for the last one under the pointer.
+void TestStatusField::thePointerLeavesAPlotThatCameUnderIt()
+{
+    openManyRows();
+    for (int i = 0; i < 2; ++i) {
+        QTest::mouseMove(window.get(), analog()->mapTo(window.get(), {400, 150}));
+        column()->setValue(column()->maximum());
+        QCoreApplication::processEvents();
+        QVERIFY(field()->text().contains(QStringLiteral("Digital:")));
+        QVERIFY(mark(analog())->isVisible());
+        QTest::mouseMove(window.get(), list("listWidget")->mapTo(window.get(), {20, 20}));
+        QCoreApplication::processEvents();
+        QVERIFY(!QWidget::keyboardGrabber());
+        QVERIFY(mark(analog())->isHidden());
+        QCOMPARE(field()->text(), QStringLiteral("recording.cfg  |  Primary"));
+        column()->setValue(0);
+        QCoreApplication::processEvents();
+        QVERIFY(!QWidget::keyboardGrabber());
+        QCOMPARE(field()->text(), QStringLiteral("recording.cfg  |  Primary"));
+    }
+}
+
+// What has come under the pointer is said when the button is let go.
 void TestStatusField::aButtonThatIsHeldKeepsItsPlot()
 {
     openManyRows();
-    QTest::mouseMove(analog(), {400, 150});
-    const QString said = field()->text();
-    QTest::mousePress(analog(), Qt::LeftButton, {}, {400, 150});
-    column()->setValue(column()->maximum());
-    QCoreApplication::processEvents();
-    QCOMPARE(field()->text(), said);
-    QTest::mouseRelease(analog(), Qt::LeftButton, {}, {400, 150});
+    QWindow *handle = window->windowHandle();
+    const QPoint place = digital()->mapTo(window.get(), {400, 80});
+    QTest::mouseMove(window.get(), place);
+    for (const int scrolled : {60, 0}) {
+        const QString said = field()->text();
+        QTest::mousePress(handle, Qt::LeftButton, {}, place);
+        column()->setValue(scrolled);
+        QCoreApplication::processEvents();
+        QCOMPARE(field()->text(), said);
+        QTest::mouseRelease(handle, Qt::LeftButton, {}, place);
+        QCoreApplication::processEvents();
+        const QString text = field()->text();
+        QVERIFY(text.contains(QStringLiteral("Digital:")));
+        QVERIFY(text != said);
+        QTest::mouseMove(window.get(), place + QPoint(1, 0));
+        QTest::mouseMove(window.get(), place);
+        QCOMPARE(field()->text(), text);
+    }
     QTest::mouseMove(window.get(), QPoint(1, 1));
 }
 
@@ -630,6 +667,29 @@ void TestStatusField::marksInTheOtherPlots()
     leave(digital());
     for (const Plotter *each : plots())
         QVERIFY(mark(each)->isHidden());
+}
+
+// Each stands where the next move by nothing would set it.
+void TestStatusField::marksFollowTheView()
+{
+    openManyRows();
+    const QPoint place = analog()->mapTo(window.get(), {400, 150});
+    QTest::mouseMove(window.get(), place);
+    for (const char *change : {"Zoom In", "cursor", "Zoom In", "Zoom Reset", "Zoom In"}) {
+        if (change == QByteArray("cursor"))
+            analog()->addCursorAt(50);
+        else
+            trigger(change);
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+        QVERIFY(mark(analog())->isHidden());
+        QVERIFY(mark(digital())->isVisible());
+        const QRect shown = mark(digital())->geometry();
+        QTest::mouseMove(window.get(), place + QPoint(1, 0));
+        QTest::mouseMove(window.get(), place);
+        QCOMPARE(mark(digital())->geometry(), shown);
+    }
+    QTest::mouseMove(window.get(), QPoint(1, 1));
 }
 
 void TestStatusField::noMarkOutOfView()
