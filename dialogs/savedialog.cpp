@@ -157,6 +157,18 @@ void SaveDialog::showEvent(QShowEvent *event)
     QDialog::showEvent(event);
 }
 
+// The release of the button never reaches a slider that is hidden: what is held would go on, with
+// the mouse or by its own repetition, also when it is shown again.
+void SaveDialog::hideEvent(QHideEvent *event)
+{
+    for (QSlider *slider : {ui->horizontalSlider_StartPoint, ui->horizontalSlider_EndPoint}) {
+        QMouseEvent release(QEvent::MouseButtonRelease, slider->rect().center(), Qt::LeftButton,
+            Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(slider, &release);
+    }
+    QDialog::hideEvent(event);
+}
+
 void SaveDialog::reset()
 {
     const int last = sampleTimes.size() - 1;
@@ -177,10 +189,9 @@ void SaveDialog::reset()
     }
 }
 
-// A slider that is held while the dialog closes goes on: what it says is no longer wanted.
 void SaveDialog::chooseStart(int sample)
 {
-    if (!isVisible() || sample >= sampleTimes.size())
+    if (sample >= sampleTimes.size())
         return;
     ui->lineEdit_Start->setText(wholeMilliseconds(*sampleTimes.at(sample)));
     emit setStartPoint(*sampleTimes.at(sample));
@@ -188,7 +199,7 @@ void SaveDialog::chooseStart(int sample)
 
 void SaveDialog::chooseEnd(int sample)
 {
-    if (!isVisible() || sample >= sampleTimes.size())
+    if (sample >= sampleTimes.size())
         return;
     ui->lineEdit_End->setText(wholeMilliseconds(*sampleTimes.at(sample)));
     emit setEndPoint(*sampleTimes.at(sample));

@@ -47,6 +47,7 @@ protected:
     void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
     void followKeyboardAndWheel(QSlider *slider, void (SaveDialog::*choose)(int));
