@@ -18,7 +18,7 @@ QString plainToolTip(const QString &text)
 
 QString breakableText(QString text)
 {
-    static const QRegularExpression unbroken(QStringLiteral("([^\\s/-]{40})"));
+    static const QRegularExpression unbroken(QStringLiteral("((?:[^\\s/-]|[/-](?=\\d)){40})"));
     return text.replace(unbroken, QStringLiteral("\\1\u200B")); // zero width space
 }
 

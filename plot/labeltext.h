@@ -11,8 +11,8 @@ class QFontMetrics;
 // A text of a file as tool tip, shown as it stands whatever it looks like.
 QString plainToolTip(const QString &text);
 
-// A text with paths for a message, whose lines end at blanks, slashes and hyphens alone: where none
-// of these stands for long, an invisible sign lets them end, too.
+// A text with paths for a message, whose lines end at blanks alone, and at slashes and hyphens but
+// before a digit: where none of these stands for long, an invisible sign lets them end, too.
 QString breakableText(QString text);
 
 // A font, made smaller, down to a pixel size, until a text fits a width.

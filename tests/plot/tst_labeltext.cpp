@@ -65,6 +65,7 @@ void TestLabelText::longNamesBreak_data()
     row("long", latin("/*n*n.cfg"), latin("/*n|*n|.cfg"));
     row("two lines", latin("*n\n*n"), latin("*n|\n*n|"));
     row("blanks and hyphens", latin("* *-*"), latin("* *-*"));
+    row("hyphens and slashes before digits", latin("*-1*/2n/*"), latin("*-|1*|/2n/*"));
     row("a letter of two units stays whole", QStringLiteral("*\U0001F5F2n"),
         QStringLiteral("*\U0001F5F2|n"));
     row("what looks like a place in the pattern", latin("\\0\\1"), latin("\\0\\1"));
