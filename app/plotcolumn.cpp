@@ -13,7 +13,7 @@
 PlotColumn::PlotColumn(QWidget *parent) : QScrollArea(parent)
 {
     m_again.setSingleShot(true);
-    connect(&m_again, &QTimer::timeout, this, &PlotColumn::repeatMove);
+    connect(&m_again, &QTimer::timeout, this, &PlotColumn::tellAgain);
 }
 
 bool PlotColumn::focusNextPrevChild(bool next)
@@ -47,19 +47,20 @@ void PlotColumn::showEvent(QShowEvent *event)
 void PlotColumn::followPointer(const QEvent &event)
 {
     switch (event.type()) {
-    case QEvent::Enter:
-        m_pointer = static_cast<const QEnterEvent &>(event).windowPos();
-        break;
-    case QEvent::MouseButtonRelease:
-        pointAgain(); // plots that moved before had to wait for it
-        [[fallthrough]];
     case QEvent::MouseButtonPress:
     case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
         m_pointer = static_cast<const QMouseEvent &>(event).windowPos();
+        if (!QApplication::activePopupWidget()) // which gets it
+            m_told = placeOf(m_pointer);
         break;
     default:
         break;
     }
+    // Plots that moved before had to wait for the release. Behind a menu or a dialog that closes,
+    // the pointer has gone on.
+    if (event.type() == QEvent::MouseButtonRelease || event.type() == QEvent::Enter)
+        pointAgain();
 }
 
 // In the window, as exactly as that has heard of it: the cursor stands at whole pixels. But the
@@ -72,20 +73,37 @@ QPointF PlotColumn::pointer() const
     return way.manhattanLength() <= rounding ? m_pointer : window()->mapFromGlobal(cursor);
 }
 
-// The toolkit tells of a pointer when it moves, not when something moves under it. The keyboard
-// goes along with it from plot to plot, but no plot takes it from elsewhere.
-void PlotColumn::repeatMove()
+PlotColumn::Place PlotColumn::placeOf(const QPointF &inWindow) const
 {
-    if (QApplication::mouseButtons() != Qt::NoButton || QApplication::activePopupWidget()
-        || QApplication::activeModalWidget())
-        return;
+    QWidget *plot = window()->childAt(inWindow.toPoint());
+    while (plot && !isPlot(plot))
+        plot = plot->parentWidget();
+    return {plot, plot ? inWindow - plot->mapTo(window(), QPoint()) : QPointF()};
+}
+
+// The toolkit tells of a pointer when it moves, not when something changes under it.
+void PlotColumn::tellAgain()
+{
     const QWidget *under = QApplication::widgetAt(QCursor::pos());
-    const QPointF there = pointer();
-    if (!under || under->window() != window() || !concernsPlots(there))
+    if (!under || under->window() != window() || QApplication::mouseButtons() != Qt::NoButton
+        || QApplication::activePopupWidget() || QApplication::activeModalWidget())
         return;
+    const QPointF inWindow = pointer();
+    const Place place = placeOf(inWindow);
+    if (place.plot != m_told.plot || place.point != m_told.point || !isUnderMouse(place.plot)) {
+        repeatMove(inWindow);
+    } else if (place.plot) { // a move would bring back a tool tip, too
+        QEnterEvent enter(place.point, inWindow, QCursor::pos());
+        QCoreApplication::sendEvent(place.plot, &enter);
+    }
+}
+
+// The keyboard goes along with the pointer from plot to plot, but no plot takes it from elsewhere.
+void PlotColumn::repeatMove(const QPointF &inWindow) const
+{
     const bool isListening = isPlot(QWidget::keyboardGrabber());
-    QMouseEvent move(QEvent::MouseMove, there, there, QCursor::pos(), Qt::NoButton, Qt::NoButton,
-        QApplication::keyboardModifiers());
+    QMouseEvent move(QEvent::MouseMove, inWindow, inWindow, QCursor::pos(), Qt::NoButton,
+        Qt::NoButton, QApplication::keyboardModifiers());
     QCoreApplication::sendEvent(window()->windowHandle(), &move);
     QWidget *listener = QWidget::keyboardGrabber();
     if (!isListening && isPlot(listener))
@@ -97,11 +115,9 @@ bool PlotColumn::isPlot(const QWidget *widget) const
     return widget && widget->parentWidget() == this->widget();
 }
 
-// Also where a plot has not been told that the pointer has left it.
-bool PlotColumn::concernsPlots(const QPointF &inWindow) const
+bool PlotColumn::isUnderMouse(const QWidget *plot) const
 {
     const auto plots = widget()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    return viewport()->rect().contains(viewport()->mapFrom(window(), inWindow.toPoint()))
-        || std::any_of(
-            plots.cbegin(), plots.cend(), [](const QWidget *plot) { return plot->underMouse(); });
+    return std::all_of(plots.cbegin(), plots.cend(),
+        [plot](const QWidget *each) { return each->underMouse() == (each == plot); });
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QPointF>
+#include <QPointer>
 #include <QScrollArea>
 #include <QTimer>
 
@@ -25,12 +26,21 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    // What stands under the pointer: a plot and a point of it, or null.
+    struct Place {
+        QPointer<QWidget> plot;
+        QPointF point;
+    };
+
     void followPointer(const QEvent &event);
     QPointF pointer() const;
-    void repeatMove();
+    Place placeOf(const QPointF &inWindow) const;
+    void tellAgain();
+    void repeatMove(const QPointF &inWindow) const;
     bool isPlot(const QWidget *widget) const;
-    bool concernsPlots(const QPointF &inWindow) const;
+    bool isUnderMouse(const QWidget *plot) const; // and no other one, as the toolkit takes it
 
     QPointF m_pointer; // in the window, when that heard of it last
+    Place m_told; // what was there then
     QTimer m_again; // runs once the plots have their new places
 };

@@ -17,6 +17,19 @@
 
 #include <functional>
 
+// How often a widget is told of the mouse.
+class MoveCounter : public QObject {
+public:
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject * /*watched*/, QEvent *event) override
+    {
+        count += event->type() == QEvent::MouseMove ? 1 : 0;
+        return false;
+    }
+};
+
 using Change = std::function<void()>;
 Q_DECLARE_METATYPE(Change)
 
@@ -57,6 +70,8 @@ private slots:
     void theKeyboardFollowsThePlotUnderThePointer();
     void thePointerLeavesAPlotThatCameUnderIt();
     void aButtonThatIsHeldKeepsItsPlot();
+    void thePointerMovesBehindAMenu();
+    void aMoveIsRepeatedOnlyWhereSomethingElseIs();
     void messagesHaveTheRoomThatThePointerLeft();
     void messagesLeaveNothingBehind();
     void marksInTheOtherPlots();
@@ -596,6 +611,49 @@ void TestStatusField::aButtonThatIsHeldKeepsItsPlot()
         QTest::mouseMove(window.get(), place);
         QCOMPARE(field()->text(), text);
     }
+    QTest::mouseMove(window.get(), QPoint(1, 1));
+}
+
+void TestStatusField::thePointerMovesBehindAMenu()
+{
+    openManyRows();
+    const auto *line = analog()->findChild<QWidget *>(QStringLiteral("timeline"));
+    QTest::mouseMove(analog(), {300, 150});
+    for (const int x : {500, 250}) {
+        QMenu *menu = contextMenuAt(analog(), {300, 150});
+        QVERIFY(menu);
+        const QPoint place(x, 150);
+        QCursor::setPos(analog()->mapToGlobal(place));
+        QCoreApplication::processEvents(); // the menu gets the move
+        menu->close();
+        const QPoint inWindow = analog()->mapTo(window.get(), place);
+        QEnterEvent enter(inWindow, inWindow, QCursor::pos());
+        QCoreApplication::sendEvent(window->windowHandle(), &enter);
+        QCoreApplication::processEvents();
+        QCOMPARE(line->x(), x);
+        const QString text = field()->text();
+        QTest::mouseMove(analog(), place + QPoint(1, 0));
+        QTest::mouseMove(analog(), place);
+        QCOMPARE(text, field()->text());
+    }
+    QTest::mouseMove(window.get(), QPoint(1, 1));
+}
+
+// Else a tool tip would come again under a pointer that rests.
+void TestStatusField::aMoveIsRepeatedOnlyWhereSomethingElseIs()
+{
+    openManyRows();
+    const QPoint place = digital()->mapTo(window.get(), {400, 80});
+    QTest::mouseMove(window.get(), place);
+    MoveCounter moves;
+    digital()->installEventFilter(&moves);
+    trigger("Zoom In");
+    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, place);
+    QCoreApplication::processEvents();
+    QCOMPARE(moves.count, 0);
+    column()->setValue(10);
+    QCoreApplication::processEvents();
+    QCOMPARE(moves.count, 1);
     QTest::mouseMove(window.get(), QPoint(1, 1));
 }
 
