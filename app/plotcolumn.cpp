@@ -51,7 +51,8 @@ void PlotColumn::followPointer(const QEvent &event)
     case QEvent::MouseMove:
     case QEvent::MouseButtonRelease:
         m_pointer = static_cast<const QMouseEvent &>(event).windowPos();
-        if (!QApplication::activePopupWidget()) // which gets it
+        // A popup gets the moves; a button tells a plot of no place.
+        if (event.type() == QEvent::MouseMove && !QApplication::activePopupWidget())
             m_told = placeOf(m_pointer);
         break;
     default:

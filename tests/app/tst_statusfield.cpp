@@ -70,6 +70,7 @@ private slots:
     void theKeyboardFollowsThePlotUnderThePointer();
     void thePointerLeavesAPlotThatCameUnderIt();
     void aButtonThatIsHeldKeepsItsPlot();
+    void thePointerMovesBehindAMenu_data();
     void thePointerMovesBehindAMenu();
     void aMoveIsRepeatedOnlyWhereSomethingElseIs();
     void messagesHaveTheRoomThatThePointerLeft();
@@ -614,8 +615,16 @@ void TestStatusField::aButtonThatIsHeldKeepsItsPlot()
     QTest::mouseMove(window.get(), QPoint(1, 1));
 }
 
+void TestStatusField::thePointerMovesBehindAMenu_data()
+{
+    QTest::addColumn<bool>("isClicked");
+    QTest::newRow("closed by a key") << false;
+    QTest::newRow("closed by a click") << true; // whose release is the plot's
+}
+
 void TestStatusField::thePointerMovesBehindAMenu()
 {
+    QFETCH(bool, isClicked);
     openManyRows();
     const auto *line = analog()->findChild<QWidget *>(QStringLiteral("timeline"));
     QTest::mouseMove(analog(), {300, 150});
@@ -629,6 +638,8 @@ void TestStatusField::thePointerMovesBehindAMenu()
         const QPoint inWindow = analog()->mapTo(window.get(), place);
         QEnterEvent enter(inWindow, inWindow, QCursor::pos());
         QCoreApplication::sendEvent(window->windowHandle(), &enter);
+        if (isClicked)
+            QTest::mouseRelease(window->windowHandle(), Qt::LeftButton, {}, inWindow);
         QCoreApplication::processEvents();
         QCOMPARE(line->x(), x);
         const QString text = field()->text();
