@@ -157,16 +157,22 @@ void SaveDialog::showEvent(QShowEvent *event)
     QDialog::showEvent(event);
 }
 
-// The release of the button never reaches a slider that is hidden: what is held would go on, with
-// the mouse or by its own repetition, also when it is shown again.
-void SaveDialog::hideEvent(QHideEvent *event)
+bool SaveDialog::event(QEvent *event)
+{
+    if (event->type() == QEvent::Hide || event->type() == QEvent::WindowBlocked)
+        letGo();
+    return QDialog::event(event);
+}
+
+// The release of the button never reaches a slider that is hidden or behind another dialog: what is
+// held would go on, with the mouse or by its own repetition, also when it can be used again.
+void SaveDialog::letGo()
 {
     for (QSlider *slider : {ui->horizontalSlider_StartPoint, ui->horizontalSlider_EndPoint}) {
         QMouseEvent release(QEvent::MouseButtonRelease, slider->rect().center(), Qt::LeftButton,
             Qt::NoButton, Qt::NoModifier);
         QCoreApplication::sendEvent(slider, &release);
     }
-    QDialog::hideEvent(event);
 }
 
 void SaveDialog::reset()

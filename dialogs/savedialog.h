@@ -47,11 +47,12 @@ protected:
     void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
+    bool event(QEvent *event) override;
 
 private:
     void followKeyboardAndWheel(QSlider *slider, void (SaveDialog::*choose)(int));
     void reset();
+    void letGo();
     void chooseStart(int sample);
     void chooseEnd(int sample);
     void updateExistenceLabel();

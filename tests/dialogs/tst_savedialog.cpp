@@ -44,6 +44,7 @@ private slots:
     void resetsAtEachShowing();
     void aSliderHeldWhileItClosesIsLetGo_data();
     void aSliderHeldWhileItClosesIsLetGo();
+    void aSliderHeldBehindAnotherDialogIsLetGo();
     void keepsWhatWasChosenWhenItIsRestored();
     void survivesAStrangerAsParent();
     void retranslatesOnALanguageChange();
@@ -476,6 +477,31 @@ void TestSaveDialog::aSliderHeldWhileItClosesIsLetGo()
         QCOMPARE(slider->value(), atFirst);
         QTest::qWait(600);
         QCOMPARE(slider->value(), atFirst);
+        QVERIFY(dialog->close());
+    }
+}
+
+void TestSaveDialog::aSliderHeldBehindAnotherDialogIsLetGo()
+{
+    QVector<double> times;
+    for (int i = 0; i < 1000; ++i)
+        times.append(i);
+    for (const char *name : {"horizontalSlider_StartPoint", "horizontalSlider_EndPoint"}) {
+        open(times);
+        auto *slider = child<QSlider>(name);
+        const int atFirst = slider->value();
+        QTest::mousePress(slider, Qt::LeftButton, {}, slider->rect().center());
+        QTRY_VERIFY(slider->value() != atFirst);
+        QDialog other;
+        other.setWindowModality(Qt::ApplicationModal);
+        other.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&other));
+        const int reached = slider->value();
+        QTest::qWait(600); // the toolkit repeats after 500
+        QCOMPARE(slider->value(), reached);
+        other.close();
+        QTest::qWait(600);
+        QCOMPARE(slider->value(), reached);
         QVERIFY(dialog->close());
     }
 }
