@@ -45,13 +45,30 @@ bool isSound(const CFGProperties &recording)
     constexpr double mostTime = 1e12; // ms
     const auto isOrdinary = [](double time) { return std::abs(time) < mostTime; };
     return recording.totalChannelCount
-        == recording.analogChannelCount + recording.digitalChannelCount
+        == qint64(recording.analogChannelCount) + recording.digitalChannelCount
         && recording.analogChannels.size() == recording.analogChannelCount
         && recording.digitalChannels.size() == recording.digitalChannelCount
         && recording.analogIndexes.size() <= recording.analogChannelCount
         && recording.digitalIndexes.size() <= recording.digitalChannelCount
         && recording.rateCount >= 0 && recording.rateCount <= mostRates
         && std::all_of(recording.sampleTimes.cbegin(), recording.sampleTimes.cend(), isOrdinary);
+}
+
+// Whether the multipliers and offsets of primary values are numbers that a copy reads as they
+// stand: the ratings may carry them beyond what a float holds with all its digits.
+bool hasOrdinaryPrimaries(const CFGProperties &recording)
+{
+    using Float = std::numeric_limits<float>;
+    const auto isOrdinary = [](double value) {
+        return value == 0 || (std::abs(value) >= Float::min() && std::abs(value) <= Float::max());
+    };
+    for (int k = 0; k < recording.analogChannels.size(); ++k) {
+        const double factor = recording.analogChannels.at(k)->toPrimary;
+        if (!isOrdinary(static_cast<double>(recording.analogA.value(k)) * factor)
+            || !isOrdinary(static_cast<double>(recording.analogB.value(k)) * factor))
+            return false;
+    }
+    return true;
 }
 
 bool isSame(float copied, float value)
@@ -96,7 +113,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *bytes, size_t size)
     if (!load(texts, recording))
         return 0;
     const QByteArrayList first = saved(recording, asPrimary);
-    if (!isSound(recording))
+    if (!isSound(recording) || (asPrimary && !hasOrdinaryPrimaries(recording)))
         return 0;
     CFGProperties copy;
     require(load(first, copy), "a copy that cannot be read");

@@ -686,6 +686,8 @@ void TestRecordingWriter::asPrimaryMultipliesByTheRatio_data()
     QTest::newRow("ratings of 0 leave the values")
         << QByteArrayList{"0,0,S"} << QByteArrayList{"0.5,-1"};
     QTest::newRow("a negative rating") << QByteArrayList{"-400,1,S"} << QByteArrayList{"-200,400"};
+    QTest::newRow("an offset that only a double holds")
+        << QByteArrayList{"1e39,1,S"} << QByteArrayList{"5e+38,-1e+39"};
     // The first channel has no factor, which gives it that of the second one.
     QTest::newRow("the factors of later channels do not change one without a side")
         << QByteArrayList{"600,5,s", "400,1,S", "20000,100,P"}
