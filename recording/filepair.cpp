@@ -30,11 +30,12 @@ struct Target {
 
 // A file that takes its place when it is committed, or, where its folder takes no new file, the
 // file itself with its contents still in it. Folders and devices are not opened, also those behind
-// a link: they would be replaced by a file.
+// a link: they would be replaced by a file. A way through a folder that is not there is none, even
+// where it turns back: the replacement would be made, but could not take its place.
 std::unique_ptr<QFileDevice> opened(const QString &path)
 {
     const QFileInfo there(path);
-    if ((there.exists() && !there.isFile())
+    if ((there.exists() && !there.isFile()) || !QFileInfo(there.path()).isDir()
         || QFile::encodeName(there.fileName()).size() > longestName)
         return nullptr;
     auto inPlace = std::make_unique<QFile>(path);

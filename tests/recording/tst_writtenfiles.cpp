@@ -182,6 +182,10 @@ void TestWrittenFiles::filesThatCannotBeOpenedAreSilent_data()
     QTest::addColumn<bool>("hasConfiguration");
     QTest::addColumn<bool>("hasData");
     QTest::newRow("a folder that is not there") << QStringLiteral("missing/out") << false << false;
+#ifdef Q_OS_UNIX
+    QTest::newRow("through a folder that is not there")
+        << QStringLiteral("missing/../out") << false << false;
+#endif
     QTest::newRow("a folder in the configuration's place")
         << QStringLiteral("cfg-taken") << false << true;
     QTest::newRow("a folder in the data's place") << QStringLiteral("dat-taken") << true << false;
