@@ -1448,6 +1448,54 @@ Korvataanko se?</translation>
         <source>Unknown error</source>
         <translation>Tuntematon virhe</translation>
     </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>Toiminto ei ole sallittu</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Luku- tai kirjoitusvirhe</translation>
+    </message>
+    <message>
+        <source>Device or resource busy</source>
+        <translation>Laite tai resurssi on varattu</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>Polun osa ei ole kansio</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>Kohde on kansio</translation>
+    </message>
+    <message>
+        <source>Text file busy</source>
+        <translation>Tiedostoa suoritetaan ohjelmana</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>Tiedosto on liian suuri</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>Tiedostojärjestelmään ei voi kirjoittaa</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>Tiedostonimi on liian pitkä</translation>
+    </message>
+    <message>
+        <source>Too many levels of symbolic links</source>
+        <translation>Liian monta peräkkäistä symbolista linkkiä</translation>
+    </message>
+    <message>
+        <source>Stale file handle</source>
+        <translation>Tiedosto ei ole enää palvelimella</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>Levykiintiö on täynnä</translation>
+    </message>
 </context>
 <context>
     <name>QLineEdit</name>

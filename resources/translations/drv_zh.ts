@@ -1448,6 +1448,54 @@ Do you want to replace it?</source>
         <source>Unknown error</source>
         <translation>未知错误</translation>
     </message>
+    <message>
+        <source>Operation not permitted</source>
+        <translation>不允许此操作</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>输入/输出错误</translation>
+    </message>
+    <message>
+        <source>Device or resource busy</source>
+        <translation>设备或资源正忙</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>路径中有一部分不是文件夹</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>目标是文件夹</translation>
+    </message>
+    <message>
+        <source>Text file busy</source>
+        <translation>文件正作为程序运行</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>文件过大</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>文件系统为只读</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>文件名过长</translation>
+    </message>
+    <message>
+        <source>Too many levels of symbolic links</source>
+        <translation>符号链接的层数过多</translation>
+    </message>
+    <message>
+        <source>Stale file handle</source>
+        <translation>文件在服务器上已失效</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>超出磁盘配额</translation>
+    </message>
 </context>
 <context>
     <name>QLineEdit</name>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Norvale
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The toolkit's own texts that windows and dialogs of this program show. The toolkit looks them up
-// in the translation that is installed, but lupdate does not see its sources; this list is for
-// lupdate alone.
+// The toolkit's own texts that windows and dialogs of this program show, and the system's reasons
+// for which a file cannot be read or written. They are looked up in the translation that is
+// installed, but lupdate does not see their sources; this list is for lupdate alone.
 
 #include <QtGlobal>
 
@@ -122,6 +122,18 @@ static const char *const toolkitTexts[] = {
     QT_TRANSLATE_NOOP("QIODevice", "No space left on device"),
     QT_TRANSLATE_NOOP("QIODevice", "file to open is a directory"),
     QT_TRANSLATE_NOOP("QIODevice", "Unknown error"),
+    QT_TRANSLATE_NOOP("QIODevice", "Operation not permitted"),
+    QT_TRANSLATE_NOOP("QIODevice", "Input/output error"),
+    QT_TRANSLATE_NOOP("QIODevice", "Device or resource busy"),
+    QT_TRANSLATE_NOOP("QIODevice", "Not a directory"),
+    QT_TRANSLATE_NOOP("QIODevice", "Is a directory"),
+    QT_TRANSLATE_NOOP("QIODevice", "Text file busy"),
+    QT_TRANSLATE_NOOP("QIODevice", "File too large"),
+    QT_TRANSLATE_NOOP("QIODevice", "Read-only file system"),
+    QT_TRANSLATE_NOOP("QIODevice", "File name too long"),
+    QT_TRANSLATE_NOOP("QIODevice", "Too many levels of symbolic links"),
+    QT_TRANSLATE_NOOP("QIODevice", "Stale file handle"),
+    QT_TRANSLATE_NOOP("QIODevice", "Disk quota exceeded"),
     QT_TRANSLATE_NOOP("QSaveFile", "Existing file %1 is not writable"),
     QT_TRANSLATE_NOOP("QSaveFile", "Filename refers to a directory"),
 };

@@ -9,6 +9,9 @@
 #include <QTranslator>
 #include <QtTest>
 
+#include <cerrno>
+#include <cstring>
+
 namespace {
 
 QStringList keysOf(const QList<TranslatedText> &messages)
@@ -92,6 +95,10 @@ private slots:
     void nothingOfATextIsLost();
     void noTextIsLeftInEnglish_data();
     void noTextIsLeftInEnglish();
+#ifdef Q_OS_UNIX
+    void reasonsOfTheSystemAreTranslated_data();
+    void reasonsOfTheSystemAreTranslated();
+#endif
     void menusOfTheToolkitHaveNoClashes_data();
     void menusOfTheToolkitHaveNoClashes();
     void englishHoldsTheSourceTexts();
@@ -208,6 +215,24 @@ void TestTranslations::noTextIsLeftInEnglish()
         QVERIFY2((message.source != message.translation) != same.contains(message.source),
             qPrintable(message.source));
 }
+
+#ifdef Q_OS_UNIX
+// For which a file of this program cannot be opened, read, written or put in place.
+void TestTranslations::reasonsOfTheSystemAreTranslated_data()
+{
+    QTest::addColumn<int>("error");
+    for (const int error : {EACCES, EBUSY, EDQUOT, EFBIG, EIO, EISDIR, ELOOP, EMFILE, ENAMETOOLONG,
+             ENOENT, ENOSPC, ENOTDIR, EPERM, EROFS, ESTALE, ETXTBSY})
+        QTest::newRow(strerror(error)) << error;
+}
+
+void TestTranslations::reasonsOfTheSystemAreTranslated()
+{
+    QFETCH(int, error);
+    const QString key = QStringLiteral("QIODevice: ") + QString::fromLocal8Bit(strerror(error));
+    QVERIFY2(keysOf(translationsInto(QStringLiteral("fi"))).contains(key), qPrintable(key));
+}
+#endif
 
 void TestTranslations::menusOfTheToolkitHaveNoClashes_data()
 {
