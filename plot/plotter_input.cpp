@@ -311,8 +311,11 @@ void Plotter::keyReleaseEvent(QKeyEvent * /*event*/)
 void Plotter::leaveEvent(QEvent * /*event*/)
 {
     m_keyboard.endGrab();
-    for (Plotter *plotter : qAsConst(linkedPlotters))
+    m_marks.timeLine.leave();
+    for (Plotter *plotter : qAsConst(linkedPlotters)) {
+        plotter->m_marks.timeLine.leave();
         plotter->m_marks.timeMark->hide();
+    }
     if (mainWindow)
         mainWindow->pointAt(nullptr, {});
 }

@@ -77,6 +77,14 @@ void TimeLine::show(int x, const PlotGeometry &geometry)
     m_line->show();
 }
 
+void TimeLine::leave()
+{
+    if (m_line->x() >= 0 && m_line->x() < m_plot->width())
+        return;
+    m_line->hide();
+    m_label->hide();
+}
+
 void TimeLine::refresh(const PlotGeometry &geometry)
 {
     if (m_line->isVisible())
