@@ -79,7 +79,8 @@ void TimeLine::show(int x, const PlotGeometry &geometry)
 
 void TimeLine::leave()
 {
-    if (m_line->x() >= 0 && m_line->x() < m_plot->width())
+    const bool isInPlot = m_line->x() >= 0 && m_line->x() < m_plot->width();
+    if (isInPlot || !m_line->isVisible())
         return;
     m_line->hide();
     m_label->hide();
@@ -87,6 +88,7 @@ void TimeLine::leave()
 
 void TimeLine::refresh(const PlotGeometry &geometry)
 {
+    leave();
     if (m_line->isVisible())
         show(m_line->x(), geometry);
 }

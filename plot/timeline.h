@@ -22,7 +22,8 @@ public:
     void show(int x, const PlotGeometry &geometry);
     // Takes the time that stands at its place now, where it is seen.
     void refresh(const PlotGeometry &geometry);
-    // The pointer left the plots: a line that a drag led out of its plot goes, with its label.
+    // A line that a drag led out of its plot, or that the plot has become too narrow for, goes with
+    // its label.
     void leave();
     double time() const { return m_time; } // ms
 

@@ -24,6 +24,7 @@ private slots:
     void aTimeAtAnEndIsReadInFull();
     void aTimeOutOfThePlotGoesWithThePointer_data();
     void aTimeOutOfThePlotGoesWithThePointer();
+    void aTimeThatAPlotIsTooNarrowForGoes();
     void theTimeLabelLeavesTheBorder_data();
     void theTimeLabelLeavesTheBorder();
     void theTimeLineLetsTheMouseThrough();
@@ -164,6 +165,23 @@ void TestTimeLine::aTimeOutOfThePlotGoesWithThePointer()
     }
     PlotPair::move(pair->other, {450, 100});
     QVERIFY(isSeen(pair->plot, "timelabel"));
+}
+
+void TestTimeLine::aTimeThatAPlotIsTooNarrowForGoes()
+{
+    const QSize wide = pair->plot->size();
+    for (int twice = 0; twice < 2; ++twice) {
+        PlotPair::move(pair->plot, {700, 100});
+        for (const int width : {701, 700, wide.width()}) {
+            pair->plot->resize(width, wide.height());
+            for (const char *name : {"timeline", "timelabel"}) {
+                QCOMPARE(pair->plot->findChild<QWidget *>(QLatin1String(name))->isVisible(),
+                    width == 701);
+            }
+        }
+    }
+    PlotPair::move(pair->plot, {700, 100});
+    QVERIFY(pair->plot->findChild<QWidget *>(QStringLiteral("timelabel"))->isVisible());
 }
 
 void TestTimeLine::theTimeLabelLeavesTheBorder_data()
