@@ -292,8 +292,11 @@ void MainWindow::dragEnterEvent(QDragEnterEvent *event)
 
 void MainWindow::dropEvent(QDropEvent *event)
 {
+    const QString path = droppedFile(*event);
+    if (path.isEmpty()) // the other program has ended what it began
+        return;
     event->setDropAction(Qt::CopyAction);
     event->accept();
     // The other program waits until this handler returns.
-    QTimer::singleShot(0, this, [this, path = droppedFile(*event)] { open(path); });
+    QTimer::singleShot(0, this, [this, path] { open(path); });
 }

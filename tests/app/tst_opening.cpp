@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Norvale
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "drops.h"
 #include "openingfixture.h"
 #include "plotvalues.h"
 #include "vectordialog.h"
@@ -610,6 +611,25 @@ private slots:
         enter.ignore();
         QCoreApplication::sendEvent(window.get(), &enter);
         QVERIFY(!enter.isAccepted());
+    }
+
+    // Of a program that took its files back before they could be asked for.
+    void aDropOfNothingOpensNothing()
+    {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(goodRecording())});
+        QDragEnterEvent enter(
+            QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(window.get(), &enter);
+        QVERIFY(enter.isAccepted());
+        data.clear();
+        QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(window.get(), &drop);
+        QTest::qWait(20);
+        QVERIFY(boxes->take().isEmpty());
+        QCOMPARE(window->windowFilePath(), QStringLiteral("untitled.txt"));
+        dropFile(*window, goodRecording());
+        QTRY_COMPARE(window->windowTitle(), QStringLiteral("Wavorin - good.cfg"));
     }
 
 private:
