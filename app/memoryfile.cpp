@@ -4,12 +4,12 @@
 #include "memoryfile.h"
 
 #include "filekind.h"
+#include "filepair.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 namespace {
@@ -45,9 +45,5 @@ void remember(const QString &key, const QJsonValue &value)
     QJsonObject kept = contents();
     kept.insert(key, value);
     QDir().mkpath(QFileInfo(path).path());
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return;
-    file.write(QJsonDocument(kept).toJson());
-    file.commit();
+    replaceFile(path, QJsonDocument(kept).toJson());
 }

@@ -8,6 +8,7 @@
 #include "channelnames.h"
 #include "dialoghost.h"
 #include "filekind.h"
+#include "filepair.h"
 #include "plothost.h"
 #include "plotterdg.h"
 #include "ui_measurementsdialog.h"
@@ -16,7 +17,6 @@
 #include <QClipboard>
 #include <QFileDialog>
 #include <QGuiApplication>
-#include <QSaveFile>
 #include <QScreen>
 #include <QSignalBlocker>
 #include <QTimer>
@@ -401,14 +401,10 @@ void MeasurementsDialog::saveTable(const QString &path)
 {
     measure();
     const QByteArray contents = modelOf(currentView())->table().commaSeparated();
-    QSaveFile file(path);
-    if (isPipeOrDevice(path))
-        emit saved(path, tr("It is a pipe or a device"));
-    else if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()
-        || !file.commit())
-        emit saved(path, file.errorString());
-    else
-        emit saved(QString(), QString());
+    const WriteOutcome outcome = isPipeOrDevice(path)
+        ? WriteOutcome{path, tr("It is a pipe or a device")}
+        : replaceFile(path, contents);
+    emit saved(outcome.failedFile, outcome.error);
 }
 
 void MeasurementsDialog::changeEvent(QEvent *event)

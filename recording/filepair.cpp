@@ -16,6 +16,8 @@ namespace {
 
 // Bytes: on most systems a name has up to 255, of which a temporary one takes seven.
 constexpr int longestName = 248;
+// What a buffer could not write at the end would be lost: the toolkit does not tell of it and
+// replaces the file all the same.
 constexpr QIODevice::OpenMode anew = QIODevice::WriteOnly | QIODevice::Unbuffered;
 constexpr QIODevice::OpenMode asItIs = anew | QIODevice::Append | QIODevice::ExistingOnly;
 
@@ -114,6 +116,17 @@ void writeAll(QFileDevice &file, const char *text, qint64 size)
         text += count;
         size -= count;
     }
+}
+
+WriteOutcome replaceFile(const QString &path, const QByteArray &contents)
+{
+    QSaveFile file(path);
+    if (file.open(anew)) {
+        writeAll(file, contents.constData(), contents.size());
+        if (file.error() == QFileDevice::NoError && file.commit())
+            return {};
+    }
+    return {path, file.errorString()};
 }
 
 WriteOutcome writePair(const NewFile &first, const NewFile &second)

@@ -27,6 +27,10 @@ struct WriteOutcome {
 // Writes a text, but nothing behind one that did not fit.
 void writeAll(QFileDevice &file, const char *text, qint64 size);
 
+// Replaces a file or makes a new one, as a whole or not at all. That it cannot be opened is told,
+// too.
+WriteOutcome replaceFile(const QString &path, const QByteArray &contents);
+
 // Writes two files that belong together. Where both are there already, either both are replaced or
 // neither is; where one is missing, the other may be written alone. A file takes its place when
 // both are complete. Only in a folder that takes no new file the contents are exchanged in place,

@@ -3,6 +3,7 @@
 
 #include "memoryfile.h"
 #include "ordinaryuser.h"
+#include "ownfilesystem.h"
 #include "windowtest.h"
 
 #include <QJsonArray>
@@ -44,6 +45,7 @@ private slots:
     void noFileThatCannotBeWritten();
     void noFolderThatCannotBeMade();
     void noPipe();
+    void aFullFileSystemKeepsIt();
 };
 
 void TestMemoryFile::liesInTheDataFolder()
@@ -174,6 +176,24 @@ void TestMemoryFile::noPipe()
 #else
     QSKIP("There are no pipes among the files here.");
 #endif
+}
+
+void TestMemoryFile::aFullFileSystemKeepsIt()
+{
+    const OwnFileSystem full(65536);
+    if (!full.isMounted())
+        QSKIP("This system mounts no file system for a test.");
+    const QString folder = QFileInfo(memoryFilePath()).path();
+    QVERIFY(QDir().mkpath(QFileInfo(folder).path()));
+    QVERIFY(QFile::link(full.path(), folder));
+    remember(key, 1);
+    full.fill("another");
+    remember(key, 2);
+    QCOMPARE(remembered(key).toInt(), 1);
+    QVERIFY(QFile::remove(full.path("another")));
+    remember(key, 3);
+    QCOMPARE(remembered(key).toInt(), 3);
+    QVERIFY(QFile::remove(folder));
 }
 
 QTEST_MAIN(TestMemoryFile)

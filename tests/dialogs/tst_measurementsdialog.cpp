@@ -4,9 +4,11 @@
 #include "customlabel.h"
 #include "harmonicbars.h"
 #include "measurementswindow.h"
+#include "ownfilesystem.h"
 #include "plotmenus.h"
 #include "plotterdg.h"
 #include "pseudotranslator.h"
+#include "recordingbuilder.h"
 
 #include <QClipboard>
 #include <QFileDialog>
@@ -60,6 +62,7 @@ private slots:
     void savesTheTableShown();
     void tellsWhySavingFailed_data();
     void tellsWhySavingFailed();
+    void aFullFileSystemKeepsItsFile();
     void survivesTheEndOfThePlot();
     void survivesTheEndOfTheRecording();
     void survivesAStrangerAsMainWindow();
@@ -647,6 +650,29 @@ void TestMeasurementsDialog::tellsWhySavingFailed()
     QCOMPARE(saved.count(), 1);
     QCOMPARE(saved.at(0).at(0).toString(), path);
     QVERIFY(!saved.at(0).at(1).toString().isEmpty());
+}
+
+void TestMeasurementsDialog::aFullFileSystemKeepsItsFile()
+{
+    const OwnFileSystem full(65536);
+    if (!full.isMounted())
+        QSKIP("This system mounts no file system for a test.");
+    const QString path = full.path("values.csv");
+    QVERIFY(writeTextFile(path, "as before"));
+    full.fill("another");
+    const QSignalSpy saved(dialog.get(), &MeasurementsDialog::saved);
+    for (int twice = 1; twice <= 2; ++twice) {
+        dialog->saveTable(path);
+        QCOMPARE(saved.count(), twice);
+        QCOMPARE(saved.last(), QVariantList({path, QStringLiteral("No space left on device")}));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("as before"));
+    }
+    QVERIFY(QFile::remove(full.path("another")));
+    dialog->saveTable(path);
+    QCOMPARE(saved.last(), QVariantList({QString(), QString()}));
+    QVERIFY(QFileInfo(path).size() > 100);
 }
 
 void TestMeasurementsDialog::survivesTheEndOfThePlot()

@@ -48,6 +48,15 @@ public:
         return m_folder.filePath(QLatin1String(name));
     }
 
+    // Leaves no room for more, by a file of that name.
+    void fill(const char *name) const
+    {
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+            return;
+        while (file.write(QByteArray(4096, 'x')) > 0) { }
+    }
+
     // From now on nothing can be written, not even by the superuser.
     bool makeReadOnly() const
     {
