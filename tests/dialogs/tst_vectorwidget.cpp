@@ -473,7 +473,7 @@ void TestVectorWidget::offersTheColorByKeysOverACheckBoxAlone()
         QTRY_COMPARE(checkBoxes().at(1)->styleSheet(),
             QStringLiteral("QCheckBox{color: rgb(1,2,%1);}").arg(time));
         QCOMPARE(initial, QColor(Qt::white));
-        QVERIFY(!boundsOf(diagram(), chosen).isNull());
+        QTRY_VERIFY(!boundsOf(diagram(), chosen).isNull());
         QCOMPARE(
             checkBoxes().at(0)->styleSheet(), QStringLiteral("QCheckBox{color: rgb(250,140,20);}"));
     }
