@@ -182,6 +182,11 @@ void TestTimeLine::aTimeThatAPlotIsTooNarrowForGoes()
     }
     PlotPair::move(pair->plot, {700, 100});
     QVERIFY(pair->plot->findChild<QWidget *>(QStringLiteral("timelabel"))->isVisible());
+    pair->digital->hide();
+    pair->digital->resize(700, wide.height());
+    pair->digital->show();
+    for (const char *name : {"timeline", "timelabel"})
+        QVERIFY(!pair->digital->findChild<QWidget *>(QLatin1String(name))->isVisible());
 }
 
 void TestTimeLine::theTimeLabelLeavesTheBorder_data()
